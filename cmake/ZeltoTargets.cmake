@@ -1,0 +1,47 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# How every target of the project is built, and the three functions that make them. A folder's sources are all
+# .cpp files in it: a file belongs to the target of the folder it lies in.
+include_guard()
+find_package(Threads REQUIRED)
+
+add_library(zelto_build_options INTERFACE)
+target_compile_features(zelto_build_options INTERFACE cxx_std_20)
+target_compile_options(zelto_build_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wundef
+  $<$<BOOL:${ZELTO_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(zelto_build_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_NO_FOREACH
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400 ZELTO_VERSION="${PROJECT_VERSION}")
+target_include_directories(zelto_build_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_link_libraries(zelto_build_options INTERFACE Threads::Threads)
+if(ZELTO_SANITIZE)
+  target_compile_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE} -fno-omit-frame-pointer)
+  target_link_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE})
+endif()
+
+# zelto_add_library(NAME LIBRARY...): the static library zelto_NAME of this folder, linked to LIBRARY...
+function(zelto_add_library name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(zelto_${name} STATIC ${sources})
+  set_target_properties(zelto_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(zelto_${name} PUBLIC zelto_build_options ${ARGN})
+endfunction()
+
+# zelto_add_program(NAME LIBRARY...): the program NAME of this folder, linked to LIBRARY...
+function(zelto_add_program name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE zelto_build_options ${ARGN})
+endfunction()
+
+# zelto_add_tests(NAME LIBRARY...): the test program zelto_NAME_tests of this folder, each test known to CTest.
+function(zelto_add_tests name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(zelto_${name}_tests ${sources})
+  target_link_libraries(zelto_${name}_tests PRIVATE zelto_build_options zelto_test_support ${ARGN})
+  gtest_discover_tests(zelto_${name}_tests TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    PROPERTIES TIMEOUT 300)
+endfunction()

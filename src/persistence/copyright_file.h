@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// "Copyright.xml", the copyright and creator texts kept between runs. Any thread.
+#pragma once
+
+#include <QString>
+
+#include "platform/result.h"
+#include "records/copyright_metadata.h"
+
+namespace zelto {
+
+inline constexpr QLatin1String CopyrightFileName("Copyright.xml");
+
+Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path);
+
+// Fills `metadata` from the file at `path`; leaves it as it is where there is no such file. Error:
+// ErrorCode::InvalidFile, with `metadata` untouched. A file written with Enabled off reads back switched on: only
+// the text "False" switches off.
+Result<void> LoadMetadata(CopyRightMetaData& metadata, const QString& path);
+
+}  // namespace zelto

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// "OutputSettings.xml", the user's default output options. It keeps the texts of the dialog's fields, so that both
+// ways of resizing come back as they were typed. Any thread.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "platform/result.h"
+#include "records/output_options.h"
+
+namespace zelto {
+
+inline constexpr QLatin1String OutputSettingsFileName("OutputSettings.xml");
+
+// What the file holds: the options, and the size fields of the ways of resizing that are not chosen.
+struct OutputSettings {
+    OutputOptions options;
+    std::int64_t percentageWidth = 100;
+    std::int64_t percentageHeight = 100;
+    std::int64_t absoluteWidth = 0;   // pixels; 0 for an empty field
+    std::int64_t absoluteHeight = 0;  // written, but never read back
+};
+
+Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path);
+
+// The settings of the file at `path` laid over `initial`; `initial` itself when there is no such file. Error:
+// ErrorCode::InvalidFile.
+Result<OutputSettings> loadOutputSettings(const QString& path, OutputSettings initial);
+
+}  // namespace zelto

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Small operations on whole pictures (RGB32 or premultiplied ARGB32 in, premultiplied ARGB32 out unless nothing had
+// to change). Reentrant; any thread. Pictures are taken by value: move one in and no copy is made.
+#pragma once
+
+#include <QImage>
+
+
+namespace zelto {
+
+// Makes every pixel transparent whose colour is exactly (red, green, blue), components between 0 and 1. The
+// comparison is in single precision, byte against component * 255, so a colour that is no whole byte removes
+// nothing; `tolerance` is accepted and has no effect.
+QImage replaceColor(QImage picture, float red, float green, float blue, double tolerance);
+
+// The picture at `opacity` (0 to 1); itself when that is 1 or more.
+QImage imageWithOpacity(QImage picture, double opacity);
+
+// The picture turned counter-clockwise by `degrees` about its centre, at `opacity`, on a transparent canvas of the
+// bounding box of the turned rectangle, rounded up to whole pixels. Whole quarter turns are exact.
+QImage imageRotatedByDegrees(const QImage& picture, double degrees, double opacity);
+
+}  // namespace zelto

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What one saved setting holds and one run applies: the watermarks in drawing order, the photo's border and shadow,
+// its filter, and whether copyright data goes into the outputs. A snapshot of it is shared by threads as a const value.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "records/photo_effects.h"
+#include "records/watermark.h"
+
+namespace zelto {
+
+struct WatermarkStack {
+    std::vector<Watermark> Watermarks;    // first drawn first
+    std::optional<PhotoEffects> Effects;  // none: the photo is not framed at all
+    int SelectedFilter = 0;               // photo filter number, 0 for none
+    bool Metadata = false;                // copyright data is switched on
+
+    bool operator==(const WatermarkStack&) const = default;
+};
+
+}  // namespace zelto

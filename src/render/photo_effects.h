@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The border and drop shadow around a whole photo. Rectangles are in pixels of the returned picture, y growing
+// upward from its bottom-left corner. Reentrant, any thread.
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QSize>
+
+#include "records/photo_effects.h"
+
+namespace zelto {
+
+// The photo on its border, without any shadow.
+QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect);
+
+// The photo framed and, where `final` is set and the effect's shadow is on, standing on a larger transparent canvas
+// with its shadow. `imageOrigin` receives the place of the photo in the result, `borderOrigin` that of the framed
+// photo. Move the photo in: where nothing has to be drawn it comes back untouched.
+QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
+                        bool final);
+
+}  // namespace zelto

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One photo made ready: loaded, filtered, framed, and every watermark of the stack turned into a placed layer. The
+// preview shows a scene and the batch run writes one; both build it here, so what is seen is what is written. A
+// scene is built from values alone, on any thread.
+#pragma once
+
+#include <QDateTime>
+#include <QImage>
+#include <QLocale>
+#include <QRect>
+#include <QSize>
+#include <QSizeF>
+#include <QString>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/picture_reader.h"
+#include "platform/result.h"
+#include "records/watermark_stack.h"
+#include "render/watermark_view.h"
+
+namespace zelto {
+
+// Everything a scene depends on. The stack is a snapshot shared by all photos of a run and never changes.
+struct PhotoRequest {
+    QString path;
+    qint64 row = 0;       // place in the photo list, from 0
+    qint64 listSize = 1;  // photos in the list
+    bool batchRunning = false;
+    bool final = true;    // draw the photo's shadow, as the written picture has it
+    QDateTime now;        // the moment the run's dates speak of
+    QLocale locale;
+    std::shared_ptr<const WatermarkStack> stack;
+};
+
+struct PhotoScene {
+    QSize photoSize;  // upright pixels of the file
+    double dpiX = 72.0;
+    double dpiY = 72.0;
+    QImage picture;        // filtered and framed, without watermarks
+    QRect imageRect;       // the photo inside `picture`, pixels, y up
+    QRect borderRect;      // the framed photo inside `picture`, pixels, y up
+    QSizeF referenceSize;  // the area watermarks are placed in
+    // One place per record of the stack, in order; empty where a record yields no layer.
+    std::vector<std::optional<WatermarkView>> layers;
+    std::optional<qint64> lastAutoNumber;  // see MacroExpansion
+};
+
+// Error: as readPicture.
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
+
+// The same for a photo already in memory.
+PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo);
+
+}  // namespace zelto
