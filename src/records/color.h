@@ -4,8 +4,9 @@
 
 namespace zelto {
 
-// An sRGB colour with straight (not premultiplied) alpha; each component lies between 0 and 1. Single precision
-// is part of the contract: a colour that has been through a file compares equal to the one that was written.
+// An sRGB colour with straight (not premultiplied) alpha; each component lies between 0 and 1. Single
+// precision is part of the contract: a colour that has been through a file compares equal to the one that was
+// written.
 struct Color {
     float Red = 0.0F;
     float Green = 0.0F;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/image.h"
 
+#include "records/resource_picture.h"
+
 #include <array>
 #include <utility>
-
-#include "records/resource_picture.h"
 
 namespace zelto {
 
@@ -16,6 +16,8 @@ QImage statusImage(PhotoStatus status) {
 }
 
 Image::Image(QString path)
-    : ImagePath(std::move(path)), StsImage(statusImage(PhotoStatus::NotProcessed)), ErrorMessage(QLatin1String("")) {}
+    : ImagePath(std::move(path)),
+      StsImage(statusImage(PhotoStatus::NotProcessed)),
+      ErrorMessage(QLatin1String("")) {}
 
 }  // namespace zelto

@@ -16,10 +16,10 @@ QImage statusImage(PhotoStatus status);
 struct Image {
     explicit Image(QString path);
 
-    QString ImagePath;            // as given when it was added; the entry's identity
-    QImage StsImage;              // statusImage() of the last run's outcome
-    QString ErrorMessage;         // of the last failure; empty for none
-    bool ApplyWatermark = true;   // checked: a run processes this photo
+    QString ImagePath;           // as given when it was added; the entry's identity
+    QImage StsImage;             // statusImage() of the last run's outcome
+    QString ErrorMessage;        // of the last failure; empty for none
+    bool ApplyWatermark = true;  // checked: a run processes this photo
 };
 
 }  // namespace zelto

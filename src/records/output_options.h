@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+
 #include <cstdint>
 
 namespace zelto {
@@ -23,8 +24,8 @@ inline constexpr std::int64_t ExcludeGeolocation = 2;
 inline constexpr std::int64_t ExcludeAll = 3;
 }  // namespace exif_data
 
-// The `OutputOptions::OutputFormat` that keeps each photo's own format. Every other value is a file extension in
-// lower case without its dot.
+// The `OutputOptions::OutputFormat` that keeps each photo's own format. Every other value is a file extension
+// in lower case without its dot.
 inline constexpr QLatin1String SameAsSourceFormat("Same as source image");
 
 struct OutputOptions {

@@ -2,10 +2,10 @@
 // The border and the shadow put around a whole photo. Lengths are photo pixels.
 #pragma once
 
+#include "records/color.h"
+
 #include <cstdint>
 #include <optional>
-
-#include "records/color.h"
 
 namespace zelto {
 
@@ -18,8 +18,8 @@ struct PhotoEffects {
     std::optional<Color> ShadowColor = Color::black();
     std::int64_t BlurRadius = 0;
     std::int64_t Distance = 0;
-    // Where the shadow falls, degrees counter-clockwise from the right: 0 is an even glow on all sides and 360 the
-    // right side alone; 45, 90, ... 315 as usual.
+    // Where the shadow falls, degrees counter-clockwise from the right: 0 is an even glow on all sides and
+    // 360 the right side alone; 45, 90, ... 315 as usual.
     std::int64_t Direction = 0;
     bool SameBorder = false;
     bool ApplyWatermarkOnBorder = false;

@@ -4,7 +4,9 @@
 #include <QtGlobal>
 
 // Resources of a static library register themselves only when they are asked to, outside any namespace.
-static void registerResources() { Q_INIT_RESOURCE(zelto); }
+static void registerResources() {
+    Q_INIT_RESOURCE(zelto);
+}
 
 namespace zelto {
 

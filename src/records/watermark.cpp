@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/watermark.h"
 
-#include <array>
-
 #include "records/resource_picture.h"
+
+#include <array>
 
 namespace zelto {
 namespace {
@@ -46,11 +46,19 @@ void initQrCode(Watermark& w) {
 
 Watermark::Watermark(std::int32_t type) : Type(type), Position(1), IsEnabled(true) {
     switch (type) {
-        case watermark_type::Image: initImage(*this); break;
-        case watermark_type::Text: break;  // every starting value of a text is the common one
-        case watermark_type::Shape: initShape(*this); break;
-        case watermark_type::QrCode: initQrCode(*this); break;
-        default: return;
+        case watermark_type::Image:
+            initImage(*this);
+            break;
+        case watermark_type::Text:
+            break;  // every starting value of a text is the common one
+        case watermark_type::Shape:
+            initShape(*this);
+            break;
+        case watermark_type::QrCode:
+            initQrCode(*this);
+            break;
+        default:
+            return;
     }
     TypeImage = typeIcon(type);
 }

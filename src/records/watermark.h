@@ -1,20 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One layer of a watermark stack: a logo, a text, a shape or a QR code. A plain record: editors write it, renderers
-// read it, setting files store it. A text that is "absent" is a null QString; a present, empty one is not null.
-// Lengths are photo pixels, angles whole degrees, opacities and relative sizes fractions (1 = opaque, 1 = the side).
+// One layer of a watermark stack: a logo, a text, a shape or a QR code. A plain record: editors write it,
+// renderers read it, setting files store it. A text that is "absent" is a null QString; a present, empty one
+// is not null. Lengths are photo pixels, angles whole degrees, opacities and relative sizes fractions (1 =
+// opaque, 1 = the side).
 #pragma once
+
+#include "records/color.h"
 
 #include <QByteArray>
 #include <QImage>
 #include <QString>
+
 #include <cstdint>
 #include <optional>
 
-#include "records/color.h"
-
 namespace zelto {
 
-// What `Watermark::Type` may hold. A record read from elsewhere may hold any other number, which draws nothing.
+// What `Watermark::Type` may hold. A record read from elsewhere may hold any other number, which draws
+// nothing.
 namespace watermark_type {
 inline constexpr std::int32_t Image = 0;
 inline constexpr std::int32_t Text = 1;
@@ -30,7 +33,8 @@ inline constexpr std::int32_t Polygon = 3;
 inline constexpr std::int32_t Line = 4;  // a bar: Width is its length, Height its thickness
 }  // namespace shape_type
 
-// What `Watermark::Position` may hold besides 1 to 9, the cells of a 3 x 3 grid numbered row by row from the top left.
+// What `Watermark::Position` may hold besides 1 to 9, the cells of a 3 x 3 grid numbered row by row from the
+// top left.
 inline constexpr std::int32_t CustomPosition = 10;
 
 struct Watermark {
@@ -75,7 +79,8 @@ struct Watermark {
     float Width = 0.0F;
     float ResizeHeight = 0.0F;
     float ResizeWidth = 0.0F;
-    std::int64_t ResizeFormat = 0;  // logo: 2 absolute pixels, else relative; QR code: 0 relative, else pixels
+    std::int64_t ResizeFormat =
+        0;  // logo: 2 absolute pixels, else relative; QR code: 0 relative, else pixels
     std::int64_t Sides = 0;
     bool ResizebyWidth = false;
     QString ImageProportionalResize;  // "Proportional", "Width", "Height" or "Longer Side"

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What one saved setting holds and one run applies: the watermarks in drawing order, the photo's border and shadow,
-// its filter, and whether copyright data goes into the outputs. A snapshot of it is shared by threads as a const value.
+// What one saved setting holds and one run applies: the watermarks in drawing order, the photo's border and
+// shadow, its filter, and whether copyright data goes into the outputs. A snapshot of it is shared by threads
+// as a const value.
 #pragma once
-
-#include <optional>
-#include <vector>
 
 #include "records/photo_effects.h"
 #include "records/watermark.h"
+
+#include <optional>
+#include <vector>
 
 namespace zelto {
 

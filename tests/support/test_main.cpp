@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every test program's main: no display, and a home, preferences and application folders of its own that are gone
-// when it ends, so that no test reads or leaves anything of the user's.
+// Every test program's main: no display, and a home, preferences and application folders of its own that are
+// gone when it ends, so that no test reads or leaves anything of the user's.
 #include <QDir>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -15,7 +15,8 @@ int main(int argc, char** argv) {
         qputenv(variable, QFile::encodeName(home.path()));
     }
     if (qEnvironmentVariableIsEmpty("XDG_CACHE_HOME")) {
-        // The font cache is the one thing shared with the user: building it anew would cost each test a second.
+        // The font cache is the one thing shared with the user: building it anew would cost each test a
+        // second.
         qputenv("XDG_CACHE_HOME", QFile::encodeName(QDir::tempPath() + QStringLiteral("/zelto-test-cache")));
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
