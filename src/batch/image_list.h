@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of photos a run works on, in the order they were added, and the folders they came from. It knows
+// nothing of tables, selections or files on disk: paths are compared as the texts they are, and a path that
+// is no photo is found out by whoever opens it. One thread at a time.
+#pragma once
+
+#include "batch/destination_map.h"
+#include "records/image.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace zelto {
+
+class ImageList {
+  public:
+    // Appends the photo and notes its folder. False, and nothing done, when the very same path is in the
+    // list.
+    bool AddImage(const QString& path);
+    // Constant time.
+    bool CheckIfImageExists(const QString& path) const { return paths_.contains(path); }
+
+    // Removes a photo and returns the row to select then: the one that took its place, or the new last one;
+    // nothing when the list has become empty. Its folder stays known.
+    std::optional<std::size_t> RemoveImage(std::size_t row);
+    void RemoveAllImages();
+
+    void CheckAllImages();
+    void UncheckAllImages();
+    void ToggleCheck();
+    void setApplyWatermark(std::size_t row, bool apply) { images_.at(row).ApplyWatermark = apply; }
+
+    // The start of a run: every photo shows as not processed. Error texts stay until a new failure replaces
+    // them.
+    void markUnprocessed();
+    // How a run left a photo; an empty `errorMessage` keeps the text of an earlier failure.
+    void setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage);
+
+    const std::vector<Image>& images() const { return images_; }
+    // Every folder a photo was ever added from, without destinations.
+    const FolderDestinations& InputOutputDictionary() const { return folders_; }
+
+  private:
+    std::vector<Image> images_;
+    QSet<QString> paths_;
+    FolderDestinations folders_;
+};
+
+}  // namespace zelto
