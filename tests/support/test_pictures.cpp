@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/test_pictures.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <exiv2/exiv2.hpp>
+#include <jpeglib.h>
+#include <lcms2.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+namespace zelto {
+namespace {
+
+void paintLandscape(QPainter& painter, double w, double h) {
+    QLinearGradient sky(0, 0, w, h * 0.6);
+    sky.setColorAt(0.0, QColor(40, 90, 170));
+    sky.setColorAt(0.6, QColor(140, 180, 225));
+    sky.setColorAt(1.0, QColor(250, 215, 170));
+    painter.fillRect(QRectF(0, 0, w, h), sky);
+
+    QRadialGradient sun(QPointF(w * 0.75, h * 0.22), std::min(w, h) * 0.25);
+    sun.setColorAt(0.0, QColor(255, 255, 235));
+    sun.setColorAt(0.25, QColor(255, 240, 180, 200));
+    sun.setColorAt(1.0, QColor(255, 220, 150, 0));
+    painter.fillRect(QRectF(0, 0, w, h), sun);
+
+    const QColor hillColors[] = {QColor(95, 125, 150), QColor(60, 105, 75), QColor(38, 70, 35)};
+    for (int hill = 0; hill < 3; ++hill) {
+        QPainterPath path(QPointF(0, h));
+        for (int step = 0; step <= 64; ++step) {
+            const double t = step / 64.0;
+            const double wave = std::sin(t * (5.0 + 3.0 * hill) + hill * 1.7) * (0.09 - 0.02 * hill);
+            path.lineTo(w * t, h * (0.5 + 0.14 * hill - wave - 0.03 * std::sin(t * 31.0)));
+        }
+        path.lineTo(w, h);
+        painter.fillPath(path, hillColors[hill]);
+    }
+}
+
+void paintDetail(QPainter& painter, double w, double h) {
+    const QRectF house(w * 0.12, h * 0.55, w * 0.2, h * 0.22);
+    painter.fillRect(house, QColor(190, 60, 45));
+    painter.setBrush(QColor(70, 50, 50));
+    painter.setPen(Qt::NoPen);
+    const QPointF roof[] = {house.topLeft(), QPointF(house.center().x(), h * 0.45), house.topRight()};
+    painter.drawPolygon(roof, 3);
+    painter.fillRect(QRectF(w * 0.16, h * 0.61, w * 0.04, h * 0.06), QColor(250, 245, 200));
+
+    painter.setPen(QPen(QColor(235, 230, 220), std::max(1.0, w / 800.0)));
+    for (int post = 0; post < 40; ++post) {
+        const double x = w * (0.4 + post * 0.015);
+        painter.drawLine(QPointF(x, h * 0.8), QPointF(x + w * 0.004, h * 0.93));
+    }
+    painter.setPen(QPen(QColor(20, 25, 30), std::max(0.5, w / 2500.0)));
+    for (int wire = 0; wire < 4; ++wire) {
+        painter.drawLine(QPointF(0, h * (0.1 + 0.02 * wire)), QPointF(w, h * (0.3 + 0.01 * wire)));
+    }
+}
+
+// Grain, so that no area is flat: the same pattern for the same place, on every machine.
+void addGrain(QImage& picture) {
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            quint32 hash = static_cast<quint32>(x) * 0x9E3779B1U ^ static_cast<quint32>(y) * 0x85EBCA77U;
+            hash = (hash ^ (hash >> 15)) * 0x2C1B3C6DU;
+            const int grain = static_cast<int>(hash >> 29) - 4;
+            line[x] =
+                qRgb(std::clamp(qRed(line[x]) + grain, 0, 255), std::clamp(qGreen(line[x]) + grain, 0, 255),
+                     std::clamp(qBlue(line[x]) + grain, 0, 255));
+        }
+    }
+}
+
+// The EXIF segment's payload, empty when nothing asks for one.
+QByteArray exifPayload(const TestJpeg& options) {
+    Exiv2::ExifData exif;
+    if (options.orientation != 0)
+        exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(options.orientation);
+    if (options.exifDpi != 0) {
+        exif["Exif.Image.XResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.YResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
+    }
+    if (options.dcfAdobeRgb) {
+        exif["Exif.Photo.ColorSpace"] = std::uint16_t{0xFFFF};
+        exif["Exif.Iop.InteroperabilityIndex"] = "R03";
+    }
+    if (exif.empty()) return {};
+    Exiv2::Blob blob;
+    Exiv2::ExifParser::encode(blob, Exiv2::bigEndian, exif);
+    return QByteArray("Exif\0\0", 6) +
+           QByteArray(reinterpret_cast<const char*>(blob.data()), qsizetype(blob.size()));
+}
+
+// Owns a compressor that writes to memory. libjpeg's own error handler ends the program, which fails the
+// test.
+class JpegCompressor {
+  public:
+    explicit JpegCompressor(QSize size) {
+        info.err = jpeg_std_error(&errors_);
+        jpeg_create_compress(&info);
+        jpeg_mem_dest(&info, &data_, &length_);
+        info.image_width = static_cast<JDIMENSION>(size.width());
+        info.image_height = static_cast<JDIMENSION>(size.height());
+    }
+    ~JpegCompressor() {
+        jpeg_destroy_compress(&info);
+        std::free(data_);  // NOLINT(cppcoreguidelines-no-malloc): libjpeg allocated it
+    }
+    Q_DISABLE_COPY_MOVE(JpegCompressor)
+
+    // Writes every row of `pixels`, rows `stride` bytes apart.
+    QByteArray compress(const uchar* pixels, qsizetype stride, const QByteArray& exif,
+                        const QByteArray& profile) {
+        jpeg_start_compress(&info, TRUE);
+        if (!exif.isEmpty()) {
+            jpeg_write_marker(&info, JPEG_APP0 + 1, reinterpret_cast<const JOCTET*>(exif.constData()),
+                              static_cast<unsigned>(exif.size()));
+        }
+        if (!profile.isEmpty()) {
+            jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET*>(profile.constData()),
+                                   static_cast<unsigned>(profile.size()));
+        }
+        while (info.next_scanline < info.image_height) {
+            JSAMPROW row = const_cast<JSAMPROW>(pixels + stride * info.next_scanline);
+            jpeg_write_scanlines(&info, &row, 1);
+        }
+        jpeg_finish_compress(&info);
+        return {reinterpret_cast<const char*>(data_), static_cast<qsizetype>(length_)};
+    }
+
+    jpeg_compress_struct info{};
+
+  private:
+    jpeg_error_mgr errors_{};
+    unsigned char* data_ = nullptr;
+    unsigned long length_ = 0;
+};
+
+}  // namespace
+
+QImage drawnScene(QSize size) {
+    QImage picture(size, QImage::Format_RGB32);
+    {
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintLandscape(painter, size.width(), size.height());
+        paintDetail(painter, size.width(), size.height());
+    }
+    addGrain(picture);
+    return picture;
+}
+
+QImage drawnSceneWithAlpha(QSize size) {
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    const QImage scene = drawnScene(size);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const double rim = std::min(size.width(), size.height()) * 0.05;
+    painter.setBrush(QColor(220, 40, 60, 128));
+    painter.drawEllipse(QRectF(QPointF(), size));
+    painter.setBrush(QBrush(scene));
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawEllipse(QRectF(QPointF(), size).adjusted(rim, rim, -rim, -rim));
+    return picture;
+}
+
+QByteArray jpegBytes(const QImage& picture, const TestJpeg& options) {
+    const QImage source =
+        picture.convertToFormat(options.grey ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+    JpegCompressor jpeg(source.size());
+    jpeg.info.input_components = options.grey ? 1 : 3;
+    jpeg.info.in_color_space = options.grey ? JCS_GRAYSCALE : JCS_RGB;
+    jpeg_set_defaults(&jpeg.info);
+    jpeg_set_quality(&jpeg.info, options.quality, TRUE);
+    if (options.fullChroma) jpeg.info.comp_info[0].h_samp_factor = jpeg.info.comp_info[0].v_samp_factor = 1;
+    if (options.progressive) jpeg_simple_progression(&jpeg.info);
+    jpeg.info.write_JFIF_header = options.jfifDensity != 0;
+    jpeg.info.density_unit = static_cast<UINT8>(options.jfifUnit);
+    jpeg.info.X_density = jpeg.info.Y_density = static_cast<UINT16>(options.jfifDensity);
+    return jpeg.compress(source.constBits(), source.bytesPerLine(), exifPayload(options), options.profile);
+}
+
+QByteArray cmykJpegBytes(const QByteArray& pixels, QSize size, bool adobe, bool ycck,
+                         const QByteArray& profile) {
+    QByteArray stored = pixels;
+    if (adobe) {
+        for (char& ink : stored) ink = static_cast<char>(~ink);
+    }
+    JpegCompressor jpeg(size);
+    jpeg.info.input_components = 4;
+    jpeg.info.in_color_space = JCS_CMYK;
+    jpeg_set_defaults(&jpeg.info);
+    jpeg_set_colorspace(&jpeg.info, ycck ? JCS_YCCK : JCS_CMYK);
+    jpeg.info.comp_info[0].h_samp_factor = jpeg.info.comp_info[0].v_samp_factor = 1;
+    jpeg.info.comp_info[3].h_samp_factor = jpeg.info.comp_info[3].v_samp_factor = 1;
+    jpeg_set_quality(&jpeg.info, 95, TRUE);
+    jpeg.info.write_Adobe_marker = adobe;
+    return jpeg.compress(reinterpret_cast<const uchar*>(stored.constData()), qsizetype{4} * size.width(), {},
+                         profile);
+}
+
+QByteArray adobeRgbProfile() {
+    const cmsCIExyY white{0.3127, 0.3290, 1.0};
+    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.21, 0.71, 1.0}, {0.15, 0.06, 1.0}};
+    cmsToneCurve* curve = cmsBuildGamma(nullptr, 2.19921875);
+    cmsToneCurve* curves[] = {curve, curve, curve};
+    cmsHPROFILE profile = cmsCreateRGBProfile(&white, &primaries, curves);
+    cmsUInt32Number length = 0;
+    cmsSaveProfileToMem(profile, nullptr, &length);
+    QByteArray bytes(static_cast<qsizetype>(length), '\0');
+    cmsSaveProfileToMem(profile, bytes.data(), &length);
+    cmsCloseProfile(profile);
+    cmsFreeToneCurve(curve);
+    return bytes;
+}
+
+}  // namespace zelto
