@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/picture_encoders.h"
+#include "platform/picture_rows.h"
+
+#include <gif_lib.h>
+#include <libimagequant.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace zelto {
+namespace {
+
+constexpr int LargestPalette = 256;
+constexpr int SeeThroughBelow = 128;  // alpha; a GIF pixel is either opaque or not there
+
+bool isThere(QRgb pixel) {
+    return qAlpha(pixel) >= SeeThroughBelow;
+}
+
+// libimagequant asks for rows as it needs them: opaque colours and nothing.
+void giveRow(liq_color* out, int y, int width, void* user) {
+    const QRgb* const row = pixelRow(*static_cast<const QImage*>(user), y);
+    for (int x = 0; x < width; ++x) {
+        const QRgb pixel = isThere(row[x]) ? qUnpremultiply(row[x]) | 0xff000000U : 0U;
+        out[x] = {static_cast<uchar>(qRed(pixel)), static_cast<uchar>(qGreen(pixel)),
+                  static_cast<uchar>(qBlue(pixel)), static_cast<uchar>(qAlpha(pixel))};
+    }
+}
+
+struct PaletteImage {
+    std::vector<GifColorType> colours;
+    int seeThrough = NO_TRANSPARENT_COLOR;  // its index, where there is one
+    std::vector<uchar> indices;
+};
+
+template <auto Destroy>
+struct Destroyer {
+    template <class T>
+    void operator()(T* object) const {
+        Destroy(object);
+    }
+};
+
+std::optional<PaletteImage> withPalette(const QImage& picture) {
+    const std::unique_ptr<liq_attr, Destroyer<liq_attr_destroy>> attributes(liq_attr_create());
+    if (!attributes) return std::nullopt;
+    liq_set_speed(attributes.get(), 8);
+    const std::unique_ptr<liq_image, Destroyer<liq_image_destroy>> image(liq_image_create_custom(
+        attributes.get(), giveRow, const_cast<QImage*>(&picture),  // NOLINT: only read
+        picture.width(), picture.height(), 0.0));
+    liq_result* raw = nullptr;
+    if (!image || liq_image_quantize(image.get(), attributes.get(), &raw) != LIQ_OK) return std::nullopt;
+    const std::unique_ptr<liq_result, Destroyer<liq_result_destroy>> result(raw);
+    liq_set_dithering_level(result.get(), 1.0F);
+
+    PaletteImage out;
+    out.indices.resize(static_cast<std::size_t>(picture.width()) *
+                       static_cast<std::size_t>(picture.height()));
+    if (liq_write_remapped_image(result.get(), image.get(), out.indices.data(), out.indices.size()) !=
+        LIQ_OK) {
+        return std::nullopt;
+    }
+    const liq_palette* const palette = liq_get_palette(result.get());
+    for (unsigned i = 0; i < palette->count; ++i) {
+        const liq_color colour = palette->entries[i];
+        if (colour.a < SeeThroughBelow) out.seeThrough = static_cast<int>(i);
+        out.colours.push_back({colour.r, colour.g, colour.b});
+    }
+    return out;
+}
+
+int appendTo(GifFileType* gif, const GifByteType* data, int size) {
+    static_cast<QByteArray*>(gif->UserData)->append(reinterpret_cast<const char*>(data), size);
+    return size;
+}
+
+bool writeGif(GifFileType* gif, const PaletteImage& image, int width, int height) {
+    // The format knows only maps of a power of two.
+    std::vector<GifColorType> colours = image.colours;
+    colours.resize(std::size_t{1} << static_cast<unsigned>(GifBitSize(static_cast<int>(colours.size()))));
+    const std::unique_ptr<ColorMapObject, Destroyer<GifFreeMapObject>> map(
+        GifMakeMapObject(static_cast<int>(colours.size()), colours.data()));
+    if (!map || EGifPutScreenDesc(gif, width, height, 8, 0, map.get()) == GIF_ERROR) return false;
+    if (image.seeThrough != NO_TRANSPARENT_COLOR) {
+        const GraphicsControlBlock control{DISPOSAL_UNSPECIFIED, false, 0, image.seeThrough};
+        std::array<GifByteType, 4> block{};
+        EGifGCBToExtension(&control, block.data());
+        if (EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, 4, block.data()) == GIF_ERROR) return false;
+    }
+    if (EGifPutImageDesc(gif, 0, 0, width, height, false, nullptr) == GIF_ERROR) return false;
+    std::vector<GifByteType> line(static_cast<std::size_t>(width));
+    for (std::size_t start = 0; start < image.indices.size(); start += line.size()) {
+        // EGifPutLine masks the line it is given.
+        std::copy_n(image.indices.begin() + static_cast<std::ptrdiff_t>(start), width, line.begin());
+        if (EGifPutLine(gif, line.data(), width) == GIF_ERROR) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+Result<QByteArray> encodeGif(const QImage& picture, const EncodeOptions&) {
+    const auto failed = [](const QString& reason) {
+        return fail(ErrorCode::CannotWrite, QStringLiteral("The GIF encoder failed: %1").arg(reason));
+    };
+    const std::optional<PaletteImage> image = withPalette(picture);
+    if (!image) return failed(QStringLiteral("no palette could be made"));
+    QByteArray bytes;
+    int error = 0;
+    GifFileType* const gif = EGifOpen(&bytes, appendTo, &error);
+    if (gif == nullptr) return failed(QString::fromLatin1(GifErrorString(error)));
+    const bool written = writeGif(gif, *image, picture.width(), picture.height());
+    error = gif->Error;
+    const bool closed = EGifCloseFile(gif, written ? &error : nullptr) == GIF_OK;
+    if (!written || !closed) return failed(QString::fromLatin1(GifErrorString(error)));
+    return bytes;
+}
+
+}  // namespace zelto

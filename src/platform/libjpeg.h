@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// libjpeg's header with what it needs before it, and its errors turned into a jump out with a message. The
+// function that calls setjmp may hold nothing that needs a destructor; the compressor or decompressor is
+// destroyed outside it.
+#pragma once
+
+// clang-format off
+#include <cstddef>
+#include <cstdio>
+#include <jpeglib.h>
+#include <jerror.h>
+// clang-format on
+
+#include <array>
+#include <csetjmp>
+
+namespace zelto {
+
+struct JpegErrors {
+    jpeg_error_mgr manager{};
+    std::jmp_buf escape{};
+    std::array<char, JMSG_LENGTH_MAX> message{};
+};
+
+[[noreturn]] inline void escapeWithJpegMessage(j_common_ptr codec) {
+    auto* const errors = reinterpret_cast<JpegErrors*>(codec->err);
+    errors->manager.format_message(codec, errors->message.data());
+    std::longjmp(errors->escape, 1);
+}
+
+}  // namespace zelto

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/pdf_document.h"
+#include "platform/picture_encoders.h"
+
+#include <QBuffer>
+
+namespace zelto {
+
+Result<QByteArray> encodePdf(const QImage& picture, const EncodeOptions&) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    PdfDocument document(buffer);
+    const Result<void> written =
+        document.addPage(picture).and_then([&document] { return document.finish(); });
+    if (!written) return tl::unexpected(written.error());
+    return buffer.data();
+}
+
+}  // namespace zelto

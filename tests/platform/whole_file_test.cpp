@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/whole_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QIODevice>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+
+namespace zelto {
+namespace {
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+}
+
+void create(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+unsigned modeOf(const QString& path) {
+    struct stat status {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777U : 0U;
+}
+
+// A full disk as the process sees it: no file may grow over `bytes`.
+class DiskOf {
+  public:
+    explicit DiskOf(rlim_t bytes) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit small{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~DiskOf() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+    DiskOf(const DiskOf&) = delete;
+    DiskOf& operator=(const DiskOf&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+class WholeFileTest : public ::testing::Test {
+  protected:
+    QString at(const QString& name) const { return folder_.filePath(name); }
+    QStringList entries() const {
+        return QDir(folder_.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    const QTemporaryDir folder_;
+};
+
+TEST_F(WholeFileTest, ReplacesTheFileAndKeepsItsPermissions) {
+    const QByteArray large(300000, 'x');
+    ::umask(0027);
+    ASSERT_TRUE(writeWholeFile(at(QStringLiteral("new")), large));
+    EXPECT_EQ(contentOf(at(QStringLiteral("new"))), large);
+    EXPECT_EQ(modeOf(at(QStringLiteral("new"))), 0640U);
+
+    const QString old = at(QStringLiteral("old"));
+    create(old, large);
+    ::chmod(QFile::encodeName(old).constData(), 0604);
+    ASSERT_TRUE(writeWholeFile(old, "short"));
+    EXPECT_EQ(contentOf(old), "short");
+    EXPECT_EQ(modeOf(old), 0604U);
+    EXPECT_EQ(entries(), QStringList({QStringLiteral("new"), QStringLiteral("old")}));
+}
+
+TEST_F(WholeFileTest, WritesNamesAsLongAsTheyMayBeAndThroughLinks) {
+    const QString longest(255, QLatin1Char('n'));
+    ASSERT_TRUE(writeWholeFile(at(longest), "a"));
+    EXPECT_EQ(contentOf(at(longest)), "a");
+
+    const QTemporaryDir elsewhere;
+    const QString link = at(QStringLiteral("link"));
+    for (const bool existing : {false, true}) {
+        const QString target = elsewhere.filePath(existing ? QStringLiteral("old") : QStringLiteral("new"));
+        if (existing) create(target, "before");
+        ASSERT_TRUE(QFile::link(target, link));
+        ASSERT_TRUE(writeWholeFile(link, "after")) << "existing " << existing;
+        EXPECT_TRUE(QFileInfo(link).isSymLink());
+        EXPECT_EQ(contentOf(target), "after");
+        QFile::remove(link);
+    }
+}
+
+TEST_F(WholeFileTest, FailingLeavesWhatWasThereAndNothingElse) {
+    struct Row {
+        QString path;
+        qsizetype bytes;
+        rlim_t disk;
+        const char* reason;
+    };
+    const QString old = at(QStringLiteral("old"));
+    create(old, "before");
+    QDir(folder_.path()).mkdir(QStringLiteral("folder"));
+    const QStringList before = entries();
+    const Row rows[] = {
+        {old, 1000000, 65536, "File too large"},
+        {old, 9000, 4096, "File too large"},  // as small as a buffer
+        {at(QStringLiteral("folder")), 10, RLIM_INFINITY, "Is a directory"},
+        {at(QStringLiteral("missing/new")), 10, RLIM_INFINITY, "No such file or directory"},
+        {at(QStringLiteral("old/new")), 10, RLIM_INFINITY, "Not a directory"},
+        {QStringLiteral("/proc/zelto-test"), 10, RLIM_INFINITY, ""},
+        {QStringLiteral("/dev/null"), 10, RLIM_INFINITY, "Invalid argument"},
+    };
+    for (const Row& row : rows) {
+        const DiskOf disk(row.disk);
+        const Result<void> written = writeWholeFile(row.path, QByteArray(row.bytes, 'x'));
+        ASSERT_FALSE(written) << qPrintable(row.path);
+        EXPECT_EQ(written.error().code, ErrorCode::CannotWrite);
+        EXPECT_EQ(written.error().path, row.path);
+        EXPECT_TRUE(written.error().message.contains(row.path)) << qPrintable(written.error().message);
+        EXPECT_TRUE(written.error().message.contains(QLatin1String(row.reason)))
+            << qPrintable(written.error().message);
+        EXPECT_EQ(entries(), before);
+        EXPECT_EQ(contentOf(old), "before");
+    }
+    EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/null")).isFile());
+}
+
+TEST_F(WholeFileTest, HasNoNameUntilItIsCommitted) {
+    {
+        Result<WholeFile> abandoned = WholeFile::startIn(folder_.path());
+        ASSERT_TRUE(abandoned);
+        ASSERT_TRUE(writeAll(abandoned->device(), QByteArray(100000, 'x')));
+    }
+    EXPECT_EQ(entries(), QStringList());
+
+    Result<WholeFile> file = WholeFile::startIn(folder_.path());
+    ASSERT_TRUE(file);
+    for (int i = 0; i < 3; ++i) ASSERT_TRUE(writeAll(file->device(), "part "));
+    EXPECT_EQ(entries().filter(QStringLiteral("name")), QStringList());
+    ASSERT_TRUE(file->commit(at(QStringLiteral("name"))));
+    EXPECT_EQ(contentOf(at(QStringLiteral("name"))), "part part part ");
+    EXPECT_EQ(entries(), QStringList(QStringLiteral("name")));
+}
+
+}  // namespace
+}  // namespace zelto
