@@ -2,11 +2,14 @@
 // Expanding the macros of a watermark text for one photo. Values in, values out: reentrant, any thread.
 #pragma once
 
+#include "macros/auto_number.h"
+
 #include <QDateTime>
 #include <QLocale>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
+
 #include <optional>
 
 namespace zelto {
@@ -14,10 +17,10 @@ namespace zelto {
 // What an expansion knows of the photo and its place in the list.
 struct MacroContext {
     QString photoPath;
-    QSize pixelSize;           // upright pixels
-    QSizeF pointSize;          // the same in points of 1/72 inch
-    qint64 row = 0;            // place in the photo list, from 0
-    qint64 listSize = 0;       // photos in the list
+    QSize pixelSize;      // upright pixels
+    QSizeF pointSize;     // the same in points of 1/72 inch
+    qint64 row = 0;       // place in the photo list, from 0
+    qint64 listSize = 0;  // photos in the list
     bool batchRunning = false;
     QDateTime now;
     QLocale locale;
@@ -25,16 +28,13 @@ struct MacroContext {
 
 struct MacroExpansion {
     QString text;
-    // The number to store as "LastAutoNumber" once the photo has been written: set for the last photo of a running
-    // batch when the text holds a running number.
+    // The number to store as "LastAutoNumber" once the photo has been written: set for the last photo of a
+    // running batch when the text holds a running number.
     std::optional<qint64> lastAutoNumber;
 };
 
-// `text` with every macro replaced. Never fails: a running number that cannot be placed leaves the text as far as
-// it was expanded.
+// `text` with every macro replaced. Never fails: a running number that cannot be placed leaves the text as
+// far as it was expanded.
 MacroExpansion ParseMacros(const QString& text, const MacroContext& context);
-
-// `text` with "0" put in front until it has `length` characters; never shortened.
-QString AdjustLength(QString text, qsizetype length);
 
 }  // namespace zelto
