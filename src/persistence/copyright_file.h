@@ -2,10 +2,10 @@
 // "Copyright.xml", the copyright and creator texts kept between runs. Any thread.
 #pragma once
 
-#include <QString>
-
 #include "platform/result.h"
 #include "records/copyright_metadata.h"
+
+#include <QString>
 
 namespace zelto {
 
@@ -14,8 +14,8 @@ inline constexpr QLatin1String CopyrightFileName("Copyright.xml");
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path);
 
 // Fills `metadata` from the file at `path`; leaves it as it is where there is no such file. Error:
-// ErrorCode::InvalidFile, with `metadata` untouched. A file written with Enabled off reads back switched on: only
-// the text "False" switches off.
+// ErrorCode::InvalidFile, with `metadata` untouched. A file written with Enabled off reads back switched on:
+// only the text "False" switches off.
 Result<void> LoadMetadata(CopyRightMetaData& metadata, const QString& path);
 
 }  // namespace zelto

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// "OutputSettings.xml", the user's default output options. It keeps the texts of the dialog's fields, so that both
-// ways of resizing come back as they were typed. Any thread.
+// "OutputSettings.xml", the user's default output options. It keeps the texts of the dialog's fields, so that
+// both ways of resizing come back as they were typed. Any thread.
 #pragma once
-
-#include <QString>
-#include <optional>
 
 #include "platform/result.h"
 #include "records/output_options.h"
+
+#include <QString>
+
+#include <optional>
 
 namespace zelto {
 

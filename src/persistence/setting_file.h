@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The setting file: one XML document per saved watermark stack. Reading accepts what this program and its older
-// versions wrote; files may come from strangers, so no entity is expanded, sizes are bounded and a bad file changes
-// nothing. Any thread.
+// The setting file: one XML document per saved watermark stack. Reading accepts what this program and its
+// older versions wrote; files may come from strangers, so no entity is expanded, sizes are bounded and a bad
+// file changes nothing. Any thread.
 #pragma once
-
-#include <QByteArray>
-#include <QString>
 
 #include "platform/result.h"
 #include "records/watermark_stack.h"
+
+#include <QByteArray>
+#include <QString>
 
 namespace zelto {
 
@@ -18,8 +18,8 @@ inline constexpr QLatin1String SettingFileExtension(".zcs");
 // The document of a stack, in UTF-8.
 QByteArray writeSettingDocument(const WatermarkStack& stack);
 
-// The stack of a document; `name` stands for the file in messages. Error: ErrorCode::InvalidFile, naming the file,
-// the line and what is wrong there.
+// The stack of a document; `name` stands for the file in messages. Error: ErrorCode::InvalidFile, naming the
+// file, the line and what is wrong there.
 Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QString& name);
 
 // Writes the stack to `path`, whole or not at all. A stack without watermarks and effects writes nothing.
