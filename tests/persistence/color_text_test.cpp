@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/color_text.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <random>
+
+namespace zelto {
+namespace {
+
+TEST(ColorText, HasTheSpaceNameAndSixDecimalsAComponent) {
+    EXPECT_EQ(stringRepresentationofColor(Color::white()),
+              QStringLiteral("NSCalibratedRGBColorSpace 1.000000 1.000000 1.000000 1.000000"));
+    EXPECT_EQ(stringRepresentationofColor({0.2F, 0.0F, 0.0000004F, 0.5F}),
+              QStringLiteral("NSCalibratedRGBColorSpace 0.200000 0.000000 0.000000 0.500000"));
+}
+
+TEST(ColorText, OfFilesReadsBackToTheVerySameComponents) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const float component = static_cast<float>(byte) / 255.0F;
+        const Color color{component, 1.0F - component, 0.5F, component};
+        EXPECT_EQ(colorFromString(exactColorText(color)), color) << byte;
+    }
+    std::mt19937 random(15);
+    std::uniform_int_distribution<std::uint32_t> bits(0, std::bit_cast<std::uint32_t>(1.0F));
+    for (int i = 0; i < 2000; ++i) {
+        const Color color{std::bit_cast<float>(bits(random)), 0.0F, std::bit_cast<float>(bits(random)), 1.0F};
+        EXPECT_EQ(colorFromString(exactColorText(color)), color);
+    }
+}
+
+TEST(ColorText, IsReadFromTokensOneToFour) {
+    const struct {
+        const char* text;
+        std::optional<Color> color;
+    } rows[] = {
+        {"NSCalibratedRGBColorSpace 0.25 0.5 1 0.75", Color{0.25F, 0.5F, 1.0F, 0.75F}},
+        {"NSDeviceCMYKColorSpace 0.25 0.5 1 0.75 0.5", Color{0.25F, 0.5F, 1.0F, 0.75F}},
+        {" 0.25 0.5 1 0.75", Color{0.25F, 0.5F, 1.0F, 0.75F}},
+        {"x 0.25  0.5 1 0.75", Color{0.25F, 0.0F, 0.5F, 1.0F}},
+        {"x red 0,5 1e-1 1", Color{0.0F, 0.0F, 0.1F, 1.0F}},
+        {"x nan inf -3 7", Color{0.0F, 1.0F, 0.0F, 1.0F}},
+        {"x 1 1 1", std::nullopt},
+        {"", std::nullopt},
+    };
+    for (const auto& row : rows) EXPECT_EQ(colorFromString(QLatin1String(row.text)), row.color) << row.text;
+}
+
+TEST(ColorText, HexadecimalDigitCountsAreMadeEight) {
+    const auto bytes = [](int r, int g, int b, int a) {
+        const auto part = [](int byte) { return static_cast<float>(byte / 255.0); };
+        return Color{part(r), part(g), part(b), part(a)};
+    };
+    const struct {
+        const char* text;
+        Color color;
+    } rows[] = {
+        {"#1aF", bytes(0x11, 0xAA, 0xFF, 0xFF)},
+        {"1aF8", bytes(0x11, 0xAA, 0xFF, 0x88)},
+        {"#102030", bytes(0x10, 0x20, 0x30, 0xFF)},
+        {"10203040", bytes(0x10, 0x20, 0x30, 0x40)},
+        {"#12345", bytes(0x01, 0x23, 0x45, 0xFF)},
+        {"#1234567", bytes(0x01, 0x23, 0x45, 0x67)},
+        {"f", bytes(0, 0, 0xFF, 0xFF)},
+        {"#", Color::black()},
+        {"ABCDE10203040", bytes(0x10, 0x20, 0x30, 0x40)},
+        {"##102030", Color::black()},
+        {"+1 2 3", Color::black()},
+        {"rebeccapurple", Color::black()},
+    };
+    for (const auto& row : rows) EXPECT_EQ(colorWithCSS(QLatin1String(row.text)), row.color) << row.text;
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,388 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/setting_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::HasSubstr;
+
+// Element paths below the root with their texts, one a line, attributes in front: what another reader sees.
+QStringList outline(const QByteArray& document) {
+    QXmlStreamReader reader(document);
+    QStringList path;
+    QStringList lines;
+    QString text;
+    bool leaf = false;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+            case QXmlStreamReader::StartElement:
+                path.append(reader.name().toString());
+                for (const QXmlStreamAttribute& a : reader.attributes()) {
+                    lines.append(u"%1@%2=%3"_s.arg(path.join(u'/'), a.name(), a.value()));
+                }
+                text.clear();
+                leaf = true;
+                break;
+            case QXmlStreamReader::Characters:
+                text += reader.text();
+                break;
+            case QXmlStreamReader::EndElement:
+                if (leaf) lines.append(path.join(u'/') + u'=' + text);
+                leaf = false;
+                path.removeLast();
+                break;
+            default:
+                break;
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    return lines;
+}
+
+QStringList outline(const WatermarkStack& stack) {
+    return outline(writeSettingDocument(stack));
+}
+
+WatermarkStack readBack(const QByteArray& document) {
+    const Result<WatermarkStack> stack = readSettingDocument(document, u"test"_s);
+    if (!stack) ADD_FAILURE() << stack.error().message.toStdString();
+    return stack.value_or(WatermarkStack{});
+}
+
+// The only watermark of a document that holds one of `type` with these elements.
+Watermark readOne(int type, const QByteArray& elements) {
+    const WatermarkStack stack = readBack("<WatermarkList><Watermark Type=\"" + QByteArray::number(type) +
+                                          "\">" + elements + "</Watermark></WatermarkList>");
+    return stack.Watermarks.size() == 1 ? stack.Watermarks[0] : Watermark(-1);
+}
+
+constexpr auto CommonElements =
+    "IsEnabled=0|Transparency=0.250000|Rotation=-45|Position=10|PaddingTop=1|PaddingRight=2|PaddingBottom=3|"
+    "PaddingLeft=4|CustomPositionLeft=5|CustomPositionTop=6|HTiling=1|VTiling=0|HorizontalSpacing=7|"
+    "VerticalSpacing=8|ProportionalResize=3"_L1;
+
+Watermark withCommonFields(std::int32_t type) {
+    Watermark w(type);
+    w.IsEnabled = false;
+    w.Transparency = 0.25F;
+    w.Rotation = -45;
+    w.Position = CustomPosition;
+    w.PaddingTop = 1;
+    w.PaddingRight = 2;
+    w.PaddingBottom = 3;
+    w.PaddingLeft = 4;
+    w.CustomPositionLeft = 5;
+    w.CustomPositionTop = 6;
+    w.HorizontalTiling = true;
+    w.HorizontalSpacing = 7;
+    w.VerticalSpacing = 8;
+    w.ImageProportionalResize = u"Longer Side"_s;
+    return w;
+}
+
+TEST(SettingFile, WritesTheElementsOfEachTypeInTheirOrder) {
+    Watermark text = withCommonFields(watermark_type::Text);
+    text.Text = u"#1 <<AUTO:##1+1>> & more"_s;
+    text.FontFamily = u"Serif"_s;
+    text.FontSize = 40;
+    text.FontBold = text.FontUnderline = text.Shadow = text.IsRelative = true;
+    text.TextColor = Color{1.0F, 0.5F, 0.0F, 1.0F};
+    text.Alignment = 2;
+    text.TextEffect = 3;
+    text.UseTransparentColor = true;
+    text.FontRelativeSize = u"Height"_s;
+
+    Watermark shape = withCommonFields(watermark_type::Shape);
+    shape.ShapeType = shape_type::Polygon;
+    shape.Sides = 6;
+    shape.ResizeHeight = 0.5F;
+    shape.ResizeWidth = 0.2F;
+    shape.Height = 150.5F;
+    shape.ResizeHeightByPercent = true;
+    shape.GradeintType = 5;
+
+    Watermark qr = withCommonFields(watermark_type::QrCode);
+    qr.Text = u"https://example.org/#top"_s;
+    qr.ShadowColor.reset();
+
+    Watermark image = withCommonFields(7);
+    image.ImagePath = u"/logos/a.png"_s;
+    image.ImageData = QByteArray("\x00\xFF\x10", 3);
+    image.ResizeFormat = 2;
+    image.PreserverAspectRatio = image.IsTransparent = true;
+    image.Width = 64.0F;
+
+    const struct {
+        Watermark watermark;
+        QLatin1String elements;
+    } rows[] = {
+        {text,
+         "@Type=1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> & more|Font/Name=Serif|Font/Bold=1|Font/Italic=0|"
+         "Font/Underline=1|Font/Strike=0|Font/Size=40|Font/IsRelative=1|Shadow=1|ShadowColor=|"
+         "Color=NSCalibratedRGBColorSpace 1 0.5 0 1|Alignment=2|TextEffect=3|UseTransparentColor=1|"
+         "ProportionalResize=2|"_L1},
+        {shape,
+         "@Type=2|ShapeType=3|Sides=6|ResizeHeight=0.500000|ResizeWidth=0.200000|Width=200.000000|"
+         "Height=150.500000|SolidColor=NSCalibratedRGBColorSpace 1 1 1 1|"
+         "FirstColor=NSCalibratedRGBColorSpace 1 1 1 1|SecondColor=NSCalibratedRGBColorSpace 0 0 0 1|"
+         "SolidBackground=1|ResizeWidthByPercent=0|ResizeHeightByPercent=1|GradeintType=5|"_L1},
+        {qr, "@Type=3|Text=https://example.org/#top|ResizeWidth=0.200000|ResizeFormat=0|ShadowColor=|"_L1},
+        {image,
+         "@Type=0|LogoPath=/logos/a.png|ImageData=AP8Q|Resize=0|ResizebyWidth=0|PreserverAspectRatio=1|"
+         "ResizeFormat=2|ResizeHeight=0.000000|ResizeWidth=0.000000|Width=64.000000|Height=0.000000|"
+         "IsTransparent=1|CreateBW=0|TransparentColor=|"_L1},
+    };
+    for (const auto& row : rows) {
+        QStringList expected = (QString(row.elements) + CommonElements).split(u'|');
+        for (QString& line : expected) {
+            line.prepend(line.startsWith(u'@') ? u"WatermarkList/Watermark"_s
+                                               : u"WatermarkList/Watermark/"_s);
+        }
+        expected.append(u"WatermarkList/SelectedFilter=0"_s);
+        EXPECT_EQ(outline(WatermarkStack{{row.watermark}, {}, 0, false}).join(u'\n').toStdString(),
+                  expected.join(u'\n').toStdString());
+    }
+}
+
+TEST(SettingFile, WritesEffectsFilterAndMetadataAfterTheWatermarks) {
+    PhotoEffects effects;
+    effects.TopThickness = 1;
+    effects.LeftThickness = 2;
+    effects.BottomThickness = 3;
+    effects.RightThickness = 4;
+    effects.BlurRadius = 5;
+    effects.Distance = 6;
+    effects.Direction = 360;
+    effects.ShadowColor.reset();
+    const QString expected =
+        uR"(WatermarkList/Effects/Border/BorderColor=NSCalibratedRGBColorSpace 0 0 0 1
+WatermarkList/Effects/Border/TopBorderThickness=1
+WatermarkList/Effects/Border/LeftBorderThickness=2
+WatermarkList/Effects/Border/BottomBorderThickness=3
+WatermarkList/Effects/Border/RightBorderThickness=4
+WatermarkList/Effects/Border/ApplyWatermarkOnBorder=0
+WatermarkList/Effects/Shadow/ShadowColor=
+WatermarkList/Effects/Shadow/ShadowDirection=360
+WatermarkList/Effects/Shadow/ShadowSpread=5
+WatermarkList/Effects/Shadow/ShadowSize=6
+WatermarkList/Effects/Shadow/EnableShadow=1
+WatermarkList/SelectedFilter=12
+WatermarkList/Metadata=1)"_s;
+    const WatermarkStack stack{{}, effects, 12, true};
+    EXPECT_EQ(outline(stack).join(u'\n').toStdString(), expected.toStdString());
+    EXPECT_EQ(readBack(writeSettingDocument(stack)), stack);
+}
+
+// Random records, holding in every field its type stores a value that the file can express.
+class RandomRecords {
+  public:
+    Watermark watermark(std::int32_t type) {
+        Watermark w(type);
+        switch (type) {
+            case watermark_type::Text:
+                fillText(w);
+                break;
+            case watermark_type::Shape:
+                fillShape(w);
+                break;
+            case watermark_type::QrCode:
+                fillQrCode(w);
+                break;
+            default:
+                fillImage(w);
+                break;
+        }
+        set(w.IsEnabled, w.HorizontalTiling, w.VerticalTiling);
+        w.Transparency = static_cast<float>(number(0, 100)) / 100.0F;
+        w.Position = static_cast<std::int32_t>(number(1, 10));
+        set(w.Rotation, w.PaddingTop, w.PaddingRight, w.PaddingBottom, w.PaddingLeft, w.CustomPositionLeft,
+            w.CustomPositionTop, w.HorizontalSpacing, w.VerticalSpacing);
+        if (number(0, 1) == 1) w.ImageProportionalResize = number(0, 1) == 0 ? u"Height"_s : u"Longer Side"_s;
+        return w;
+    }
+
+    PhotoEffects effects() {
+        PhotoEffects e;
+        set(e.TopThickness, e.LeftThickness, e.RightThickness, e.BottomThickness, e.BlurRadius, e.Distance,
+            e.Direction, e.BorderColor, e.ShadowColor, e.ApplyWatermarkOnBorder, e.EnableShadow);
+        return e;
+    }
+
+    qint64 number(qint64 from, qint64 to) { return std::uniform_int_distribution<qint64>(from, to)(random_); }
+
+  private:
+    void fillText(Watermark& w) {
+        set(w.Text, w.FontFamily, w.FontSize, w.FontBold, w.FontItalic, w.FontUnderline, w.FontStrikethrough,
+            w.IsRelative, w.Shadow, w.ShadowColor, w.TextColor, w.UseTransparentColor);
+        w.Alignment = static_cast<std::uint64_t>(number(0, 4));
+        w.TextEffect = static_cast<std::int32_t>(number(0, 3));
+        w.FontRelativeSize = QStringList{u"Width"_s, u"Height"_s, u"Longer Side"_s}[number(0, 2)];
+    }
+    void fillShape(Watermark& w) {
+        w.ShapeType = static_cast<std::int32_t>(number(1, 4));
+        set(w.Sides, w.ResizeHeight, w.ResizeWidth, w.Width, w.Height, w.SolidColor, w.FirstColor,
+            w.SecondColor, w.SolidBackground, w.ResizeWidthByPercent, w.ResizeHeightByPercent,
+            w.GradeintType);
+    }
+    void fillQrCode(Watermark& w) { set(w.Text, w.ResizeWidth, w.ResizeFormat, w.ShadowColor); }
+    void fillImage(Watermark& w) {
+        set(w.ImagePath, w.Resize, w.ResizebyWidth, w.PreserverAspectRatio, w.ResizeFormat, w.ResizeHeight,
+            w.ResizeWidth, w.Width, w.Height, w.IsTransparent, w.CreateBW, w.TransparentColor);
+        for (qint64 n = number(0, 300); n > 0; --n) w.ImageData.append(static_cast<char>(number(0, 255)));
+    }
+
+    template <class... Fields>
+    void set(Fields&... fields) {
+        (fill(fields), ...);
+    }
+    void fill(bool& field) { field = number(0, 1) == 1; }
+    void fill(std::int64_t& field) { field = number(-1'000'000'000, 1'000'000'000); }
+    void fill(float& field) { field = static_cast<float>(number(0, 100'000)) / 64.0F; }
+    void fill(std::optional<Color>& field) {
+        const auto component = [this] { return static_cast<float>(number(0, 1'000'003)) / 1'000'003.0F; };
+        if (number(0, 4) == 0) {
+            field.reset();
+        } else {
+            field = Color{component(), component(), component(), component()};
+        }
+    }
+    void fill(QString& field) {
+        static const QStringList pieces = {
+            u"#"_s,      u"\n"_s, u"\r"_s,    u" "_s,     u"<<AUTO:###1+1>>"_s,
+            u"]]>"_s,    u"\""_s, u"&amp;"_s, u"%1"_s,    u"<<EXIF:FNumber>>"_s,
+            u"\u00E9"_s, u"📷"_s,  u"\x1D"_s,  u"&#x1D;"_s};
+        for (qint64 n = number(0, 8); n > 0; --n) field += pieces[number(0, pieces.size() - 1)];
+    }
+
+    std::mt19937_64 random_{2};
+};
+
+TEST(SettingFile, ReadsBackWhatItWrote) {
+    RandomRecords random;
+    for (int round = 0; round < 300; ++round) {
+        WatermarkStack stack;
+        for (qint64 n = random.number(0, 5); n > 0; --n) {
+            stack.Watermarks.push_back(random.watermark(static_cast<std::int32_t>(random.number(0, 3))));
+        }
+        if (random.number(0, 1) == 1) stack.Effects = random.effects();
+        stack.SelectedFilter = static_cast<int>(random.number(0, 20));
+        stack.Metadata = random.number(0, 1) == 1;
+        const QByteArray document = writeSettingDocument(stack);
+        ASSERT_EQ(readBack(document), stack) << document.toStdString();
+    }
+}
+
+TEST(SettingFile, WhatAFileCannotExpressReadsBackAsTheNearestItCan) {
+    Watermark text(watermark_type::Text);
+    text.Text = u"&hash;"_s;
+    text.FontRelativeSize = u"Fixed"_s;
+    Watermark image(watermark_type::Image);
+    image.ImageProportionalResize = u"Proportional"_s;
+    Watermark shape(watermark_type::Shape);
+    shape.ImageProportionalResize = u"Width"_s;
+    Watermark unknown(7);
+    unknown.Width = 3.0F;
+    PhotoEffects effects;
+    effects.SameBorder = true;
+    const WatermarkStack back =
+        readBack(writeSettingDocument({{text, image, shape, unknown}, effects, 0, false}));
+    ASSERT_EQ(back.Watermarks.size(), 4U);
+    EXPECT_EQ(back.Watermarks[0].Text, u"#"_s);
+    EXPECT_EQ(back.Watermarks[0].FontRelativeSize, u"Width"_s);
+    EXPECT_EQ(back.Watermarks[1].ImageProportionalResize, u"Width"_s);
+    EXPECT_EQ(back.Watermarks[2], Watermark(watermark_type::Shape));
+    EXPECT_EQ(back.Watermarks[3].Type, watermark_type::Image);
+    EXPECT_EQ(back.Watermarks[3].Width, 3.0F);
+    EXPECT_FALSE(back.Effects->SameBorder);
+}
+
+TEST(SettingFile, AcceptsTheKeysAndFormsOfOlderFiles) {
+    const WatermarkStack stack = readBack(R"(<?xml version="1.0"?><Watermarklist>
+        <Watermark type="1"><TextAlign>2</TextAlign><UseTransParentColor>True</UseTransParentColor>
+          <Color> #FF000080 </Color><Font><Bold>True</Bold><Italic>False</Italic></Font>
+          <Text>A&amp;hash;B &lt;&lt;AUTO:&amp;hash;&amp;hash;1+2&amp;gt;&amp;gt; &lt;&lt;X&amp;gt;&amp;gt;</Text>
+        </Watermark>
+        <Watermark type="2"><IsGradient>True</IsGradient><GradientType>3</GradientType></Watermark>
+        <Watermark type="2"><SolidBackground>1</SolidBackground><IsGradient>1</IsGradient></Watermark>
+        <Watermark type="0"><ResizeImage>1</ResizeImage><UseTransParentColor>1</UseTransParentColor></Watermark>
+        <Watermark type="3"><Text>A&amp;hash;B</Text></Watermark>
+        </Watermarklist>)");
+    ASSERT_EQ(stack.Watermarks.size(), 5U);
+    const Watermark& text = stack.Watermarks[0];
+    EXPECT_EQ(text.Text, u"A#B <<AUTO:##1+2>> <<X&gt;&gt;"_s);
+    EXPECT_EQ(text.Alignment, 2U);
+    EXPECT_TRUE(text.UseTransparentColor);
+    EXPECT_TRUE(text.FontBold);
+    EXPECT_FALSE(text.FontItalic);
+    EXPECT_EQ(text.TextColor, (Color{1.0F, 0.0F, 0.0F, static_cast<float>(128 / 255.0)}));
+    EXPECT_FALSE(stack.Watermarks[1].SolidBackground);
+    EXPECT_EQ(stack.Watermarks[1].GradeintType, 3);
+    EXPECT_TRUE(stack.Watermarks[2].SolidBackground) << "today's element wins over the older one";
+    EXPECT_TRUE(stack.Watermarks[3].Resize);
+    EXPECT_TRUE(stack.Watermarks[3].IsTransparent);
+    EXPECT_EQ(stack.Watermarks[4].Text, u"A&hash;B"_s);
+}
+
+TEST(SettingFile, KeepsTheConstructedValueOfWhatIsMissingOrUnreadable) {
+    for (const int type : {0, 1, 2, 3}) {
+        EXPECT_EQ(readOne(type, "<Unknown><Width>7</Width></Unknown>"), Watermark(type));
+        EXPECT_EQ(readOne(type,
+                          "<Width>wide</Width><Height/><Position>NaN</Position><IsEnabled>maybe</IsEnabled>"
+                          "<ProportionalResize>9</ProportionalResize><Alignment>-1</Alignment>"),
+                  Watermark(type));
+    }
+    EXPECT_EQ(readOne(watermark_type::QrCode, "<ShadowColor> </ShadowColor>").ShadowColor, std::nullopt);
+    const WatermarkStack stack =
+        readBack("<WatermarkList><Effects/><SelectedFilter/><Metadata/></WatermarkList>");
+    EXPECT_EQ(stack, (WatermarkStack{{}, PhotoEffects{}, 0, true}));
+}
+
+TEST(SettingFile, ClampsNumbersBeyondAllMeasure) {
+    const Watermark w =
+        readOne(2,
+                "<Width>inf</Width><Height>-1e300</Height><Rotation>99999999999999999999</Rotation>"
+                "<Position>5000000000</Position><Transparency>12</Transparency>"
+                "<Sides>-9223372036854775808</Sides>");
+    EXPECT_EQ(w.Width, 1e9F);
+    EXPECT_EQ(w.Height, -1e9F);
+    EXPECT_EQ(w.Rotation, 1'000'000'000);
+    EXPECT_EQ(w.Position, std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(w.Transparency, 1.0F);
+    EXPECT_EQ(w.Sides, -1'000'000'000);
+}
+
+TEST(SettingFile, NamesFileAndLineOfAWatermarkWithoutType) {
+    for (const QByteArray tag : {"<Watermark/>", "<Watermark Type=\"logo\"/>"}) {
+        const Result<WatermarkStack> stack =
+            readSettingDocument("<WatermarkList>\n\n" + tag + "</WatermarkList>", u"mine.zcs"_s);
+        ASSERT_FALSE(stack);
+        EXPECT_EQ(stack.error().code, ErrorCode::InvalidFile);
+        EXPECT_THAT(stack.error().message.toStdString(), HasSubstr("mine.zcs, line 3"));
+    }
+}
+
+TEST(SettingFile, OnDiskIsWrittenOnlyForAStackThatHoldsSomething) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.zcs"_s);
+    const WatermarkStack stack{{Watermark(watermark_type::Shape)}, {}, 3, false};
+    EXPECT_TRUE(SaveWatermarkSettings(WatermarkStack{{}, {}, 3, true}, path));
+    EXPECT_EQ(LoadWatermarkSetting(path).error().code, ErrorCode::NotFound);
+    EXPECT_TRUE(SaveWatermarkSettings(stack, path));
+    EXPECT_EQ(LoadWatermarkSetting(path), stack);
+    EXPECT_EQ(LoadWatermarkSetting(folder.path()).error().code, ErrorCode::NotFound);
+    EXPECT_FALSE(SaveWatermarkSettings(stack, folder.filePath(u"missing/a.zcs"_s)));
+}
+
+}  // namespace
+}  // namespace zelto
