@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The inner loops of the filters. Pixels are premultiplied ARGB in one 32-bit word each; `source` and
+// `target` may be the same. Any thread.
+#pragma once
+
+#include "platform/filter_pass.h"
+
+#include <cstdint>
+
+namespace zelto {
+
+// `count` pixels of row `y` from column `x` on. Without `hasAlpha` the pixels count as opaque and come out
+// opaque.
+void filterPixels(const FilterPass& pass, const std::uint32_t* source, std::uint32_t* target, int count,
+                  int x, int y, bool hasAlpha);
+
+}  // namespace zelto
