@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Record colours in Qt's terms.
+#pragma once
+
+#include "records/color.h"
+
+#include <QColor>
+
+#include <algorithm>
+
+namespace zelto {
+
+// The same colour for a painter. Components outside 0..1, which only a damaged file holds, are brought back
+// into it.
+inline QColor toQColor(const Color& color) {
+    const auto unit = [](float component) { return component > 0.0F ? std::min(component, 1.0F) : 0.0F; };
+    return QColor::fromRgbF(unit(color.Red), unit(color.Green), unit(color.Blue), unit(color.Alpha));
+}
+
+}  // namespace zelto
