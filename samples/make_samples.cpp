@@ -128,7 +128,7 @@ void saveSetting(const WatermarkStack& stack, const QString& path) {
 
 void make(const Sample& sample, const QDir& folder) {
     const QString path = folder.filePath(QLatin1String(sample.file));
-    require(folder.mkpath(QFileInfo(path).path()), path);
+    require(QDir().mkpath(QFileInfo(path).path()), path);
     QImage image = sample.paint(sample.size);
     if (sample.storage == Storage::TurnedForOrientation6) image = image.transformed(QTransform().rotate(-90));
     if (sample.storage == Storage::AdobeRgb) {
