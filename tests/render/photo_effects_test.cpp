@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/photo_effects.h"
+
+#include "support/test_pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <numeric>
+#include <vector>
+
+namespace zelto {
+namespace {
+
+constexpr Color Red{1.0F, 0.0F, 0.0F, 1.0F};
+constexpr Color HalfBlue{0.0F, 0.0F, 1.0F, 0.5F};
+
+PhotoEffects bare() {
+    PhotoEffects effect;
+    effect.LeftThickness = effect.TopThickness = effect.RightThickness = effect.BottomThickness = 0;
+    effect.EnableShadow = false;
+    return effect;
+}
+
+PhotoEffects bordered() {
+    PhotoEffects effect = bare();
+    effect.LeftThickness = 1;
+    effect.TopThickness = 2;
+    effect.RightThickness = 3;
+    effect.BottomThickness = 4;
+    effect.BorderColor = Red;
+    return effect;
+}
+
+struct Framed {
+    QImage picture;
+    QRect image;
+    QRect border;
+};
+
+Framed apply(QImage photo, const PhotoEffects& effect, bool final = true) {
+    Framed result;
+    result.picture = imagewithEffects(std::move(photo), effect, result.image, result.border, final);
+    return result;
+}
+
+QRgb stored(const QImage& image, int x, int y) {
+    return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+}
+
+int difference(QRgb a, QRgb b) {
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+// One axis of the blur, summed up term by term: every value of `line` seen through the weights exp(-i^2 / 2
+// sigma^2), -blur <= i <= blur.
+std::vector<double> blurredLine(const std::vector<double>& line, int blur) {
+    std::vector<double> weights;
+    for (int i = -blur; i <= blur; ++i)
+        weights.push_back(blur == 0 ? 1 : std::exp(-2.0 * i * i / blur / blur));
+    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
+    const int size = static_cast<int>(line.size());
+    std::vector<double> result(line.size(), 0.0);
+    for (int at = 0; at < size; ++at) {
+        for (int i = std::max(-blur, -at); i <= std::min(blur, size - 1 - at); ++i) {
+            result[static_cast<std::size_t>(at)] +=
+                line[static_cast<std::size_t>(at + i)] * weights[static_cast<std::size_t>(i + blur)] / sum;
+        }
+    }
+    return result;
+}
+
+// `framed` with its shadow, as slow and obvious as can be. `place` and `offset` count from the canvas's lower
+// left.
+QImage slowShadow(const QImage& framed, QSize canvas, QPoint place, QPoint offset, int blur,
+                  const Color& color) {
+    const int margin = blur + std::max(std::abs(offset.x()), std::abs(offset.y()));
+    const int width = canvas.width() + 2 * margin;
+    const int height = canvas.height() + 2 * margin;
+    const int left = margin + place.x();
+    const int top = margin + canvas.height() - place.y() - framed.height();
+    const auto index = [width](int x, int y) { return static_cast<std::size_t>(y * width + x); };
+    std::vector<double> alpha(index(0, height), 0.0);
+    for (int y = 0; y < framed.height(); ++y) {
+        std::vector<double> line(static_cast<std::size_t>(width), 0.0);
+        for (int x = 0; x < framed.width(); ++x) {
+            line[static_cast<std::size_t>(left + offset.x() + x)] = qAlpha(stored(framed, x, y));
+        }
+        const std::vector<double> across = blurredLine(line, blur);
+        std::copy(across.begin(), across.end(),
+                  alpha.begin() + static_cast<std::ptrdiff_t>(index(0, top - offset.y() + y)));
+    }
+    QImage result(canvas, QImage::Format_ARGB32_Premultiplied);
+    for (int x = 0; x < canvas.width(); ++x) {
+        std::vector<double> line;
+        for (int y = 0; y < height; ++y) line.push_back(alpha[index(x + margin, y)]);
+        const std::vector<double> down = blurredLine(line, blur);
+        for (int y = 0; y < canvas.height(); ++y) {
+            const double tint = down[static_cast<std::size_t>(y + margin)] * static_cast<double>(color.Alpha);
+            const QPoint in(x + margin - left, y + margin - top);
+            const QRgb over = framed.rect().contains(in) ? stored(framed, in.x(), in.y()) : 0;
+            const auto part = [&](int own, float component) {
+                return qRound(own + static_cast<double>(component) * tint * (255 - qAlpha(over)) / 255.0);
+            };
+            reinterpret_cast<QRgb*>(result.scanLine(y))[x] =
+                qRgba(part(qRed(over), color.Red), part(qGreen(over), color.Green),
+                      part(qBlue(over), color.Blue), part(qAlpha(over), 1.0F));
+        }
+    }
+    return result;
+}
+
+int worstDifference(const QImage& a, const QImage& b) {
+    if (a.size() != b.size()) return 256;
+    int worst = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            worst = std::max(worst, difference(stored(a, x, y), stored(b, x, y)));
+    }
+    return worst;
+}
+
+TEST(PhotoEffects, FramesThePhotoOnItsBorder) {
+    const QImage photo = drawnScene({40, 30});
+    for (const bool final : {false, true}) {
+        const Framed framed = apply(photo, bordered(), final);
+        ASSERT_EQ(framed.picture.size(), QSize(44, 36));
+        EXPECT_EQ(framed.border, QRect(0, 0, 44, 36));
+        EXPECT_EQ(framed.image, QRect(1, 4, 40, 30));
+        EXPECT_EQ(framed.picture.copy(1, 2, 40, 30), photo);
+        for (const QPoint p : {QPoint(0, 2), QPoint(1, 1), QPoint(43, 31), QPoint(41, 35), QPoint(1, 32)}) {
+            EXPECT_EQ(framed.picture.pixelColor(p), QColor(Qt::red)) << p.x() << "," << p.y();
+        }
+        EXPECT_EQ(framed.picture, ImagewithBorderEffect(photo, bordered()));
+    }
+}
+
+TEST(PhotoEffects, ATransparentPhotoShowsTheBorderColorAndATransparentBorderStaysSo) {
+    QImage photo(2, 1, QImage::Format_ARGB32_Premultiplied);
+    photo.setPixel(0, 0, qRgba(0, 0, 0, 0));
+    photo.setPixel(1, 0, qRgba(0, 100, 0, 128));
+    PhotoEffects effect = bare();
+    effect.LeftThickness = 1;  // one side alone is a border all the same
+    effect.BorderColor = Red;
+    const QImage onRed = apply(photo, effect).picture;
+    EXPECT_FALSE(onRed.hasAlphaChannel());
+    EXPECT_EQ(onRed.pixel(1, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(onRed.pixel(2, 0), qRgb(127, 100, 0));
+
+    effect.BorderColor = HalfBlue;
+    const QImage onBlue = apply(photo, effect).picture;
+    EXPECT_LE(difference(stored(onBlue, 0, 0), qRgba(0, 0, 128, 128)), 1);
+    EXPECT_LE(difference(stored(onBlue, 1, 0), qRgba(0, 0, 128, 128)), 1);
+    EXPECT_LE(difference(stored(onBlue, 2, 0), qRgba(0, 100, 64, 192)), 1);
+}
+
+struct DirectionRow {
+    int direction;
+    QSize growth;
+    QPoint place;
+    QPoint offset;
+};
+
+// Blur 5 and distance 6: an odd sum, so that halves are cut down.
+const DirectionRow DirectionRows[] = {
+    {0, {5, 5}, {2, 2}, {0, 0}},      {45, {5, 5}, {0, 0}, {5, 5}},     {90, {0, 11}, {0, 0}, {0, 6}},
+    {135, {5, 5}, {5, 0}, {-5, 5}},   {180, {11, 0}, {11, 0}, {-6, 0}}, {225, {5, 5}, {5, 5}, {-5, -5}},
+    {270, {0, 11}, {0, 11}, {0, -6}}, {315, {5, 5}, {0, 5}, {5, -5}},   {360, {11, 0}, {0, 0}, {6, 0}},
+    {17, {0, 0}, {0, 0}, {0, 0}},
+};
+
+TEST(PhotoEffects, EveryDirectionMovesAndGrowsAsItShould) {
+    PhotoEffects effect = bordered();
+    effect.EnableShadow = true;
+    effect.BlurRadius = 5;
+    effect.Distance = 6;
+    effect.ShadowColor = HalfBlue;
+    const QImage photo = drawnScene({40, 30});
+    const QImage framed = ImagewithBorderEffect(photo, effect);
+    for (const DirectionRow& row : DirectionRows) {
+        SCOPED_TRACE(row.direction);
+        effect.Direction = row.direction;
+        const Framed shadowed = apply(photo, effect);
+        const QSize canvas = framed.size() + row.growth;
+        EXPECT_EQ(shadowed.border, QRect(row.place, framed.size()));
+        EXPECT_EQ(shadowed.image, QRect(row.place + QPoint(1, 4), photo.size()));
+        EXPECT_LE(
+            worstDifference(shadowed.picture, slowShadow(framed, canvas, row.place, row.offset, 5, HalfBlue)),
+            1);
+        EXPECT_EQ(apply(photo, effect, false).picture, framed) << "the preview shows no shadow";
+    }
+    effect.EnableShadow = false;
+    EXPECT_EQ(apply(photo, effect).picture, framed);
+}
+
+TEST(PhotoEffects, TheShadowIsAGaussianOfTheAlphaAtEveryBlur) {
+    for (const int blur : {0, 1, 2, 7, 15, 16, 40, 100}) {
+        for (const bool seeThrough : {false, true}) {
+            PhotoEffects effect = bare();
+            effect.EnableShadow = true;
+            effect.BlurRadius = blur;
+            effect.Distance = 9;
+            effect.Direction = 225;
+            effect.ShadowColor = Color{0.2F, 0.9F, 0.4F, 0.75F};
+            const QImage photo = seeThrough ? drawnSceneWithAlpha({130, 90}) : drawnScene({130, 90});
+            const int k = (blur + 9) / 2;
+            const QImage expected =
+                slowShadow(photo, photo.size() + QSize(k, k), {k, k}, {-k, -k}, blur, *effect.ShadowColor);
+            // Opaque photos are exact but for rounding; wide blurs of others are read between coarser cells.
+            EXPECT_LE(worstDifference(apply(photo, effect).picture, expected), seeThrough ? 2 : 1)
+                << "blur " << blur << ", transparent " << seeThrough;
+        }
+    }
+}
+
+TEST(PhotoEffects, NothingToDrawGivesThePhotoUntouched) {
+    PhotoEffects effect = bare();
+    effect.LeftThickness = -7;  // a damaged file's; as good as none
+    effect.EnableShadow = true;
+    QImage photo = drawnScene({20, 10});
+    const uchar* const pixels = photo.constBits();
+    const Framed framed = apply(std::move(photo), effect);
+    EXPECT_EQ(framed.picture.constBits(), pixels);
+    EXPECT_EQ(framed.image, QRect(0, 0, 20, 10));
+    EXPECT_EQ(framed.border, framed.image);
+}
+
+TEST(PhotoEffects, WhatWouldOutgrowAnyPictureIsLeftOut) {
+    constexpr std::int64_t Huge = std::numeric_limits<std::int64_t>::max();
+    const QImage photo = drawnScene({20, 10});
+    PhotoEffects effect = bordered();
+    effect.EnableShadow = true;
+    effect.Distance = Huge;
+    effect.BlurRadius = Huge;
+    effect.Direction = 45;
+    const Framed noShadow = apply(photo, effect);
+    EXPECT_EQ(noShadow.picture, ImagewithBorderEffect(photo, effect));
+    EXPECT_EQ(noShadow.image, QRect(1, 4, 20, 10));
+    effect.RightThickness = Huge;
+    const Framed nothing = apply(photo, effect);
+    EXPECT_EQ(nothing.picture, photo);
+    EXPECT_EQ(nothing.image, QRect(0, 0, 20, 10));
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/qr_code.h"
+
+#include "support/qr_reader.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <thread>
+#include <vector>
+
+namespace zelto {
+namespace {
+
+// A symbol of 25 modules a side.
+const QString TwentyFive = QStringLiteral("https://example.org/photos");
+
+TEST(QrCode, ReadsBackAsTheText) {
+    const QString texts[] = {QStringLiteral("a"), TwentyFive,
+                             QString::fromUtf8("Grüße 日本 🙂\nline two"), QString(1200, u'x')};
+    const struct {
+        std::optional<Color> background;
+        double side;
+    } looks[] = {{std::nullopt, 450.0}, {Color::white(), 512.7}, {Color{0.9F, 0.9F, 0.2F, 1.0F}, 600.0}};
+    for (const QString& text : texts) {
+        for (const auto& look : looks) {
+            EXPECT_EQ(readQrCodes(qrImageForString(text, look.side, look.background)), QStringList(text))
+                << look.side;
+        }
+    }
+}
+
+// The dark pixels' box, from the top left.
+QRect darkBox(const QImage& picture) {
+    QRect box;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(picture.pixel(x, y)) > 128) box |= QRect(x, y, 1, 1);
+        }
+    }
+    return box;
+}
+
+TEST(QrCode, ModulesAreWholeUnitsCentredInTheSurface) {
+    const std::optional<QrSymbol> symbol = encodeQrSymbol(TwentyFive);
+    ASSERT_TRUE(symbol);
+    ASSERT_EQ(symbol->width, 25);
+    struct {
+        int surface;
+        QRect box;
+    } const rows[] = {
+        {200, {0, 0, 200, 200}}, {210, {5, 5, 200, 200}}, {211, {5, 5, 200, 200}}, {25, {0, 0, 25, 25}}};
+    for (const auto& row : rows) {
+        QImage surface(row.surface, row.surface, QImage::Format_ARGB32_Premultiplied);
+        surface.fill(Qt::transparent);
+        QPainter painter(&surface);
+        drawQRCode(*symbol, painter, row.surface);
+        painter.end();
+        ASSERT_EQ(darkBox(surface), row.box);
+        const int module = row.box.width() / 25;
+        for (int y = 0; y < 25; ++y) {
+            for (int x = 0; x < 25; ++x) {
+                const QRect square(row.box.x() + x * module, row.box.y() + y * module, module, module);
+                const bool dark = (symbol->modules[y * 25 + x] & 1) != 0;
+                ASSERT_EQ(qAlpha(surface.pixel(square.topLeft())), dark ? 255 : 0) << x << "," << y;
+                ASSERT_EQ(qAlpha(surface.pixel(square.bottomRight())), dark ? 255 : 0) << x << "," << y;
+            }
+        }
+    }
+}
+
+TEST(QrCode, LeavesATwentiethFreeOnEverySide) {
+    struct {
+        double side;
+        int size;
+        QRect box;  // from the top left
+    } const rows[] = {
+        {200.0, 200, {10, 10, 180, 180}},
+        {199.0, 199, {20, 20, 159, 159}},  // 175 of 199 units in the middle, shrunk into 181 pixels
+        {20.0, 25, {1, 6, 18, 18}},        // fewer pixels than modules: drawn from the lower left corner
+        {200.000003, 200, {10, 10, 180, 180}},
+    };
+    for (const auto& row : rows) {
+        const QImage picture = qrImageForString(TwentyFive, row.side, std::nullopt);
+        ASSERT_EQ(picture.size(), QSize(row.size, row.size));
+        const QRect box = darkBox(picture);
+        EXPECT_LE(std::abs(box.x() - row.box.x()), 1) << row.side << ": " << box.x();
+        EXPECT_LE(std::abs(box.y() - row.box.y()), 1) << row.side << ": " << box.y();
+        EXPECT_LE(std::abs(box.width() - row.box.width()), 1) << row.side << ": " << box.width();
+    }
+}
+
+TEST(QrCode, TheBackgroundFillsTheWholeSquareOrStaysClear) {
+    const QImage clear = qrImageForString(TwentyFive, 200.0, std::nullopt);
+    EXPECT_EQ(clear.pixel(0, 0), qRgba(0, 0, 0, 0));
+    EXPECT_EQ(clear.pixel(14, 14), qRgb(0, 0, 0));
+    const QImage yellow = qrImageForString(TwentyFive, 200.0, Color{1.0F, 1.0F, 0.0F, 0.5F});
+    EXPECT_EQ(yellow.pixelColor(0, 0).alpha(), 128);
+    EXPECT_EQ(yellow.pixelColor(199, 199).red(), 255);
+    EXPECT_EQ(yellow.pixel(14, 14), qRgb(0, 0, 0));
+}
+
+TEST(QrCode, TouchingModulesLeaveNoSeams) {
+    const QImage picture = qrImageForString(TwentyFive, 333.0, Color::white());
+    // The left edge of the upper left finder pattern is seven dark modules long.
+    for (int y = 30; y < 95; ++y) ASSERT_EQ(picture.pixel(30, y), qRgb(0, 0, 0)) << y;
+}
+
+TEST(QrCode, NothingWhereThereIsNoSymbolOrNoRoom) {
+    EXPECT_TRUE(qrImageForString(QString(), 200.0, Color::white()).isNull());
+    EXPECT_TRUE(qrImageForString(QString(2954, u'x'), 200.0, Color::white()).isNull());
+    EXPECT_FALSE(qrImageForString(QString(2953, u'x'), 200.0, Color::white()).isNull());
+    EXPECT_TRUE(qrImageForString(QString(100'000, u'x'), 200.0, Color::white()).isNull());
+    for (const double side : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_TRUE(qrImageForString(TwentyFive, side, Color::white()).isNull()) << side;
+    }
+}
+
+TEST(QrCode, ManyThreadsAtATime) {
+    const QImage alone = qrImageForString(TwentyFive, 200.0, Color::white());
+    std::vector<QImage> pictures(8);
+    std::vector<std::thread> threads;
+    for (QImage& picture : pictures) {
+        threads.emplace_back([&picture] { picture = qrImageForString(TwentyFive, 200.0, Color::white()); });
+    }
+    for (std::thread& thread : threads) thread.join();
+    for (const QImage& picture : pictures) EXPECT_EQ(picture, alone);
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/shape.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace zelto {
+namespace {
+
+Watermark shape(std::int32_t kind, float width, float height) {
+    Watermark record(watermark_type::Shape);
+    record.ShapeType = kind;
+    record.Width = width;
+    record.Height = height;
+    record.Transparency = 1.0F;
+    record.SolidColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+    return record;
+}
+
+QImage drawn(const Watermark& record, QSizeF reference = {1000.0, 500.0}) {
+    return GetShapeImage(record, reference);
+}
+
+// Counted from the lower left, like the shape's own geometry.
+QColor at(const QImage& image, int x, int y) {
+    return image.pixelColor(x, image.height() - 1 - y);
+}
+int alphaAt(const QImage& image, int x, int y) {
+    return at(image, x, y).alpha();
+}
+
+// The box of the pixels that are at least half covered, y up.
+QRect inkBox(const QImage& image) {
+    QRect box;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (alphaAt(image, x, y) >= 128) box |= QRect(x, y, 1, 1);
+        }
+    }
+    return box;
+}
+
+TEST(Shape, SizesInPixelsAndInFractionsOfThePhoto) {
+    Watermark record = shape(shape_type::Rectangle, 30.0F, 20.0F);
+    EXPECT_EQ(drawn(record).size(), QSize(30, 20));
+    record.ResizeWidthByPercent = true;
+    record.ResizeWidth = 0.2F;
+    EXPECT_EQ(drawn(record).size(), QSize(200, 20));
+    record.ResizeHeightByPercent = true;
+    record.ResizeHeight = 0.3F;
+    const QImage both = drawn(record);
+    EXPECT_EQ(both.size(), QSize(200, 150));
+    EXPECT_EQ(inkBox(both), QRect(0, 0, 200, 150));
+
+    record.ResizeWidth =
+        0.0105F;  // 10.5 of 1000: eleven pixels, the last half covered; it stands at the bottom
+    record.ResizeHeight = 0.021F;
+    const QImage fraction = drawn(record);
+    ASSERT_EQ(fraction.size(), QSize(11, 11));
+    EXPECT_EQ(alphaAt(fraction, 9, 0), 255);
+    EXPECT_NEAR(alphaAt(fraction, 10, 0), 128, 2);
+    EXPECT_NEAR(alphaAt(fraction, 0, 10), 128, 2);
+}
+
+TEST(Shape, KindsFillTheirOutlines) {
+    EXPECT_EQ(inkBox(drawn(shape(shape_type::Line, 40.0F, 3.0F))), QRect(0, 0, 40, 3));
+    for (const std::int32_t round : {shape_type::Ellipse, 9}) {  // an unknown kind is an ellipse too
+        const QImage ellipse = drawn(shape(round, 100.0F, 60.0F));
+        EXPECT_EQ(alphaAt(ellipse, 50, 30), 255);
+        EXPECT_EQ(alphaAt(ellipse, 12, 8), 0);  // the curve passes between these two
+        EXPECT_EQ(alphaAt(ellipse, 14, 10), 255);
+        EXPECT_GT(alphaAt(ellipse, 50, 0), 128);
+        EXPECT_GT(alphaAt(ellipse, 0, 30), 128);
+    }
+}
+
+TEST(Shape, PolygonCornersStartAtTheRightAndAreCutToWholePixels) {
+    Watermark record = shape(shape_type::Polygon, 100.0F, 100.0F);
+    record.Sides = 4;
+    // Corners (100, 50), (49, 100), (0, 49), (50, 0): single precision puts two of the middles just below 50.
+    const QImage diamond = drawn(record);
+    EXPECT_GT(alphaAt(diamond, 97, 50), 200);
+    EXPECT_GT(alphaAt(diamond, 49, 97), 200);
+    EXPECT_GT(alphaAt(diamond, 48, 97), 200);
+    EXPECT_EQ(alphaAt(diamond, 51, 98), 0);
+    EXPECT_GT(alphaAt(diamond, 2, 48), 200);
+    EXPECT_EQ(alphaAt(diamond, 0, 51), 0);
+    EXPECT_EQ(alphaAt(diamond, 90, 90), 0);
+
+    record.Sides =
+        3;  // points right: (100, 50), (24, 93), (25, 6), the second again just below a whole pixel
+    const QImage triangle = drawn(record);
+    EXPECT_EQ(inkBox(triangle), QRect(24, 6, 75, 87));
+    EXPECT_GT(alphaAt(triangle, 24, 90), 200);
+    EXPECT_LT(alphaAt(triangle, 24, 9), 30);
+
+    record.Width = 101.0F;  // radii are cut as well: the last column stays free
+    EXPECT_EQ(alphaAt(drawn(record), 100, 50), 0);
+}
+
+TEST(Shape, GradientsRunFromEdgeToEdgeInTheirDirections) {
+    struct {
+        int type;
+        QPoint first;   // where the first colour is
+        QPoint second;  // where the second is
+        QPoint half;    // half-way between
+    } const rows[] = {
+        {0, {0, 40}, {99, 10}, {50, 5}},   {1, {0, 40}, {99, 10}, {50, 45}}, {2, {30, 49}, {70, 0}, {5, 25}},
+        {3, {99, 0}, {0, 49}, {50, 25}},   {4, {99, 49}, {0, 0}, {50, 25}},  {5, {50, 25}, {0, 0}, {25, 12}},
+        {77, {0, 40}, {99, 10}, {50, 25}},
+    };
+    Watermark record = shape(shape_type::Rectangle, 100.0F, 50.0F);
+    record.SolidBackground = false;
+    record.FirstColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+    record.SecondColor = Color{0.0F, 0.0F, 1.0F, 1.0F};
+    for (const auto& row : rows) {
+        record.GradeintType = row.type;
+        const QImage image = drawn(record);
+        const auto red = [&](QPoint p) { return at(image, p.x(), p.y()).red(); };
+        EXPECT_GE(red(row.first), 249) << row.type;  // a pixel's centre lies half a pixel inside the end
+        EXPECT_LE(red(row.second), 6) << row.type;
+        EXPECT_NEAR(red(row.half), 128, 5) << row.type;
+        EXPECT_EQ(at(image, row.half.x(), row.half.y()).green(), 0) << row.type;
+    }
+    // A diagonal's halves meet on the line square to its axis, not on the other diagonal of the box.
+    record.GradeintType = 3;
+    const QImage diagonal = drawn(record);
+    EXPECT_NEAR(at(diagonal, 65, 40).red(), at(diagonal, 35, 10).red(), 3);
+}
+
+TEST(Shape, APolygonsGradientSpansItsOwnBounds) {
+    Watermark record = shape(shape_type::Polygon, 100.0F, 100.0F);
+    record.Sides = 3;  // from 24 to 100 across
+    record.SolidBackground = false;
+    record.FirstColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+    record.SecondColor = Color{0.0F, 0.0F, 1.0F, 1.0F};
+    EXPECT_GE(at(drawn(record), 25, 50).red(), 248);
+}
+
+TEST(Shape, TurnsClockwiseAsSeenAndQuarterTurnsAreExact) {
+    Watermark record = shape(shape_type::Rectangle, 60.0F, 20.0F);
+    record.SolidBackground = false;
+    record.FirstColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+    record.SecondColor = Color{0.0F, 0.0F, 1.0F, 1.0F};
+    const QImage level = drawn(record);
+    struct {
+        int degrees;
+        QTransform turn;  // as Qt turns pictures: clockwise
+    } const rows[] = {
+        {90, QTransform().rotate(90)}, {180, QTransform().rotate(180)}, {-90, QTransform().rotate(-90)}};
+    for (const auto& row : rows) {
+        record.Rotation = row.degrees;
+        const QImage turned = drawn(record);
+        const QImage expected = level.transformed(row.turn);
+        ASSERT_EQ(turned.size(), expected.size()) << row.degrees;
+        int worst = 0;
+        for (int y = 0; y < turned.height(); ++y) {
+            for (int x = 0; x < turned.width(); ++x) {
+                worst = std::max(worst,
+                                 std::abs(turned.pixelColor(x, y).red() - expected.pixelColor(x, y).red()));
+                EXPECT_EQ(turned.pixelColor(x, y).alpha(), 255);
+            }
+        }
+        EXPECT_LE(worst, 2) << row.degrees;
+    }
+    record.Rotation = 360;
+    EXPECT_EQ(drawn(record), level);
+
+    record.Rotation = 30;  // the right end, blue, goes down
+    const QImage slanted = drawn(record);
+    EXPECT_EQ(slanted.size(), QSize(62, 48));  // 60 cos 30 + 20 sin 30 and 60 sin 30 + 20 cos 30, rounded up
+    EXPECT_GT(at(slanted, 55, 8).blue(), 200);
+    EXPECT_GT(at(slanted, 6, 39).red(), 200);
+    EXPECT_EQ(alphaAt(slanted, 55, 40), 0);
+}
+
+TEST(Shape, ACircleOfTheRecordDoesNotTurn) {
+    Watermark record = shape(shape_type::Ellipse, 50.0F, 50.0F);
+    record.Rotation = 45;
+    EXPECT_EQ(drawn(record).size(), QSize(50, 50));
+    record.ResizeWidthByPercent = true;  // drawn 100 wide, but its own sides are still equal
+    record.ResizeWidth = 0.1F;
+    EXPECT_EQ(drawn(record).size(), QSize(100, 50));
+    record.Height = 51.0F;
+    EXPECT_GT(drawn(record).height(), 100);
+}
+
+TEST(Shape, OpacityAndColorAlphaMultiply) {
+    Watermark record = shape(shape_type::Rectangle, 10.0F, 10.0F);
+    for (const int rotation : {0, 90}) {
+        record.Rotation = rotation;
+        record.SolidColor = Color{0.0F, 1.0F, 0.0F, 0.5F};
+        record.Transparency = 0.5F;
+        EXPECT_NEAR(alphaAt(drawn(record), 5, 5), 64, 1);
+        record.Transparency = 7.0F;
+        EXPECT_NEAR(alphaAt(drawn(record), 5, 5), 128, 1);
+        record.Transparency = std::numeric_limits<float>::quiet_NaN();
+        EXPECT_EQ(alphaAt(drawn(record), 5, 5), 0);
+    }
+}
+
+TEST(Shape, WhatHasNoAreaGivesNoPicture) {
+    constexpr float Nan = std::numeric_limits<float>::quiet_NaN();
+    for (const float side : {0.0F, -3.0F, Nan, 1e9F, std::numeric_limits<float>::infinity()}) {
+        EXPECT_TRUE(drawn(shape(shape_type::Rectangle, side, 10.0F)).isNull()) << side;
+        EXPECT_TRUE(drawn(shape(shape_type::Ellipse, 10.0F, side)).isNull()) << side;
+    }
+    Watermark polygon = shape(shape_type::Polygon, 40.0F, 40.0F);
+    for (const std::int64_t sides :
+         {std::numeric_limits<std::int64_t>::min(), std::int64_t{0}, std::int64_t{2}}) {
+        polygon.Sides = sides;
+        EXPECT_TRUE(drawn(polygon).isNull()) << sides;
+    }
+    polygon.Sides = std::numeric_limits<std::int64_t>::max();
+    EXPECT_EQ(alphaAt(drawn(polygon), 20, 20), 255);
+}
+
+}  // namespace
+}  // namespace zelto
