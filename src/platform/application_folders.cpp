@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/application_folders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace zelto {
+
+Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, const QString& relativePath) {
+    const QString path = QDir::cleanPath(QStandardPaths::writableLocation(kind) + u'/' + relativePath);
+    if (!QDir().mkpath(path)) {
+        return fail(ErrorCode::CannotWrite, QStringLiteral("The folder \"%1\" cannot be made.").arg(path),
+                    path);
+    }
+    return path + u'/';
+}
+
+Result<QString> applicationFolder(QLatin1String relativePath) {
+    return findOrCreateDirectory(QStandardPaths::GenericDataLocation, relativePath);
+}
+
+QString resourceFolder() {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zelto"));
+}
+
+}  // namespace zelto

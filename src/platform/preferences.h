@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The user's small persistent choices, kept from one start to the next. Any thread.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+#include <type_traits>
+
+namespace zelto {
+
+// A key and the type of what it holds.
+template <class Value>
+struct Preference {
+    QLatin1String key;
+};
+
+// Every key there is.
+namespace preference {
+inline constexpr Preference<bool> ShowTips{QLatin1String("ShowTips")};
+inline constexpr Preference<bool> FirstRun{QLatin1String("FirstRun")};
+inline constexpr Preference<QString> SettingDirectory{QLatin1String("SettingDirectory")};
+inline constexpr Preference<QString> AutoLoadSetting{QLatin1String("AutoLoadSetting")};  // a setting's name
+inline constexpr Preference<QString> LastImageDirectory{QLatin1String("LastImageDirectory")};
+inline constexpr Preference<QString> LastOutDirectory{QLatin1String("LastOutDirectory")};
+inline constexpr Preference<QByteArray> LastOutDirectoryData{QLatin1String("LastOutDirectoryData")};
+inline constexpr Preference<qint64> LastAutoNumber{QLatin1String("LastAutoNumber")};
+inline constexpr Preference<QString> LastDateFormat{QLatin1String("LastDateFormat")};
+inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
+inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
+}  // namespace preference
+
+namespace detail {
+QVariant preferenceValue(QLatin1String key);
+void setPreferenceValue(QLatin1String key, const QVariant& value);  // an invalid value removes the key
+}  // namespace detail
+
+// What is stored; nothing where there is none.
+template <class Value>
+std::optional<Value> storedPreference(const Preference<Value>& preference) {
+    const QVariant value = detail::preferenceValue(preference.key);
+    if (!value.isValid() || !value.canConvert<Value>()) return std::nullopt;
+    return value.value<Value>();
+}
+
+template <class Value>
+void setPreference(const Preference<Value>& preference, const std::type_identity_t<Value>& value) {
+    detail::setPreferenceValue(preference.key, QVariant::fromValue(value));
+}
+
+template <class Value>
+void removePreference(const Preference<Value>& preference) {
+    detail::setPreferenceValue(preference.key, {});
+}
+
+// Makes sure that what was set is on disk.
+void flushPreferences();
+
+}  // namespace zelto

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/preferences.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+TEST(Preferences, ComeBackWithTheirTypeFromTheUsersOwnFile) {
+    EXPECT_EQ(storedPreference(preference::ShowTips), std::nullopt);
+    const QByteArray bytes("\x00\xFF;=\n", 5);
+    const QString text = QStringLiteral("a=b;\"c\", %1\n") + QChar(0xE9);
+    setPreference(preference::ShowTips, false);
+    setPreference(preference::LastAutoNumber, qint64{1} << 40);
+    setPreference(preference::AutoLoadSetting, text);
+    setPreference(preference::LastOutDirectoryData, bytes);
+    flushPreferences();
+
+    QFile file(QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")) + QStringLiteral("/Zelto/Zelto.ini"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray stored = file.readAll();
+    ASSERT_TRUE(stored.contains("ShowTips=false\n")) << stored.toStdString();
+    EXPECT_EQ(storedPreference(preference::ShowTips), false);
+    EXPECT_EQ(storedPreference(preference::LastAutoNumber), qint64{1} << 40);
+    EXPECT_EQ(storedPreference(preference::AutoLoadSetting), text);
+    EXPECT_EQ(storedPreference(preference::LastOutDirectoryData), bytes);
+
+    removePreference(preference::AutoLoadSetting);
+    EXPECT_EQ(storedPreference(preference::AutoLoadSetting), std::nullopt);
+}
+
+}  // namespace
+}  // namespace zelto
