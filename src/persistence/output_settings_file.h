@@ -14,7 +14,9 @@ namespace zelto {
 
 inline constexpr QLatin1String OutputSettingsFileName("OutputSettings.xml");
 
-// What the file holds: the options, and the size fields of the ways of resizing that are not chosen.
+// What the file holds: the options, and the size fields of both ways of resizing that have two. Those of the
+// way `options.ResizeType` chooses are the same as the options' own: on writing, the options' count; read,
+// both are set.
 struct OutputSettings {
     OutputOptions options;
     std::int64_t percentageWidth = 100;

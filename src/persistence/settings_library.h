@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The saved settings: one folder of setting files, each known by its file's name without the extension, which
+// may have any letter case. Reading and writing the files themselves is setting_file.h's. Any thread; two
+// programs may share the folder.
+#pragma once
+
+#include "platform/result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace zelto {
+
+// The setting every run keeps its stack under.
+inline constexpr QLatin1String LastWatermarkSetting("Last Watermark");
+
+class SettingsLibrary {
+  public:
+    // `folder` is the path of an existing folder, with or without "/" at its end.
+    explicit SettingsLibrary(QString folder);
+
+    // The names of all settings, sorted. Error: ErrorCode::NotFound when the folder cannot be read.
+    Result<QStringList> names() const;
+
+    // The path of the setting `name`: of its file where there is one, else of the file to be made for it.
+    // Error: ErrorCode::InvalidValue for a name that is empty, holds a path separator or is no file's name.
+    Result<QString> path(const QString& name) const;
+
+    // Whether there is a file for `name`; a folder of that name is none.
+    bool contains(const QString& name) const;
+
+    // Deletes the setting's file. Error: that of path(), ErrorCode::NotFound or ErrorCode::CannotWrite.
+    Result<void> remove(const QString& name) const;
+
+    // Copies every setting file of `folder` into the library, or the other way. A name that is taken gets the
+    // first number from 1 on that makes it free; no file is ever replaced. Returns how many were copied. One
+    // that cannot be copied does not keep the others from it. Error: ErrorCode::NotFound when either folder
+    // cannot be read, ErrorCode::InvalidValue when both are the same, ErrorCode::CannotWrite with the first
+    // file that failed.
+    Result<qsizetype> importFrom(const QString& folder) const;
+    Result<qsizetype> exportTo(const QString& folder) const;
+
+  private:
+    QString folder_;
+};
+
+}  // namespace zelto
