@@ -11,6 +11,7 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace zelto {
 namespace {
@@ -74,41 +75,45 @@ QByteArray deflatedAlpha(const QImage& picture) {
 
 }  // namespace
 
-Result<void> PdfDocument::addPage(const QImage& picture) {
+Result<PdfPage> encodePdfPage(const QImage& picture) {
     if (picture.isNull()) {
         return fail(ErrorCode::InvalidValue, QStringLiteral("A picture without pixels cannot be a page."));
     }
-    const bool transparent = hasTransparentPixels(picture);
-    const Result<QByteArray> colours = encodeJpegColours(picture, PictureQuality);
-    if (!colours) return tl::unexpected(colours.error());
+    Result<QByteArray> colours = encodeJpegColours(picture, PictureQuality);
+    if (!colours) return tl::unexpected(std::move(colours.error()));
+    return PdfPage{picture.size(), std::move(*colours),
+                   hasTransparentPixels(picture) ? deflatedAlpha(picture) : QByteArray()};
+}
+
+Result<void> PdfDocument::addPage(const PdfPage& page) {
+    const bool transparent = !page.alpha.isEmpty();
     if (offsets_.empty()) {
         offsets_.resize(PageTreeObject);
         write("%PDF-1.6\n%\xe2\xe3\xcf\xd3\n");
     }
-    const int page = newObject();
+    const int pageObject = newObject();
     const int content = newObject();
     const int image = newObject();
-    QByteArray imageEntries = imageDictionary(picture.size(), "DeviceRGB", "DCTDecode");
+    QByteArray imageEntries = imageDictionary(page.size, "DeviceRGB", "DCTDecode");
     if (transparent) {
         const int mask = newObject();
-        writeStream(mask, imageDictionary(picture.size(), "DeviceGray", "FlateDecode"),
-                    deflatedAlpha(picture));
+        writeStream(mask, imageDictionary(page.size, "DeviceGray", "FlateDecode"), page.alpha);
         imageEntries += " /SMask " + reference(mask);
     }
-    writeStream(image, imageEntries, *colours);
+    writeStream(image, imageEntries, page.colours);
 
-    const double unit = std::max(1.0, std::max(picture.width(), picture.height()) / LargestPageUnits);
-    const QByteArray width = number(picture.width() / unit);
-    const QByteArray height = number(picture.height() / unit);
+    const double unit = std::max(1.0, std::max(page.size.width(), page.size.height()) / LargestPageUnits);
+    const QByteArray width = number(page.size.width() / unit);
+    const QByteArray height = number(page.size.height() / unit);
     writeStream(content, {}, width + " 0 0 " + height + " 0 0 cm /Picture Do");
-    begin(page);
+    begin(pageObject);
     write("<< /Type /Page /Parent " + reference(PageTreeObject) + " /MediaBox [0 0 " + width + ' ' + height +
           ']');
     if (unit > 1.0) write(" /UserUnit " + number(unit));
     if (transparent) write(" /Group << /S /Transparency /CS /DeviceRGB >>");
     write(" /Resources << /XObject << /Picture " + reference(image) + " >> >> /Contents " +
           reference(content) + " >>\nendobj\n");
-    pages_.push_back(page);
+    pages_.push_back(pageObject);
     return outcome();
 }
 

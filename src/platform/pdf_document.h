@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A PDF of pictures, one a page. Each page is written out as it is added, so a document of a thousand photos
-// costs no more memory than its largest page, compressed. Where the bytes go is the caller's: a buffer, or a
+// costs no more memory than its largest page, compressed. Compressing a page is most of the work and may be
+// done ahead, on any thread. Where the bytes go is the caller's: a buffer, or a
 // WholeFile, which makes abandoning an unfinished document safe. One document is used by one thread at a
 // time.
 //
@@ -11,13 +12,28 @@
 
 #include "platform/result.h"
 
+#include <QByteArray>
 #include <QImage>
+#include <QSize>
 
 #include <vector>
 
 class QIODevice;
 
 namespace zelto {
+
+// A picture made ready to be a page.
+struct PdfPage {
+    QSize size;          // pixels
+    QByteArray colours;  // a JPEG file
+    QByteArray alpha;    // one byte a pixel as a zlib stream; empty for an opaque picture
+
+    qint64 bytes() const { return colours.size() + alpha.size(); }
+};
+
+// The page of `picture` (RGB32 or premultiplied ARGB32). Error: ErrorCode::InvalidValue for a picture without
+// pixels or with a side over 65,500 pixels. Any thread.
+Result<PdfPage> encodePdfPage(const QImage& picture);
 
 class PdfDocument {
   public:
@@ -26,11 +42,9 @@ class PdfDocument {
     PdfDocument(const PdfDocument&) = delete;
     PdfDocument& operator=(const PdfDocument&) = delete;
 
-    // Adds a page of the picture's size, one point a pixel, and draws the picture (RGB32 or premultiplied
-    // ARGB32) over all of it. Error: ErrorCode::InvalidValue for a picture without pixels or with a side over
-    // 65,500 pixels: the page is left out and the document may go on; ErrorCode::CannotWrite: nothing more
-    // can be added.
-    Result<void> addPage(const QImage& picture);
+    // Adds a page of the picture's size, one point a pixel, and draws the picture over all of it. Error:
+    // ErrorCode::CannotWrite: nothing more can be added.
+    Result<void> addPage(const PdfPage& page);
 
     // Completes the document. Without it, what was written is no PDF. ErrorCode::InvalidValue for one without
     // pages.

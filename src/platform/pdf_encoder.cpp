@@ -11,7 +11,9 @@ Result<QByteArray> encodePdf(const QImage& picture, const EncodeOptions&) {
     buffer.open(QIODevice::WriteOnly);
     PdfDocument document(buffer);
     const Result<void> written =
-        document.addPage(picture).and_then([&document] { return document.finish(); });
+        encodePdfPage(picture)
+            .and_then([&document](const PdfPage& page) { return document.addPage(page); })
+            .and_then([&document] { return document.finish(); });
     if (!written) return tl::unexpected(written.error());
     return buffer.data();
 }
