@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/batch_run.h"
+
+#include "batch/output_name.h"
+
+#include <QDateTime>
+#include <QLoggingCategory>
+
+#include <exception>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(batchLog, "zelto.batch")
+
+// The streak of failures at which the user is asked.
+constexpr int FailuresToAskAt = 3;
+
+// Runs a step that may throw, whose failure is only worth a line in the log.
+template <class Step>
+void attempt(const char* what, Step step) {
+    try {
+        step();
+    } catch (const std::exception& exception) {
+        qCWarning(batchLog, "%s: exception = %s", what, exception.what());
+    }
+}
+
+Error asError(const std::exception& exception) {
+    return {ErrorCode::CannotWrite, QString::fromLocal8Bit(exception.what()), {}};
+}
+
+}  // namespace
+
+// What a run keeps from its start to its end, pauses included.
+struct BatchRun::Job {
+    BatchRequest request;
+    std::unique_ptr<PhotoProcessor> processor;
+    std::size_t NextImageNumberForProcessing = 0;
+};
+
+// One worker: from a start or a resume to the next pause or the end.
+class BatchRun::Worker {
+  public:
+    Worker(BatchRun& run, Job& job, std::stop_token stop)
+        : run_(run), observer_(run.observer_), job_(job), request_(job.request), stop_(std::move(stop)) {}
+
+    void StartOrContinueWatermarking(bool resumed);
+
+  private:
+    std::optional<PhotoTask> nextTask();
+    RunEnd processPhotos();
+    void UpdateImage(std::size_t row, LookAhead& ahead);
+    void recordOutcome(PhotoOutcome outcome);
+    std::optional<RunEnd> askWhetherToGoOn();
+    std::optional<RunEnd> interruption();
+    void finishCombinedPdf();
+    void end(RunEnd how);
+
+    BatchRun& run_;
+    BatchObserver& observer_;
+    Job& job_;
+    const BatchRequest& request_;
+    const std::stop_token stop_;
+
+    FolderDestinations destinations_;
+    std::size_t nextToPrepare_ = 0;
+    RunReport report_;
+    int SuccessiveFail_ = 0;
+    bool asked_ = false;  // about the present streak of failures
+};
+
+void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
+    observer_.runStarted(resumed);
+    if (request_.saveLastWatermark) attempt("saving the last watermark", request_.saveLastWatermark);
+    const OutputOptions& options = request_.options;
+    destinations_ = request_.folders;
+    if (options.KeepDirectoryStructure && !options.CombineToSinglePDF) {
+        report_.OutPutImageList = resolveDestinations(destinations_, options.OutputPath);
+    }
+    nextToPrepare_ = job_.NextImageNumberForProcessing;
+    const RunEnd how = processPhotos();
+    if (how == RunEnd::Finished) finishCombinedPdf();
+    attempt("waiting for metadata", [this] { job_.processor->settle(); });
+    end(how);
+}
+
+std::optional<PhotoTask> BatchRun::Worker::nextTask() {
+    while (nextToPrepare_ < request_.photos.size()) {
+        const std::size_t row = nextToPrepare_++;
+        const BatchPhoto& photo = request_.photos[row];
+        if (!photo.checked) continue;
+        const auto place = static_cast<qint64>(row);
+        const QDateTime now = QDateTime::currentDateTime();
+        return PhotoTask{place, static_cast<qint64>(request_.photos.size()), photo.path,
+                         outputPath({photo.path, place, now.date()}, request_.options, destinations_), now};
+    }
+    return std::nullopt;
+}
+
+RunEnd BatchRun::Worker::processPhotos() {
+    LookAhead ahead(
+        *job_.processor, [this] { return nextTask(); }, request_.limits);
+    for (std::size_t i = job_.NextImageNumberForProcessing; i < request_.photos.size(); ++i) {
+        if (SuccessiveFail_ == FailuresToAskAt && !asked_) {
+            if (const auto how = askWhetherToGoOn()) return *how;
+        }
+        if (stop_.stop_requested()) return RunEnd::Cancelled;
+        if (request_.photos[i].checked) {
+            UpdateImage(i, ahead);
+            if (const auto how = interruption()) return *how;
+        }
+        job_.NextImageNumberForProcessing = i + 1;
+        observer_.progressed(static_cast<qint64>(i) + 1);
+    }
+    return RunEnd::Finished;
+}
+
+// Writes one photo and records how that went.
+void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
+    observer_.photoStarted(static_cast<qint64>(row));
+    std::optional<LookAhead::Ready> ready = ahead.take();
+    const PhotoTask& task = ready->task;
+    PhotoOutcome outcome{task.row, task.source, {}, {}, {}, {}};
+    Result<void> written;
+    if (ready->photo) {
+        outcome.size = ready->photo->size;
+        outcome.output = ready->photo->page ? QString() : task.output;
+        const std::optional<qint64> lastAutoNumber = ready->photo->lastAutoNumber;
+        try {
+            written = job_.processor->commit(task, std::move(*ready->photo));
+        } catch (const std::exception& exception) {
+            written = tl::unexpected(asError(exception));
+        }
+        if (written && lastAutoNumber && request_.storeLastAutoNumber) {
+            attempt("storing the last number", [&] { request_.storeLastAutoNumber(*lastAutoNumber); });
+        }
+    } else {
+        written = tl::unexpected(ready->photo.error());
+    }
+    ready.reset();
+    ahead.release();
+    if (!written) {
+        const Error& error = written.error();
+        outcome.error = error.code == ErrorCode::Damaged ? error.message : QString(WatermarkingFailedMessage);
+        outcome.reason = error.message;
+    }
+    recordOutcome(std::move(outcome));
+}
+
+void BatchRun::Worker::recordOutcome(PhotoOutcome outcome) {
+    const OutputOptions& options = request_.options;
+    asked_ = false;
+    if (outcome.succeeded()) {
+        SuccessiveFail_ = 0;
+        if (!options.CombineToSinglePDF && !options.KeepDirectoryStructure) {
+            report_.OutPutImageList.append(outcome.output);
+        }
+    } else {
+        ++SuccessiveFail_;
+        report_.ProcessResult = false;
+    }
+    observer_.photoFinished(outcome);
+}
+
+// Waits for the user's answer, or for a cancel; nothing when the run goes on.
+std::optional<RunEnd> BatchRun::Worker::askWhetherToGoOn() {
+    asked_ = true;
+    {
+        const std::lock_guard lock(run_.mutex_);
+        if (stop_.stop_requested()) return RunEnd::Cancelled;
+        run_.answer_.reset();
+        run_.state_ = State::Asking;
+    }
+    observer_.successiveFail();
+    std::unique_lock lock(run_.mutex_);
+    run_.changed_.wait(lock, stop_, [this] { return run_.answer_.has_value(); });
+    // From the moment of a cancel on, the state speaks of the next run.
+    if (stop_.stop_requested()) return RunEnd::Cancelled;
+    run_.state_ = *run_.answer_ ? State::Running : State::Stopped;
+    return *run_.answer_ ? std::nullopt : std::optional(RunEnd::Stopped);
+}
+
+// What a user asked for while the photo in hand was written. The state changes with the decision, so that a
+// resume right after it starts a worker.
+std::optional<RunEnd> BatchRun::Worker::interruption() {
+    const std::lock_guard lock(run_.mutex_);
+    if (stop_.stop_requested()) return RunEnd::Cancelled;
+    if (!run_.PauseProcessing_) return std::nullopt;
+    run_.state_ = State::Paused;
+    return RunEnd::Paused;
+}
+
+void BatchRun::Worker::finishCombinedPdf() {
+    Result<QString> path;
+    try {
+        path = job_.processor->finishCombinedPdf();
+    } catch (const std::exception& exception) {
+        path = tl::unexpected(asError(exception));
+    }
+    if (!path) {
+        qCWarning(batchLog, "exception = %s", qUtf8Printable(path.error().message));
+        observer_.combinedPdfFailed(path.error().message);
+    } else if (!path->isEmpty()) {
+        report_.combinedPdf = *path;
+        report_.OutPutImageList.append(*path);
+    }
+}
+
+void BatchRun::Worker::end(RunEnd how) {
+    if (how == RunEnd::Finished) {
+        const std::lock_guard lock(run_.mutex_);
+        if (!stop_.stop_requested()) {
+            run_.state_ = State::Idle;
+            run_.job_.reset();
+        }
+    }
+    report_.end = how;
+    observer_.runEnded(report_);
+}
+
+BatchRun::~BatchRun() {
+    CancelProcessingAction();
+    // The thread uses the other members, so it is joined before any of them goes.
+    thread_ = {};
+}
+
+bool BatchRun::ProcessImaging(BatchRequest request, std::unique_ptr<PhotoProcessor> processor) {
+    const std::lock_guard lock(mutex_);
+    if (state_ != State::Idle && state_ != State::Stopped) return false;
+    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor)});
+    launch(false);
+    return true;
+}
+
+void BatchRun::PauseOrResumeProcessingAction() {
+    const std::lock_guard lock(mutex_);
+    PauseProcessing_ = !PauseProcessing_;
+    const bool resumes = !PauseProcessing_ && (state_ == State::Paused || state_ == State::Stopped);
+    if (resumes) launch(true);
+}
+
+void BatchRun::CancelProcessingAction() {
+    const std::lock_guard lock(mutex_);
+    thread_.request_stop();
+    PauseProcessing_ = false;
+    state_ = State::Idle;
+    job_.reset();
+}
+
+void BatchRun::answerSuccessiveFail(bool goOn) {
+    const std::lock_guard lock(mutex_);
+    if (state_ == State::Asking) answer_ = goOn;
+    changed_.notify_all();
+}
+
+BatchRun::State BatchRun::state() const {
+    const std::lock_guard lock(mutex_);
+    return state_;
+}
+
+bool BatchRun::PauseProcessing() const {
+    const std::lock_guard lock(mutex_);
+    return PauseProcessing_;
+}
+
+void BatchRun::wait() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return workers_ == 0; });
+}
+
+void BatchRun::launch(bool resumed) {
+    state_ = State::Running;
+    ++workers_;
+    thread_ = std::jthread(
+        [this, resumed, job = job_, previous = std::move(thread_)](std::stop_token stop) mutable {
+            if (previous.joinable()) previous.join();
+            Worker(*this, *job, std::move(stop)).StartOrContinueWatermarking(resumed);
+            job.reset();
+            const std::lock_guard lock(mutex_);
+            --workers_;
+            changed_.notify_all();
+        });
+}
+
+}  // namespace zelto

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/look_ahead.h"
+
+#include "batch/path_parts.h"
+
+#include <QFileInfo>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+// Finished photos wait for a slow one before them as encoded files, which are small: the memory budget alone
+// would let thousands pile up while a run is asking its question.
+constexpr std::size_t PhotosInFlightPerJob = 8;
+
+// One name for one file, however it was reached; the path itself where there is no such folder.
+QString fileIdentity(const QString& path) {
+    const QFileInfo info(path);
+    if (const QString identity = info.canonicalFilePath(); !identity.isEmpty()) return identity;
+    const QString folder = QFileInfo(info.path()).canonicalFilePath();
+    return folder.isEmpty() ? path : joinedPath(folder, info.fileName());
+}
+
+Result<PreparedPhoto> prepared(PhotoProcessor& processor, const PhotoTask& task) {
+    try {
+        return processor.prepare(task);
+    } catch (const std::exception& exception) {
+        return fail(ErrorCode::InvalidValue, QString::fromLocal8Bit(exception.what()), task.source);
+    }
+}
+
+qint64 memoryNeeded(PhotoProcessor& processor, const PhotoTask& task) {
+    try {
+        return processor.memoryNeeded(task);
+    } catch (const std::exception&) {
+        return 0;  // preparing it will tell
+    }
+}
+
+}  // namespace
+
+LookAheadLimits LookAheadLimits::forThisMachine() {
+    const qint64 memory = qint64{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
+    return {static_cast<int>(std::max(1U, std::thread::hardware_concurrency())),
+            std::max<qint64>(memory / 4, 0)};
+}
+
+LookAhead::LookAhead(PhotoProcessor& processor, std::function<std::optional<PhotoTask>()> nextTask,
+                     LookAheadLimits limits)
+    : processor_(processor), nextTask_(std::move(nextTask)), limits_(limits) {
+    for (int i = 0; i < limits_.jobs; ++i) {
+        threads_.emplace_back([this](std::stop_token stop) { work(std::move(stop)); });
+    }
+}
+
+LookAhead::~LookAhead() {
+    // All are told before the first is waited for.
+    for (std::jthread& thread : threads_) thread.request_stop();
+}
+
+std::optional<LookAhead::Ready> LookAhead::take() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock,
+                  [this] { return inFlight_.empty() ? exhausted_ : inFlight_.front().result.has_value(); });
+    if (inFlight_.empty()) return std::nullopt;
+    Slot& first = inFlight_.front();
+    return Ready{first.task, std::move(*first.result)};
+}
+
+void LookAhead::release() {
+    const std::lock_guard lock(mutex_);
+    bytesInFlight_ -= inFlight_.front().bytes;
+    inFlight_.pop_front();
+    changed_.notify_all();
+}
+
+void LookAhead::work(std::stop_token stop) {
+    while (Slot* const slot = admit(stop)) {
+        Result<PreparedPhoto> result = prepared(processor_, slot->task);
+        const std::lock_guard lock(mutex_);
+        const qint64 held = result ? result->bytes() : 0;
+        bytesInFlight_ += held - slot->bytes;
+        slot->bytes = held;
+        slot->result.emplace(std::move(result));
+        changed_.notify_all();
+    }
+}
+
+// The slot of the next photo, once there is room for it; null when there is none or the thread is to end.
+// Others queue behind the one thread in here, so that a large photo is not overtaken by small ones for ever.
+LookAhead::Slot* LookAhead::admit(std::stop_token stop) {
+    const std::lock_guard turn(admission_);
+    if (stop.stop_requested()) return nullptr;
+    std::optional<PhotoTask> task = nextTask_();
+    const qint64 bytes = task ? memoryNeeded(processor_, *task) : 0;
+    const QString sourceFile = task ? fileIdentity(task->source) : QString();
+    const QString outputFile = task ? fileIdentity(task->output) : QString();
+
+    std::unique_lock lock(mutex_);
+    if (!task) {
+        exhausted_ = true;
+        changed_.notify_all();
+        return nullptr;
+    }
+    if (!changed_.wait(lock, stop, [&] { return hasRoomFor(bytes, sourceFile); })) return nullptr;
+    bytesInFlight_ += bytes;
+    // A deque keeps its other elements where they are when one is added or removed at an end.
+    return &inFlight_.emplace_back(Slot{std::move(*task), outputFile, bytes, std::nullopt});
+}
+
+bool LookAhead::hasRoomFor(qint64 bytes, const QString& sourceFile) const {
+    if (inFlight_.empty()) return true;
+    if (inFlight_.size() >= static_cast<std::size_t>(limits_.jobs) * PhotosInFlightPerJob) return false;
+    if (bytesInFlight_ + bytes > limits_.memoryBudget) return false;
+    return std::none_of(inFlight_.begin(), inFlight_.end(),
+                        [&](const Slot& slot) { return slot.outputFile == sourceFile; });
+}
+
+}  // namespace zelto

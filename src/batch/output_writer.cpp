@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/output_writer.h"
+
+#include "batch/output_name.h"
+#include "batch/output_size.h"
+#include "batch/path_parts.h"
+#include "platform/picture_reader.h"
+#include "platform/picture_writer.h"
+#include "platform/resample.h"
+#include "platform/whole_file.h"
+#include "render/composition.h"
+#include "render/photo_scene.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+constexpr qint64 BytesPerPixel = 4;
+
+qint64 pixelCount(QSize size) {
+    return qint64{size.width()} * size.height();
+}
+
+bool isPageOfCombinedPdf(PictureFormat format, const OutputOptions& options) {
+    return format == PictureFormat::Pdf && options.CombineToSinglePDF;
+}
+
+}  // namespace
+
+struct OutputWriter::CombinedPdf {
+    explicit CombinedPdf(WholeFile startedFile) : file(std::move(startedFile)), document(file.device()) {}
+
+    WholeFile file;
+    PdfDocument document;
+};
+
+OutputWriter::OutputWriter(Settings settings) : settings_(std::move(settings)) {}
+
+OutputWriter::~OutputWriter() = default;
+
+qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
+    const Result<QSize> photo = readPictureSize(task.source);
+    if (!photo) return 0;
+    // The photo and, at its worst moment, a second picture made from it; a frame makes a larger third one.
+    const qint64 pictures = settings_.stack->Effects ? 3 : 2;
+    const QSize written = outputSize(*photo, settings_.options);
+    const qint64 resized =
+        settings_.options.ResizeImage ? std::min(pixelCount(written), MaximumPicturePixels) : 0;
+    return (pixelCount(*photo) * pictures + resized) * BytesPerPixel;
+}
+
+Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
+    Result<PhotoScene> scene = buildPhotoScene(PhotoRequest{.path = task.source,
+                                                            .row = task.row,
+                                                            .listSize = task.listSize,
+                                                            .batchRunning = true,
+                                                            .final = true,
+                                                            .now = task.now,
+                                                            .locale = settings_.locale,
+                                                            .stack = settings_.stack});
+    if (!scene) return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
+
+    const OutputOptions& options = settings_.options;
+    const auto format = pictureFormatForExtension(pathExtension(lastPathComponent(task.output)));
+    if (!format) {
+        return fail(ErrorCode::Unsupported,
+                    QStringLiteral("“%1” has no extension of a format that can be written.").arg(task.output),
+                    task.output);
+    }
+    const QSize size = outputSize(scene->photoSize, options);
+    if (size.isEmpty() || pixelCount(size) > MaximumPicturePixels) {
+        return fail(ErrorCode::InvalidValue,
+                    QStringLiteral("A size of %1 × %2 pixels cannot be written.")
+                        .arg(size.width())
+                        .arg(size.height()),
+                    task.source);
+    }
+
+    PreparedPhoto photo;
+    photo.dpi = scene->dpiX;
+    photo.lastAutoNumber = scene->lastAutoNumber;
+    const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
+                                 scene->dpiX, scene->dpiY};
+    QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
+    if (options.ResizeImage) picture = resizedImage(picture, size);
+    photo.size = picture.size();
+    if (isPageOfCombinedPdf(*format, options)) {
+        Result<PdfPage> page = encodePdfPage(picture);
+        if (!page) return tl::unexpected(std::move(page.error()));
+        photo.page = std::move(*page);
+    } else {
+        Result<QByteArray> file = encodePicture(picture, *format, encoding);
+        if (!file) return tl::unexpected(std::move(file.error()));
+        photo.file = std::move(*file);
+    }
+    return photo;
+}
+
+Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
+    if (photo.page) return addPage(*photo.page);
+    // Only a kept structure makes folders; where one cannot be made, writing the file tells.
+    if (settings_.options.KeepDirectoryStructure) QDir().mkpath(withoutLastPathComponent(task.output));
+    return writeWholeFile(task.output, photo.file);
+}
+
+Result<void> OutputWriter::addPage(const PdfPage& page) {
+    if (!combinedPdf_) {
+        Result<WholeFile> file = WholeFile::startIn(settings_.options.OutputPath);
+        if (!file) return tl::unexpected(std::move(file.error()));
+        combinedPdf_ = std::make_unique<CombinedPdf>(*std::move(file));
+    }
+    return combinedPdf_->document.addPage(page);
+}
+
+Result<QString> OutputWriter::finishCombinedPdf() {
+    const std::unique_ptr<CombinedPdf> pdf = std::move(combinedPdf_);
+    if (!pdf) return QString();
+    const QString path = combinedPdfPath(settings_.options.OutputPath);
+    return pdf->document.finish().and_then([&] { return pdf->file.commit(path); }).map([&] { return path; });
+}
+
+void OutputWriter::settle() {}
+
+}  // namespace zelto

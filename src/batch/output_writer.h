@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Turns photos into their watermarked output files, or into the pages of one combined PDF: the scene is
+// composed, resized and encoded in prepare(), and written in commit(), a whole file or none.
+#pragma once
+
+#include "batch/photo_processor.h"
+#include "records/output_options.h"
+#include "records/watermark_stack.h"
+
+#include <QLocale>
+
+#include <memory>
+
+namespace zelto {
+
+class OutputWriter : public PhotoProcessor {
+  public:
+    struct Settings {
+        OutputOptions options;
+        std::shared_ptr<const WatermarkStack> stack;
+        QLocale locale;
+    };
+
+    explicit OutputWriter(Settings settings);
+    ~OutputWriter() override;
+
+    qint64 memoryNeeded(const PhotoTask& task) override;
+    Result<PreparedPhoto> prepare(const PhotoTask& task) override;
+    Result<void> commit(const PhotoTask& task, PreparedPhoto photo) override;
+    // An unfinished PDF leaves no file.
+    Result<QString> finishCombinedPdf() override;
+    void settle() override;
+
+  private:
+    struct CombinedPdf;
+
+    Result<void> addPage(const PdfPage& page);
+
+    const Settings settings_;
+    std::unique_ptr<CombinedPdf> combinedPdf_;
+};
+
+}  // namespace zelto

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a run does with one photo, in two steps: preparing it, which only computes and may go ahead on any
+// thread, and committing it, which writes and happens in list order. OutputWriter is the one that writes
+// watermarked photos.
+#pragma once
+
+#include "platform/pdf_document.h"
+#include "platform/result.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QSize>
+#include <QString>
+
+#include <optional>
+
+namespace zelto {
+
+// One photo of a run.
+struct PhotoTask {
+    qint64 row = 0;       // in the photo list, from 0
+    qint64 listSize = 1;  // photos in the list
+    QString source;
+    QString output;  // the path to write; of no meaning for a page of the combined PDF
+    QDateTime now;   // the moment its dates speak of
+};
+
+// A photo that only has to be written.
+struct PreparedPhoto {
+    QSize size;  // written pixels
+    double dpi = 72.0;
+    QByteArray file;                       // the complete file, or
+    std::optional<PdfPage> page;           // a page of the combined PDF
+    std::optional<qint64> lastAutoNumber;  // the running number to remember once the photo is committed
+
+    qint64 bytes() const { return file.size() + (page ? page->bytes() : 0); }
+};
+
+class PhotoProcessor {
+  public:
+    virtual ~PhotoProcessor() = default;
+
+    // A generous guess of the bytes prepare() will hold at its peak. Any thread.
+    virtual qint64 memoryNeeded(const PhotoTask& task) = 0;
+
+    // Several photos are prepared at once, on any thread. An error of ErrorCode::Damaged has a message for
+    // the user; every other is told as a general failure. May throw, which is a failure as well.
+    virtual Result<PreparedPhoto> prepare(const PhotoTask& task) = 0;
+
+    // Writes the photo. One call at a time, in list order; errors as prepare().
+    virtual Result<void> commit(const PhotoTask& task, PreparedPhoto photo) = 0;
+
+    // Completes the combined PDF and returns its path; an empty one when there is none to complete. Called
+    // once, after the last commit of a run that was not broken off. May throw.
+    virtual Result<QString> finishCombinedPdf() = 0;
+
+    // Returns when every file committed so far is as it will stay.
+    virtual void settle() = 0;
+};
+
+}  // namespace zelto

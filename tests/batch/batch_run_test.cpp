@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The run as a state machine: photos that do as they are told, an observer that presses the buttons at given
+// moments, and the order of events that must come out of it.
+#include "batch/batch_run.h"
+
+#include <QMap>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+namespace zelto {
+namespace {
+
+using State = BatchRun::State;
+
+// One letter a photo: g good, d damaged, w cannot be written, p throws when prepared, c throws when
+// committed,
+// - unchecked, 9 the last one with a running number.
+class ScriptedProcessor : public PhotoProcessor {
+  public:
+    ScriptedProcessor(QString photos, QString pdf) : photos_(std::move(photos)), pdf_(std::move(pdf)) {}
+
+    qint64 memoryNeeded(const PhotoTask&) override { return 1; }
+    Result<PreparedPhoto> prepare(const PhotoTask& task) override {
+        switch (kind(task)) {
+            case 'd':
+                return fail(ErrorCode::Damaged, QStringLiteral("damaged"));
+            case 'p':
+                throw std::runtime_error("prepare");
+            default:
+                break;
+        }
+        PreparedPhoto photo;
+        if (!pdf_.isNull()) photo.page.emplace();
+        if (kind(task) == '9') photo.lastAutoNumber = 99;
+        return photo;
+    }
+    Result<void> commit(const PhotoTask& task, PreparedPhoto) override {
+        if (kind(task) == 'c') throw std::runtime_error("commit");
+        if (kind(task) == 'w') return fail(ErrorCode::CannotWrite, QStringLiteral("disk full"));
+        return {};
+    }
+    Result<QString> finishCombinedPdf() override {
+        if (pdf_ == QLatin1String("throw")) throw std::runtime_error("pdf");
+        return pdf_;
+    }
+    void settle() override {}
+
+  private:
+    char kind(const PhotoTask& task) const { return photos_.at(task.row).toLatin1(); }
+
+    const QString photos_;
+    const QString pdf_;
+};
+
+// Writes down what happens, and at a named event does what the script says.
+class ScriptedObserver : public BatchObserver {
+  public:
+    void runStarted(bool resumed) override {
+        note(resumed ? QStringLiteral("resume") : QStringLiteral("start"));
+    }
+    void photoStarted(qint64 row) override { happen(QStringLiteral("begin%1").arg(row)); }
+    void photoFinished(const PhotoOutcome& outcome) override {
+        note(QStringLiteral("%1%2").arg(outcome.row).arg(outcome.error));
+    }
+    void progressed(qint64 done) override {
+        happen(QStringLiteral("progress%1").arg(done));
+        lastProgress = done;
+    }
+    void successiveFail() override { note(QStringLiteral("ask")); }
+    void combinedPdfFailed(const QString& reason) override { note(QStringLiteral("nopdf:") + reason); }
+    void runEnded(const RunReport& report) override {
+        static const QMap<RunEnd, QString> names = {{RunEnd::Finished, QStringLiteral("finished")},
+                                                    {RunEnd::Paused, QStringLiteral("paused")},
+                                                    {RunEnd::Cancelled, QStringLiteral("cancelled")},
+                                                    {RunEnd::Stopped, QStringLiteral("stopped")}};
+        lastReport = report;
+        note(names.value(report.end));
+    }
+
+    QMap<QString, std::function<void()>> script;
+    QStringList log;
+    qint64 lastProgress = 0;
+    RunReport lastReport;
+
+  private:
+    void note(const QString& event) {
+        log.append(event);
+        happen(event);
+    }
+    // Each entry acts once, so that a photo written again does not pause again.
+    void happen(const QString& event) {
+        if (const auto action = script.take(event)) action();
+    }
+};
+
+class BatchRunTest : public ::testing::TestWithParam<int> {
+  protected:
+    BatchRequest request(const QString& photos) const {
+        BatchRequest request;
+        for (qsizetype i = 0; i < photos.size(); ++i) {
+            request.photos.push_back({QStringLiteral("/in/%1.jpg").arg(i), photos[i] != QLatin1Char('-')});
+        }
+        request.options.OutputPath = QStringLiteral("/out");
+        request.options.OutputFormat = QStringLiteral("png");
+        request.limits = {GetParam(), 100};
+        return request;
+    }
+    void start(const QString& photos, const QString& pdf = {}) {
+        ASSERT_TRUE(run.ProcessImaging(request(photos), std::make_unique<ScriptedProcessor>(photos, pdf)));
+    }
+    QString played(const QString& photos) {
+        observer.log.clear();
+        start(photos);
+        run.wait();
+        return observer.log.join(QLatin1Char(' '));
+    }
+    void at(const char* event, std::function<void()> action) {
+        observer.script.insert(QLatin1String(event), std::move(action));
+    }
+
+    ScriptedObserver observer;
+    BatchRun run{observer};
+    const std::function<void()> pause = [this] { run.PauseOrResumeProcessingAction(); };
+    const std::function<void()> cancel = [this] { run.CancelProcessingAction(); };
+    const std::function<void()> yes = [this] { run.answerSuccessiveFail(true); };
+    const std::function<void()> no = [this] { run.answerSuccessiveFail(false); };
+};
+
+INSTANTIATE_TEST_SUITE_P(Jobs, BatchRunTest, ::testing::Values(1, 4));
+
+TEST_P(BatchRunTest, WritesEveryCheckedPhotoInOrder) {
+    EXPECT_EQ(played(QStringLiteral("g-gg-")), QStringLiteral("start 0 2 3 finished"));
+    EXPECT_EQ(observer.lastProgress, 5) << "unchecked photos count";
+    EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
+    EXPECT_EQ(observer.lastReport.OutPutImageList,
+              QStringList({QStringLiteral("/out/0.png"), QStringLiteral("/out/2.png"),
+                           QStringLiteral("/out/3.png")}));
+    EXPECT_EQ(run.state(), State::Idle);
+
+    EXPECT_EQ(played(QStringLiteral("---")), QStringLiteral("start finished"));
+    EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
+    EXPECT_TRUE(observer.lastReport.OutPutImageList.isEmpty());
+}
+
+TEST_P(BatchRunTest, AFailureOfAnyStageIsThatPhotosAlone) {
+    EXPECT_EQ(played(QStringLiteral("gdgwgpgcg")),
+              QStringLiteral("start 0 1damaged 2 3%1 4 5%1 6 7%1 8 finished").arg(WatermarkingFailedMessage));
+    EXPECT_EQ(observer.lastReport.message(), FailureSummary);
+    EXPECT_EQ(observer.lastReport.OutPutImageList.size(), 5);
+}
+
+TEST_P(BatchRunTest, AsksOnceAStreakAfterThreeFailuresInARow) {
+    at("ask", [this] {
+        EXPECT_EQ(run.state(), State::Asking);
+        at("ask", yes);
+        yes();
+    });
+    EXPECT_EQ(played(QStringLiteral("ddgddd-ddgdddg")),
+              QStringLiteral("start 0damaged 1damaged 2 3damaged 4damaged 5damaged ask 7damaged 8damaged 9 "
+                             "10damaged 11damaged 12damaged ask 13 finished"));
+    EXPECT_EQ(played(QStringLiteral("gddd")), QStringLiteral("start 0 1damaged 2damaged 3damaged finished"))
+        << "nothing is left to go on with";
+}
+
+TEST_P(BatchRunTest, NoStopsWithoutASummaryAndANewRunMayStart) {
+    at("ask", no);
+    EXPECT_EQ(played(QStringLiteral("dddg")), QStringLiteral("start 0damaged 1damaged 2damaged ask stopped"));
+    EXPECT_EQ(run.state(), State::Stopped);
+    EXPECT_EQ(played(QStringLiteral("g")), QStringLiteral("start 0 finished"));
+}
+
+TEST_P(BatchRunTest, AResumedRunWritesThePhotoInHandAgainAndForgetsWhatCameBefore) {
+    at("begin4", pause);
+    at("paused", [this] {
+        EXPECT_EQ(run.state(), State::Paused);
+        EXPECT_EQ(observer.lastProgress, 4);
+        pause();
+    });
+    EXPECT_EQ(played(QStringLiteral("gdggggggg-")),
+              QStringLiteral("start 0 1damaged 2 3 4 paused resume 4 5 6 7 8 finished"));
+    EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
+    EXPECT_EQ(observer.lastReport.OutPutImageList.size(), 5);
+    EXPECT_EQ(observer.lastReport.OutPutImageList.first(), QStringLiteral("/out/4.png"));
+}
+
+TEST_P(BatchRunTest, APauseTakenBackBeforeThePhotoEndsChangesNothing) {
+    at("begin1", [this] {
+        pause();
+        pause();
+    });
+    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 2 finished"));
+}
+
+TEST_P(BatchRunTest, APauseWithoutEffectHoldsTheNextRunAfterItsFirstPhoto) {
+    at("progress1", pause);
+    EXPECT_EQ(played(QStringLiteral("g--")), QStringLiteral("start 0 finished"));
+    EXPECT_TRUE(run.PauseProcessing());
+    EXPECT_EQ(played(QStringLiteral("-gg")), QStringLiteral("start 1 paused"));
+    pause();
+    run.wait();
+    EXPECT_EQ(observer.log.mid(3).join(QLatin1Char(' ')), QStringLiteral("resume 1 2 finished"));
+}
+
+TEST_P(BatchRunTest, CancelEndsARunAfterThePhotoInHandWhateverItsState) {
+    at("begin1", cancel);
+    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 cancelled"));
+    at("progress2", cancel);
+    EXPECT_EQ(played(QStringLiteral("gg--")), QStringLiteral("start 0 1 cancelled"));
+    at("ask", cancel);
+    EXPECT_EQ(played(QStringLiteral("dddg")),
+              QStringLiteral("start 0damaged 1damaged 2damaged ask cancelled"));
+
+    at("begin0", pause);
+    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 paused"));
+    EXPECT_FALSE(run.ProcessImaging(request(QStringLiteral("g")), nullptr)) << "a paused run is not done";
+    cancel();
+    EXPECT_EQ(run.state(), State::Idle);
+    pause();  // a pause pressed now is one of the next run's
+    pause();
+    run.wait();
+    EXPECT_EQ(observer.log.size(), 3) << "nothing is left to resume";
+    EXPECT_EQ(played(QStringLiteral("gg")), QStringLiteral("start 0 1 finished"));
+}
+
+TEST_P(BatchRunTest, ARunStartedRightAfterACancelFollowsTheCancelledOne) {
+    at("begin1", [this] {
+        cancel();
+        start(QStringLiteral("gg"));
+    });
+    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 cancelled start 0 1 finished"));
+}
+
+TEST_P(BatchRunTest, GoingAwayEndsTheRun) {
+    {
+        BatchRun doomed(observer);
+        ASSERT_TRUE(
+            doomed.ProcessImaging(request(QStringLiteral("ddddg")),
+                                  std::make_unique<ScriptedProcessor>(QStringLiteral("ddddg"), QString())));
+    }
+    EXPECT_EQ(observer.log.last(), QStringLiteral("cancelled"));
+}
+
+TEST_P(BatchRunTest, TheCombinedPdfIsFinishedOnlyByARunThatFinishes) {
+    const auto playedPdf = [this](const QString& photos, const QString& pdf) {
+        BatchRequest combined = request(photos);
+        combined.options.OutputFormat = QStringLiteral("pdf");
+        combined.options.CombineToSinglePDF = true;
+        observer.log.clear();
+        EXPECT_TRUE(
+            run.ProcessImaging(std::move(combined), std::make_unique<ScriptedProcessor>(photos, pdf)));
+        run.wait();
+        return observer.log.last();
+    };
+    EXPECT_EQ(playedPdf(QStringLiteral("gg"), QStringLiteral("/out/a.pdf")), QStringLiteral("finished"));
+    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(QStringLiteral("/out/a.pdf")));
+    EXPECT_TRUE(observer.lastReport.opensCombinedPdf());
+
+    playedPdf(QStringLiteral("gg"), QStringLiteral("throw"));
+    EXPECT_TRUE(observer.log.contains(QStringLiteral("nopdf:pdf")));
+    EXPECT_TRUE(observer.lastReport.OutPutImageList.isEmpty());
+
+    at("begin1", cancel);
+    EXPECT_EQ(playedPdf(QStringLiteral("ggg"), QStringLiteral("/out/a.pdf")), QStringLiteral("cancelled"));
+    EXPECT_TRUE(observer.lastReport.combinedPdf.isEmpty());
+}
+
+TEST_P(BatchRunTest, AKeptStructureListsItsTopFoldersOnEveryStart) {
+    BatchRequest kept = request(QStringLiteral("gg"));
+    kept.options.KeepDirectoryStructure = true;
+    kept.folders = {{QStringLiteral("/in"), {}}, {QStringLiteral("/in/sub"), {}}};
+    at("begin0", pause);
+    at("paused", pause);
+    ASSERT_TRUE(
+        run.ProcessImaging(kept, std::make_unique<ScriptedProcessor>(QStringLiteral("gg"), QString())));
+    run.wait();
+    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(QStringLiteral("/out/in")));
+}
+
+TEST_P(BatchRunTest, TheStackIsSavedByEveryWorkerAndTheNumberOnceThePhotoIsWritten) {
+    int saved = 0;
+    std::vector<qint64> numbers;
+    BatchRequest asked = request(QStringLiteral("g9"));
+    asked.saveLastWatermark = [&] {
+        ++saved;
+        throw std::runtime_error("read-only home");
+    };
+    asked.storeLastAutoNumber = [&](qint64 number) {
+        EXPECT_FALSE(observer.log.contains(QStringLiteral("1")));
+        numbers.push_back(number);
+    };
+    at("begin0", pause);
+    at("paused", pause);
+    ASSERT_TRUE(
+        run.ProcessImaging(asked, std::make_unique<ScriptedProcessor>(QStringLiteral("g9"), QString())));
+    run.wait();
+    EXPECT_EQ(saved, 2);
+    EXPECT_THAT(numbers, ::testing::ElementsAre(99));
+    EXPECT_EQ(observer.log.last(), QStringLiteral("finished"));
+}
+
+}  // namespace
+}  // namespace zelto

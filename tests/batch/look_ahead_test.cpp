@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/look_ahead.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <stdexcept>
+
+namespace zelto {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Photo {
+    qint64 bytes = 1;
+    std::chrono::milliseconds duration = 0ms;
+    QString source = {};
+    QString output = {};
+};
+
+// Prepares photos that take their time and memory, and keeps account of both.
+class MeasuredProcessor : public PhotoProcessor {
+  public:
+    explicit MeasuredProcessor(std::vector<Photo> photos) : photos_(std::move(photos)) {}
+
+    qint64 memoryNeeded(const PhotoTask& task) override {
+        if (photo(task).bytes < 0) throw std::runtime_error("no size");
+        return photo(task).bytes;
+    }
+    Result<PreparedPhoto> prepare(const PhotoTask& task) override {
+        {
+            const std::lock_guard lock(mutex_);
+            begun_.push_back(task.row);
+            atWork_[task.row] = photo(task).bytes;
+            qint64 sum = 0;
+            for (const auto& [row, bytes] : atWork_) sum += bytes;
+            mostBytes_ = std::max(mostBytes_, sum);
+            mostPhotos_ = std::max(mostPhotos_, atWork_.size());
+            EXPECT_TRUE(photo(task).bytes <= budget || atWork_.size() == 1) << "row " << task.row;
+        }
+        std::this_thread::sleep_for(photo(task).duration);
+        const std::lock_guard lock(mutex_);
+        atWork_.erase(task.row);
+        PreparedPhoto prepared;
+        prepared.file = QByteArray::number(task.row);
+        return prepared;
+    }
+    Result<void> commit(const PhotoTask&, PreparedPhoto) override { return {}; }
+    Result<QString> finishCombinedPdf() override { return QString(); }
+    void settle() override {}
+
+    std::function<std::optional<PhotoTask>()> tasks() {
+        return [this]() -> std::optional<PhotoTask> {
+            if (next_ == photos_.size()) return std::nullopt;
+            const Photo& photo = photos_[next_];
+            return PhotoTask{static_cast<qint64>(next_++),
+                             static_cast<qint64>(photos_.size()),
+                             photo.source,
+                             photo.output,
+                             {}};
+        };
+    }
+    std::vector<qint64> begun() {
+        const std::lock_guard lock(mutex_);
+        return begun_;
+    }
+    qint64 mostBytes() const { return mostBytes_; }
+    std::size_t mostPhotos() const { return mostPhotos_; }
+
+    qint64 budget = 100;
+
+  private:
+    const Photo& photo(const PhotoTask& task) const { return photos_[static_cast<std::size_t>(task.row)]; }
+
+    const std::vector<Photo> photos_;
+    std::size_t next_ = 0;
+    std::mutex mutex_;
+    std::vector<qint64> begun_;
+    std::map<qint64, qint64> atWork_;
+    qint64 mostBytes_ = 0;
+    std::size_t mostPhotos_ = 0;
+};
+
+// The rows in the order they were handed out, each with the content that belongs to it.
+std::vector<qint64> takenRows(LookAhead& ahead) {
+    std::vector<qint64> rows;
+    while (auto ready = ahead.take()) {
+        EXPECT_EQ(ready->photo.value().file, QByteArray::number(ready->task.row));
+        rows.push_back(ready->task.row);
+        ahead.release();
+    }
+    return rows;
+}
+
+TEST(LookAhead, HandsOutInListOrderHoweverLongEachPhotoTakes) {
+    std::vector<Photo> photos;
+    std::vector<qint64> order;
+    for (qint64 row = 0; row < 60; ++row) {
+        photos.push_back({.bytes = 1, .duration = std::chrono::milliseconds((row * 7919) % 5)});
+        order.push_back(row);
+    }
+    for (const int jobs : {1, 2, 8}) {
+        MeasuredProcessor processor(photos);
+        LookAhead ahead(processor, processor.tasks(), {jobs, 100});
+        EXPECT_EQ(takenRows(ahead), order) << jobs << " jobs";
+        EXPECT_LE(processor.mostPhotos(), static_cast<std::size_t>(jobs));
+    }
+}
+
+TEST(LookAhead, KeepsToTheMemoryBudgetAndWorksOnALargerPhotoAlone) {
+    std::vector<Photo> photos(40, Photo{.bytes = 30, .duration = 1ms});
+    photos[3].bytes = 1000;
+    photos[20].bytes = 100;
+    photos[21].bytes = -1;  // a photo whose size cannot be told is still prepared
+    MeasuredProcessor processor(photos);
+    LookAhead ahead(processor, processor.tasks(), {4, processor.budget});
+    EXPECT_EQ(takenRows(ahead).size(), photos.size());
+    EXPECT_EQ(processor.mostBytes(), 1000);
+
+    photos[3].bytes = 30;
+    MeasuredProcessor evenProcessor(photos);
+    LookAhead evenAhead(evenProcessor, evenProcessor.tasks(), {4, evenProcessor.budget});
+    EXPECT_EQ(takenRows(evenAhead).size(), photos.size());
+    EXPECT_LE(evenProcessor.mostBytes(), evenProcessor.budget);
+}
+
+TEST(LookAhead, BeginsNoPhotoThatAnEarlierOneStillHasToWrite) {
+    MeasuredProcessor processor(
+        {{.source = QStringLiteral("/nowhere/a"), .output = QStringLiteral("/nowhere/b")},
+         {.source = QStringLiteral("/nowhere/c"), .output = QStringLiteral("/nowhere/c")},
+         {.source = QStringLiteral("/nowhere/b"), .output = QStringLiteral("/nowhere/d")}});
+    LookAhead ahead(processor, processor.tasks(), {4, 100});
+    ASSERT_TRUE(ahead.take());
+    std::this_thread::sleep_for(20ms);  // time for a photo to be begun too early
+    EXPECT_THAT(processor.begun(), ::testing::UnorderedElementsAre(0, 1));
+    ahead.release();
+    EXPECT_EQ(takenRows(ahead).size(), 2U);
+    EXPECT_EQ(processor.begun().back(), 2);
+}
+
+TEST(LookAhead, EndsEarlyWithoutPreparingTheRest) {
+    MeasuredProcessor processor(std::vector<Photo>(1000, Photo{.bytes = 1, .duration = 1ms}));
+    {
+        LookAhead ahead(processor, processor.tasks(), {2, 100});
+        ASSERT_TRUE(ahead.take());
+    }
+    EXPECT_LT(processor.begun().size(), 100U) << "and the rest is dropped";
+}
+
+}  // namespace
+}  // namespace zelto
