@@ -1,63 +1,85 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The drawable layer of one watermark record: where it lies in the reference area and what it shows. Plain values,
-// shared freely between threads. All geometry is in photo pixels, y growing upward from the bottom-left corner.
+// The drawable layer of one watermark record: where it lies in the reference area and what it shows. Plain
+// values, shared freely between threads. All geometry is in photo pixels, y growing upward from the
+// bottom-left corner.
 #pragma once
 
-#include <QColor>
-#include <QFont>
+#include "records/color.h"
+
 #include <QImage>
 #include <QRectF>
+#include <QSize>
 #include <QSizeF>
 #include <QString>
+
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <variant>
 
-#include "records/color.h"
-
 namespace zelto {
+
+// A font by its values. A QFont is no such value: two threads must not use copies of one at the same time, so
+// whoever lays out text makes its own.
+struct TextFont {
+    QString family{};        // installed; empty for the program's default font
+    double pointSize = 0.0;  // photo pixels, fractions count
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const TextFont&) const = default;
+};
 
 // How a whole string is set.
 struct TextAttributes {
-    QFont font;                // made for 72 dots an inch: its point size is in photo pixels
-    Color foreground;          // alpha is the text's opacity
-    std::uint64_t alignment = 0;
+    TextFont font{};
+    Color foreground{};           // alpha is the text's opacity
+    std::uint64_t alignment = 0;  // 0 left, 1 right, 2 centre, any other by the direction of writing
     bool underline = false;
     bool strikethrough = false;
-    std::optional<Color> shadow;  // alpha is the text's opacity; blur 5, offset 5 right and 5 up
+    std::optional<Color> shadow{};  // blur 5, offset 5 right and 5 up; as opaque as the text
+
+    bool operator==(const TextAttributes&) const = default;
 };
 
 // A text block: a label, or the emboss effect drawn by three offset copies of the text.
 struct TextBlock {
     QString text;
     TextAttributes attributes;
-    QSizeF size;             // of the block
+    QSizeF size;  // of the block
     bool embossed = false;
-    bool hollow = false;     // embossed: only the light and dark rims show
-    Color faceColor;         // embossed: colour of the letters' faces
-    double opacity = 1.0;    // embossed: of the finished picture
+    bool hollow = false;   // embossed: only the light and dark rims show
+    Color faceColor;       // embossed: colour of the letters' faces
+    double opacity = 1.0;  // embossed: of the finished picture
 };
 
 // What one copy of a watermark looks like. Empty for a logo that could not be loaded.
 using LayerContent = std::variant<std::monostate, TextBlock, QImage>;
 
-// A surface filled with one repeated, turned cell of content; with a surface of the cell's own size and no spacing
-// it shows a single turned copy.
+// A surface filled with one repeated, turned cell of content; with a surface of the cell's own size and no
+// spacing it shows a single turned copy. The pattern starts at the surface's bottom-left corner.
 struct TilingView {
-    std::shared_ptr<const LayerContent> tilingImage;
-    QSizeF contentSize;
-    double rotation = 0.0;  // degrees, positive clockwise as seen
+    LayerContent tilingImage;
+    QSizeF contentSize;         // of the content before it is turned
+    std::int64_t rotation = 0;  // degrees, positive clockwise as seen
     std::int64_t horizontalSpacing = 0;
     std::int64_t verticalSpacing = 0;
-    QSizeF size;            // of the surface
+    QSizeF size;  // of the surface
 };
 
 struct WatermarkView {
-    QRectF frame;           // in the reference area
+    QRectF frame;  // in the reference area
     bool hidden = false;
     std::size_t wmark = 0;  // index of the record it shows
     std::variant<LayerContent, TilingView> child;
+
+    // What a preview canvas adds on the screen; written photos take neither into account.
+    double opacity = 0.9999;      // of the layer
+    double contentOpacity = 1.0;  // of its content: a logo's opacity once more
+    // The pixel size of a logo as loaded, which belongs into the record's Width and Height; empty for other
+    // layers.
+    QSize logoSize;
 };
 
 }  // namespace zelto
