@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/text_block.h"
+
+#include "platform/picture_additions.h"
+#include "render/opacity.h"
+#include "render/photo_shadow.h"
+#include "render/qt_color.h"
+#include "render/text_layout.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelto {
+namespace {
+
+constexpr double DefaultFontSize = 12.0;
+constexpr double LargestFontSize = 1e6;  // a letter far larger than any photo
+constexpr double LabelInset = 2.0;       // the text from the left and right edge of its label
+constexpr double BlockMargin = 10.0;     // by which a block is wider than its text
+constexpr int ShadowBlur = 5;
+constexpr QPoint ShadowOffset(5, -5);  // right and up
+
+double pointSize(const Watermark& record, QSizeF reference) {
+    const auto size = static_cast<double>(record.FontSize);
+    if (!record.IsRelative) return std::min(size, LargestFontSize);
+    double side = reference.height();
+    if (record.FontRelativeSize == QLatin1String("Width")) side = reference.width();
+    if (record.FontRelativeSize == QLatin1String("Longer Side")) side = std::max(side, reference.width());
+    constexpr double PointsOfSide = 0.75;
+    return std::min(size / 100.0 * (side * PointsOfSide), LargestFontSize);
+}
+
+constexpr std::uint64_t NaturalAlignment = 4;
+
+TextAttributes defaultAttributes() {
+    return {
+        .font = {.pointSize = DefaultFontSize}, .foreground = Color::black(), .alignment = NaturalAlignment};
+}
+
+TextAttributes attributesOf(const Watermark& record, QSizeF reference) {
+    TextAttributes attributes = defaultAttributes();
+    if (!isFontInstalled(record.FontFamily)) return attributes;
+    attributes.font = withTraits({.family = record.FontFamily, .pointSize = pointSize(record, reference)},
+                                 record.FontBold, record.FontItalic);
+    if (record.TextColor) {
+        attributes.foreground = *record.TextColor;
+        attributes.foreground.Alpha = static_cast<float>(opacityOf(record.Transparency));
+        attributes.alignment = record.Alignment;
+    }
+    attributes.underline = record.FontUnderline;
+    attributes.strikethrough = record.FontStrikethrough;
+    if (record.Shadow) attributes.shadow = record.ShadowColor;
+    return attributes;
+}
+
+QRectF blockRect(const TextBlock& block) {
+    return {QPointF(0.0, 0.0), block.size};
+}
+
+// A transparent picture of some pixels of the one that is drawn on, and where it lies there. It takes a group
+// of drawings that are blended onto the picture as one.
+struct Group {
+    QRect pixels;
+    QImage image;
+
+    explicit Group(const QRect& area)
+        : pixels(area), image(area.size(), QImage::Format_ARGB32_Premultiplied) {
+        image.fill(Qt::transparent);
+    }
+
+    QTransform fromPicture() const { return QTransform::fromTranslate(-pixels.x(), -pixels.y()); }
+};
+
+void drawLabelText(QPainter& painter, const TextBlock& block, const QTransform& toDevice,
+                   const QRect& visible) {
+    QColor color = toQColor(block.attributes.foreground);
+    color.setAlphaF(1.0F);
+    painter.setTransform(toDevice);
+    drawText(painter, block.text, block.attributes, color,
+             blockRect(block).adjusted(LabelInset, 0, -LabelInset, 0),
+             toDevice.inverted().mapRect(QRectF(visible)));
+    painter.resetTransform();
+}
+
+// The text at its opacity and its shadow under it. The group is drawn opaque first, so that letters that
+// overlap do not show through each other; the shadow takes its strength from the letters' opacity.
+void drawLabelGroup(QPainter& painter, const TextBlock& block, const ContentPlace& place,
+                    const QRectF& bounds) {
+    const int reach = block.attributes.shadow ? ShadowBlur + ShadowOffset.x() : 0;
+    const QRect visible = place.visible.adjusted(-reach, -reach, reach, reach);
+    Group group(visiblePixels(bounds, visible));
+    if (group.image.isNull()) return;
+    {
+        QPainter ink(&group.image);
+        drawLabelText(ink, block, place.toPicture * group.fromPicture(), group.image.rect());
+    }
+    group.image = imageWithOpacity(std::move(group.image), block.attributes.foreground.Alpha);
+    if (block.attributes.shadow) {
+        Color color = *block.attributes.shadow;
+        color.Alpha = 1.0F;
+        const QPointF offset =
+            place.toPicture.map(QPointF(ShadowOffset)) - place.toPicture.map(QPointF(0.0, 0.0));
+        QImage canvas(group.image.size(), QImage::Format_ARGB32_Premultiplied);
+        drawPictureWithShadow(canvas, group.image, {},
+                              {.offset = offset.toPoint(), .blur = ShadowBlur, .color = color});
+        group.image = std::move(canvas);
+    }
+    painter.drawImage(group.pixels.topLeft(), group.image);
+}
+
+void drawLabel(QPainter& painter, const TextBlock& block, const ContentPlace& place) {
+    const double alpha = block.attributes.foreground.Alpha;
+    if (alpha <= 0.0) return;
+    if (alpha >= 1.0 && !block.attributes.shadow) {
+        drawLabelText(painter, block, place.toPicture, place.visible);
+        return;
+    }
+    // Letters of slanted and written faces reach out of their line's box by less than their size.
+    const double overhang =
+        place.cutToContent ? 0.0 : block.attributes.font.pointSize + ShadowOffset.x() + ShadowBlur;
+    const QRectF bounds = blockRect(block).adjusted(-overhang, -overhang, overhang, overhang);
+    drawLabelGroup(painter, block, place, place.toPicture.mapRect(bounds));
+}
+
+// White below left, black above right, the face between them; hollow letters have their face taken out
+// instead.
+void drawEmboss(QPainter& painter, const TextBlock& block, const ContentPlace& place) {
+    Group group(visiblePixels(place.toPicture.mapRect(blockRect(block)), place.visible));
+    if (group.image.isNull()) return;
+    const double depth = std::max(1.0, std::trunc(block.attributes.font.pointSize * 0.01));
+    QPainter relief(&group.image);
+    relief.setTransform(place.toPicture * group.fromPicture());
+    relief.setClipRect(blockRect(block));
+    const QRectF visible = relief.transform().inverted().mapRect(QRectF(group.image.rect()));
+    const auto drawCopy = [&](double steps, const QColor& color) {
+        const QRectF box = blockRect(block).adjusted(0, 0, -BlockMargin, 0);
+        drawText(relief, block.text, block.attributes, color, box.translated(steps * depth, -steps * depth),
+                 visible);
+    };
+    drawCopy(0, Qt::white);
+    drawCopy(2, Qt::black);
+    if (block.hollow) relief.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    drawCopy(1, block.hollow ? QColor(Qt::black) : toQColor(block.faceColor));
+    relief.end();
+    painter.setOpacity(block.opacity);
+    painter.drawImage(group.pixels.topLeft(), group.image);
+}
+
+}  // namespace
+
+TextBlock makeTextBlock(const Watermark& record, const QString& text, QSizeF reference) {
+    TextBlock block;
+    block.text = text;
+    block.attributes = attributesOf(record, reference);
+    const QSizeF measured = measuredText(text, block.attributes.font);
+    block.size = QSizeF(measured.width() + BlockMargin, measured.height());
+    block.embossed = record.TextEffect != 0;
+    block.hollow = record.UseTransparentColor;
+    block.faceColor = record.TextColor.value_or(Color::black());
+    block.opacity = opacityOf(record.Transparency);
+    return block;
+}
+
+void drawTextBlock(QPainter& painter, const TextBlock& block, const ContentPlace& place) {
+    painter.save();
+    painter.setClipRect(place.visible);
+    if (place.cutToContent) {
+        painter.setTransform(place.toPicture);
+        painter.setClipRect(blockRect(block), Qt::IntersectClip);
+        painter.resetTransform();
+    }
+    block.embossed ? drawEmboss(painter, block, place) : drawLabel(painter, block, place);
+    painter.restore();
+}
+
+}  // namespace zelto
