@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/logo.h"
+
+#include "platform/picture_additions.h"
+#include "platform/picture_reader.h"
+#include "platform/resample.h"
+#include "render/opacity.h"
+#include "render/photo_filters.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelto {
+namespace {
+
+constexpr std::int64_t AbsoluteSize = 2;
+
+LogoKey keyOf(const Watermark& record) {
+    LogoKey key;
+    key.data = record.ImageData;
+    key.path = record.ImagePath;
+    if (!key.path.isEmpty()) {
+        const QFileInfo file(key.path);
+        key.fileSize = file.exists() ? file.size() : -1;
+        key.fileTime = file.lastModified().toMSecsSinceEpoch();
+    }
+    if (record.IsTransparent) key.removedColor = record.TransparentColor;
+    key.blackAndWhite = record.CreateBW;
+    key.opacity = opacityOf(record.Transparency);
+    return key;
+}
+
+QImage readLogo(const Watermark& record) {
+    if (!record.ImageData.isEmpty()) {
+        if (Result<Picture> picture = decodePicture(record.ImageData)) return std::move(picture->image);
+    }
+    if (record.ImagePath.isEmpty()) return {};
+    Result<Picture> picture = readPicture(record.ImagePath);
+    return picture ? std::move(picture->image) : QImage();
+}
+
+QImage treatedLogo(const Watermark& record, const LogoKey& key) {
+    QImage logo = readLogo(record);
+    if (logo.isNull()) return logo;
+    if (key.removedColor) {
+        const Color& color = *key.removedColor;
+        logo = replaceColor(std::move(logo), color.Red, color.Green, color.Blue, 0.0);
+    }
+    if (key.blackAndWhite) logo = ApplyFilter(GrayScaleFilter, std::move(logo));
+    return imageWithOpacity(std::move(logo), key.opacity);
+}
+
+// At least one pixel where there is any length at all, so that a thin line does not vanish.
+double wholeLength(double length) {
+    return length > 0.0 && std::isfinite(length) ? std::max(1.0, std::round(length)) : 0.0;
+}
+
+}  // namespace
+
+QSizeF logoSize(const Watermark& record, QSize loaded, QSizeF reference) {
+    QSizeF size;
+    const double fraction = record.ResizeWidth;
+    const QSizeF asLoaded(loaded);
+    if (!record.Resize || loaded.isEmpty()) return asLoaded;
+    if (record.ResizeFormat == AbsoluteSize) {
+        size = QSizeF(fraction, record.ResizeHeight);
+    } else if (fraction > 0.0) {
+        const QString& side = record.ImageProportionalResize;
+        const bool longer = side == QLatin1String("Longer Side");
+        const bool portrait = reference.height() > reference.width();
+        if (side == QLatin1String("Height") || (longer && portrait)) {
+            const double height = fraction * reference.height();
+            size = QSizeF(asLoaded.width() / asLoaded.height() * height, height);
+        } else if (side == QLatin1String("Width") || longer) {
+            const double width = fraction * reference.width();
+            size = QSizeF(width, asLoaded.height() / asLoaded.width() * width);
+        }
+    }
+    const QSizeF whole(wholeLength(size.width()), wholeLength(size.height()));
+    return whole.isEmpty() ? QSizeF() : whole;
+}
+
+Logo loadLogo(const Watermark& record, QSizeF reference, LogoCache& cache) {
+    const LogoKey key = keyOf(record);
+    Logo logo;
+    logo.picture = cache.picture(key, [&] { return treatedLogo(record, key); });
+    logo.loadedSize = logo.picture.size();
+    logo.size = logoSize(record, logo.loadedSize, reference);
+    if (logo.size.isEmpty()) {
+        logo.picture = QImage();
+        return logo;
+    }
+    // A logo far larger than the photo shows only in part: it is stretched while it is drawn instead of being
+    // made whole in memory.
+    constexpr double LargestOverPhoto = 2.0;
+    const double pixels = logo.size.width() * logo.size.height();
+    if (pixels > LargestOverPhoto * reference.width() * reference.height()) return logo;
+    LogoKey sized = key;
+    sized.size = logo.size.toSize();
+    if (sized.size != logo.loadedSize) {
+        const QImage& treated = logo.picture;
+        logo.picture = cache.picture(sized, [&] { return resizedImage(treated, sized.size); });
+    }
+    return logo;
+}
+
+}  // namespace zelto
