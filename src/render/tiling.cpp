@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/tiling.h"
+
+#include "platform/picture_additions.h"
+#include "render/lengths.h"
+#include "render/placement.h"
+#include "render/text_block.h"
+
+#include <QBrush>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelto {
+namespace {
+
+double wholePixels(double length) {
+    return std::ceil(withoutDust(length));
+}
+
+bool hasSizeOf(const QImage& picture, QSizeF size) {
+    return picture.width() == wholePixels(size.width()) && picture.height() == wholePixels(size.height());
+}
+
+// Draws only what shows of a picture stretched to `size`, however large that is.
+void drawStretched(QPainter& painter, const QImage& picture, QSizeF size, const ContentPlace& place) {
+    const double scaleX = size.width() / picture.width();
+    const double scaleY = size.height() / picture.height();
+    const QRectF seen = place.toPicture.inverted().mapRect(QRectF(place.visible));
+    const QRectF seenSource(seen.x() / scaleX, seen.y() / scaleY, seen.width() / scaleX,
+                            seen.height() / scaleY);
+    const QRect source = visiblePixels(seenSource.adjusted(-1, -1, 1, 1), picture.rect());
+    const QRectF target(source.x() * scaleX, source.y() * scaleY, source.width() * scaleX,
+                        source.height() * scaleY);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setTransform(place.toPicture);
+    painter.drawImage(target, picture, QRectF(source));
+}
+
+void drawPicture(QPainter& painter, const QImage& picture, QSizeF size, const ContentPlace& place) {
+    const QRectF area = place.toPicture.mapRect(QRectF(QPointF(0.0, 0.0), size));
+    if (picture.isNull() || visiblePixels(area, place.visible).isEmpty()) return;
+    painter.save();
+    painter.setClipRect(place.visible);
+    if (place.toPicture.type() <= QTransform::TxTranslate && hasSizeOf(picture, size)) {
+        // Content stands on the lower edge of its frame, so that is where a rounded-up picture stands too.
+        painter.drawImage(QPointF(area.left(), area.bottom() - picture.height()).toPoint(), picture);
+    } else {
+        drawStretched(painter, picture, size, place);
+    }
+    painter.restore();
+}
+
+// The surface with a picture already turned, as many times as it may be drawn.
+TilingView withTurnedPicture(TilingView surface) {
+    surface.rotation %= 360;
+    const auto* picture = std::get_if<QImage>(&surface.tilingImage);
+    if (picture == nullptr || surface.rotation == 0 || !hasSizeOf(*picture, surface.contentSize))
+        return surface;
+    QImage turned = imageRotatedByDegrees(*picture, -static_cast<double>(surface.rotation), 1.0);
+    surface.contentSize = turned.size();
+    surface.tilingImage = std::move(turned);
+    surface.rotation = 0;
+    return surface;
+}
+
+// One cell of a surface, in whole pixels, and the bounding box of its turned content.
+struct Cell {
+    double width;
+    double height;
+    QSizeF turned;
+
+    explicit Cell(const TilingView& surface) : turned(rotatedSize(surface.contentSize, surface.rotation)) {
+        width = wholePixels(turned.width() + gap(surface.horizontalSpacing));
+        height = wholePixels(turned.height() + gap(surface.verticalSpacing));
+    }
+
+    // Beyond any photo's size a gap only costs precision.
+    static double gap(std::int64_t spacing) { return std::min(static_cast<double>(spacing), 1e9); }
+
+    bool isEmpty() const { return turned.isEmpty() || !(width >= 1.0 && height >= 1.0); }
+};
+
+// The content in the cell whose bottom-left corner is `corner`: turned about the centre of its bounding box,
+// which lies in the cell's lower left, and cut at the cell's edges.
+void drawCell(QPainter& painter, const TilingView& surface, const Cell& cell, QPointF corner,
+              const QRect& visible) {
+    const QRectF bounds(corner.x(), corner.y() - cell.height, cell.width, cell.height);
+    ContentPlace place;
+    place.visible = visiblePixels(bounds, visible);
+    place.cutToContent = true;
+    if (place.visible.isEmpty()) return;
+    place.toPicture.translate(corner.x() + cell.turned.width() / 2.0,
+                              corner.y() - cell.turned.height() / 2.0);
+    place.toPicture.rotate(static_cast<double>(surface.rotation));
+    place.toPicture.translate(-surface.contentSize.width() / 2.0, -surface.contentSize.height() / 2.0);
+    drawContent(painter, surface.tilingImage, surface.contentSize, place);
+}
+
+// The grid of cells over the pixels to fill: `corner` is the bottom-left corner of the first cell that shows,
+// from where the grid goes right and up.
+struct Grid {
+    QPointF corner;
+    int columns;
+    int rows;
+
+    Grid(const Cell& cell, QPointF anchor, const QRect& shown) {
+        const double aside = std::fmod(shown.left() - anchor.x(), cell.width);
+        const double below = std::fmod(anchor.y() - (shown.top() + shown.height()), cell.height);
+        corner = QPointF(shown.left() - aside, shown.top() + shown.height() + below);
+        columns = static_cast<int>(std::ceil((shown.width() + aside) / cell.width));
+        rows = static_cast<int>(std::ceil((shown.height() + below) / cell.height));
+    }
+};
+
+}  // namespace
+
+void drawContent(QPainter& painter, const LayerContent& content, QSizeF size, const ContentPlace& place) {
+    if (const auto* text = std::get_if<TextBlock>(&content)) drawTextBlock(painter, *text, place);
+    if (const auto* picture = std::get_if<QImage>(&content)) drawPicture(painter, *picture, size, place);
+}
+
+void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, const QRect& visible) {
+    const QSizeF whole(wholePixels(view.size.width()), wholePixels(view.size.height()));
+    const QRect shown = visiblePixels({QPointF(corner.x(), corner.y() - whole.height()), whole}, visible);
+    if (whole.isEmpty() || shown.isEmpty()) return;
+    const TilingView surface = withTurnedPicture(view);
+    const Cell cell(surface);
+    if (cell.isEmpty()) return;
+
+    // A cell that shows only a few times is drawn as often. One that repeats is drawn once, as a texture; it
+    // is never larger than what it fills.
+    constexpr double FewCells = 4.0;
+    const Grid grid(cell, corner, shown);
+    const double shownPixels = static_cast<double>(shown.width()) * shown.height();
+    if (static_cast<double>(grid.columns) * grid.rows <= FewCells || cell.width * cell.height > shownPixels) {
+        for (int row = 0; row < grid.rows; ++row) {
+            for (int column = 0; column < grid.columns; ++column) {
+                const QPointF step(column * cell.width, -row * cell.height);
+                drawCell(painter, surface, cell, grid.corner + step, shown);
+            }
+        }
+        return;
+    }
+    QImage texture(static_cast<int>(cell.width), static_cast<int>(cell.height),
+                   QImage::Format_ARGB32_Premultiplied);
+    if (texture.isNull()) return;
+    texture.fill(Qt::transparent);
+    {
+        QPainter tile(&texture);
+        drawCell(tile, surface, cell, QPointF(0.0, cell.height), texture.rect());
+    }
+    painter.save();
+    painter.setBrushOrigin(grid.corner);
+    painter.fillRect(shown, QBrush(texture));
+    painter.restore();
+}
+
+}  // namespace zelto
