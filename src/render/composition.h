@@ -2,18 +2,18 @@
 // Drawing the layers of a scene onto its picture. Reentrant, any thread.
 #pragma once
 
+#include "render/photo_scene.h"
+
 #include <QImage>
 #include <QPoint>
-
-#include "render/photo_scene.h"
 
 namespace zelto {
 
 // Draws every enabled layer onto `picture`, in place. `stack` is the one the scene was built from.
 void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkStack& stack);
 
-// The finished picture of a scene, drawn at one picture pixel per photo pixel. Move the scene in: its picture is
-// then drawn on without a copy.
+// The finished picture of a scene, drawn at one picture pixel per photo pixel. Move the scene in: its picture
+// is then drawn on without a copy.
 QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack);
 
 }  // namespace zelto

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One photo made ready: loaded, filtered, framed, and every watermark of the stack turned into a placed layer. The
-// preview shows a scene and the batch run writes one; both build it here, so what is seen is what is written. A
-// scene is built from values alone, on any thread.
+// One photo made ready: loaded, filtered, framed, and every watermark of the stack turned into a placed
+// layer. The preview shows a scene and the batch run writes one; both build it here, so what is seen is what
+// is written. A scene is built from values alone, on any thread.
 #pragma once
+
+#include "platform/picture_reader.h"
+#include "platform/result.h"
+#include "records/watermark_stack.h"
+#include "render/logo_cache.h"
+#include "render/watermark_view.h"
 
 #include <QDateTime>
 #include <QImage>
@@ -11,14 +17,11 @@
 #include <QSize>
 #include <QSizeF>
 #include <QString>
+
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <vector>
-
-#include "platform/picture_reader.h"
-#include "platform/result.h"
-#include "records/watermark_stack.h"
-#include "render/watermark_view.h"
 
 namespace zelto {
 
@@ -28,10 +31,11 @@ struct PhotoRequest {
     qint64 row = 0;       // place in the photo list, from 0
     qint64 listSize = 1;  // photos in the list
     bool batchRunning = false;
-    bool final = true;    // draw the photo's shadow, as the written picture has it
-    QDateTime now;        // the moment the run's dates speak of
+    bool final = true;  // draw the photo's shadow, as the written picture has it
+    QDateTime now;      // the moment the run's dates speak of
     QLocale locale;
     std::shared_ptr<const WatermarkStack> stack;
+    std::shared_ptr<LogoCache> logos;  // shared by the photos of a run; may be none
 };
 
 struct PhotoScene {
@@ -41,7 +45,7 @@ struct PhotoScene {
     QImage picture;        // filtered and framed, without watermarks
     QRect imageRect;       // the photo inside `picture`, pixels, y up
     QRect borderRect;      // the framed photo inside `picture`, pixels, y up
-    QSizeF referenceSize;  // the area watermarks are placed in
+    QSizeF referenceSize;  // the area watermarks are placed in; a shadow around the photo is no part of it
     // One place per record of the stack, in order; empty where a record yields no layer.
     std::vector<std::optional<WatermarkView>> layers;
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
@@ -50,7 +54,15 @@ struct PhotoScene {
 // Error: as readPicture.
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 
-// The same for a photo already in memory.
+// The same for a photo already in memory. Move the photo in: without a filter and a frame its pixels are then
+// the scene's, uncopied.
 PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo);
+
+// After an edit of the stack: the layers of a scene built anew from the request's stack, the photo as it was.
+// The stack's filter and effect must still be those the scene was built with.
+void MakeWatermarkChanges(PhotoScene& scene, const PhotoRequest& request);
+
+// The same for the one layer at `index`, which must be one of the stack's.
+void UpdateWatermark(PhotoScene& scene, const PhotoRequest& request, std::size_t index);
 
 }  // namespace zelto

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "render/photo_scene.h"
+
+#include "render/layer_builder.h"
+#include "render/photo_effects.h"
+#include "render/photo_filters.h"
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) {
+    constexpr double PointsPerInch = 72.0;
+    return {.photoPath = request.path,
+            .pixelSize = scene.photoSize,
+            .pointSize = {scene.photoSize.width() * PointsPerInch / scene.dpiX,
+                          scene.photoSize.height() * PointsPerInch / scene.dpiY},
+            .row = request.row,
+            .listSize = request.listSize,
+            .batchRunning = request.batchRunning,
+            .now = request.now,
+            .locale = request.locale};
+}
+
+void frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
+    scene.imageRect = scene.picture.rect();
+    scene.borderRect = scene.imageRect;
+    scene.referenceSize = scene.picture.size();
+    if (!effect) return;
+    scene.picture =
+        imagewithEffects(std::move(scene.picture), *effect, scene.imageRect, scene.borderRect, final);
+    if (effect->ApplyWatermarkOnBorder) scene.referenceSize = scene.borderRect.size();
+}
+
+// Layers of `scene` from the record at `first` up to the one before `end`.
+void buildLayers(PhotoScene& scene, const PhotoRequest& request, std::size_t first, std::size_t end) {
+    LogoCache logosOfThisPhoto;
+    const LayerContext context{.reference = scene.referenceSize,
+                               .macros = macroContext(scene, request),
+                               .logos = request.logos ? request.logos.get() : &logosOfThisPhoto};
+    const std::vector<Watermark>& records = request.stack->Watermarks;
+    scene.layers.resize(records.size());
+    for (std::size_t i = first; i < end; ++i) {
+        BuiltLayer built = GetWatermarkViewfromWatermark(records.at(i), i, context);
+        scene.layers[i] = std::move(built.view);
+        if (built.lastAutoNumber) scene.lastAutoNumber = built.lastAutoNumber;
+    }
+}
+
+}  // namespace
+
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request) {
+    Result<Picture> photo = readPicture(request.path);
+    if (!photo) return tl::unexpected<Error>(std::move(photo.error()));
+    return buildPhotoScene(request, std::move(*photo));
+}
+
+PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo) {
+    PhotoScene scene;
+    scene.photoSize = photo.image.size();
+    scene.dpiX = photo.dpiX;
+    scene.dpiY = photo.dpiY;
+    scene.picture = std::move(photo.image);
+    const WatermarkStack& stack = *request.stack;
+    if (stack.SelectedFilter != 0) {
+        scene.picture = ApplyFilter(stack.SelectedFilter, std::move(scene.picture));
+    }
+    frame(scene, stack.Effects, request.final);
+    MakeWatermarkChanges(scene, request);
+    return scene;
+}
+
+void MakeWatermarkChanges(PhotoScene& scene, const PhotoRequest& request) {
+    scene.lastAutoNumber.reset();
+    buildLayers(scene, request, 0, request.stack->Watermarks.size());
+}
+
+void UpdateWatermark(PhotoScene& scene, const PhotoRequest& request, std::size_t index) {
+    buildLayers(scene, request, index, index + 1);
+}
+
+}  // namespace zelto
