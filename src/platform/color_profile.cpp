@@ -147,6 +147,7 @@ bool isWide(const QImage& picture) {
 }  // namespace
 
 QImage convertedToSrgb(QImage picture, const QByteArray& profile) {
+    if (picture.isNull()) return picture;
     const bool hasAlpha = picture.hasAlphaChannel();
     const Pixels pixels = isWide(picture) ? Pixels::Rgbx16 : Pixels::Bgrx8;
     const std::shared_ptr<void> transform = transformFor(profile, pixels);
@@ -167,6 +168,7 @@ QImage convertedToSrgb(QImage picture, const QByteArray& profile) {
 }
 
 void convertCmykToSrgb(QImage& picture, InkScale inks, const QByteArray& profile) {
+    if (picture.isNull()) return;
     const bool inverted = inks == InkScale::FullIs0;
     const std::shared_ptr<void> transform =
         transformFor(profile, inverted ? Pixels::InvertedCmyk8 : Pixels::Cmyk8);

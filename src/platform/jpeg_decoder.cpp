@@ -3,6 +3,7 @@
 
 #include "platform/color_profile.h"
 #include "platform/exif_facts.h"
+#include "platform/picture_facts.h"
 #include "platform/resolution.h"
 #include "platform/upright.h"
 
@@ -48,21 +49,56 @@ void limitScans(j_common_ptr info) {
 
 void stayQuiet(j_common_ptr) {}
 
+// Feeds libjpeg from a device.
+struct Source {
+    jpeg_source_mgr base;  // first, for the same reason
+    QIODevice* device;
+    std::array<JOCTET, 1 << 16> buffer;
+};
+
+void nothingToDo(j_decompress_ptr) {}
+
+boolean fillBuffer(j_decompress_ptr info) {
+    auto* source = reinterpret_cast<Source*>(info->src);
+    const qint64 got =
+        source->device->read(reinterpret_cast<char*>(source->buffer.data()), qint64{sizeof source->buffer});
+    if (got <= 0) WARNMS(info, JWRN_JPEG_EOF);  // does not come back
+    source->base.next_input_byte = source->buffer.data();
+    source->base.bytes_in_buffer = static_cast<std::size_t>(got);
+    return TRUE;
+}
+
+void skipInput(j_decompress_ptr info, long count) {
+    auto* source = reinterpret_cast<Source*>(info->src);
+    auto left = static_cast<std::size_t>(std::max(count, 0L));
+    while (left > source->base.bytes_in_buffer) {
+        left -= source->base.bytes_in_buffer;
+        fillBuffer(info);
+    }
+    source->base.next_input_byte += left;
+    source->base.bytes_in_buffer -= left;
+}
+
 // One file being decoded. Every call into libjpeg that can fail goes through guarded(), so that its way out
 // of an error, a long jump, never passes over an object with a destructor.
 class JpegFile {
   public:
-    explicit JpegFile(QByteArrayView bytes) {
+    explicit JpegFile(QIODevice& device) : fileBytes_(device.size()) {
         info_.err = jpeg_std_error(&errors_.base);
         errors_.base.error_exit = leave;
         errors_.base.emit_message = judgeMessage;
         errors_.base.output_message = stayQuiet;
         progress_.progress_monitor = limitScans;
+        source_.base.init_source = nothingToDo;
+        source_.base.fill_input_buffer = fillBuffer;
+        source_.base.skip_input_data = skipInput;
+        source_.base.resync_to_restart = jpeg_resync_to_restart;
+        source_.base.term_source = nothingToDo;
+        source_.device = &device;
         guarded([&] {
             jpeg_create_decompress(&info_);
             info_.progress = &progress_;
-            jpeg_mem_src(&info_, reinterpret_cast<const unsigned char*>(bytes.data()),
-                         static_cast<unsigned long>(bytes.size()));
+            info_.src = &source_.base;
         });
     }
     ~JpegFile() { jpeg_destroy_decompress(&info_); }
@@ -74,7 +110,7 @@ class JpegFile {
                    jpeg_save_markers(&info_, JPEG_APP0 + 2, 0xFFFF);
                    jpeg_read_header(&info_, TRUE);
                }) &&
-               qint64{info_.image_width} * info_.image_height <= MaximumPicturePixels;
+               isReadableSize(storedSize(), fileBytes_);
     }
 
     QSize storedSize() const {
@@ -174,7 +210,9 @@ class JpegFile {
         jpeg_read_scanlines(&info_, rows.data(), wanted);
     }
 
+    qint64 fileBytes_;
     jpeg_decompress_struct info_{};
+    Source source_{};
     ErrorManager errors_{};
     jpeg_progress_mgr progress_{};
 };
@@ -185,8 +223,8 @@ bool isJpeg(QByteArrayView bytes) {
     return bytes.startsWith(QByteArrayView("\xFF\xD8\xFF", 3));
 }
 
-std::optional<Picture> decodeJpeg(QByteArrayView bytes) {
-    JpegFile file(bytes);
+std::optional<Picture> decodeJpeg(QIODevice& device) {
+    JpegFile file(device);
     if (!file.readHeader()) return std::nullopt;
     const ExifFacts exif = file.exifFacts();
     QByteArray profile = file.profile();
@@ -207,8 +245,8 @@ std::optional<Picture> decodeJpeg(QByteArrayView bytes) {
     return picture;
 }
 
-std::optional<QSize> jpegSize(QByteArrayView bytes) {
-    JpegFile file(bytes);
+std::optional<QSize> jpegSize(QIODevice& device) {
+    JpegFile file(device);
     if (!file.readHeader()) return std::nullopt;
     return uprightSize(file.storedSize(), file.exifFacts().orientation);
 }

@@ -12,12 +12,13 @@
 
 namespace zelto {
 
-// Whether the bytes begin like a JPEG file.
+// Whether a file that begins with these bytes (three are enough) is a JPEG file.
 bool isJpeg(QByteArrayView bytes);
 
-std::optional<Picture> decodeJpeg(QByteArrayView bytes);
+// `device` is open for reading and stands at the file's start.
+std::optional<Picture> decodeJpeg(QIODevice& device);
 
-// Upright pixel size, from the headers alone.
-std::optional<QSize> jpegSize(QByteArrayView bytes);
+// Upright pixel size; reads no further than the headers.
+std::optional<QSize> jpegSize(QIODevice& device);
 
 }  // namespace zelto

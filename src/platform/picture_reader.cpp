@@ -26,13 +26,16 @@ Result<void> open(QFile& file) {
     return {};
 }
 
+std::optional<Picture> decode(QIODevice& device) {
+    return isJpeg(device.peek(3)) ? decodeJpeg(device) : decodeWithPlugins(device);
+}
+
 }  // namespace
 
 Result<Picture> readPicture(const QString& path) {
     QFile file(path);
     if (const Result<void> opened = open(file); !opened) return tl::unexpected(opened.error());
-    std::optional<Picture> picture =
-        isJpeg(file.peek(3)) ? decodeJpeg(file.readAll()) : decodeWithPlugins(file);
+    std::optional<Picture> picture = decode(file);
     if (!picture) return damaged(path);
     return std::move(*picture);
 }
@@ -41,7 +44,7 @@ Result<Picture> decodePicture(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
-    std::optional<Picture> picture = isJpeg(bytes) ? decodeJpeg(bytes) : decodeWithPlugins(buffer);
+    std::optional<Picture> picture = decode(buffer);
     if (!picture) return damaged();
     return std::move(*picture);
 }
@@ -49,7 +52,7 @@ Result<Picture> decodePicture(const QByteArray& bytes) {
 Result<QSize> readPictureSize(const QString& path) {
     QFile file(path);
     if (const Result<void> opened = open(file); !opened) return tl::unexpected(opened.error());
-    const std::optional<QSize> size = isJpeg(file.peek(3)) ? jpegSize(file.readAll()) : sizeByPlugins(file);
+    const std::optional<QSize> size = isJpeg(file.peek(3)) ? jpegSize(file) : sizeByPlugins(file);
     if (!size) return damaged(path);
     return *size;
 }

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The TIFF pictures that Qt's plugin would flatten: CMYK, which it turns into RGB without a thought for the
+// profile, and grey with alpha, whose alpha it drops. Strips and tiles, joined and separate planes, 8 and 16
+// bits a channel. Any thread.
+#pragma once
+
+#include <QIODevice>
+#include <QImage>
+
+#include <optional>
+
+namespace zelto {
+
+struct TiffSamples {
+    bool isCmyk = false;
+    // As stored, null where the data is damaged. CMYK: 32-bit pixels of the bytes C, M, Y, K with 255 for
+    // full ink; grey: ARGB32, premultiplied where the file's are.
+    QImage image;
+};
+
+// Nothing for the layouts that are left to the plugin.
+std::optional<TiffSamples> readTiffSamples(QIODevice& device);
+
+}  // namespace zelto
