@@ -3,22 +3,16 @@
 
 #include "platform/color_profile.h"
 #include "platform/exif_facts.h"
+#include "platform/libjpeg.h"
 #include "platform/picture_facts.h"
+#include "platform/picture_memory.h"
 #include "platform/resolution.h"
 #include "platform/upright.h"
 
 #include <algorithm>
 #include <array>
-#include <csetjmp>
-#include <cstdio>
 #include <cstdlib>
 #include <vector>
-
-// Not sorted: the message codes in jerror.h depend on what jpeglib.h says of the library's build.
-// clang-format off
-#include <jpeglib.h>
-#include <jerror.h>
-// clang-format on
 
 namespace zelto {
 namespace {
@@ -26,32 +20,24 @@ namespace {
 // A progressive file needs ten or so; thousands are an attempt to keep the program busy.
 constexpr int MaximumScans = 500;
 
-struct ErrorManager {
-    jpeg_error_mgr base;  // first, so that libjpeg's pointer to it is a pointer to the whole
-    std::jmp_buf escape;
-};
-
-[[noreturn]] void leave(j_common_ptr info) {
-    std::longjmp(reinterpret_cast<ErrorManager*>(info->err)->escape, 1);
-}
-
 // libjpeg only warns where pixels are lost and goes on with grey ones.
 void judgeMessage(j_common_ptr info, int level) {
     constexpr int LosesPixels[] = {JWRN_JPEG_EOF, JWRN_HIT_MARKER, JWRN_HUFF_BAD_CODE, JWRN_ARITH_BAD_CODE,
                                    JWRN_MUST_RESYNC};
     if (level < 0 && std::ranges::find(LosesPixels, info->err->msg_code) != std::end(LosesPixels))
-        leave(info);
+        escapeWithJpegMessage(info);
 }
 
 void limitScans(j_common_ptr info) {
-    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > MaximumScans) leave(info);
+    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > MaximumScans)
+        escapeWithJpegMessage(info);
 }
 
 void stayQuiet(j_common_ptr) {}
 
 // Feeds libjpeg from a device.
 struct Source {
-    jpeg_source_mgr base;  // first, for the same reason
+    jpeg_source_mgr base;  // first, so that libjpeg's pointer to it is a pointer to the whole
     QIODevice* device;
     std::array<JOCTET, 1 << 16> buffer;
 };
@@ -84,10 +70,10 @@ void skipInput(j_decompress_ptr info, long count) {
 class JpegFile {
   public:
     explicit JpegFile(QIODevice& device) : fileBytes_(device.size()) {
-        info_.err = jpeg_std_error(&errors_.base);
-        errors_.base.error_exit = leave;
-        errors_.base.emit_message = judgeMessage;
-        errors_.base.output_message = stayQuiet;
+        info_.err = jpeg_std_error(&errors_.manager);
+        errors_.manager.error_exit = escapeWithJpegMessage;
+        errors_.manager.emit_message = judgeMessage;
+        errors_.manager.output_message = stayQuiet;
         progress_.progress_monitor = limitScans;
         source_.base.init_source = nothingToDo;
         source_.base.fill_input_buffer = fillBuffer;
@@ -152,7 +138,7 @@ class JpegFile {
     // All pixels, upright: RGB32, or the four CMYK bytes a pixel where isCmyk(). A null picture for a damaged
     // file.
     QImage decode(int orientation) {
-        QImage picture(uprightSize(storedSize(), orientation), QImage::Format_RGB32);
+        QImage picture = newPicture(uprightSize(storedSize(), orientation), QImage::Format_RGB32);
         if (picture.isNull()) return picture;
         // BGRA rather than BGRX: only the former promises the 255 that a QImage without alpha expects.
         info_.out_color_space = isCmyk() ? JCS_CMYK : JCS_EXT_BGRA;
@@ -165,8 +151,8 @@ class JpegFile {
   private:
     template <class Step>
     bool guarded(Step step) {
-        if (setjmp(errors_.escape) != 0)
-            return false;  // NOLINT(cert-err52-cpp): libjpeg's only way out of an error
+        // NOLINTNEXTLINE(cert-err52-cpp): libjpeg's only way out of an error
+        if (setjmp(errors_.escape) != 0) return false;
         step();
         return true;
     }
@@ -213,7 +199,7 @@ class JpegFile {
     qint64 fileBytes_;
     jpeg_decompress_struct info_{};
     Source source_{};
-    ErrorManager errors_{};
+    JpegErrors errors_;
     jpeg_progress_mgr progress_{};
 };
 

@@ -40,7 +40,8 @@ class PngHeader {
 
     bool readInfo() {
         if (info_ == nullptr) return false;
-        if (setjmp(escape_) != 0) return false;  // NOLINT(cert-err52-cpp): libpng's only way out of an error
+        // NOLINTNEXTLINE(cert-err52-cpp): libpng's only way out of an error
+        if (setjmp(escape_) != 0) return false;
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
         png_read_info(png_, info_);
         return true;

@@ -2,6 +2,7 @@
 #include "platform/tiff_decoder.h"
 
 #include "platform/picture_facts.h"
+#include "platform/picture_memory.h"
 
 #include <tiffio.h>
 
@@ -244,7 +245,8 @@ std::optional<TiffSamples> readTiffSamples(QIODevice& device) {
     const QImage::Format format = layout->isCmyk          ? QImage::Format_RGB32
                                   : layout->premultiplied ? QImage::Format_ARGB32_Premultiplied
                                                           : QImage::Format_ARGB32;
-    QImage image(static_cast<int>(layout->width), static_cast<int>(layout->height), format);
+    QImage image =
+        newPicture(QSize(static_cast<int>(layout->width), static_cast<int>(layout->height)), format);
     if (image.isNull() || !SampleReader(tiff.get(), *layout, image).readAll()) return samples;
     if (!layout->isCmyk) spreadGrey(image);
     samples.image = std::move(image);

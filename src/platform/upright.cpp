@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/upright.h"
 
+#include "platform/picture_memory.h"
+
 #include <algorithm>
 
 namespace zelto {
@@ -57,7 +59,7 @@ void placeUpright(const quint32* rows, int firstRow, int count, QSize stored, in
 QImage uprightPicture(QImage picture, int orientation) {
     const Turn turn = turnOf(orientation);
     if (!turn.swapsAxes && !turn.reversesX && !turn.reversesY) return picture;
-    QImage upright(uprightSize(picture.size(), orientation), picture.format());
+    QImage upright = newPicture(uprightSize(picture.size(), orientation), picture.format());
     if (upright.isNull()) return upright;
     constexpr int Band = 64;
     for (int row = 0; row < picture.height(); row += Band) {

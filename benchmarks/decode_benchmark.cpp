@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reading a 24-megapixel JPEG, beside libjpeg-turbo decoding the same file into one row over and over, which
+// is the least that any reader has to do.
+#include "platform/libjpeg.h"
+#include "platform/picture_reader.h"
+#include "support/test_pictures.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+using namespace zelto;
+
+constexpr QSize PhotoSize(6000, 4000);
+
+// The photo's file, made when it is first asked for.
+QString photoFile(const QString& name, const TestJpeg& options) {
+    static const QTemporaryDir folder;
+    static const QImage scene = drawnScene(PhotoSize);
+    QFile file(folder.filePath(name));
+    if (!file.exists()) {
+        const QByteArray bytes = jpegBytes(scene, options);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) std::abort();
+    }
+    return file.fileName();
+}
+
+TestJpeg cameraJpeg() {
+    TestJpeg options;
+    options.quality = 95;
+    options.fullChroma = false;
+    return options;
+}
+
+void setCounters(benchmark::State& state) {
+    state.SetItemsProcessed(state.iterations() * PhotoSize.width() * PhotoSize.height());
+}
+
+void decodeByLibjpegAlone(benchmark::State& state) {
+    QFile file(photoFile(QStringLiteral("plain.jpg"), cameraJpeg()));
+    if (!file.open(QIODevice::ReadOnly)) std::abort();
+    const QByteArray bytes = file.readAll();
+    std::vector<JSAMPLE> row(std::size_t{4} * PhotoSize.width());
+    for (auto _ : state) {
+        jpeg_error_mgr errors{};
+        jpeg_decompress_struct info{};
+        info.err = jpeg_std_error(&errors);
+        jpeg_create_decompress(&info);
+        jpeg_mem_src(&info, reinterpret_cast<const unsigned char*>(bytes.constData()),
+                     static_cast<unsigned long>(bytes.size()));
+        jpeg_read_header(&info, TRUE);
+        info.out_color_space = JCS_EXT_BGRA;
+        jpeg_start_decompress(&info);
+        JSAMPROW target = row.data();
+        while (info.output_scanline < info.output_height) jpeg_read_scanlines(&info, &target, 1);
+        jpeg_finish_decompress(&info);
+        jpeg_destroy_decompress(&info);
+    }
+    setCounters(state);
+}
+
+void readPhoto(benchmark::State& state, const QString& name, const TestJpeg& options) {
+    const QString path = photoFile(name, options);
+    for (auto _ : state) {
+        const Result<Picture> picture = readPicture(path);
+        if (!picture) std::abort();
+        benchmark::DoNotOptimize(picture->image.constBits());
+    }
+    setCounters(state);
+}
+
+void readUprightPhoto(benchmark::State& state) {
+    readPhoto(state, QStringLiteral("plain.jpg"), cameraJpeg());
+}
+
+void readPortraitPhoto(benchmark::State& state) {
+    TestJpeg options = cameraJpeg();
+    options.orientation = 6;
+    readPhoto(state, QStringLiteral("portrait.jpg"), options);
+}
+
+void readAdobeRgbPhoto(benchmark::State& state) {
+    TestJpeg options = cameraJpeg();
+    options.profile = adobeRgbProfile();
+    readPhoto(state, QStringLiteral("adobe-rgb.jpg"), options);
+}
+
+void readSizeOnly(benchmark::State& state) {
+    const QString path = photoFile(QStringLiteral("plain.jpg"), cameraJpeg());
+    for (auto _ : state) benchmark::DoNotOptimize(readPictureSize(path));
+}
+
+BENCHMARK(decodeByLibjpegAlone)->Unit(benchmark::kMillisecond);
+BENCHMARK(readUprightPhoto)->Unit(benchmark::kMillisecond);
+BENCHMARK(readPortraitPhoto)->Unit(benchmark::kMillisecond);
+BENCHMARK(readAdobeRgbPhoto)->Unit(benchmark::kMillisecond);
+BENCHMARK(readSizeOnly)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
