@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // From the colours a file means to sRGB. A profile that is broken, or made for another kind of colour than
-// the picture's, is ignored: the pixels then stay (CMYK: are converted without one). Making a transform is
-// dear, so the last few are kept, shared by all threads. Any thread.
+// the picture's, is ignored: the pixels then stay (CMYK: are converted without one). Any thread.
 #pragma once
 
 #include <QByteArray>
