@@ -2,7 +2,9 @@
 #include "macros/macro_expander.h"
 
 #include "macros/date_format.h"
+#include "macros/exif_words.h"
 #include "macros/macro_scanner.h"
+#include "macros/metadata_value.h"
 #include "platform/dates.h"
 #include "platform/file_times.h"
 
@@ -31,11 +33,18 @@ class Photo {
         return *fileTimes_;
     }
 
+    const ImageProperties& properties() {
+        if (!properties_) properties_ = context_.properties;
+        if (!properties_) properties_ = std::make_shared<LazyImageProperties>(context_.photoPath);
+        return properties_->get();
+    }
+
     QString shortDate(const QDateTime& moment) const { return formatShortDate(moment, context_.locale); }
 
   private:
     const MacroContext& context_;
     std::optional<FileTimes> fileTimes_;
+    std::shared_ptr<const LazyImageProperties> properties_;
 };
 
 QString baseName(const QString& fileName) {
@@ -91,7 +100,42 @@ constexpr DatedMacro DatedMacros[] = {
     {"<<MODDATE["_L1, [](Photo& photo) { return photo.fileTimes().modified; }},
 };
 
-// Beyond what any watermark holds. Names that hold macros, in a text that holds many, would multiply without end.
+struct MetadataMacro {
+    QLatin1String prefix;
+    const QVariantMap& (*dictionary)(Photo&);
+    std::optional<QDateTime> (*parseDate)(const QString&);
+};
+
+constexpr MetadataMacro MetadataMacros[] = {
+    {"<<EXIF:"_L1, [](Photo& photo) -> const QVariantMap& { return photo.properties().exif; },
+     parsePhotoDateTime},
+    {"<<IPTC:"_L1, [](Photo& photo) -> const QVariantMap& { return photo.properties().iptc; },
+     parsePhotoDate},
+};
+
+// The first "[...]" of `text`, brackets included; empty where there is none.
+QString bracketed(const QString& text) {
+    const qsizetype open = text.indexOf(u'[');
+    const qsizetype close = open < 0 ? -1 : text.indexOf(u']', open);
+    return close < 0 ? QString() : text.sliced(open, close + 1 - open);
+}
+
+// What `found`, such as "<<EXIF:DateTimeOriginal[D.M.Y]>>", prints. Empty where the photo has no such value.
+QString metadataMacroText(const MetadataMacro& macro, const QString& found, Photo& photo) {
+    const QString inside = found.sliced(macro.prefix.size()).remove(">>"_L1);
+    const QString format = bracketed(inside);
+    const QString key = format.isEmpty() ? inside : inside.first(inside.indexOf(u'['));
+    const std::optional<QString> value = GetStringValue(metadataValue(macro.dictionary(photo), key), key);
+    if (!value) return {};
+    const QString text = GetExifValue(*value, key);
+    const std::optional<QDateTime> date = format.isEmpty() ? std::nullopt : macro.parseDate(text);
+    if (!date) return text;
+    return formatDate(*date, GetDateFormatFromMacro(format).remove(u'[').remove(u']'),
+                      photo.context().locale);
+}
+
+// Beyond what any watermark holds. Names that hold macros, in a text that holds many, would multiply without
+// end.
 constexpr qsizetype LongestText = 1 << 20;
 
 // Raised inside an expansion that cannot go on; ParseMacros catches it.
@@ -142,6 +186,17 @@ class Expansion {
         }
     }
 
+    void expandMetadata() {
+        for (const MetadataMacro& macro : MetadataMacros) {
+            QString expanded = text_;
+            for (const MacroMatch& match : findEnclosed(text_, macro.prefix, ">>"_L1)) {
+                const QString found = text_.sliced(match.position, match.length);
+                replaceEvery(expanded, found, metadataMacroText(macro, found, photo_));
+            }
+            text_ = std::move(expanded);
+        }
+    }
+
     MacroExpansion take() { return {std::move(text_), lastAutoNumber_}; }
 
   private:
@@ -171,6 +226,7 @@ MacroExpansion ParseMacros(const QString& text, const MacroContext& context) {
         expansion.expandPlainMacros();
         expansion.expandDates();
         expansion.expandRunningNumbers();
+        expansion.expandMetadata();
     } catch (const CannotExpand& failure) {
         qCWarning(macroLog).noquote()
             << "A watermark text of" << context.photoPath << "is only partly expanded:" << failure.reason;

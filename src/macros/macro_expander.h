@@ -3,6 +3,7 @@
 #pragma once
 
 #include "macros/auto_number.h"
+#include "platform/image_properties.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -10,6 +11,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace zelto {
@@ -23,7 +25,10 @@ struct MacroContext {
     qint64 listSize = 0;  // photos in the list
     bool batchRunning = false;
     QDateTime now;
-    QLocale locale;
+    QLocale locale;  // of month names, short dates and digits; userDateLocale() for the user's own
+    // The photo's metadata, shared by all texts of one photo and read when a macro first asks for it. Without
+    // it, a text that asks reads it anew.
+    std::shared_ptr<const LazyImageProperties> properties;
 };
 
 struct MacroExpansion {

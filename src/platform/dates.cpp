@@ -121,7 +121,9 @@ std::optional<UDate> parse(icu::SimpleDateFormat* format, const icu::UnicodeStri
     format->setLenient(lenient);
     icu::ParsePosition position(0);
     const UDate moment = format->parse(text, position);
-    if (position.getErrorIndex() >= 0 || position.getIndex() != text.length()) return std::nullopt;
+    // An empty text is read to its end too.
+    if (text.isEmpty() || position.getErrorIndex() >= 0 || position.getIndex() != text.length())
+        return std::nullopt;
     return moment;
 }
 

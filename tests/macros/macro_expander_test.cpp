@@ -2,8 +2,10 @@
 #include "macros/macro_expander.h"
 
 #include "platform/file_times.h"
+#include "support/exiftool.h"
 
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -169,6 +171,47 @@ TEST(ParseMacros, HandsBackTheLastNumberOfARunningBatchOnly) {
     context.row = 0;
     context.listSize = 1;
     EXPECT_EQ(ParseMacros(text, context).lastAutoNumber, 10);
+}
+
+TEST(ParseMacros, PrintsTheMetadataOfAPhoto) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.jpg"_s);
+    ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32).save(path));
+    ASSERT_TRUE(writeTags(
+        {u"-ExposureTime=1/250"_s, u"-FNumber=2.8"_s, u"-ISO=200"_s, u"-EXIF:Flash#=24"_s,
+         u"-ApertureValue=2.8"_s, u"-ExifVersion=0221"_s, u"-SensingMethod#=2"_s,
+         u"-DateTimeOriginal=2014:05:03 15:41:07"_s, u"-EXIF:CreateDate#=0000:00:00 00:00:00"_s,
+         u"-FocalLengthIn35mmFormat=50"_s, u"-Model=Camera"_s, u"-SubjectDistanceRange#=2"_s,
+         u"-UserComment=<<EXIF:FNumber>> <<IPTC:City>>"_s, u"-IPTC:City=Zürich"_s, u"-IPTC:Keywords=one"_s,
+         u"-IPTC:Keywords=two"_s, u"-IPTC:DateCreated=2014:05:03"_s, u"-XMP-iptcCore:CreatorCity=Bern"_s},
+        {path}));
+    MacroContext context = contextOf(path);
+    context.properties = std::make_shared<LazyImageProperties>(path);
+    const std::initializer_list<Row> rows = {
+        {u"<<EXIF:ExposureTime>> s f/<<EXIF:FNumber>> ISO <<EXIF:ISOSpeedRatings>>"_s,
+         u"1/250 s f/2.8 ISO 200"_s},
+        {u"<<EXIF:Flash>>|<<EXIF:ApertureValue>>|<<EXIF:SensingMethod>>"_s, u"reserved|Normal program|2"_s},
+        {u"<<EXIF:ExifVersion>>|<<IPTC:Keywords>>"_s, u"2.2.1|one, two"_s},
+        // The standard's name reads the same value, and only it has words.
+        {u"<<EXIF:FocalLengthIn35mmFilm>> <<EXIF:FocalLenIn35mmFilm>>"_s, u"50 50"_s},
+        {u"<<EXIF:SubjectDistRange>> <<EXIF:SubjectDistanceRange>>"_s, u"2 Close view"_s},
+        {u"[<<EXIF:Model>><<EXIF:Nothing>><<IPTC:FNumber>><<EXIF:>><<EXIF:exposuretime>>]"_s, u"[]"_s},
+        {u"<<IPTC:CiAdrCity>>[<<IPTC:CreatorContactInfo>>]"_s, u"Bern[]"_s},
+        {u"<<EXIF:DateTimeOriginal[D.M.Y h:n]>>"_s, u"03.05.2014 15:41"_s},
+        {u"<<EXIF:DateTimeOriginal>>[<<EXIF:DateTimeOriginal[]>>]"_s, u"2014:05:03 15:41:07[]"_s},
+        {u"<<EXIF:DateTimeOriginal[DD>> <<EXIF:DateTimeOriginal[Y][M]x>>"_s, u" 2014"_s},
+        {u"<<EXIF:DateTimeDigitized[Y]>> <<EXIF:FNumber[Y]>>"_s, u"0000:00:00 00:00:00 2.8"_s},
+        {u"<<IPTC:DateCreated>> <<IPTC:DateCreated[DD, D MM Y]>>"_s, u"20140503 Saturday, 03 May 2014"_s},
+        // Found in any case; a replacement changes every macro of the same letters.
+        {u"<<exif:FNumber>> <<iPTc:City>> <<exif:FNumber>>"_s, u"2.8 Zürich 2.8"_s},
+        // Values are not searched again, except those of EXIF for IPTC macros.
+        {u"<<EXIF:UserComment>>"_s, u"<<EXIF:FNumber>> Zürich"_s},
+        {u"<<EXIF:UserComment>> <<EXIF:FNumber>>"_s, u"2.8 Zürich 2.8"_s},
+    };
+    expectRows(rows, context);
+    context.properties = nullptr;
+    expectRows(rows, context);
+    expectRows({{u"[<<EXIF:FNumber>><<IPTC:City[Y]>>]"_s, u"[]"_s}}, contextOf(u"/missing.jpg"_s));
 }
 
 // Each of these takes hours or all memory when done naively; a run that hangs fails by the test's time limit.

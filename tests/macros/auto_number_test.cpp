@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "macros/auto_number.h"
+
+#include "macros/macro_expander.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(GenerateAutoMacro, FillsTheStartNumberUpToItsDigits) {
+    struct Row {
+        AutoNumberFields fields;
+        QString expected;
+    };
+    const Row rows[] = {
+        {{}, u"<<AUTO:1+1>>"_s},
+        {{u"4"_s, u"1"_s, u"1"_s}, u"<<AUTO:###1+1>>"_s},
+        {{u"2"_s, u"123"_s, u"1"_s}, u"<<AUTO:123+1>>"_s},
+        {{u"3"_s, ContinueLastNumber(true, 57), u"10"_s}, u"<<AUTO:#58+10>>"_s},
+        {{u"999999999999"_s, u"1"_s, u"1"_s}, u"<<AUTO:"_s + QString(99, u'#') + u"1+1>>"_s},
+    };
+    for (const Row& row : rows) EXPECT_EQ(GenerateAutoMacro(row.fields), row.expected);
+}
+
+TEST(GenerateAutoMacro, IsWhatTheExpanderCounts) {
+    MacroContext context;
+    context.row = 2;
+    EXPECT_EQ(ParseMacros(GenerateAutoMacro({u"4"_s, u"98"_s, u"5"_s}), context).text, u"0108"_s);
+}
+
+TEST(AutoNumberField, HoldsNumbersFromOne) {
+    for (const QString& typed : {u"0"_s, u"-3"_s, u""_s, u"abc"_s, u"-99999999999999999999"_s}) {
+        EXPECT_EQ(autoNumberField(typed), u"1"_s) << typed.toStdString();
+    }
+    for (const QString& typed : {u"1"_s, u"007"_s, u"99999999999999999999"_s})
+        EXPECT_EQ(autoNumberField(typed), typed);
+}
+
+TEST(ContinueLastNumber, GoesOnAfterTheLastOrStartsAnew) {
+    EXPECT_EQ(ContinueLastNumber(true, 0), u"1"_s);
+    EXPECT_EQ(ContinueLastNumber(false, 57), u"1"_s);
+    EXPECT_EQ(ContinueLastNumber(true, std::numeric_limits<qint64>::max()), u"9223372036854775807"_s);
+}
+
+TEST(AutoNumberAt, ReadsAnyPieceOfText) {
+    struct Row {
+        QString piece;
+        qint64 number;
+        QString text;
+    };
+    // At row 3.
+    const Row rows[] = {
+        {u"<<AUTO:#5+2>>"_s, 11, u"11"_s},
+        {u"1234567-9+1>>"_s, -6, u"-6"_s},
+        {u"1234567-99  >>"_s, -96, u"00-96"_s},
+        {u"abcdefghi"_s, 3, u"03"_s},
+        {u"1234567+"_s, 0, u"0"_s},
+        {u"12345678++++"_s, 8, u"8"_s},
+    };
+    for (const Row& row : rows) {
+        const AutoNumber value = autoNumberAt(row.piece, 3);
+        EXPECT_EQ(value.number, row.number) << row.piece.toStdString();
+        EXPECT_EQ(value.text, row.text) << row.piece.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace zelto
