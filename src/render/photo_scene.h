@@ -35,7 +35,7 @@ struct PhotoRequest {
     QDateTime now;      // the moment the run's dates speak of
     QLocale locale;
     std::shared_ptr<const WatermarkStack> stack;
-    std::shared_ptr<LogoCache> logos;  // shared by the photos of a run; may be none
+    std::shared_ptr<LogoCache> logos{};  // shared by the photos of a run; may be none
 };
 
 struct PhotoScene {
