@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/resample.h"
 
+#include "platform/parallel_rows.h"
 #include "platform/resample_loops.h"
 
 #include <algorithm>
@@ -74,18 +75,21 @@ QImage resizedImage(const QImage& picture, QSize newSize, const ResampleFilter& 
     if (result.isNull()) return {};
     const ResampleAxis columns = axisOf(picture.width(), newSize.width(), filter);
     const ResampleAxis rows = axisOf(picture.height(), newSize.height(), filter);
-    std::vector<float> sums(static_cast<std::size_t>(picture.width()) * 4);
-    std::vector<const uchar*> pixels(static_cast<std::size_t>(rows.taps));
-    const float* weights = rows.weights.data();
-    for (int y = 0; y < newSize.height(); ++y, weights += rows.taps) {
-        for (int k = 0; k < rows.taps; ++k) {
-            pixels[static_cast<std::size_t>(k)] =
-                picture.constScanLine(rows.first[static_cast<std::size_t>(y)] + k);
+    uchar* const bits = result.bits();
+    parallelRows(newSize.height(), std::max(picture.width(), newSize.width()), [&](int firstRow, int endRow) {
+        std::vector<float> sums(static_cast<std::size_t>(picture.width()) * 4);
+        std::vector<const uchar*> pixels(static_cast<std::size_t>(rows.taps));
+        for (int y = firstRow; y < endRow; ++y) {
+            const int top = rows.first[static_cast<std::size_t>(y)];
+            for (int k = 0; k < rows.taps; ++k) {
+                pixels[static_cast<std::size_t>(k)] = picture.constScanLine(top + k);
+            }
+            const float* const weights = rows.weights.data() + static_cast<std::ptrdiff_t>(y) * rows.taps;
+            sumRows(pixels.data(), weights, rows.taps, sums.data(), sums.size());
+            sumColumns(sums.data(), columns, !picture.hasAlphaChannel(),
+                       reinterpret_cast<QRgb*>(bits + y * result.bytesPerLine()));
         }
-        sumRows(pixels.data(), weights, rows.taps, sums.data(), sums.size());
-        sumColumns(sums.data(), columns, !picture.hasAlphaChannel(),
-                   reinterpret_cast<QRgb*>(result.scanLine(y)));
-    }
+    });
     return result;
 }
 

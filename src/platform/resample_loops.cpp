@@ -35,11 +35,12 @@ void sumColumnsImpl(const float* sums, const ResampleAxis& columns, bool opaque,
             for (std::size_t c = 0; c < 4; ++c)
                 sum[c] += *weight * sums[static_cast<std::size_t>(first + k) * 4 + c];
         }
-        const float alpha = opaque ? 255.0F : std::clamp(sum[3], 0.0F, 255.0F);
+        const float alpha = opaque ? 255.0F : std::max(sum[3], 0.0F);
+        const float fit = alpha > 255.0F ? 255.0F / alpha : 1.0F;
         const auto rounded = [&](std::size_t c) {
-            return static_cast<int>(std::clamp(sum[c], 0.0F, alpha) + 0.5F);
+            return static_cast<int>(std::clamp(sum[c], 0.0F, alpha) * fit + 0.5F);
         };
-        *out++ = qRgba(rounded(2), rounded(1), rounded(0), static_cast<int>(alpha + 0.5F));
+        *out++ = qRgba(rounded(2), rounded(1), rounded(0), static_cast<int>(alpha * fit + 0.5F));
     }
 }
 
@@ -92,17 +93,24 @@ void sumRowsImpl(const std::uint8_t* const* rows, const float* weights, int taps
 
 using PixelSum = hn::Vec<PixelFloats>;
 
-HWY_INLINE QRgb rounded(PixelSum sum, PixelSum white, bool opaque) {
+// Beside an edge an alpha may overshoot; its colour comes down with it, so that it stays that colour.
+HWY_INLINE QRgb rounded(PixelSum sum, bool opaque) {
+    const PixelFloats d;
     const hn::Rebind<std::uint8_t, PixelFloats> bytes;
     const hn::Repartition<std::uint32_t, decltype(bytes)> word;
-    const auto alpha = opaque ? white : hn::Min(hn::Broadcast<3>(sum), white);
-    const auto small = hn::DemoteTo(bytes, hn::NearestInt(hn::Min(sum, alpha)));
-    return hn::GetLane(hn::BitCast(word, small)) | (opaque ? 0xff000000U : 0U);
+    const auto white = hn::Set(d, 255.0F);
+    if (opaque) {
+        const auto small = hn::DemoteTo(bytes, hn::NearestInt(hn::Min(sum, white)));
+        return hn::GetLane(hn::BitCast(word, small)) | 0xff000000U;
+    }
+    const auto alpha = hn::Max(hn::Broadcast<3>(sum), hn::Zero(d));
+    const auto fit = hn::Min(hn::Div(white, alpha), hn::Set(d, 1.0F));
+    return hn::GetLane(
+        hn::BitCast(word, hn::DemoteTo(bytes, hn::NearestInt(hn::Mul(hn::Min(sum, alpha), fit)))));
 }
 
 void sumColumnsImpl(const float* sums, const ResampleAxis& columns, bool opaque, QRgb* out) {
     const PixelFloats d;
-    const auto white = hn::Set(d, 255.0F);
     const int taps = columns.taps;
     const float* weights = columns.weights.data();
     const std::size_t count = columns.first.size();
@@ -125,16 +133,16 @@ void sumColumnsImpl(const float* sums, const ResampleAxis& columns, bool opaque,
             sum2 = hn::MulAdd(hn::LoadU(d, p2 + 4 * k), hn::Set(d, weights[2 * taps + k]), sum2);
             sum3 = hn::MulAdd(hn::LoadU(d, p3 + 4 * k), hn::Set(d, weights[3 * taps + k]), sum3);
         }
-        out[x] = rounded(sum0, white, opaque);
-        out[x + 1] = rounded(sum1, white, opaque);
-        out[x + 2] = rounded(sum2, white, opaque);
-        out[x + 3] = rounded(sum3, white, opaque);
+        out[x] = rounded(sum0, opaque);
+        out[x + 1] = rounded(sum1, opaque);
+        out[x + 2] = rounded(sum2, opaque);
+        out[x + 3] = rounded(sum3, opaque);
     }
     for (; x < count; ++x, weights += taps) {
         auto sum = hn::Zero(d);
         for (int k = 0; k < taps; ++k)
             sum = hn::MulAdd(hn::LoadU(d, pixels(x) + 4 * k), hn::Set(d, weights[k]), sum);
-        out[x] = rounded(sum, white, opaque);
+        out[x] = rounded(sum, opaque);
     }
 }
 
