@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/batch_run.h"
 
-#include "batch/output_name.h"
+#include "batch/look_ahead.h"
 
 #include <QDateTime>
 #include <QLoggingCategory>
@@ -64,7 +64,7 @@ class BatchRun::Worker {
     const BatchRequest& request_;
     const std::stop_token stop_;
 
-    FolderDestinations destinations_;
+    RunDestinations destinations_;
     std::size_t nextToPrepare_ = 0;
     RunReport report_;
     int SuccessiveFail_ = 0;
@@ -74,11 +74,8 @@ class BatchRun::Worker {
 void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
     observer_.runStarted(resumed);
     if (request_.saveLastWatermark) attempt("saving the last watermark", request_.saveLastWatermark);
-    const OutputOptions& options = request_.options;
-    destinations_ = request_.folders;
-    if (options.KeepDirectoryStructure && !options.CombineToSinglePDF) {
-        report_.OutPutImageList = resolveDestinations(destinations_, options.OutputPath);
-    }
+    destinations_ = runDestinations(request_);
+    report_.OutPutImageList = destinations_.topFolders;
     nextToPrepare_ = job_.NextImageNumberForProcessing;
     const RunEnd how = processPhotos();
     if (how == RunEnd::Finished) finishCombinedPdf();
@@ -89,12 +86,8 @@ void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
 std::optional<PhotoTask> BatchRun::Worker::nextTask() {
     while (nextToPrepare_ < request_.photos.size()) {
         const std::size_t row = nextToPrepare_++;
-        const BatchPhoto& photo = request_.photos[row];
-        if (!photo.checked) continue;
-        const auto place = static_cast<qint64>(row);
-        const QDateTime now = QDateTime::currentDateTime();
-        return PhotoTask{place, static_cast<qint64>(request_.photos.size()), photo.path,
-                         outputPath({photo.path, place, now.date()}, request_.options, destinations_), now};
+        if (!request_.photos[row].checked) continue;
+        return photoTask(request_, destinations_, row, QDateTime::currentDateTime());
     }
     return std::nullopt;
 }

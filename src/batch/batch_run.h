@@ -4,53 +4,27 @@
 // what is done with a photo is the PhotoProcessor's. Photos are prepared ahead, but committed strictly in
 // list order, and everything a user asks for takes effect between two commits.
 //
-//   Idle -> Running -> Idle                       finished, with a summary
-//           Running -> Paused -> Running          the photo during which the pause took effect is written
-//           again Running -> Asking -> Running          after three failures in a row
-//                      Asking -> Stopped          answered "No"; a new run may start, or Pause and Resume go
-//                      on
-//           any     -> Idle                       cancelled
+//   Idle -> Running -> Idle               finished, with a summary
+//           Running -> Paused -> Running  the photo in hand at the pause is written again
+//           Running -> Asking -> Running  after three failures in a row
+//                      Asking -> Stopped  answered "No"; Pause and Resume would still go on
+//           any     -> Idle               cancelled
 //
 // All public functions may be called from any thread.
 #pragma once
 
 #include "batch/batch_observer.h"
-#include "batch/destination_map.h"
-#include "batch/look_ahead.h"
+#include "batch/batch_request.h"
 #include "batch/photo_processor.h"
-#include "records/output_options.h"
-
-#include <QString>
 
 #include <condition_variable>
-#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <stop_token>
 #include <thread>
-#include <vector>
 
 namespace zelto {
-
-// One row of the photo list, as a run sees it.
-struct BatchPhoto {
-    QString path;
-    bool checked = true;  // the others are passed over, but count as rows
-};
-
-// What a run works from; it never changes while the run lasts.
-struct BatchRequest {
-    std::vector<BatchPhoto> photos;
-    OutputOptions options;
-    FolderDestinations
-        folders;  // the source folders of a kept structure; destinations are filled in by the run
-    LookAheadLimits limits = LookAheadLimits::forThisMachine();
-    // Called on the run's thread, where set: to keep the stack as "Last Watermark" whenever a worker starts,
-    // and the running number of the last photo once that is written.
-    std::function<void()> saveLastWatermark;
-    std::function<void(qint64)> storeLastAutoNumber;
-};
 
 class BatchRun {
   public:

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/look_ahead.h"
 
-#include "batch/path_parts.h"
-
-#include <QFileInfo>
+#include "batch/file_identity.h"
 
 #include <unistd.h>
 
@@ -17,14 +15,6 @@ namespace {
 // Finished photos wait for a slow one before them as encoded files, which are small: the memory budget alone
 // would let thousands pile up while a run is asking its question.
 constexpr std::size_t PhotosInFlightPerJob = 8;
-
-// One name for one file, however it was reached; the path itself where there is no such folder.
-QString fileIdentity(const QString& path) {
-    const QFileInfo info(path);
-    if (const QString identity = info.canonicalFilePath(); !identity.isEmpty()) return identity;
-    const QString folder = QFileInfo(info.path()).canonicalFilePath();
-    return folder.isEmpty() ? path : joinedPath(folder, info.fileName());
-}
 
 Result<PreparedPhoto> prepared(PhotoProcessor& processor, const PhotoTask& task) {
     try {

@@ -2,6 +2,7 @@
 #include "batch/output_name.h"
 
 #include "batch/path_parts.h"
+#include "macros/auto_number.h"
 
 #include <QFileInfo>
 
@@ -9,7 +10,7 @@ namespace zelto {
 namespace {
 
 QString twoDigits(int number) {
-    return QString::number(number).rightJustified(2, QLatin1Char('0'));
+    return AdjustLength(QString::number(number), 2);
 }
 
 // A pattern or a name taken from elsewhere may hold separators; as part of a file name they would name a
@@ -26,9 +27,9 @@ QString filledPattern(const QString& pattern, const QString& originalName, const
     return QString(pattern)
         .replace(QLatin1String("[O]"), originalName)
         .replace(QLatin1String("[#]"), number)
-        .replace(QLatin1String("[##]"), number.rightJustified(2, QLatin1Char('0')))
-        .replace(QLatin1String("[###]"), number.rightJustified(3, QLatin1Char('0')))
-        .replace(QLatin1String("[####]"), number.rightJustified(4, QLatin1Char('0')))
+        .replace(QLatin1String("[##]"), AdjustLength(number, 2))
+        .replace(QLatin1String("[###]"), AdjustLength(number, 3))
+        .replace(QLatin1String("[####]"), AdjustLength(number, 4))
         .replace(QLatin1String("[D]"), month + day + year)
         .replace(QLatin1String("[DD]"), day + month + year);
 }
