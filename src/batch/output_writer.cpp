@@ -61,7 +61,8 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
                                                             .final = true,
                                                             .now = task.now,
                                                             .locale = settings_.locale,
-                                                            .stack = settings_.stack});
+                                                            .stack = settings_.stack,
+                                                            .logos = logos_});
     if (!scene) return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
 
     const OutputOptions& options = settings_.options;

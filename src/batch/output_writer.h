@@ -6,6 +6,7 @@
 #include "batch/photo_processor.h"
 #include "records/output_options.h"
 #include "records/watermark_stack.h"
+#include "render/logo_cache.h"
 
 #include <QLocale>
 
@@ -37,6 +38,7 @@ class OutputWriter : public PhotoProcessor {
     Result<void> addPage(const PdfPage& page);
 
     const Settings settings_;
+    const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
     std::unique_ptr<CombinedPdf> combinedPdf_;
 };
 

@@ -94,11 +94,15 @@ bool isOpaque(const std::optional<Color>& color) {
     return color && color->Alpha >= 1.0F;
 }
 
+// Whether a picture may be that large.
+bool isPossible(qint64 width, qint64 height) {
+    return width <= MaximumPicturePixels && height <= MaximumPicturePixels &&
+           width * height <= MaximumPicturePixels;
+}
+
 // A new picture whose pixels are still to be written; null where it would be larger than any picture may be.
 QImage makeCanvas(qint64 width, qint64 height, bool opaque) {
-    const bool possible = width <= MaximumPicturePixels && height <= MaximumPicturePixels &&
-                          width * height <= MaximumPicturePixels;
-    if (!possible) return {};
+    if (!isPossible(width, height)) return {};
     return {static_cast<int>(width), static_cast<int>(height),
             opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied};
 }
@@ -194,6 +198,15 @@ QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOr
     imageOrigin =
         QRect(place + QPoint(static_cast<int>(border.left), static_cast<int>(border.bottom)), photoSize);
     return canvas;
+}
+
+QSize sizeWithEffects(QSize photo, const PhotoEffects& effect) {
+    const QSize framed = framedSize(photo, borderFor(effect, photo));
+    if (!effect.EnableShadow) return framed;
+    const ShadowPlan plan = shadowPlan(effect);
+    const qint64 width = framed.width() + plan.x.growth;
+    const qint64 height = framed.height() + plan.y.growth;
+    return isPossible(width, height) ? QSize(static_cast<int>(width), static_cast<int>(height)) : framed;
 }
 
 }  // namespace zelto

@@ -20,4 +20,7 @@ QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect);
 QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
                         bool final);
 
+// The size imagewithEffects gives the final picture of an opaque photo of `photo` pixels.
+QSize sizeWithEffects(QSize photo, const PhotoEffects& effect);
+
 }  // namespace zelto

@@ -20,7 +20,8 @@ MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) 
             .listSize = request.listSize,
             .batchRunning = request.batchRunning,
             .now = request.now,
-            .locale = request.locale};
+            .locale = request.locale,
+            .properties = std::make_shared<const LazyImageProperties>(request.path)};
 }
 
 void frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/batch_plan.h"
+
+#include "batch/image_list.h"
+#include "persistence/copyright_file.h"
+#include "persistence/output_settings_file.h"
+#include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
+#include "platform/application_folders.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+constexpr int DefaultJpegQuality = 90;
+
+QString absolutePath(const QString& path) {
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+bool looksLikeAPath(const QString& setting) {
+    return setting.contains(QLatin1Char('/')) || setting.endsWith(SettingFileExtension, Qt::CaseInsensitive);
+}
+
+Result<QString> settingPath(const QString& setting) {
+    if (looksLikeAPath(setting) && QFileInfo(setting).isFile()) return setting;
+    const Result<QString> folder = applicationFolder(SettingsFolder);
+    QStringList names;
+    if (folder) {
+        const SettingsLibrary library(*folder);
+        if (library.contains(setting)) return library.path(setting);
+        names = library.names().value_or(QStringList());
+    }
+    if (QFileInfo(setting).isFile()) return setting;
+    const QString known = names.isEmpty() ? QStringLiteral("none is saved yet")
+                                          : QStringLiteral("saved are: ") + names.join(QStringLiteral(", "));
+    return fail(ErrorCode::NotFound,
+                QStringLiteral("there is no setting and no file “%1” (%2)").arg(setting, known), setting);
+}
+
+Result<std::shared_ptr<const WatermarkStack>> loadStack(const QString& setting) {
+    return settingPath(setting).and_then(LoadWatermarkSetting).map([](WatermarkStack stack) {
+        return std::shared_ptr<const WatermarkStack>(std::make_shared<WatermarkStack>(std::move(stack)));
+    });
+}
+
+Result<OutputOptions> startingOptions(const CommandLine& line) {
+    OutputSettings settings;
+    settings.options.OutputFormat = SameAsSourceFormat;
+    settings.options.JPEGQuality = DefaultJpegQuality;
+    if (line.optionsFile.isEmpty()) return settings.options;
+    if (!QFileInfo(line.optionsFile).isFile()) {
+        return fail(ErrorCode::NotFound,
+                    QStringLiteral("there is no options file “%1”").arg(line.optionsFile), line.optionsFile);
+    }
+    return loadOutputSettings(line.optionsFile, settings).map([](const OutputSettings& read) {
+        return read.options;
+    });
+}
+
+void override(OutputOptions& options, const CommandLine& line) {
+    if (!line.output.isEmpty()) options.OutputPath = line.output;
+    if (line.format) options.OutputFormat = *line.format;
+    if (line.quality) options.JPEGQuality = *line.quality;
+    if (line.metadata) options.ExifDataToInclude = *line.metadata;
+    if (line.rename) {
+        options.Rename = true;
+        options.RenameFormat = *line.rename;
+    }
+    if (line.resize) {
+        options.ResizeImage = true;
+        options.ResizeType = line.resize->type;
+        options.ResizeWidth = options.LongestsideSize = line.resize->width;
+        options.ResizeHeight = line.resize->height;
+    }
+    options.AspectRatio = options.AspectRatio || line.keepAspect;
+    options.DontEnlargeSmallImage = options.DontEnlargeSmallImage || line.noEnlarge;
+    options.CombineToSinglePDF = options.CombineToSinglePDF || line.combinePdf;
+    options.KeepDirectoryStructure = options.KeepDirectoryStructure || line.keepStructure;
+}
+
+Result<OutputOptions> outputOptions(const CommandLine& line) {
+    Result<OutputOptions> options = startingOptions(line);
+    if (!options) return options;
+    override(*options, line);
+    if (options->OutputPath.isEmpty()) {
+        return fail(
+            ErrorCode::InvalidValue,
+            QStringLiteral("“%1” names no output folder; name one with --output").arg(line.optionsFile));
+    }
+    options->OutputPath = absolutePath(options->OutputPath);
+    if (line.combinePdf && options->OutputFormat != QLatin1String("pdf")) {
+        return fail(ErrorCode::InvalidValue, QStringLiteral("--combine-pdf needs --format pdf"));
+    }
+    return options;
+}
+
+// The copyright data of the file that was named, or of the user's own where the setting asks for it.
+Result<std::optional<CopyRightMetaData>> copyrightData(const CommandLine& line, const WatermarkStack& stack) {
+    const bool named = !line.copyrightFile.isEmpty();
+    if (!named && !stack.Metadata) return std::nullopt;
+    QString path = line.copyrightFile;
+    if (!named) {
+        const Result<QString> folder = applicationFolder(ZeltoFolder);
+        if (!folder) return std::nullopt;
+        path = *folder + CopyrightFileName;
+    }
+    if (!QFileInfo(path).isFile()) {
+        if (!named) return std::nullopt;
+        return fail(ErrorCode::NotFound, QStringLiteral("there is no copyright file “%1”").arg(path), path);
+    }
+    CopyRightMetaData metadata;
+    return LoadMetadata(metadata, path).map([&] {
+        metadata.Enabled = metadata.Enabled || named;
+        return std::optional(metadata);
+    });
+}
+
+Result<ImageList> photoList(const CommandLine& line) {
+    ImageList list;
+    for (const QString& input : line.inputs) {
+        const QString path = absolutePath(input);
+        const QFileInfo info(path);
+        if (!info.exists()) {
+            return fail(ErrorCode::NotFound, QStringLiteral("there is no photo or folder “%1”").arg(input),
+                        path);
+        }
+        if (!info.isDir()) {
+            list.AddImage(path);
+            continue;
+        }
+        const auto found = ImportImagesFromFolder(path, line.recursive, GetExtensionList(line.extensions));
+        if (!found) return tl::unexpected(found.error());
+        for (const QString& photo : *found) list.AddImage(photo);
+    }
+    if (list.images().empty()) {
+        return fail(ErrorCode::NotFound,
+                    QStringLiteral(
+                        "no photo was found; see --extensions and --recursive for what a folder scan takes, "
+                        "and name GIF files themselves"));
+    }
+    return list;
+}
+
+Result<void> refuseToReplaceOriginals(const BatchRequest& request) {
+    const QStringList replaced = replacedPhotos(request, QDateTime::currentDateTime());
+    if (replaced.isEmpty()) return {};
+    return fail(
+        ErrorCode::InvalidValue,
+        QStringLiteral("%1 of the photos would be replaced by their outputs, the first being “%2”; choose "
+                       "another --output or a --rename, or allow it with --overwrite-originals")
+            .arg(replaced.size())
+            .arg(replaced.first()),
+        replaced.first());
+}
+
+}  // namespace
+
+Result<BatchPlan> planBatch(const CommandLine& line) {
+    BatchPlan plan;
+    auto stack = loadStack(line.setting);
+    if (!stack) return tl::unexpected(std::move(stack.error()));
+    plan.stack = std::move(*stack);
+    auto options = outputOptions(line);
+    if (!options) return tl::unexpected(std::move(options.error()));
+    plan.request.options = std::move(*options);
+    auto copyright = copyrightData(line, *plan.stack);
+    if (!copyright) return tl::unexpected(std::move(copyright.error()));
+    plan.copyright = std::move(*copyright);
+    const Result<ImageList> list = photoList(line);
+    if (!list) return tl::unexpected(list.error());
+
+    plan.request.folders = list->InputOutputDictionary();
+    for (const Image& image : list->images()) {
+        const auto row = static_cast<qint64>(plan.request.photos.size());
+        plan.request.photos.push_back({image.ImagePath, line.shard.contains(row)});
+    }
+    if (line.jobs) plan.request.limits.jobs = *line.jobs;
+    plan.request.limits.jobs = static_cast<int>(std::min<std::size_t>(
+        static_cast<std::size_t>(plan.request.limits.jobs), plan.request.photos.size()));
+    if (!line.overwriteOriginals) {
+        const Result<void> harmless = refuseToReplaceOriginals(plan.request);
+        if (!harmless) return tl::unexpected(harmless.error());
+    }
+    return plan;
+}
+
+Result<void> makeOutputFolder(const BatchPlan& plan) {
+    const QString& folder = plan.request.options.OutputPath;
+    if (QDir().mkpath(folder)) return {};
+    return fail(ErrorCode::CannotWrite, QStringLiteral("the output folder “%1” cannot be made").arg(folder),
+                folder);
+}
+
+}  // namespace zelto

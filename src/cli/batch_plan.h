@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// From a command line to everything one run needs: the setting, the options, the photo list, the copyright data. All
+// that can be wrong with them is found here, before anything is written.
+#pragma once
+
+#include "batch/batch_request.h"
+#include "cli/command_line.h"
+#include "platform/result.h"
+#include "records/copyright_metadata.h"
+#include "records/watermark_stack.h"
+
+#include <memory>
+#include <optional>
+
+namespace zelto {
+
+struct BatchPlan {
+    BatchRequest request;  // photos outside the shard are unchecked
+    std::shared_ptr<const WatermarkStack> stack;
+    std::optional<CopyRightMetaData> copyright;  // to be written into the outputs
+};
+
+// Error: what cannot be used and what to do about it.
+Result<BatchPlan> planBatch(const CommandLine& line);
+
+// Makes the output folder. Error: ErrorCode::CannotWrite.
+Result<void> makeOutputFolder(const BatchPlan& plan);
+
+}  // namespace zelto

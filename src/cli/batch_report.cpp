@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/batch_report.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+QLatin1String statusWord(PhotoReport::Status status) {
+    switch (status) {
+        case PhotoReport::Status::Written:
+            return "written"_L1;
+        case PhotoReport::Status::Failed:
+            return "failed"_L1;
+        case PhotoReport::Status::NotRun:
+            break;
+    }
+    return "not-run"_L1;
+}
+
+QJsonObject photoObject(const PhotoReport& photo) {
+    return {{"index"_L1, photo.index},
+            {"source"_L1, photo.source},
+            {"status"_L1, statusWord(photo.status)},
+            {"output"_L1, photo.output},
+            {"width"_L1, photo.size.width()},
+            {"height"_L1, photo.size.height()},
+            {"error"_L1, photo.error}};
+}
+
+}  // namespace
+
+qint64 BatchReport::count(PhotoReport::Status status) const {
+    return std::count_if(photos.begin(), photos.end(),
+                         [&](const PhotoReport& photo) { return photo.status == status; });
+}
+
+int BatchReport::exitStatus() const {
+    if (!error.isEmpty()) return exit_status::CannotBeUsed;
+    if (interrupted) return exit_status::Interrupted;
+    return stopped || count(PhotoReport::Status::Failed) > 0 ? exit_status::SomeFailed : exit_status::Success;
+}
+
+BatchReport plannedReport(const BatchRequest& request) {
+    const RunDestinations destinations = runDestinations(request);
+    const QDateTime now = QDateTime::currentDateTime();
+    const bool combined = request.options.CombineToSinglePDF && request.options.OutputFormat == "pdf"_L1;
+    BatchReport report;
+    for (std::size_t row = 0; row < request.photos.size(); ++row) {
+        if (!request.photos[row].checked) continue;
+        const PhotoTask task = photoTask(request, destinations, row, now);
+        PhotoReport& photo = report.photos.emplace_back();
+        photo.index = task.row;
+        photo.source = task.source;
+        if (!combined) photo.output = task.output;
+    }
+    return report;
+}
+
+PhotoReport& photoAt(BatchReport& report, qint64 row) {
+    return *std::lower_bound(report.photos.begin(), report.photos.end(), row,
+                             [](const PhotoReport& photo, qint64 wanted) { return photo.index < wanted; });
+}
+
+QByteArray toJson(const BatchReport& report) {
+    QJsonArray photos;
+    for (const PhotoReport& photo : report.photos) photos.append(photoObject(photo));
+    const QJsonObject summary = {{"written"_L1, report.count(PhotoReport::Status::Written)},
+                                 {"failed"_L1, report.count(PhotoReport::Status::Failed)},
+                                 {"notRun"_L1, report.count(PhotoReport::Status::NotRun)},
+                                 {"stopped"_L1, report.stopped},
+                                 {"message"_L1, report.message}};
+    return QJsonDocument(
+               {{"version"_L1, 1},
+                {"photos"_L1, photos},
+                {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
+                {"summary"_L1, summary},
+                {"error"_L1, report.error}})
+        .toJson();
+}
+
+QString toText(const BatchReport& report) {
+    QStringList counts = {QStringLiteral("%1 written").arg(report.count(PhotoReport::Status::Written))};
+    if (const qint64 failed = report.count(PhotoReport::Status::Failed); failed > 0) {
+        counts.append(QStringLiteral("%1 failed").arg(failed));
+    }
+    if (const qint64 notRun = report.count(PhotoReport::Status::NotRun); notRun > 0) {
+        counts.append(QStringLiteral("%1 not run").arg(notRun));
+    }
+    QString text = report.message + QLatin1Char('\n') + counts.join(QStringLiteral(", ")) + QLatin1Char('\n');
+    if (!report.combinedPdf.isEmpty()) text += report.combinedPdf + QLatin1Char('\n');
+    return text;
+}
+
+}  // namespace zelto

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Doing what a plan says, or telling what it would do.
+#pragma once
+
+#include "cli/batch_plan.h"
+#include "cli/batch_report.h"
+#include "cli/console.h"
+
+namespace zelto {
+
+// Runs the batch, or as much of it as signals and repeated failures let through.
+BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& console);
+
+// Where each photo would go, and how large it would become.
+BatchReport dryRun(const BatchPlan& plan);
+
+// A dry run as lines of source, output and size, with tabs between them.
+QString dryRunText(const BatchReport& report);
+
+}  // namespace zelto

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The options of zelto-batch: reading them, and the help that tells of them. Both come from one table. Nothing is
+// looked up on disk here.
+#pragma once
+
+#include "batch/folder_scan.h"
+#include "cli/shard.h"
+#include "platform/result.h"
+#include "records/output_options.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace zelto {
+
+struct ResizeChoice {
+    std::int64_t type = resize_type::Percentage;
+    std::int64_t width = 0;  // the longer side for that type
+    std::int64_t height = 0;
+};
+
+struct CommandLine {
+    bool help = false;
+    bool version = false;
+
+    QStringList inputs;  // photos and folders, as given
+    QString setting;     // a name or a path
+    QString output;
+    QString optionsFile;
+    QString copyrightFile;
+
+    // What is not given leaves the options of the file, or their defaults, as they are.
+    std::optional<QString> format;  // an OutputOptions::OutputFormat
+    std::optional<int> quality;
+    std::optional<QString> rename;
+    std::optional<ResizeChoice> resize;
+    std::optional<std::int64_t> metadata;
+    bool keepAspect = false;
+    bool noEnlarge = false;
+    bool combinePdf = false;
+    bool keepStructure = false;
+
+    bool recursive = false;
+    ScanFormats extensions;
+    std::optional<int> jobs;
+    Shard shard;
+    bool continueAfterFailures = false;
+    bool overwriteOriginals = false;
+    bool dryRun = false;
+
+    bool json = false;
+    bool quiet = false;
+    bool color = true;
+    bool progress = true;
+};
+
+// `arguments` without the program's name. Error: ErrorCode::InvalidValue, naming the option and what it takes.
+Result<CommandLine> parseCommandLine(const QStringList& arguments);
+
+// Whether a report in JSON is asked for, even by a command line that cannot be used.
+bool asksForJson(const QStringList& arguments);
+
+QString helpText();
+
+}  // namespace zelto

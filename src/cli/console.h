@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What zelto-batch shows while it works: on a terminal a bar that stays on one line, elsewhere a line a photo.
+// Everything here goes to standard error. Any thread.
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <mutex>
+
+namespace zelto {
+
+struct ConsoleChoices {
+    bool quiet = false;  // problems only
+    bool color = true;
+    bool bar = true;
+};
+
+class Console {
+  public:
+    // A choice only holds where standard error can serve it: no bar and no color where it is no terminal or a dumb
+    // one, no color where NO_COLOR is set.
+    explicit Console(const ConsoleChoices& choices);
+
+    // Starts the count that rate and time left are told from.
+    void begin(qint64 total);
+    // One more photo is done. `line` is shown where there is no bar.
+    void advance(const QString& line);
+    void problem(const QString& text);
+    // Takes the bar away.
+    void end();
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    QString bar() const;
+    void drawBar();
+    void clearBar();
+
+    const bool quiet_;
+    const bool terminal_;
+    const bool color_;
+    const bool bar_;
+
+    std::mutex mutex_;  // guards everything below and the terminal's line
+    Clock::time_point start_ = Clock::now();
+    Clock::time_point drawn_;
+    qint64 done_ = 0;
+    qint64 total_ = 0;
+    bool shown_ = false;
+};
+
+}  // namespace zelto

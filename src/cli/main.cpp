@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// zelto-batch: one batch from the command line.
+#include "cli/batch_work.h"
+#include "cli/command_line.h"
+
+#include <QGuiApplication>
+
+#include <langinfo.h>
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <optional>
+
+namespace zelto {
+namespace {
+
+bool printResult(const QByteArray& text) {
+    const auto size = static_cast<std::size_t>(text.size());
+    return std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
+
+// Qt asks for a UTF-8 locale and a display, and would complain or fail in a bare environment.
+void prepareEnvironment() {
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+}
+
+// Where the messages of the engine and of the libraries go; the libraries' small talk goes nowhere.
+Console* messageConsole = nullptr;
+
+void showMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    const bool ours = context.category != nullptr && std::strncmp(context.category, "zelto", 5) == 0;
+    const bool serious = type == QtCriticalMsg || type == QtFatalMsg;
+    if (messageConsole != nullptr && (serious || (ours && type == QtWarningMsg)))
+        messageConsole->problem(message);
+}
+
+// A report of why nothing could be run.
+BatchReport unusable(const Error& error) {
+    BatchReport report;
+    report.error = error.message;
+    return report;
+}
+
+BatchReport work(const CommandLine& line, Console& console) {
+    const Result<BatchPlan> plan = planBatch(line);
+    if (!plan) return unusable(plan.error());
+    if (line.dryRun) return dryRun(*plan);
+    if (const Result<void> made = makeOutputFolder(*plan); !made) return unusable(made.error());
+    return runBatch(*plan, line, console);
+}
+
+int show(const BatchReport& report, const CommandLine& line, Console& console) {
+    if (!report.error.isEmpty()) console.problem(report.error);
+    bool printed = true;
+    if (line.json) {
+        printed = printResult(toJson(report));
+    } else if (line.dryRun) {
+        printed = printResult(dryRunText(report).toUtf8());
+    } else if (!line.quiet && report.error.isEmpty()) {
+        printed = printResult(toText(report).toUtf8());
+    }
+    if (!printed) console.problem(QStringLiteral("the result could not be printed"));
+    return printed ? report.exitStatus() : std::max(report.exitStatus(), exit_status::SomeFailed);
+}
+
+int usageError(const Error& error, bool json) {
+    Console console({});
+    console.problem(error.message + QStringLiteral("\nTry 'zelto-batch --help'."));
+    if (json) printResult(toJson(unusable(error)));
+    return exit_status::CannotBeUsed;
+}
+
+int run(int argc, char** argv) {
+    prepareEnvironment();
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+    const Result<CommandLine> line = parseCommandLine(arguments);
+    if (!line) return usageError(line.error(), asksForJson(arguments));
+    if (line->help || line->version) {
+        const QString text = line->help ? helpText() : QStringLiteral("zelto-batch " ZELTO_VERSION "\n");
+        return printResult(text.toUtf8()) ? exit_status::Success : exit_status::SomeFailed;
+    }
+
+    Console console({line->quiet, line->color, line->progress});
+    messageConsole = &console;
+    qInstallMessageHandler(showMessage);
+    const QGuiApplication application(argc, argv);
+    const int status = show(work(*line, console), *line, console);
+    messageConsole = nullptr;
+    return status;
+}
+
+}  // namespace
+}  // namespace zelto
+
+int main(int argc, char** argv) {
+    try {
+        return zelto::run(argc, argv);
+    } catch (const std::exception& exception) {
+        std::fprintf(stderr, "zelto-batch: %s\n", exception.what());
+        return zelto::exit_status::CannotBeUsed;
+    }
+}
