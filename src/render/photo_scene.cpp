@@ -5,6 +5,7 @@
 #include "render/photo_effects.h"
 #include "render/photo_filters.h"
 
+#include <memory>
 #include <utility>
 
 namespace zelto {
