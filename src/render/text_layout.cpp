@@ -95,24 +95,28 @@ class Line {
   private:
     static void drawRun(QPainter& painter, const QGlyphRun& run, QPointF baseline, const QRectF& visible) {
         const QRawFont font = run.rawFont();
+        if (holdsPictures(font)) {
+            painter.drawGlyphRun(baseline, run);
+            return;
+        }
         const double reach = std::max(font.maxCharWidth(), 2.0 * font.pixelSize());
         const QRectF reachable = visible.adjusted(-reach, -reach, reach, reach);
         const QList<quint32> glyphs = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         QPainterPath outlines;
         outlines.setFillRule(Qt::WindingFill);
-        bool anyInReach = false;
         for (qsizetype i = 0; i < glyphs.size(); ++i) {
             const QPointF position = positions[i] + baseline;
             if (!reachable.contains(position)) continue;
-            anyInReach = true;
             outlines.addPath(font.pathForGlyph(glyphs[i]).translated(position));
         }
-        if (!outlines.isEmpty()) {
-            painter.fillPath(outlines, painter.pen().color());
-        } else if (anyInReach && !run.boundingRect().isEmpty()) {
-            painter.drawGlyphRun(baseline, run);  // a font of pictures, such as most emoji
-        }
+        painter.fillPath(outlines, painter.pen().color());
+    }
+
+    // Emoji fonts hold bitmaps. To be asked before any outline is: Qt remembers the empty outline of such a glyph
+    // and draws nothing from then on.
+    static bool holdsPictures(const QRawFont& font) {
+        return !font.fontTable("CBLC").isEmpty() || !font.fontTable("sbix").isEmpty();
     }
 
     QTextLayout layout_;
