@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Carries the metadata of a photo into its written output. Any thread; several outputs at a time, but one output by
+// one thread.
+#pragma once
+
+#include "batch/exiftool_pool.h"
+#include "batch/metadata_arguments.h"
+#include "platform/result.h"
+
+#include <chrono>
+
+namespace zelto {
+
+// How long exiftool may take for one output.
+inline constexpr std::chrono::milliseconds MetadataTimeout = std::chrono::seconds(60);
+
+// Blocks until the output has its metadata. Where an output replaces the photo it is made from, keep a KeptFile of
+// the photo before writing and name its path as the source. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound
+// or ErrorCode::CannotWrite for the files; the output is then as it was written, whole and without metadata.
+Result<void> CopyExifDataTo(const MetadataRequest& request, ExiftoolPool& pool,
+                            std::chrono::milliseconds timeout = MetadataTimeout);
+
+}  // namespace zelto
