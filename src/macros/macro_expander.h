@@ -28,7 +28,7 @@ struct MacroContext {
     QLocale locale;  // of month names, short dates and digits; userDateLocale() for the user's own
     // The photo's metadata, shared by all texts of one photo and read when a macro first asks for it. Without
     // it, a text that asks reads it anew.
-    std::shared_ptr<const LazyImageProperties> properties;
+    std::shared_ptr<const LazyImageProperties> properties = nullptr;
 };
 
 struct MacroExpansion {

@@ -14,6 +14,15 @@ qsizetype lineEndAfter(QStringView text, qsizetype position) {
     return std::find_if(text.begin() + position, text.end(), isLineEnd) - text.begin();
 }
 
+// Where `prefix`, which starts with "<<", next stands in any case; -1 for nowhere.
+qsizetype findPrefix(QStringView text, QLatin1String prefix, qsizetype from) {
+    while ((from = text.indexOf(QLatin1String("<<"), from)) >= 0) {
+        if (text.sliced(from).startsWith(prefix, Qt::CaseInsensitive)) return from;
+        ++from;
+    }
+    return -1;
+}
+
 template <class Belongs>
 qsizetype skipWhile(QStringView text, qsizetype position, Belongs belongs) {
     while (position < text.size() && belongs(text[position])) ++position;
@@ -26,7 +35,7 @@ QList<MacroMatch> findEnclosed(QStringView text, QLatin1String prefix, QLatin1St
     QList<MacroMatch> matches;
     qsizetype lineEnd = 0;
     qsizetype from = 0;
-    while ((from = text.indexOf(prefix, from, Qt::CaseInsensitive)) >= 0) {
+    while ((from = findPrefix(text, prefix, from)) >= 0) {
         const qsizetype inside = from + prefix.size();
         if (inside > lineEnd) lineEnd = lineEndAfter(text, inside);
         const qsizetype length = text.first(lineEnd).sliced(inside).indexOf(suffix);
@@ -47,7 +56,7 @@ QList<MacroMatch> findRunningNumbers(QStringView text) {
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     QList<MacroMatch> matches;
     qsizetype from = 0;
-    while ((from = text.indexOf(Prefix, from, Qt::CaseInsensitive)) >= 0) {
+    while ((from = findPrefix(text, Prefix, from)) >= 0) {
         qsizetype end = from + Prefix.size();
         end = skipWhile(text, end, [](QChar c) { return c == u'#'; });
         end = skipWhile(text, end, isDigit);

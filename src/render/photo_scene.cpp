@@ -22,7 +22,7 @@ MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) 
             .batchRunning = request.batchRunning,
             .now = request.now,
             .locale = request.locale,
-            .properties = std::make_shared<const LazyImageProperties>(request.path)};
+            .properties = scene.properties};
 }
 
 void frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
@@ -63,6 +63,7 @@ PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo) {
     scene.photoSize = photo.image.size();
     scene.dpiX = photo.dpiX;
     scene.dpiY = photo.dpiY;
+    scene.properties = std::make_shared<LazyImageProperties>(request.path);
     scene.picture = std::move(photo.image);
     const WatermarkStack& stack = *request.stack;
     if (stack.SelectedFilter != 0) {

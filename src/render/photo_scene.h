@@ -4,6 +4,7 @@
 // is written. A scene is built from values alone, on any thread.
 #pragma once
 
+#include "platform/image_properties.h"
 #include "platform/picture_reader.h"
 #include "platform/result.h"
 #include "records/watermark_stack.h"
@@ -46,6 +47,8 @@ struct PhotoScene {
     QRect imageRect;       // the photo inside `picture`, pixels, y up
     QRect borderRect;      // the framed photo inside `picture`, pixels, y up
     QSizeF referenceSize;  // the area watermarks are placed in; a shadow around the photo is no part of it
+    // The photo's metadata, for the texts that print some; kept so that an edit does not read the file again.
+    std::shared_ptr<const LazyImageProperties> properties;
     // One place per record of the stack, in order; empty where a record yields no layer.
     std::vector<std::optional<WatermarkView>> layers;
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
