@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The two pictures that the effect step leaves in the user's home folder, for looking into a result:
+// "file.png", the photo on its border, and "effect.png", the finished effect. Encoding them takes seconds for
+// a large photo: call this in the background, for the newest photo only. Any thread, one call at a time.
+#pragma once
+
+#include "platform/result.h"
+#include "records/photo_effects.h"
+
+#include <QDir>
+#include <QImage>
+#include <QString>
+
+namespace zelto {
+
+// Writes both files into `folder`, replacing earlier ones. `framed` and `result` may be the same picture,
+// which is then encoded once. Error: as encodePicture and writeWholeFile; the first that fails ends it.
+Result<void> writeEffectDiagnostics(const QImage& framed, const QImage& result,
+                                    const QString& folder = QDir::homePath());
+
+// The same for a filtered photo whose effect pictures are no longer at hand. `final` as in imagewithEffects.
+Result<void> writeEffectDiagnostics(const QImage& photo, const PhotoEffects& effect, bool final,
+                                    const QString& folder = QDir::homePath());
+
+}  // namespace zelto
