@@ -5,13 +5,14 @@
 
 #include "platform/filter_pass.h"
 
+#include <cstddef>
 #include <cstdint>
 
 namespace zelto {
 
 // `count` pixels of row `y` from column `x` on. Without `hasAlpha` the pixels count as opaque and come out
 // opaque.
-void filterPixels(const FilterPass& pass, const std::uint32_t* source, std::uint32_t* target, int count,
-                  int x, int y, bool hasAlpha);
+void filterPixels(const FilterPass& pass, const std::uint32_t* source, std::uint32_t* target,
+                  std::size_t count, int x, int y, bool hasAlpha);
 
 }  // namespace zelto

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/filter_pass.h"
 
+#include "platform/srgb_transfer.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -95,6 +97,17 @@ bool isDiagonal(const Matrix& m) {
     return m[0][1] == 0 && m[0][2] == 0 && m[1][0] == 0 && m[1][2] == 0 && m[2][0] == 0 && m[2][1] == 0;
 }
 
+// One channel's table for linear results of factor * x + offset.
+std::array<std::uint32_t, 256> table(double factor, double offset, std::size_t channel) {
+    std::array<std::uint32_t, 256> values{};
+    for (std::size_t level = 0; level < values.size(); ++level) {
+        const double linear = factor * linearFromSrgb(static_cast<double>(level) / 255.0) + offset;
+        const double encoded = srgbFromLinear(std::clamp(linear, 0.0, 1.0));
+        values[level] = static_cast<std::uint32_t>(encoded * 255.0 + 0.5) << (16U - 8U * channel);
+    }
+    return values;
+}
+
 template <class Rows>
 bool allEqual(const Rows& rows) {
     return rows[0] == rows[1] && rows[1] == rows[2];
@@ -118,7 +131,12 @@ FilterPass fuse(const FilterChain& chain, QSize size) {
         pass.place.centerX = static_cast<float>(size.width() * 0.5);
         pass.place.centerY = static_cast<float>(size.height() * 0.5);
     }
-    pass.perChannel = !chain.place && isDiagonal(first.matrix);
+    if (!chain.sepia && !chain.place && isDiagonal(first.matrix)) {
+        const auto map = [&](std::size_t c) {
+            return table(first.matrix[c][c], first.offset[c] + last.offset[c], c);
+        };
+        pass.tables = {map(0), map(1), map(2)};
+    }
     pass.grey = allEqual(pass.matrix) && allEqual(pass.offset) && allEqual(pass.veil) &&
                 allEqual(pass.shift) && pass.place.kind != FilterPlace::Kind::WhiteGradient;
     return pass;

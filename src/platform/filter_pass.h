@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 namespace zelto {
 
@@ -26,6 +27,14 @@ struct FilterPlace {
     float intensity = 0.0F;  // of the vignette
 };
 
+// The results of a pass in which no channel depends on another or on the place, for the 256 values of each
+// channel of an opaque pixel and shifted to where the pixel holds it.
+struct ChannelTables {
+    std::array<std::uint32_t, 256> red;
+    std::array<std::uint32_t, 256> green;
+    std::array<std::uint32_t, 256> blue;
+};
+
 struct FilterPass {
     bool sepia = false;
     std::array<std::array<float, 3>, 3> matrix;
@@ -33,8 +42,8 @@ struct FilterPass {
     std::array<float, 3> veil;
     std::array<float, 3> shift;
     FilterPlace place;
-    bool grey = false;        // the three results are one value
-    bool perChannel = false;  // no result depends on another channel or on the place
+    bool grey = false;  // the three results are one value
+    std::optional<ChannelTables> tables;
 };
 
 // The pass of `chain` over a picture of `size` pixels.

@@ -23,8 +23,8 @@ QImage applyFilterChain(QImage picture, const FilterChain& chain) {
     uchar* const target = result.bits();
     const qsizetype sourceStride = from.bytesPerLine();
     const qsizetype targetStride = result.bytesPerLine();
-    const int width = result.width();
-    parallelRows(result.height(), width, [&](int first, int end) {
+    const auto width = static_cast<std::size_t>(result.width());
+    parallelRows(result.height(), result.width(), [&](int first, int end) {
         for (int y = first; y < end; ++y) {
             filterPixels(pass, reinterpret_cast<const std::uint32_t*>(source + y * sourceStride),
                          reinterpret_cast<std::uint32_t*>(target + y * targetStride), width, 0, y, hasAlpha);
