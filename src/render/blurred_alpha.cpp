@@ -2,10 +2,12 @@
 #include "render/blurred_alpha.h"
 
 #include "platform/parallel_rows.h"
+#include "platform/weighted_sums.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <span>
 
 namespace zelto {
 namespace {
@@ -61,11 +63,11 @@ BlurredAlpha::BlurredAlpha(const QImage& picture, int blur)
       columns_(dividedUp(picture.width(), cellSize_) + 2 * margin_),
       rows_(dividedUp(picture.height(), cellSize_) + 2 * margin_),
       cells_(index(columns_) * index(rows_), std::uint16_t{0}) {
-    readCells(picture);
+    gatherCells(picture);
     blurAcross();
 }
 
-void BlurredAlpha::readCells(const QImage& picture) {
+void BlurredAlpha::gatherCells(const QImage& picture) {
     const int size = cellSize_;
     const float scale = CellScale / static_cast<float>(size * size);
     parallelRows(dividedUp(picture.height(), size), picture.width() * size, [&](int first, int end) {
@@ -88,20 +90,19 @@ void BlurredAlpha::readCells(const QImage& picture) {
 }
 
 void BlurredAlpha::blurAcross() {
-    const int reach = static_cast<int>(weights_.size() / 2);
     parallelRows(rows_, columns_, [&](int first, int end) {
-        std::vector<float> source(index(columns_ + 2 * reach), 0.0F);
+        const std::size_t reach = weights_.size() / 2;
+        std::vector<std::uint16_t> source(index(columns_) + 2 * reach, std::uint16_t{0});
+        std::vector<const std::uint16_t*> shifted;
+        for (std::size_t tap = 0; tap < weights_.size(); ++tap) shifted.push_back(source.data() + tap);
         std::vector<float> sums(index(columns_));
         for (int y = first; y < end; ++y) {
             std::uint16_t* const cells = cells_.data() + index(y) * index(columns_);
-            std::copy(cells, cells + columns_, source.begin() + reach);
-            std::fill(sums.begin(), sums.end(), 0.5F);
-            for (std::size_t tap = 0; tap < weights_.size(); ++tap) {
-                const float weight = weights_[tap];
-                const float* const from = source.data() + tap;
-                for (std::size_t x = 0; x < sums.size(); ++x) sums[x] += weight * from[x];
-            }
-            for (std::size_t x = 0; x < sums.size(); ++x) cells[x] = static_cast<std::uint16_t>(sums[x]);
+            std::copy(cells, cells + columns_, source.data() + reach);
+            weightedSums(shifted, weights_, sums);
+            std::transform(sums.begin(), sums.end(), cells, [](float sum) {
+                return static_cast<std::uint16_t>(static_cast<int>(sum + 0.5F));
+            });
         }
     });
 }
@@ -114,46 +115,37 @@ BlurredAlpha::Place BlurredAlpha::place(int pixel, int cells) const {
 }
 
 BlurredAlpha::Reader::Reader(const BlurredAlpha& blurred, int left, int width)
-    : blurred_(blurred), between_(index(blurred.columns_)), levels_(index(width)) {
-    cell_.reserve(index(width));
-    weight_.reserve(index(width));
-    for (int x = 0; x < width; ++x) {
-        const Place place = blurred.place(left + x, blurred.columns_);
-        cell_.push_back(place.first);
-        weight_.push_back(place.weight);
-    }
+    : blurred_(blurred), row_(index(blurred.columns_)) {
+    places_.reserve(index(width));
+    for (int x = 0; x < width; ++x) places_.push_back(blurred.place(left + x, blurred.columns_));
 }
 
-// A row of cells blurred down as well. Two neighbours are kept: the next pixel row needs them again, mostly.
-const float* BlurredAlpha::Reader::cellRow(int index_) {
-    Cached& cached = cached_[index_ % 2];
-    if (cached.index == index_) return cached.values.data();
-    cached.index = index_;
-    cached.values.assign(index(blurred_.columns_), 0.0F);
-    const int reach = static_cast<int>(blurred_.weights_.size() / 2);
-    for (int tap = -reach; tap <= reach; ++tap) {
-        const int y = index_ + tap;
-        if (y < 0 || y >= blurred_.rows_) continue;
-        const float weight = blurred_.weights_[index(tap + reach)] / CellScale;
-        const std::uint16_t* const cells = blurred_.cells_.data() + index(y) * index(blurred_.columns_);
-        for (int x = 0; x < blurred_.columns_; ++x)
-            cached.values[index(x)] += weight * static_cast<float>(cells[x]);
-    }
-    return cached.values.data();
+// A row of cells blurred down as well. Two neighbours are kept: the next row of pixels mostly needs them
+// again.
+const std::vector<float>& BlurredAlpha::Reader::cellRow(int wanted) {
+    CellRow& kept = cellRows_[wanted % 2];
+    if (kept.index == wanted) return kept.values;
+    kept.index = wanted;
+    kept.values.resize(row_.size());
+    const std::vector<float>& weights = blurred_.weights_;
+    const int reach = static_cast<int>(weights.size() / 2);
+    const int top = std::max(wanted - reach, 0);
+    const int bottom = std::min(wanted + reach, blurred_.rows_ - 1);
+    std::vector<const std::uint16_t*> rows;
+    for (int y = top; y <= bottom; ++y) rows.push_back(blurred_.cells_.data() + index(y) * row_.size());
+    weightedSums(rows, std::span(weights).subspan(index(top - wanted + reach), rows.size()), kept.values);
+    return kept.values;
 }
 
-const std::uint8_t* BlurredAlpha::Reader::row(int y) {
+void BlurredAlpha::Reader::setRow(int y) {
     const Place place = blurred_.place(y, blurred_.rows_);
-    const float* const above = cellRow(place.first);
-    const float* const below = cellRow(place.first + 1);
-    for (std::size_t i = 0; i < between_.size(); ++i)
-        between_[i] = above[i] + place.weight * (below[i] - above[i]);
-    for (std::size_t x = 0; x < levels_.size(); ++x) {
-        const float* const cell = between_.data() + cell_[x];
-        const float level = cell[0] + weight_[x] * (cell[1] - cell[0]);
-        levels_[x] = static_cast<std::uint8_t>(std::min(level + 0.5F, 255.0F));
+    const std::vector<float>& above = cellRow(place.first);
+    const std::vector<float>& below = cellRow(place.first + 1);
+    for (std::size_t i = 0; i < row_.size(); ++i) {
+        // Sums of weights may exceed 1 by their rounding; half a level is added for the cut to a whole one.
+        const float alpha = (above[i] + place.weight * (below[i] - above[i])) / CellScale;
+        row_[i] = std::min(alpha, 255.0F) + 0.5F;
     }
-    return levels_.data();
 }
 
 }  // namespace zelto

@@ -87,21 +87,32 @@ void drawPictureWithShadow(QImage& canvas, const QImage& picture, QPoint origin,
     const BlurredAlpha blurred(picture, drawnBlur(shadow));
     const std::array<QRgb, 256> tint = tints(shadow.color);
     const QPoint casterOrigin = origin + shadow.offset;
-    const QRect placed(origin, picture.size());
     const int width = canvas.width();
+    const int left = std::clamp(origin.x(), 0, width);  // of the picture's columns on the canvas
+    const int right = std::clamp(origin.x() + picture.width(), left, width);
     uchar* const bits = canvas.bits();
     const qsizetype stride = canvas.bytesPerLine();
     parallelRows(canvas.height(), width, [&](int first, int end) {
         BlurredAlpha::Reader reader(blurred, -casterOrigin.x(), width);
         for (int y = first; y < end; ++y) {
             QRgb* const pixels = row(bits, stride, y);
-            const std::uint8_t* const levels = reader.row(y - casterOrigin.y());
-            for (int x = 0; x < width; ++x) pixels[x] = tint[levels[x]];
-            if (y < placed.top() || y > placed.bottom()) continue;
-            const auto* const over = reinterpret_cast<const QRgb*>(picture.constScanLine(y - origin.y()));
-            const int from = std::max(placed.left(), 0);
-            const int to = std::min(placed.right() + 1, width);
-            for (int x = from; x < to; ++x) pixels[x] = sourceOver(over[x - origin.x()], pixels[x]);
+            reader.setRow(y - casterOrigin.y());
+            const auto drawShadow = [&](int from, int to) {
+                for (int x = from; x < to; ++x) pixels[x] = tint[reader.level(x)];
+            };
+            const int pictureRow = y - origin.y();
+            if (pictureRow < 0 || pictureRow >= picture.height()) {
+                drawShadow(0, width);
+                continue;
+            }
+            drawShadow(0, left);
+            const auto* const over = reinterpret_cast<const QRgb*>(picture.constScanLine(pictureRow));
+            for (int x = left; x < right; ++x) {
+                const QRgb pixel = over[x - origin.x()];
+                const bool opaque = qAlpha(pixel) == 255;  // most of most pictures: nothing shows through
+                pixels[x] = opaque ? pixel : sourceOver(pixel, tint[reader.level(x)]);
+            }
+            drawShadow(right, width);
         }
     });
 }
