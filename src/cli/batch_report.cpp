@@ -93,7 +93,9 @@ QString toText(const BatchReport& report) {
     if (const qint64 notRun = report.count(PhotoReport::Status::NotRun); notRun > 0) {
         counts.append(QStringLiteral("%1 not run").arg(notRun));
     }
-    QString text = report.message + QLatin1Char('\n') + counts.join(QStringLiteral(", ")) + QLatin1Char('\n');
+    // The second line of a message speaks of a window.
+    QString text = report.message.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n') +
+                   counts.join(QStringLiteral(", ")) + QLatin1Char('\n');
     if (!report.combinedPdf.isEmpty()) text += report.combinedPdf + QLatin1Char('\n');
     return text;
 }

@@ -67,7 +67,7 @@ void Console::advance(const QString& line) {
     ++done_;
     if (bar_) {
         if (done_ == total_ || Clock::now() - drawn_ >= RedrawInterval) drawBar();
-    } else if (!quiet_) {
+    } else if (!quiet_ && !line.isEmpty()) {
         print(QStringLiteral("[%1/%2] %3\n").arg(done_).arg(total_).arg(line));
     }
 }

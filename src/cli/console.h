@@ -24,7 +24,7 @@ class Console {
 
     // Starts the count that rate and time left are told from.
     void begin(qint64 total);
-    // One more photo is done. `line` is shown where there is no bar.
+    // One more photo is done. `line`, unless it is empty, is shown where there is no bar.
     void advance(const QString& line);
     void problem(const QString& text);
     // Takes the bar away.

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// zelto-batch with a folder of its own: photos in, a setting that leaves an unmistakable mark, and what came out.
+#pragma once
+
+#include "support/run_program.h"
+
+#include <QImage>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+
+class BatchProgram : public ::testing::Test {
+  protected:
+    BatchProgram();
+
+    // "" is the temporary folder itself.
+    QString path(const QString& name) const;
+    // A light grey photo at in/NAME, in the format of its extension. Returns its path.
+    QString makePhoto(const QString& name, QSize size = {64, 48}) const;
+    QString makeFile(const QString& name, const QByteArray& bytes) const;
+    // The files below out/, sorted.
+    QStringList outputs() const;
+    QImage output(const QString& name) const { return QImage(path(QStringLiteral("out/") + name)); }
+    // Whether the mark, a red square of 10 pixels, stands in the bottom right corner of a picture.
+    static ::testing::AssertionResult isMarked(const QImage& picture);
+
+    // Runs with the setting and the output folder out/, then `arguments`.
+    ProgramRun run(const QStringList& arguments, const ProgramEnvironment& environment = {}) const;
+    ProgramRun runBare(const QStringList& arguments, const ProgramEnvironment& environment = {}) const;
+    QStringList withSetting(const QStringList& arguments) const;
+    // The report of a run with --json, which must end with `exitStatus`.
+    QJsonObject report(const QStringList& arguments, int exitStatus,
+                       const ProgramEnvironment& environment = {}) const;
+
+    static QString program() { return QStringLiteral(ZELTO_BATCH_PROGRAM); }
+
+  private:
+    const QTemporaryDir folder_;
+};
+
+}  // namespace zelto

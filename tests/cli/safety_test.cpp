@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Originals stay, and whatever ends a run leaves whole files only.
+#include "cli/batch_program.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <unistd.h>
+
+#include <csignal>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using Safety = BatchProgram;
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST_F(Safety, OutputsThatWouldReplaceOriginalsAreRefused) {
+    const QString photo = makePhoto(u"a.png"_s);
+    const QString other = makePhoto(u"sub/b.png"_s);
+    const QByteArray before = contents(photo);
+    ASSERT_TRUE(QFile::link(path(u"in"_s), path(u"alias"_s)));
+    const QString setting = path(u"mark.zcs"_s);
+    struct Row {
+        QStringList arguments;
+        int exitStatus;
+    };
+    const QStringList named = {u"-s"_s, setting, u"-o"_s};
+    const Row rows[] = {
+        {named + QStringList{path(u"in"_s), photo}, 2},
+        {named + QStringList{path(u"in/sub/.."_s), photo}, 2},
+        {named + QStringList{path(u"alias"_s), photo}, 2},
+        {named + QStringList{path(u"in"_s), path(u"alias/a.png"_s)}, 2},
+        {named + QStringList{path(QString()), u"-r"_s, u"--keep-structure"_s, path(u"in"_s)}, 2},
+        {named + QStringList{path(u"in"_s), u"--rename"_s, u"a"_s, other, photo}, 2},
+        {named + QStringList{path(u"in"_s), u"--dry-run"_s, photo}, 2},
+        {named + QStringList{path(u"in"_s), u"-f"_s, u"jpg"_s, photo}, 0},
+        {named + QStringList{path(u"in"_s), u"--shard"_s, u"1/2"_s, photo, other}, 0},
+    };
+    for (const Row& row : rows) {
+        const ProgramRun result = runBare(row.arguments);
+        EXPECT_EQ(result.exitStatus, row.exitStatus) << row.arguments.join(u' ').toStdString();
+        EXPECT_EQ(result.errors.contains("--overwrite-originals"), row.exitStatus == 2);
+        EXPECT_EQ(contents(photo), before);
+    }
+    EXPECT_EQ(runBare(named + QStringList{path(u"in"_s), u"--overwrite-originals"_s, photo}).exitStatus, 0);
+    EXPECT_TRUE(isMarked(QImage(photo)));
+}
+
+TEST_F(Safety, AnOutputReadByALaterPhotoIsReadAsItWasWritten) {
+    // The second photo is what the first one's output has replaced by then, whatever is prepared ahead.
+    const QString first = makePhoto(u"first/a.png"_s, {40, 30});
+    const QString second = makePhoto(u"a.png"_s, {80, 60});
+    const QStringList arguments = {u"-s"_s,
+                                   path(u"mark.zcs"_s),
+                                   u"-o"_s,
+                                   path(u"in"_s),
+                                   u"--overwrite-originals"_s,
+                                   u"-j"_s,
+                                   u"4"_s,
+                                   first,
+                                   second};
+    ASSERT_EQ(runBare(arguments).exitStatus, 0);
+    EXPECT_EQ(QImage(second).size(), QSize(40, 30));
+}
+
+TEST_F(Safety, AnOutputFolderThatCannotBeWrittenFailsEveryPhoto) {
+    if (geteuid() == 0) {
+        // Root may write anywhere but into a folder that is gone when the time comes to write.
+        ASSERT_TRUE(QFile::link(u"/proc/self"_s, path(u"out"_s)));
+    } else {
+        QDir().mkpath(path(u"out"_s));
+        QFile::setPermissions(path(u"out"_s), QFile::ReadOwner | QFile::ExeOwner);
+    }
+    const QStringList photos = {makePhoto(u"a.png"_s), makePhoto(u"b.png"_s)};
+    const QJsonObject report = this->report(photos, 1);
+    for (const QJsonValue& photo : report["photos"_L1].toArray()) {
+        EXPECT_EQ(photo["error"_L1].toString(), u"Watermarking failed."_s);
+    }
+    EXPECT_EQ(report["photos"_L1].toArray().size(), 2);
+}
+
+// Copies of one photo: enough of them that no machine is through before a signal arrives.
+class Interrupted : public BatchProgram {
+  protected:
+    QStringList manyPhotos() const {
+        constexpr int Photos = 400;
+        const QString photo = makePhoto(u"original.png"_s, {640, 480});
+        QStringList photos;
+        for (int i = 0; i < Photos; ++i) {
+            photos.append(path(u"in/%1.png"_s.arg(i, 3, 10, QLatin1Char('0'))));
+            EXPECT_TRUE(QFile::link(photo, photos.last()));
+        }
+        return photos;
+    }
+    void expectWholeOutputs() const {
+        for (const QString& name : outputs()) EXPECT_TRUE(isMarked(output(name))) << name.toStdString();
+    }
+};
+
+TEST_F(Interrupted, BySignalARunEndsAfterThePhotoInHandAndSaysWhatItDid) {
+    const QStringList photos = manyPhotos();
+    for (const int signal : {SIGINT, SIGTERM}) {
+        const ProgramRun result =
+            runAndSignal(program(), withSetting(QStringList{u"--json"_s} + photos), 2, signal);
+        EXPECT_EQ(result.exitStatus, 130);
+        const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+        QStringList written;
+        for (const QJsonValue& photo : report["photos"_L1].toArray()) {
+            if (photo["status"_L1].toString() == "written"_L1) written.append(photo["output"_L1].toString());
+        }
+        ASSERT_GE(written.size(), 2);
+        EXPECT_LT(written.size(), photos.size());
+        EXPECT_EQ(outputs().size(), written.size());
+        expectWholeOutputs();
+        QDir(path(u"out"_s)).removeRecursively();
+    }
+}
+
+TEST_F(Interrupted, AKilledRunLeavesWholeFilesAndIsCompletedByAnother) {
+    const QStringList photos = manyPhotos().mid(0, 60);
+    for (const int lines : {1, 7, 20}) {
+        EXPECT_EQ(runAndSignal(program(), withSetting(photos), lines, SIGKILL).exitStatus, -1);
+        EXPECT_GE(outputs().size(), lines);
+        expectWholeOutputs();
+    }
+    EXPECT_EQ(run(photos).exitStatus, 0);
+    EXPECT_EQ(outputs().size(), photos.size());
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One batch as several runs: together they write the files of a single run, byte for byte.
+#include "cli/batch_program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+class Shards : public BatchProgram {
+  protected:
+    Shards() {
+        for (int i = 0; i < 7; ++i) makePhoto(u"%1.png"_s.arg(i), {30 + i, 20});
+        makeFile(u"in/3.jpg"_s, "no photo");
+    }
+    QStringList arguments(const QString& shard) const {
+        return {u"--shard"_s, shard, u"--rename"_s, u"[O]_[##]"_s, path(u"in"_s)};
+    }
+    QMap<QString, QByteArray> files() const {
+        QMap<QString, QByteArray> contents;
+        for (const QString& name : outputs()) {
+            QFile file(path(u"out/"_s + name));
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            contents.insert(name, file.readAll());
+        }
+        return contents;
+    }
+};
+
+TEST_F(Shards, TogetherWriteWhatOneRunWrites) {
+    run(arguments(u"0/1"_s));
+    const auto whole = files();
+    ASSERT_EQ(whole.size(), 7);
+    QDir(path(u"out"_s)).removeRecursively();
+    QStringList indices;
+    for (const QString& shard : {u"0/3"_s, u"1/3"_s, u"2/3"_s}) {
+        // The damaged photo is the fourth of the list and so the first shard's.
+        const QJsonObject report = this->report(arguments(shard), shard == u"0/3"_s ? 1 : 0);
+        QStringList own;
+        for (const QJsonValue& photo : report["photos"_L1].toArray()) {
+            own.append(QString::number(photo["index"_L1].toInt()));
+        }
+        indices.append(own.join(u','));
+    }
+    EXPECT_EQ(indices, QStringList({u"0,3,6"_s, u"1,4,7"_s, u"2,5"_s}));
+    EXPECT_EQ(files(), whole);
+}
+
+TEST_F(Shards, AreToldByTheEnvironment) {
+    struct Row {
+        const char* shard;
+        ProgramEnvironment environment;
+        const char* written;  // null: refused
+    };
+    const ProgramEnvironment slurm = {{u"SLURM_ARRAY_TASK_ID"_s, u"12"_s},
+                                      {u"SLURM_ARRAY_TASK_MIN"_s, u"10"_s},
+                                      {u"SLURM_ARRAY_TASK_COUNT"_s, u"4"_s}};
+    ProgramEnvironment stepped = slurm;
+    stepped.insert(u"SLURM_ARRAY_TASK_STEP"_s, u"2"_s);
+    ProgramEnvironment both = slurm;
+    both.insert(u"ZELTO_SHARD"_s, u"7/8"_s);
+    ProgramEnvironment beyond = slurm;
+    beyond.insert(u"SLURM_ARRAY_TASK_ID"_s, u"14"_s);
+    const Row rows[] = {
+        {"auto", {{u"ZELTO_SHARD"_s, u"2/4"_s}}, "2_03.png 5_07.png"},
+        {"auto", both, "6_08.png"},
+        {"auto", slurm, "2_03.png 5_07.png"},
+        {"auto", stepped, "1_02.png 4_06.png"},
+        {"auto", beyond, nullptr},
+        {"auto", {{u"ZELTO_SHARD"_s, u"4/4"_s}}, nullptr},
+        {"auto/5", {{u"JOB_COMPLETION_INDEX"_s, u"0"_s}}, "0_01.png 4_06.png"},
+        {"auto/5", {{u"JOB_COMPLETION_INDEX"_s, u"5"_s}}, nullptr},
+        {"9/10", {}, ""},
+    };
+    for (const Row& row : rows) {
+        QDir(path(u"out"_s)).removeRecursively();
+        const ProgramRun result = run(arguments(QLatin1String(row.shard)), row.environment);
+        const std::string name = row.shard + (" " + result.errors).toStdString();
+        EXPECT_EQ(outputs().join(u' '), QLatin1String(row.written)) << name;
+        EXPECT_EQ(result.exitStatus, row.written ? 0 : 2) << name;
+    }
+}
+
+}  // namespace
+}  // namespace zelto
