@@ -83,6 +83,7 @@ WatermarkStack framedStack() {
     effects.BlurRadius = 40;
     effects.Distance = 24;
     effects.Direction = 315;
+    effects.ShadowColor = Color{0.0F, 0.0F, 0.0F, 0.5F};
     effects.ApplyWatermarkOnBorder = true;
     stack.Effects = effects;
 
