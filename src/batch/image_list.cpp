@@ -10,10 +10,14 @@ namespace zelto {
 bool ImageList::AddImage(const QString& path) {
     if (CheckIfImageExists(path)) return false;
     images_.emplace_back(path);
+    note(path);
+    return true;
+}
+
+void ImageList::note(const QString& path) {
     paths_.insert(path);
     const QString folder = withoutLastPathComponent(path);
     if (!folders_.contains(folder)) folders_.insert(folder, QLatin1String(""));
-    return true;
 }
 
 std::optional<std::size_t> ImageList::RemoveImage(std::size_t row) {
@@ -26,6 +30,37 @@ std::optional<std::size_t> ImageList::RemoveImage(std::size_t row) {
 void ImageList::RemoveAllImages() {
     images_.clear();
     paths_.clear();
+}
+
+ImageList::Placed ImageList::takeImages(const std::vector<std::size_t>& rows) {
+    Placed taken;
+    std::vector<Image> kept;
+    auto next = rows.begin();
+    for (std::size_t row = 0; row < images_.size(); ++row) {
+        if (next == rows.end() || *next != row) {
+            kept.push_back(std::move(images_[row]));
+            continue;
+        }
+        paths_.remove(images_[row].ImagePath);
+        taken.rows.push_back(row);
+        taken.images.push_back(std::move(images_[row]));
+        ++next;
+    }
+    images_ = std::move(kept);
+    return taken;
+}
+
+void ImageList::insertImages(const Placed& photos) {
+    std::vector<Image> all;
+    all.reserve(images_.size() + photos.images.size());
+    auto old = std::make_move_iterator(images_.begin());
+    for (std::size_t i = 0; i < photos.images.size(); ++i) {
+        while (all.size() < photos.rows.at(i)) all.push_back(*old++);
+        all.push_back(photos.images[i]);
+        note(photos.images[i].ImagePath);
+    }
+    all.insert(all.end(), old, std::make_move_iterator(images_.end()));
+    images_ = std::move(all);
 }
 
 void ImageList::CheckAllImages() {

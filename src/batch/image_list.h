@@ -29,6 +29,16 @@ class ImageList {
     std::optional<std::size_t> RemoveImage(std::size_t row);
     void RemoveAllImages();
 
+    // Photos and the rows they have in the list, ascending.
+    struct Placed {
+        std::vector<std::size_t> rows;
+        std::vector<Image> images;
+    };
+    // Takes the photos of `rows` (ascending) out, and puts photos (none of them in the list) back where they
+    // were. Linear in the length of the list, however many they are.
+    Placed takeImages(const std::vector<std::size_t>& rows);
+    void insertImages(const Placed& photos);
+
     void CheckAllImages();
     void UncheckAllImages();
     void ToggleCheck();
@@ -45,6 +55,8 @@ class ImageList {
     const FolderDestinations& InputOutputDictionary() const { return folders_; }
 
   private:
+    void note(const QString& path);
+
     std::vector<Image> images_;
     QSet<QString> paths_;
     FolderDestinations folders_;

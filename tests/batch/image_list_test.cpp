@@ -51,6 +51,23 @@ TEST(ImageList, ARemovedPhotoCanBeAddedAgainAndItsFolderStaysKnown) {
     EXPECT_EQ(list.InputOutputDictionary().keys(), QStringList({QStringLiteral("/x"), QStringLiteral("/y")}));
 }
 
+TEST(ImageList, PhotosTakenOutGoBackToTheirRowsAsTheyWere) {
+    const QStringList all = {QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3"),
+                             QStringLiteral("/4")};
+    for (const std::vector<std::size_t>& rows :
+         {std::vector<std::size_t>{}, {0}, {3}, {1, 2}, {0, 2}, {0, 1, 2, 3}}) {
+        ImageList list = listOf(all);
+        list.setApplyWatermark(2, false);
+        const ImageList::Placed taken = list.takeImages(rows);
+        EXPECT_EQ(list.images().size(), all.size() - rows.size());
+        for (const std::size_t row : rows) EXPECT_FALSE(list.CheckIfImageExists(all[static_cast<int>(row)]));
+        list.insertImages(taken);
+        EXPECT_EQ(pathsOf(list), all);
+        EXPECT_THAT(checksOf(list), ElementsAre(true, true, false, true));
+        EXPECT_TRUE(list.CheckIfImageExists(QStringLiteral("/1")));
+    }
+}
+
 TEST(ImageList, ChecksAreSetForAllOrTurnedOver) {
     ImageList list = listOf({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
     list.setApplyWatermark(1, false);
