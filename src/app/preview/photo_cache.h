@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Photos made ready for the preview: loaded, filtered and framed, without layers. It keeps the one on show
+// and, as far as its budget of bytes goes, those that were shown or may be shown next. A photo that several
+// threads ask for is made once; a file that has changed on disk is read again. Any thread.
+#pragma once
+
+#include "platform/picture_reader.h"
+#include "render/photo_scene.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <condition_variable>
+#include <list>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+namespace zelto {
+
+class PhotoCache {
+  public:
+    static constexpr qint64 DefaultBudget = qint64{768} << 20;  // bytes
+
+    explicit PhotoCache(qint64 budget = DefaultBudget) : budget_(budget) {}
+
+    // The scene of `request`, without layers. Error: as readPicture.
+    Result<std::shared_ptr<const PhotoScene>> get(const PhotoRequest& request);
+
+    // Makes a photo ready that may be asked for next; not one so large that others would have to go for it.
+    void prefetch(const PhotoRequest& request);
+
+    void clear();
+
+  private:
+    // What the picture of a scene is made from.
+    struct Source {
+        QString path;
+        QDateTime modified;
+        qint64 size = 0;
+        int filter = 0;
+        std::optional<PhotoEffects> effects;
+        bool final = true;
+
+        explicit Source(const PhotoRequest& request);
+        bool isSameFile(const Source& other) const;
+        bool operator==(const Source&) const = default;
+    };
+    struct Entry {
+        Source source;
+        Picture photo;                            // as loaded; none where only the scene is kept
+        std::shared_ptr<const PhotoScene> scene;  // none while it is being made
+        bool busy = true;
+
+        qint64 bytes() const;
+    };
+
+    Result<std::shared_ptr<const PhotoScene>> make(const PhotoRequest& request, bool keepPhoto);
+    void dropOldest();
+
+    const qint64 budget_;
+    std::mutex mutex_;
+    std::condition_variable ready_;
+    std::list<Entry> entries_;  // used last first
+};
+
+}  // namespace zelto

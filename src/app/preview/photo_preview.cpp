@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/preview/photo_preview.h"
+
+#include "app/image_list_controller.h"
+#include "app/preview/region_composer.h"
+#include "app/watermark_controller.h"
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(preview, "zelto.preview")
+
+}  // namespace
+
+PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
+                           QObject* parent)
+    : QObject(parent),
+      photos_(photos),
+      watermarks_(watermarks),
+      document_(watermarks.document()),
+      view_(view),
+      logos_(std::make_shared<LogoCache>()) {
+    connect(&photos_, &ImageListController::selectImage, this, &PhotoPreview::selectImage);
+    connect(&photos_.model(), &QAbstractItemModel::rowsInserted, this,
+            [this] { builder_.updateLayers(request()); });
+    connect(&document_, &WatermarkDocument::changed, this, &PhotoPreview::follow);
+    connect(&watermarks_, &WatermarkController::rebuildLayers, this,
+            [this] { builder_.updateLayers(request()); });
+    connect(&view_, &PreviewView::viewChanged, &builder_, &SceneBuilder::setView);
+    connect(&builder_, &SceneBuilder::updated, this, &PhotoPreview::take);
+    connect(&builder_, &SceneBuilder::failed, this, [this](const QString& /*path*/, const QString& message) {
+        view_.showMessage(tr("This photo cannot be shown") + QLatin1Char('\n') + message);
+    });
+
+    connect(&view_, &PreviewView::layerPicked, &watermarks_, &WatermarkController::selectWatermark);
+    connect(&view_, &PreviewView::layerActivated, this,
+            [this](int index) { watermarks_.openEditor(watermarks_.model().rowOf(index)); });
+    connect(&view_, &PreviewView::layerDragged, &builder_, &SceneBuilder::moveLayer);
+    connect(&view_, &PreviewView::layerDropped, this,
+            [this](int index, QPoint place) { watermarks_.placeWatermark(index, place); });
+    connect(&view_, &PreviewView::layerNudged, this, &PhotoPreview::nudge);
+    connect(&watermarks_.selection(), &QItemSelectionModel::currentChanged, this,
+            [this] { view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata()); });
+}
+
+double PhotoPreview::ActualWIdth() const {
+    return view_.shown() ? view_.shown()->scene.referenceSize.width() : 0.0;
+}
+
+double PhotoPreview::ActualHeight() const {
+    return view_.shown() ? view_.shown()->scene.referenceSize.height() : 0.0;
+}
+
+PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
+    PhotoRequest request;
+    request.path = photos_.model().index(row).data(PhotoListModel::PathRole).toString();
+    request.row = row;
+    request.listSize = photos_.count();
+    request.final = final;
+    request.now = QDateTime::currentDateTime();
+    request.stack = document_.snapshot();
+    request.logos = logos_;
+    return request;
+}
+
+PhotoRequest PhotoPreview::request() const {
+    // Where watermarks may lie on the border, the shadow around it is not shown: it is no part of the place
+    // they may take.
+    const std::optional<PhotoEffects>& effects = watermarks_.GetEffect();
+    return requestFor(photos_.selectedRow(), !(effects && effects->ApplyWatermarkOnBorder));
+}
+
+PhotoRequest PhotoPreview::finalRequest() const {
+    return requestFor(photos_.selectedRow(), true);
+}
+
+void PhotoPreview::selectImage(int row) {
+    neighboursOf_ = -1;
+    if (row < 0) {
+        builder_.clear();
+        view_.showMessage({});
+    } else {
+        builder_.showPhoto(request());
+    }
+}
+
+void PhotoPreview::follow(const StackChange& change) {
+    view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata());
+    if (photos_.selectedRow() < 0) return;
+    if (change.filter || change.effects) {
+        builder_.showPhoto(request());
+    } else if (change.list) {
+        builder_.updateLayers(request());
+    } else if (!change.records.empty()) {
+        builder_.updateLayers(request(), change.records);
+    }
+}
+
+void PhotoPreview::take(const PreviewUpdate& update) {
+    const PhotoScene& scene = update.shown->scene;
+    if (update.isOtherPicture && update.shown->stack->SelectedFilter != 0) {
+        qCInfo(preview, "photo size = %d x %d", scene.photoSize.width(), scene.photoSize.height());
+        qCInfo(preview, "filtered size = %d x %d", scene.imageRect.width(), scene.imageRect.height());
+    }
+    view_.apply(update);
+    const bool isCurrent = update.shown->stack == document_.snapshot();
+    for (std::size_t i = 0; isCurrent && i < scene.layers.size(); ++i) {
+        if (!scene.layers[i] || scene.layers[i]->logoSize.isEmpty()) continue;
+        document_.amendRecord(static_cast<int>(i), [size = scene.layers[i]->logoSize](Watermark& logo) {
+            logo.Width = static_cast<float>(size.width());
+            logo.Height = static_cast<float>(size.height());
+        });
+    }
+    prefetchNeighbours();
+    Q_EMIT shown();
+}
+
+void PhotoPreview::prefetchNeighbours() {
+    const int row = photos_.selectedRow();
+    if (row == neighboursOf_) return;
+    neighboursOf_ = row;
+    std::vector<PhotoRequest> neighbours;
+    for (const int neighbour : {row + 1, row - 1}) {
+        if (neighbour < 0 || neighbour >= photos_.count()) continue;
+        neighbours.push_back(request());
+        neighbours.back().path = photos_.model().index(neighbour).data(PhotoListModel::PathRole).toString();
+    }
+    builder_.prefetch(neighbours);
+}
+
+void PhotoPreview::nudge(int index, QPoint step) {
+    const auto& scene = view_.shown();
+    if (!scene || !document_.contains(index) || !isMovable(watermarks_.GetWatermarkAtRow(index))) return;
+    const QRectF area = referenceArea(scene->scene, *scene->stack);
+    const QRectF frame = layerFrame(scene->scene, *scene->stack, static_cast<std::size_t>(index));
+    if (frame.isNull()) return;
+    // Keys come faster than pictures: a place that has been chosen counts more than the one that is seen.
+    const Watermark& watermark = watermarks_.GetWatermarkAtRow(index);
+    const QPointF from = watermark.Position == CustomPosition
+                             ? area.topLeft() + QPointF(static_cast<double>(watermark.CustomPositionLeft),
+                                                        static_cast<double>(watermark.CustomPositionTop))
+                             : frame.topLeft();
+    const QPointF to = reachablePlace(from + step, frame.size(), area);
+    watermarks_.placeWatermark(index, (to - area.topLeft()).toPoint(), QStringLiteral("nudge"));
+}
+
+}  // namespace zelto

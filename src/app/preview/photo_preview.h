@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keeps the preview in step: with the photo that is selected, with every change of the stack, and with what
+// the user does to layers on the canvas. It turns all of it into requests to the scene builder and hands what
+// comes back to the canvas. Main thread only.
+#pragma once
+
+#include "app/preview/preview_view.h"
+#include "app/preview/scene_builder.h"
+#include "app/watermark_document.h"
+
+#include <QObject>
+#include <QRectF>
+
+#include <memory>
+
+namespace zelto {
+
+class ImageListController;
+class WatermarkController;
+
+class PhotoPreview : public QObject {
+    Q_OBJECT
+
+  public:
+    // All outlive it.
+    PhotoPreview(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
+                 QObject* parent = nullptr);
+
+    // The reference size of the photo on show, pixels; 0 before the first one.
+    double ActualWIdth() const;
+    double ActualHeight() const;
+
+    // The request for the selected photo as the run would write it.
+    PhotoRequest finalRequest() const;
+
+    // Whether the canvas shows everything as it is now.
+    bool isSettled() const { return builder_.isSettled(); }
+
+  Q_SIGNALS:
+    // Something new is on the canvas.
+    void shown();
+
+  private:
+    PhotoRequest requestFor(int row, bool final) const;
+    PhotoRequest request() const;
+    void selectImage(int row);
+    void follow(const StackChange& change);
+    void take(const PreviewUpdate& update);
+    void prefetchNeighbours();
+    void nudge(int index, QPoint step);
+
+    ImageListController& photos_;
+    WatermarkController& watermarks_;
+    WatermarkDocument& document_;
+    PreviewView& view_;
+    SceneBuilder builder_;
+    std::shared_ptr<LogoCache> logos_;
+    int neighboursOf_ = -1;  // the row whose neighbours have been made ready
+};
+
+}  // namespace zelto

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/preview/scene_builder.h"
+
+#include "app/preview/region_composer.h"
+#include "platform/picture_additions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+// On the screen, and only there, a logo is seen at its opacity once more.
+void fadeForScreen(std::optional<WatermarkView>& layer) {
+    if (!layer || layer->contentOpacity >= 1.0) return;
+    auto* content = std::get_if<LayerContent>(&layer->child);
+    auto* picture = content == nullptr ? nullptr : std::get_if<QImage>(content);
+    if (picture != nullptr) *picture = imageWithOpacity(std::move(*picture), layer->contentOpacity);
+}
+
+}  // namespace
+
+// The work itself, and all it remembers between two jobs. Lives on the thread of the jobs.
+class SceneBuilder::Worker {
+  public:
+    explicit Worker(SceneBuilder& owner) : owner_(owner) {}
+
+    void work(const Job& job) {
+        if (job.photo) takePhoto(job);
+        if (base_ && !owner_.isStale(job.photoRevision)) {
+            const QRect dirty = rebuild(job, job.photo || job.layers);
+            send(job, dirty, job.photo);
+        }
+        QMetaObject::invokeMethod(
+            &owner_, [this, revision = job.revision] { owner_.done_ = revision; }, Qt::QueuedConnection);
+    }
+
+  private:
+    void takePhoto(const Job& job) {
+        base_.reset();
+        if (job.request.path.isEmpty()) return;
+        Result<std::shared_ptr<const PhotoScene>> photo = owner_.cache_.get(job.request);
+        if (photo) {
+            base_ = std::move(*photo);
+            return;
+        }
+        tell(job, [this, path = job.request.path, message = photo.error().message] {
+            Q_EMIT owner_.failed(path, message);
+        });
+    }
+
+    // Builds the layers that are out of date; returns the part of the picture that has changed.
+    QRect rebuild(const Job& job, bool all) {
+        QRect dirty;
+        if (all) {
+            placed_ = *base_;
+            MakeWatermarkChanges(placed_, job.request);
+            for (auto& layer : placed_.layers) fadeForScreen(layer);
+            dirty = placed_.picture.rect();
+        } else {
+            dirty |= reachOfChanges(job);
+            for (const int record : job.records) {
+                const auto index = static_cast<std::size_t>(record);
+                UpdateWatermark(placed_, job.request, index);
+                fadeForScreen(placed_.layers[index]);
+            }
+        }
+        auto shown = std::make_shared<ShownScene>(ShownScene{job.request.path, placed_, job.request.stack});
+        if (job.moved) move(*shown, *job.moved);
+        shown_ = std::move(shown);
+        dirty |= reachOfChanges(job);
+        shownMove_ = job.moved;
+        return dirty;
+    }
+
+    // Where the scene on show has the layers that are about to change, or have just changed.
+    QRect reachOfChanges(const Job& job) const {
+        QRect area;
+        const auto add = [&](int record) {
+            area |= layerReach(shown_->scene, *shown_->stack, static_cast<std::size_t>(record));
+        };
+        for (const int record : job.records) add(record);
+        if (shownMove_ != job.moved) {
+            if (shownMove_) add(shownMove_->index);
+            if (job.moved) add(job.moved->index);
+        }
+        return area;
+    }
+
+    static void move(ShownScene& shown, const MovedLayer& moved) {
+        const auto index = static_cast<std::size_t>(moved.index);
+        const QRectF frame = layerFrame(shown.scene, *shown.stack, index);
+        if (frame.isNull()) return;
+        const QPointF by = moved.topLeft - frame.topLeft();
+        shown.scene.layers[index]->frame.translate(by.x(), -by.y());
+    }
+
+    void send(const Job& job, const QRect& dirty, bool isOtherPicture) {
+        ViewGeometry view = job.view;
+        view.picture = shown_->scene.picture.size();
+        const ViewRegion seen = view.visibleRegion();
+        PreviewUpdate update;
+        update.shown = shown_;
+        update.isOtherPicture = isOtherPicture;
+        update.region.scale = seen.scale;
+        if (isOtherPicture || sent_.scale != seen.scale || !sent_.rect.contains(seen.rect)) {
+            sent_ = view.comfortableRegion();
+            update.region = sent_;
+        } else if (dirty.isEmpty()) {
+            update.isPatch = true;
+        } else {
+            update.region.rect = scaledRect(dirty, sent_.scale).intersected(sent_.rect);
+            update.isPatch = update.region.rect != sent_.rect;
+        }
+        update.image = composeRegion(shown_->scene, *shown_->stack, update.region);
+        tell(job, [this, update] { Q_EMIT owner_.updated(update); });
+    }
+
+    // Runs `report` on the main thread, unless another photo has been asked for by then.
+    template <class Report>
+    void tell(const Job& job, Report report) {
+        QMetaObject::invokeMethod(
+            &owner_,
+            [this, revision = job.photoRevision, report = std::move(report)] {
+                if (!owner_.isStale(revision)) report();
+            },
+            Qt::QueuedConnection);
+    }
+
+    SceneBuilder& owner_;
+    std::shared_ptr<const PhotoScene> base_;
+    PhotoScene placed_;  // the base with its layers where they belong
+    std::shared_ptr<const ShownScene> shown_;
+    std::optional<MovedLayer> shownMove_;
+    ViewRegion sent_;
+};
+
+SceneBuilder::SceneBuilder(QObject* parent)
+    : QObject(parent),
+      worker_(std::make_unique<Worker>(*this)),
+      jobs_(std::make_unique<NewestWorker<Job>>(
+          [this](const Job& job) { worker_->work(job); },
+          [](const Job& waiting, Job newer) {
+              newer.photo |= waiting.photo;
+              newer.layers |= waiting.layers;
+              newer.records.insert(newer.records.end(), waiting.records.begin(), waiting.records.end());
+              return newer;
+          })),
+      prefetches_(std::make_unique<NewestWorker<std::vector<PhotoRequest>>>(
+          [this](const std::vector<PhotoRequest>& requests) {
+              for (const PhotoRequest& request : requests) {
+                  if (prefetches_->hasNewer()) return;
+                  cache_.prefetch(request);
+              }
+          })) {}
+
+SceneBuilder::~SceneBuilder() {
+    prefetches_->stop();
+    jobs_->stop();
+}
+
+void SceneBuilder::showPhoto(const PhotoRequest& request) {
+    photoRevision_ = posted_ + 1;
+    next_.request = request;
+    next_.moved.reset();
+    next_.photo = true;
+    post();
+}
+
+void SceneBuilder::updateLayers(const PhotoRequest& request) {
+    next_.request = request;
+    next_.layers = true;
+    post();
+}
+
+void SceneBuilder::updateLayers(const PhotoRequest& request, const std::vector<int>& records) {
+    next_.request = request;
+    next_.records = records;
+    post();
+}
+
+void SceneBuilder::moveLayer(const std::optional<MovedLayer>& moved) {
+    next_.moved = moved;
+    post();
+}
+
+void SceneBuilder::setView(const ViewGeometry& view) {
+    next_.view = view;
+    post();
+}
+
+void SceneBuilder::clear() {
+    photoRevision_ = posted_ + 1;
+    next_.request = {};
+    next_.photo = true;
+    post();
+    prefetches_->post({});
+}
+
+void SceneBuilder::prefetch(const std::vector<PhotoRequest>& requests) {
+    prefetches_->post(requests);
+}
+
+// Sends `next_` on; what it remembers for the job after it is the photo, the view and the moved layer.
+void SceneBuilder::post() {
+    if (next_.request.path.isEmpty() && !next_.photo) return;
+    next_.revision = ++posted_;
+    next_.photoRevision = photoRevision_;
+    jobs_->post(next_);
+    next_.photo = false;
+    next_.layers = false;
+    next_.records.clear();
+}
+
+}  // namespace zelto

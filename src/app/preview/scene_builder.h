@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Builds what the preview shows on a thread of its own and sends it to the main thread in pieces that only
+// need to be put on the screen. The newest request wins: requests that pile up become one, and what belongs
+// to a photo that is no longer asked for is dropped. The last scene is kept, so that an edit rebuilds the
+// layers it concerns and composes the pixels they touch. To be used from the main thread.
+#pragma once
+
+#include "app/preview/newest_worker.h"
+#include "app/preview/photo_cache.h"
+#include "app/preview/view_geometry.h"
+#include "render/photo_scene.h"
+
+#include <QImage>
+#include <QObject>
+#include <QPointF>
+#include <QString>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace zelto {
+
+// A scene as the preview shows it, with the stack it was built from.
+struct ShownScene {
+    QString path;
+    PhotoScene scene;
+    std::shared_ptr<const WatermarkStack> stack;
+};
+
+// A layer shown away from its place while it is dragged.
+struct MovedLayer {
+    int index = 0;
+    QPointF topLeft;  // of its frame, pixels of the scene's picture from the top left
+
+    bool operator==(const MovedLayer&) const = default;
+};
+
+struct PreviewUpdate {
+    std::shared_ptr<const ShownScene> shown;
+    bool isOtherPicture = false;  // what was drawn before has nothing to do with it
+    bool isPatch = false;         // `image` replaces a part of the region sent before, else all of it
+    ViewRegion region;            // what `image` covers; empty where nothing has changed that is seen
+    QImage image;
+};
+
+class SceneBuilder : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit SceneBuilder(QObject* parent = nullptr);
+    ~SceneBuilder() override;
+
+    // The photo of `request` is to be shown, or its stack has another filter or frame.
+    void showPhoto(const PhotoRequest& request);
+    // All layers, or those of `records`, have changed.
+    void updateLayers(const PhotoRequest& request);
+    void updateLayers(const PhotoRequest& request, const std::vector<int>& records);
+    // Shows a layer away from its place, or all where they belong.
+    void moveLayer(const std::optional<MovedLayer>& moved);
+    // The picture is looked at in another way. The size of the picture itself is not needed.
+    void setView(const ViewGeometry& view);
+    // Nothing is to be shown.
+    void clear();
+
+    // Whether everything asked for has been built and sent.
+    bool isSettled() const { return done_ == posted_; }
+
+    // Makes these photos ready, the first one first; replaces what was asked for before.
+    void prefetch(const std::vector<PhotoRequest>& requests);
+
+  Q_SIGNALS:
+    void updated(const zelto::PreviewUpdate& update);
+    // The photo cannot be shown.
+    void failed(const QString& path, const QString& message);
+
+  private:
+    struct Job {
+        PhotoRequest request;
+        bool photo = false;
+        bool layers = false;
+        std::vector<int> records;
+        std::optional<MovedLayer> moved;
+        ViewGeometry view;
+        quint64 revision = 0;
+        quint64 photoRevision = 0;  // the revision that asked for this photo
+    };
+    class Worker;
+
+    void post();
+    bool isStale(quint64 photoRevision) const { return photoRevision != photoRevision_; }
+
+    Job next_;
+    quint64 posted_ = 0;
+    quint64 done_ = 0;
+    std::atomic<quint64> photoRevision_ = 0;
+    PhotoCache cache_;
+    std::unique_ptr<Worker> worker_;
+    std::unique_ptr<NewestWorker<Job>> jobs_;
+    std::unique_ptr<NewestWorker<std::vector<PhotoRequest>>> prefetches_;
+};
+
+}  // namespace zelto

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/preview/region_composer.h"
+
+#include "app/preview/halved_picture.h"
+#include "render/composition.h"
+#include "support/test_pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace zelto {
+namespace {
+
+constexpr QSize PhotoSize(643, 481);
+
+Watermark text(std::int32_t position) {
+    Watermark watermark(watermark_type::Text);
+    watermark.Text = QStringLiteral("Wy g\nZelto");
+    watermark.FontFamily = QStringLiteral("DejaVu Sans");
+    watermark.FontSize = 41;
+    watermark.TextColor = Color::white();
+    watermark.Shadow = true;
+    watermark.ShadowColor = Color::black();
+    watermark.Transparency = 0.7F;
+    watermark.Position = position;
+    return watermark;
+}
+
+// One record of each way a layer is drawn.
+WatermarkStack everyKind() {
+    WatermarkStack stack;
+    stack.Watermarks.push_back(text(1));
+    Watermark turned = text(5);
+    turned.Rotation = 30;
+    stack.Watermarks.push_back(turned);
+    Watermark tiled = text(1);
+    tiled.HorizontalTiling = tiled.VerticalTiling = true;
+    tiled.HorizontalSpacing = 17;
+    tiled.Rotation = -20;
+    tiled.FontSize = 19;
+    stack.Watermarks.push_back(tiled);
+    Watermark embossed = text(3);
+    embossed.TextEffect = 3;
+    stack.Watermarks.push_back(embossed);
+    Watermark shape(watermark_type::Shape);
+    shape.ShapeType = shape_type::Ellipse;
+    shape.Transparency = 0.5F;
+    shape.Position = 9;
+    stack.Watermarks.push_back(shape);
+    Watermark code(watermark_type::QrCode);
+    code.Text = QStringLiteral("zelto");
+    code.Position = 7;
+    stack.Watermarks.push_back(code);
+    Watermark off = text(8);
+    off.IsEnabled = false;
+    stack.Watermarks.push_back(off);
+    return stack;
+}
+
+PhotoScene sceneOf(const WatermarkStack& stack, QImage photo = drawnScene(PhotoSize)) {
+    PhotoRequest request;
+    request.path = QStringLiteral("/photos/scene.jpg");
+    request.stack = std::make_shared<const WatermarkStack>(stack);
+    return buildPhotoScene(request, Picture{std::move(photo)});
+}
+
+int largestDifference(const QImage& a, const QImage& b) {
+    if (a.size() != b.size()) return 256;
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor left = a.pixelColor(x, y);
+            const QColor right = b.pixelColor(x, y);
+            largest =
+                std::max({largest, std::abs(left.red() - right.red()), std::abs(left.green() - right.green()),
+                          std::abs(left.blue() - right.blue()), std::abs(left.alpha() - right.alpha())});
+        }
+    }
+    return largest;
+}
+
+TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
+    WatermarkStack framed = everyKind();
+    framed.Effects = PhotoEffects();
+    framed.Effects->Distance = 9;
+    framed.Effects->BlurRadius = 6;
+    framed.Effects->Direction = 135;
+    WatermarkStack onBorder = framed;
+    onBorder.Effects->ApplyWatermarkOnBorder = true;
+    onBorder.SelectedFilter = 12;
+    for (const WatermarkStack& stack : {everyKind(), framed, onBorder}) {
+        const PhotoScene scene = sceneOf(stack);
+        const QImage written = MakeWatermarkImage(scene, stack);
+        const QRect all = written.rect();
+        for (const QRect& part : {all, QRect(0, 0, 200, 150), QRect(101, 67, 333, 222),
+                                  QRect(all.right() - 99, all.bottom() - 79, 100, 80)}) {
+            const QImage seen = composeRegion(scene, stack, {1.0, part});
+            EXPECT_EQ(seen.convertToFormat(QImage::Format_ARGB32),
+                      written.copy(part).convertToFormat(QImage::Format_ARGB32))
+                << part.x() << ", " << part.y() << "; off by " << largestDifference(seen, written.copy(part));
+        }
+    }
+}
+
+TEST(ComposeRegion, ReducedItIsTheWrittenPictureReduced) {
+    const WatermarkStack stack = everyKind();
+    const PhotoScene scene = sceneOf(stack, drawnSceneWithAlpha(PhotoSize));
+    const QImage written = MakeWatermarkImage(scene, stack);
+    for (const int times : {1, 2, 3}) {
+        const QImage reduced = halvedPicture(written, written.rect(), times);
+        const QSize whole(written.width() >> times, written.height() >> times);
+        const double scale = 1.0 / (1 << times);
+        const QImage seen = composeRegion(scene, stack, {scale, QRect(QPoint(0, 0), whole)});
+        EXPECT_EQ(seen, reduced.copy(QRect(QPoint(0, 0), whole))) << times;
+    }
+}
+
+TEST(ComposeRegion, PiecesOfAnyScaleFitTogether) {
+    // One step of 255 either way: smooth scaling counts in fractions from where a piece begins.
+    constexpr int Tolerance = 1;
+    const WatermarkStack stack = everyKind();
+    const PhotoScene scene = sceneOf(stack);
+    for (const double scale : {0.31, 0.77, 1.3, 3.0}) {
+        const QSize size = (QSizeF(PhotoSize) * scale).toSize();
+        const QImage whole = composeRegion(scene, stack, {scale, QRect(QPoint(0, 0), size)});
+        const QRect part(size.width() / 3, size.height() / 4, size.width() / 2, size.height() / 2);
+        EXPECT_LE(largestDifference(composeRegion(scene, stack, {scale, part}), whole.copy(part)), Tolerance)
+            << scale;
+    }
+}
+
+TEST(LayerReach, HoldsEveryPixelALayerChanges) {
+    const WatermarkStack all = everyKind();
+    for (std::size_t i = 0; i + 1 < all.Watermarks.size(); ++i) {
+        WatermarkStack stack;
+        stack.Watermarks.push_back(all.Watermarks[i]);
+        const PhotoScene scene = sceneOf(stack);
+        const QImage written = MakeWatermarkImage(scene, stack);
+        const QRect reach = layerReach(scene, stack, 0);
+        EXPECT_FALSE(reach.isEmpty());
+        for (int y = 0; y < written.height(); ++y) {
+            for (int x = 0; x < written.width(); ++x) {
+                if (written.pixel(x, y) == scene.picture.pixel(x, y)) continue;
+                ASSERT_TRUE(reach.contains(x, y)) << "record " << i << " at " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST(HalvedPicture, EachPixelIsTheMeanOfItsSquareAlsoAtTheEdges) {
+    QImage picture(5, 3, QImage::Format_RGB32);
+    for (int y = 0; y < 3; ++y) {
+        for (int x = 0; x < 5; ++x) picture.setPixel(x, y, qRgb(10 * x, 20 * y, 100));
+    }
+    const QImage half = halvedPicture(picture, picture.rect(), 1);
+    ASSERT_EQ(half.size(), QSize(3, 2));
+    EXPECT_EQ(half.pixel(0, 0), qRgb(5, 10, 100));
+    EXPECT_EQ(half.pixel(2, 0), qRgb(40, 10, 100)) << "half a square at the right";
+    EXPECT_EQ(half.pixel(1, 1), qRgb(25, 40, 100)) << "half a square at the bottom";
+    EXPECT_EQ(half.pixel(2, 1), qRgb(40, 40, 100)) << "a quarter in the corner";
+}
+
+}  // namespace
+}  // namespace zelto
