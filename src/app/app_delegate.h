@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Brings the program up, in the order its parts rely on, and holds what they share. Main thread only.
+#pragma once
+
+#include "app/dialogs/dialog_set.h"
+#include "app/editors/editor_set.h"
+#include "app/main_window.h"
+#include "app/my_global_instance.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+namespace zelto {
+
+// What the command line asks for.
+struct StartRequest {
+    std::optional<QString>
+        setting;         // a saved setting's name or the path of a setting file, instead of the autoload
+    QStringList photos;  // photos and folders to begin with
+};
+
+class AppDelegate {
+  public:
+    AppDelegate(DialogSet dialogs, EditorSet editors);
+
+    // Shows the window and loads what it is to begin with. Once.
+    void start(const StartRequest& request);
+
+    MyGlobalInstance& CurrentInstance() { return shared_; }
+    MainWindow& window() { return *window_; }
+
+  private:
+    void showWindow();
+    void loadSetting(const StartRequest& request);
+    void addPhotos(const QStringList& paths);
+
+    MyGlobalInstance shared_;
+    DialogSet dialogs_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace zelto

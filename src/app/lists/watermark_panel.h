@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The watermark list on the screen, with its buttons. Main thread only.
+#pragma once
+
+#include <QListView>
+#include <QWidget>
+
+namespace zelto {
+
+class WatermarkController;
+class WindowActions;
+
+class WatermarkPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    WatermarkPanel(WatermarkController& watermarks, WindowActions& actions, QWidget* parent = nullptr);
+
+    QListView& list() { return *list_; }
+
+  private:
+    QListView* list_;
+};
+
+// The line above a list, telling what it holds.
+QWidget* makeHeading(const QString& text, QWidget* parent);
+
+}  // namespace zelto

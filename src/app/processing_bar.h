@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The controls of a run under way: its progress, and the buttons to pause and to cancel it. Hidden while
+// there is no run. Main thread only.
+#pragma once
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QWidget>
+
+namespace zelto {
+
+class ProcessingBar : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit ProcessingBar(QWidget* parent = nullptr);
+
+    // Progress counts the rows of the list that have had their turn.
+    void begin(int rows);
+    void setProgress(int done, const QString& photo);
+    // Whether the first button resumes a paused run or pauses a running one.
+    void setPaused(bool paused);
+
+    QPushButton* PauseOrResumeProcessing() const { return pause_; }
+    QPushButton* CancelProcessing() const { return cancel_; }
+    QProgressBar* ProcessingIndicator() const { return progress_; }
+
+  private:
+    QLabel* photo_;
+    QProgressBar* progress_;
+    QPushButton* pause_;
+    QPushButton* cancel_;
+};
+
+}  // namespace zelto

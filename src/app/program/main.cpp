@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window program: zelto [--setting NAME_OR_FILE] [PHOTO_OR_FOLDER...]
+#include "app/app_delegate.h"
+#include "app/icons.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Zelto"));
+    QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
+    QApplication::setWindowIcon(zelto::applicationIcon());
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QApplication::translate("main", "Watermarks for batches of photos."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption setting(
+        {QStringLiteral("s"), QStringLiteral("setting")},
+        QApplication::translate("main", "Start with a saved setting or a setting file."),
+        QStringLiteral("name or file"));
+    parser.addOption(setting);
+    parser.addPositionalArgument(
+        QStringLiteral("photos"),
+        QApplication::translate("main", "Photos, or folders of photos, to begin with."),
+        QStringLiteral("[photos...]"));
+    parser.process(application);
+
+    zelto::StartRequest request;
+    if (parser.isSet(setting)) request.setting = parser.value(setting);
+    request.photos = parser.positionalArguments();
+    zelto::AppDelegate delegate(zelto::standardDialogs(), zelto::standardEditors());
+    delegate.start(request);
+    return QApplication::exec();
+}
