@@ -4,12 +4,17 @@
 #include "platform/application_folders.h"
 
 #include <QFileInfo>
-#include <QtGlobal>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <utility>
 
 namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(exiftoolLog, "zelto.exiftool")
+
+}  // namespace
 
 QString exiftoolProgram() {
     const QString named = qEnvironmentVariable("ZELTO_EXIFTOOL");
@@ -44,11 +49,18 @@ tl::unexpected<Error> ExiftoolPool::failed(const QString& what) const {
     return fail(ErrorCode::ProgramFailed, QStringLiteral("\"%1\" %2.").arg(program_, what), program_);
 }
 
+void ExiftoolPool::warmUp() {
+    if (!QFileInfo(program_).isExecutable()) return;
+    auto process = take();
+    if (!process) process = ExiftoolProcess::start(program_).value_or(nullptr);
+    giveBack(std::move(process));
+}
+
 Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::milliseconds timeout) {
     if (!QFileInfo(program_).isExecutable()) {
         std::call_once(missingIsLogged_, [this] {
-            qWarning("exiftool is missing (\"%s\"): outputs are written without metadata.",
-                     qUtf8Printable(program_));
+            qCWarning(exiftoolLog, "exiftool is missing (\"%s\"): outputs are written without metadata.",
+                      qUtf8Printable(program_));
         });
         return failed(QStringLiteral("is missing"));
     }

@@ -30,6 +30,9 @@ class ExiftoolPool {
     ExiftoolPool(const ExiftoolPool&) = delete;
     ExiftoolPool& operator=(const ExiftoolPool&) = delete;
 
+    // Starts a first program where none runs, without waiting for it to be ready.
+    void warmUp();
+
     // Has one command run and returns what was printed for it; blocks until then. `timeout` counts from when the
     // command is sent, and for each of two tries: a program that dies is tried anew once. Error:
     // ErrorCode::ProgramFailed, or that of exiftoolCommand().

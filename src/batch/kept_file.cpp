@@ -29,9 +29,4 @@ QByteArray KeptFile::read() const {
     return file_->readAll();
 }
 
-bool isSameFile(const QString& path, const QString& other) {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
-}
-
 }  // namespace zelto

@@ -36,7 +36,4 @@ class KeptFile {
     std::unique_ptr<QFile> file_;
 };
 
-// Whether both paths lead to the same existing file, so that writing one replaces the other.
-bool isSameFile(const QString& path, const QString& other);
-
 }  // namespace zelto

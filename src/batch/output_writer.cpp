@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_writer.h"
 
+#include "batch/file_identity.h"
+#include "batch/kept_file.h"
+#include "batch/metadata_transfer.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
 #include "batch/path_parts.h"
@@ -25,6 +28,14 @@ qint64 pixelCount(QSize size) {
     return qint64{size.width()} * size.height();
 }
 
+bool takesMetadata(PictureFormat format) {
+    return format == PictureFormat::Jpeg || format == PictureFormat::Tiff;
+}
+
+std::optional<PictureFormat> formatOf(const QString& output) {
+    return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
+}
+
 bool isPageOfCombinedPdf(PictureFormat format, const OutputOptions& options) {
     return format == PictureFormat::Pdf && options.CombineToSinglePDF;
 }
@@ -38,7 +49,11 @@ struct OutputWriter::CombinedPdf {
     PdfDocument document;
 };
 
-OutputWriter::OutputWriter(Settings settings) : settings_(std::move(settings)) {}
+OutputWriter::OutputWriter(Settings settings)
+    : settings_(std::move(settings)),
+      exiftool_(settings_.metadataJobs),
+      metadata_(settings_.metadataJobs,
+                [this](const MetadataRequest& request) { return CopyExifDataTo(request, exiftool_); }) {}
 
 OutputWriter::~OutputWriter() = default;
 
@@ -54,6 +69,10 @@ qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
 }
 
 Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
+    const std::optional<PictureFormat> format = formatOf(task.output);
+    // Starting takes a while, which passes while the first photo is worked on.
+    if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
+    metadata_.waitFor(task.source);
     Result<PhotoScene> scene = buildPhotoScene(PhotoRequest{.path = task.source,
                                                             .row = task.row,
                                                             .listSize = task.listSize,
@@ -66,7 +85,6 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     if (!scene) return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
 
     const OutputOptions& options = settings_.options;
-    const auto format = pictureFormatForExtension(pathExtension(lastPathComponent(task.output)));
     if (!format) {
         return fail(ErrorCode::Unsupported,
                     QStringLiteral("“%1” has no extension of a format that can be written.").arg(task.output),
@@ -102,10 +120,30 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
 }
 
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
-    if (photo.page) return addPage(*photo.page);
+    return photo.page ? addPage(*photo.page) : writeFile(task, photo);
+}
+
+Result<void> OutputWriter::writeFile(const PhotoTask& task, const PreparedPhoto& photo) {
+    const OutputOptions& options = settings_.options;
     // Only a kept structure makes folders; where one cannot be made, writing the file tells.
-    if (settings_.options.KeepDirectoryStructure) QDir().mkpath(withoutLastPathComponent(task.output));
-    return writeWholeFile(task.output, photo.file);
+    if (options.KeepDirectoryStructure) QDir().mkpath(withoutLastPathComponent(task.output));
+    // An earlier photo's metadata may still be on its way to this file, or from it.
+    metadata_.waitFor(task.output);
+
+    const std::optional<PictureFormat> format = formatOf(task.output);
+    const bool getsMetadata = format && takesMetadata(*format);
+    std::optional<KeptFile> replacedSource;
+    if (getsMetadata && fileIdentity(task.source) == fileIdentity(task.output)) {
+        Result<KeptFile> kept = KeptFile::keep(task.source);
+        if (!kept) return tl::unexpected(std::move(kept.error()));
+        replacedSource = *std::move(kept);
+    }
+    Result<void> written = writeWholeFile(task.output, photo.file);
+    if (written && getsMetadata) {
+        metadata_.add({task.output, task.source, options.ExifDataToInclude, photo.dpi, settings_.copyright},
+                      std::move(replacedSource));
+    }
+    return written;
 }
 
 Result<void> OutputWriter::addPage(const PdfPage& page) {
@@ -124,6 +162,8 @@ Result<QString> OutputWriter::finishCombinedPdf() {
     return pdf->document.finish().and_then([&] { return pdf->file.commit(path); }).map([&] { return path; });
 }
 
-void OutputWriter::settle() {}
+void OutputWriter::settle() {
+    metadata_.settle();
+}
 
 }  // namespace zelto

@@ -3,7 +3,10 @@
 // composed, resized and encoded in prepare(), and written in commit(), a whole file or none.
 #pragma once
 
+#include "batch/exiftool_pool.h"
+#include "batch/metadata_queue.h"
 #include "batch/photo_processor.h"
+#include "records/copyright_metadata.h"
 #include "records/output_options.h"
 #include "records/watermark_stack.h"
 #include "render/logo_cache.h"
@@ -11,6 +14,8 @@
 #include <QLocale>
 
 #include <memory>
+#include <mutex>
+#include <optional>
 
 namespace zelto {
 
@@ -20,6 +25,8 @@ class OutputWriter : public PhotoProcessor {
         OutputOptions options;
         std::shared_ptr<const WatermarkStack> stack;
         QLocale locale;
+        std::optional<CopyRightMetaData> copyright;
+        int metadataJobs = 1;  // outputs that are given their metadata at a time
     };
 
     explicit OutputWriter(Settings settings);
@@ -36,9 +43,13 @@ class OutputWriter : public PhotoProcessor {
     struct CombinedPdf;
 
     Result<void> addPage(const PdfPage& page);
+    Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
 
     const Settings settings_;
     const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
+    ExiftoolPool exiftool_;
+    MetadataQueue metadata_;  // uses exiftool_
+    std::once_flag exiftoolIsExpected_;
     std::unique_ptr<CombinedPdf> combinedPdf_;
 };
 

@@ -94,7 +94,8 @@ BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& co
     const InterruptWatch watch([&] { run.CancelProcessingAction(); });
     console.begin(static_cast<qint64>(report.photos.size()));
     run.ProcessImaging(plan.request, std::make_unique<OutputWriter>(OutputWriter::Settings{
-                                         plan.request.options, plan.stack, userDateLocale()}));
+                                         plan.request.options, plan.stack, userDateLocale(), plan.copyright,
+                                         plan.request.limits.jobs}));
     run.wait();
     console.end();
     return report;

@@ -170,8 +170,6 @@ TEST_F(MetadataTransfer, OutputInThePlaceOfItsSourceKeepsTheMetadata) {
     const QString path = cameraPhoto(u"s.jpg"_s);
     ASSERT_TRUE(QFile::link(path, folder_.filePath(u"link.jpg"_s)));
     const QString link = folder_.filePath(u"link.jpg"_s);
-    EXPECT_TRUE(isSameFile(path, link));
-    EXPECT_FALSE(isSameFile(path, folder_.filePath(u"missing"_s)));
     const Result<KeptFile> source = KeptFile::keep(path);
     ASSERT_TRUE(source);
     write(u"s.jpg"_s, picture(PictureFormat::Jpeg, 72.0));
