@@ -2,8 +2,7 @@
 #include "batch/look_ahead.h"
 
 #include "batch/file_identity.h"
-
-#include <unistd.h>
+#include "batch/machine_limits.h"
 
 #include <algorithm>
 #include <exception>
@@ -35,9 +34,7 @@ qint64 memoryNeeded(PhotoProcessor& processor, const PhotoTask& task) {
 }  // namespace
 
 LookAheadLimits LookAheadLimits::forThisMachine() {
-    const qint64 memory = qint64{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
-    return {static_cast<int>(std::max(1U, std::thread::hardware_concurrency())),
-            std::max<qint64>(memory / 4, 0)};
+    return {static_cast<int>(std::max(1U, std::thread::hardware_concurrency())), availableMemory() / 4};
 }
 
 LookAhead::LookAhead(PhotoProcessor& processor, std::function<std::optional<PhotoTask>()> nextTask,

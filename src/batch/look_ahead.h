@@ -25,7 +25,7 @@ struct LookAheadLimits {
     int jobs = 1;             // photos prepared at a time
     qint64 memoryBudget = 0;  // bytes
 
-    // One thread a core and a quarter of the machine's memory.
+    // One thread a core and a quarter of the available memory.
     static LookAheadLimits forThisMachine();
 };
 

@@ -10,6 +10,8 @@
 #include "platform/picture_reader.h"
 #include "render/photo_effects.h"
 
+#include <QSet>
+
 #include <memory>
 
 namespace zelto {
@@ -84,6 +86,22 @@ void ReportingObserver::runEnded(const RunReport& report) {
                                             : report.message();
 }
 
+// Photos of the same name from different folders are easily overlooked.
+void tellOfSharedNames(const BatchReport& report, Console& console) {
+    QSet<QString> outputs;
+    qint64 replaced = 0;
+    for (const PhotoReport& photo : report.photos) {
+        if (photo.output.isEmpty()) continue;
+        if (outputs.contains(photo.output)) ++replaced;
+        outputs.insert(photo.output);
+    }
+    if (replaced == 0) return;
+    console.note(QStringLiteral(
+                     "outputs replaced by that of a later photo of the same name: %1 (--keep-structure or a "
+                     "number in --rename keeps them apart)")
+                     .arg(replaced));
+}
+
 }  // namespace
 
 BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& console) {
@@ -92,6 +110,7 @@ BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& co
     BatchRun run(observer);
     observer.answerThrough(run);
     const InterruptWatch watch([&] { run.CancelProcessingAction(); });
+    tellOfSharedNames(report, console);
     console.begin(static_cast<qint64>(report.photos.size()));
     run.ProcessImaging(plan.request, std::make_unique<OutputWriter>(OutputWriter::Settings{
                                          plan.request.options, plan.stack, userDateLocale(), plan.copyright,

@@ -166,8 +166,8 @@ const std::array Options = {
     Option{"q", "quality", "0..100", "JPEG quality (default: 90)",
            wholeNumber<&CommandLine::quality, 0, 100>},
     Option{nullptr, "rename", "PATTERN",
-           "output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, [DD] as "
-           "DDMMYYYY",
+           "output name: [O] original name, [#] to [####] number in the list,\n"
+           "[D] today as MMDDYYYY, [DD] as DDMMYYYY",
            text<&CommandLine::rename>},
     Option{nullptr, "resize-percent", "WxH", "resize each side by its percentage",
            [](CommandLine& line, const QString& value) {
@@ -186,7 +186,7 @@ const std::array Options = {
            turn<&CommandLine::keepStructure>},
     Option{nullptr, "metadata", "WHAT", "all, copyright, no-gps or none (default: all)", applyMetadata},
     Option{nullptr, "copyright", "FILE",
-           "a Copyright.xml to write into the outputs (default: your own, if the setting asks)",
+           "a Copyright.xml to write into the outputs\n(default: your own, if the setting asks for it)",
            text<&CommandLine::copyrightFile>},
     Option{"r", "recursive", nullptr, "scan sub-folders too", turn<&CommandLine::recursive>},
     Option{nullptr, "extensions", "LIST", "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: all)",
@@ -194,9 +194,10 @@ const std::array Options = {
     Option{"j", "jobs", "N", "photos worked on at a time (default: the number of cores)",
            wholeNumber<&CommandLine::jobs, 1, Unbounded>},
     Option{nullptr, "shard", "I/N",
-           "only every Nth photo of the list, from I on (0-based); auto, auto/N: from the environment",
+           "only every Nth photo of the list, from I on (0-based);\nauto, auto/N: as a Slurm array or a "
+           "Kubernetes Job has it",
            applyShard},
-    Option{nullptr, "on-repeated-failure", "ANSWER",
+    Option{nullptr, "on-repeated-failure", "WHAT",
            "stop or continue after 3 failures in a row (default: stop)", applyRepeatedFailure},
     Option{nullptr, "overwrite-originals", nullptr, "allow outputs that replace photos of the list",
            turn<&CommandLine::overwriteOriginals>},
@@ -294,15 +295,16 @@ bool asksForJson(const QStringList& arguments) {
 
 QString helpText() {
     QString text = QString::fromUtf8(Introduction);
-    constexpr qsizetype DescriptionColumn = 32;
+    constexpr qsizetype DescriptionColumn = 34;
+    const QString nextLine = QLatin1Char('\n') + QString(DescriptionColumn, QLatin1Char(' '));
     for (const Option& option : Options) {
         QString names = option.shortName != nullptr
                             ? QStringLiteral("  -%1, ").arg(QLatin1String(option.shortName))
                             : QStringLiteral("      ");
         names += QStringLiteral("--") + QLatin1String(option.name);
         if (option.valueName != nullptr) names += QLatin1Char(' ') + QLatin1String(option.valueName);
-        text += names.leftJustified(DescriptionColumn - 1) + QLatin1Char(' ') + QLatin1String(option.help) +
-                QLatin1Char('\n');
+        text += names.leftJustified(DescriptionColumn - 1) + QLatin1Char(' ') +
+                QString(QLatin1String(option.help)).replace(QLatin1Char('\n'), nextLine) + QLatin1Char('\n');
     }
     return text + QString::fromUtf8(Ending);
 }

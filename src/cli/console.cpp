@@ -80,6 +80,14 @@ void Console::problem(const QString& text) {
     if (bar_ && total_ > 0) drawBar();
 }
 
+void Console::note(const QString& text) {
+    if (quiet_) return;
+    const std::lock_guard lock(mutex_);
+    clearBar();
+    print(QStringLiteral("zelto-batch: ") + text + QLatin1Char('\n'));
+    if (bar_ && total_ > 0) drawBar();
+}
+
 void Console::end() {
     const std::lock_guard lock(mutex_);
     clearBar();

@@ -27,6 +27,8 @@ class Console {
     // One more photo is done. `line`, unless it is empty, is shown where there is no bar.
     void advance(const QString& line);
     void problem(const QString& text);
+    // Something worth knowing that is no problem.
+    void note(const QString& text);
     // Takes the bar away.
     void end();
 

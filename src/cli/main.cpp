@@ -90,7 +90,9 @@ int run(int argc, char** argv) {
     Console console({line->quiet, line->color, line->progress});
     messageConsole = &console;
     qInstallMessageHandler(showMessage);
-    const QGuiApplication application(argc, argv);
+    // The arguments are ours; Qt is to find nothing for itself among them.
+    int argumentsForQt = 1;
+    const QGuiApplication application(argumentsForQt, argv);
     const int status = show(work(*line, console), *line, console);
     messageConsole = nullptr;
     return status;

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How much of the machine there is for this process. Any thread.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace zelto {
+
+// The memory this process may have, in bytes: the machine's, or less where a container or a batch system limits it.
+qint64 availableMemory();
+
+// The smallest memory limit of the control groups a process is in and of those above them; nothing where there is
+// none. `membership` is the content of its /proc/PID/cgroup, of version 1 or 2; `mountPoint` where the groups are.
+std::optional<qint64> controlGroupMemoryLimit(const QByteArray& membership, const QString& mountPoint);
+
+}  // namespace zelto
