@@ -41,6 +41,7 @@ std::unique_ptr<icu::SimpleDateFormat> makeFormat(const icu::UnicodeString& patt
 struct LocaleFormat {
     QLocale locale;
     std::unique_ptr<icu::SimpleDateFormat> format;
+    std::unique_ptr<icu::Calendar> calendar;  // set to the moment printed
     QString shortPattern;
 };
 
@@ -50,6 +51,7 @@ LocaleFormat& formatOf(const QLocale& locale) {
     const icu::Locale target = icuLocale(locale);
     cached.locale = locale;
     cached.format = makeFormat({}, target);
+    cached.calendar.reset(cached.format ? cached.format->getCalendar()->clone() : nullptr);
     const std::unique_ptr<icu::DateFormat> style(
         icu::DateFormat::createDateInstance(icu::DateFormat::kShort, target));
     icu::UnicodeString pattern;
@@ -65,15 +67,15 @@ bool isPatternLetter(QChar c) {
 
 // One run of a pattern letter, printed; as it stands where ICU knows no such field or has nothing to print
 // for it.
-QString formatField(icu::SimpleDateFormat& format, double milliseconds, QStringView field) {
-    format.applyPattern(toIcu(field));
+QString formatField(LocaleFormat& with, QStringView field) {
+    with.format->applyPattern(toIcu(field));
     icu::UnicodeString printed;
     UErrorCode status = U_ZERO_ERROR;
-    format.format(milliseconds, printed, nullptr, status);
+    with.format->format(*with.calendar, printed, nullptr, status);
     return U_FAILURE(status) || printed.isEmpty() ? field.toString() : fromIcu(printed);
 }
 
-QString formatPattern(icu::SimpleDateFormat& format, double milliseconds, QStringView pattern) {
+QString formatPattern(LocaleFormat& with, QStringView pattern) {
     QString result;
     bool quoted = false;
     for (qsizetype i = 0; i < pattern.size();) {
@@ -91,7 +93,7 @@ QString formatPattern(icu::SimpleDateFormat& format, double milliseconds, QStrin
         } else {
             qsizetype end = i + 1;
             while (end < pattern.size() && pattern[end] == c) ++end;
-            result += formatField(format, milliseconds, pattern.sliced(i, end - i));
+            result += formatField(with, pattern.sliced(i, end - i));
             i = end;
         }
     }
@@ -134,13 +136,16 @@ QDateTime utc(UDate moment) {
 }  // namespace
 
 QString formatDate(const QDateTime& moment, QStringView pattern, const QLocale& locale) {
-    const LocaleFormat& cached = formatOf(locale);
-    if (!moment.isValid() || !cached.format) return {};
-    // A zone of the moment's own offset prints Qt's clock whatever ICU takes the system's zone to be.
+    LocaleFormat& with = formatOf(locale);
+    if (!moment.isValid() || !with.format || !with.calendar) return {};
+    // A zone of the moment's own offset prints Qt's clock whatever ICU takes the system's zone to be. Qt asks the
+    // system anew for the offset of each local time, so it is asked once.
     const int offset = moment.offsetFromUtc() * 1000;
-    icu::UnicodeString zoneName;
-    cached.format->adoptTimeZone(new icu::SimpleTimeZone(offset, zoneName));
-    return formatPattern(*cached.format, static_cast<double>(moment.toMSecsSinceEpoch()), pattern);
+    const qint64 clock = QDateTime(moment.date(), moment.time(), Qt::UTC).toMSecsSinceEpoch();
+    UErrorCode status = U_ZERO_ERROR;
+    with.calendar->adoptTimeZone(new icu::SimpleTimeZone(offset, icu::UnicodeString()));
+    with.calendar->setTime(static_cast<UDate>(clock - offset), status);
+    return U_FAILURE(status) ? QString() : formatPattern(with, pattern);
 }
 
 QString formatShortDate(const QDateTime& moment, const QLocale& locale) {
