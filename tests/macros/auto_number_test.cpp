@@ -27,12 +27,6 @@ TEST(GenerateAutoMacro, FillsTheStartNumberUpToItsDigits) {
     for (const Row& row : rows) EXPECT_EQ(GenerateAutoMacro(row.fields), row.expected);
 }
 
-TEST(GenerateAutoMacro, IsWhatTheExpanderCounts) {
-    MacroContext context;
-    context.row = 2;
-    EXPECT_EQ(ParseMacros(GenerateAutoMacro({u"4"_s, u"98"_s, u"5"_s}), context).text, u"0108"_s);
-}
-
 TEST(AutoNumberField, HoldsNumbersFromOne) {
     for (const QString& typed : {u"0"_s, u"-3"_s, u""_s, u"abc"_s, u"-99999999999999999999"_s}) {
         EXPECT_EQ(autoNumberField(typed), u"1"_s) << typed.toStdString();

@@ -134,12 +134,6 @@ TEST(ImageProperties, ReadsRealTagsOfJpegTiffAndPng) {
     EXPECT_FALSE(readImageProperties(paths[0]).exif.isEmpty());
 }
 
-TEST(ImageProperties, KnowsTheStandardsNames) {
-    EXPECT_EQ(exifKeyOfStandardName(u"FocalLengthIn35mmFilm"_s), u"FocalLenIn35mmFilm"_s);
-    EXPECT_EQ(exifKeyOfStandardName(u"SubSecTime"_s), u"SubsecTime"_s);
-    EXPECT_EQ(exifKeyOfStandardName(u"FNumber"_s), u"FNumber"_s);
-}
-
 struct RawTag {
     quint16 number;
     quint16 type;
