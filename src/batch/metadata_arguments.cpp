@@ -113,7 +113,7 @@ QStringList metadataArguments(const MetadataRequest& request) {
 QStringList mendArguments(const MetadataRequest& request, const MetadataFaults& faults) {
     QStringList changes;
     if (request.exifDataToInclude == exif_data::ExcludeGeolocation) {
-        changes << u"-gps:all="_s << u"-xmp:*gps*="_s << u"-xmp:*latitude="_s << u"-xmp:*longitude="_s;
+        changes << u"-gps:all="_s << u"-xmp:*gps*="_s << u"-xmp:*itude="_s;
     }
     if (const CopyRightMetaData* copyright = writtenCopyright(request)) {
         const QString code = statusCode(writtenStatus(*copyright));

@@ -13,7 +13,7 @@
 namespace zelto {
 namespace {
 
-constexpr qint64 MaximumElements = 1'000'000;
+constexpr qint64 MaximumElements = 200'000;
 constexpr int MaximumDepth = 32;
 
 // The parser compares each attribute of a tag with each: a tag of a megabyte would keep it busy for an hour.

@@ -96,7 +96,7 @@ TEST(MetadataArguments, SecondCommandOnlyWhereTheFirstMissesItsAim) {
     } rows[] = {
         {request(0), {}, ""},
         {request(1), {}, ""},
-        {request(2), {}, "-overwrite_original -gps:all= -xmp:*gps*= -xmp:*latitude= -xmp:*longitude= /o.jpg"},
+        {request(2), {}, "-overwrite_original -gps:all= -xmp:*gps*= -xmp:*itude= /o.jpg"},
         {protectedOne, {}, "-overwrite_original -xmp-plus:CopyrightStatus#=CS-PRO /o.jpg"},
         {disabled, {}, ""},
         {otherWord, {}, ""},

@@ -21,34 +21,31 @@ class CopyrightFile : public ::testing::Test {
 };
 
 TEST_F(CopyrightFile, KeepsEveryTextInItsOwnElementAndReadsEnabledAsSwitchedOn) {
-    const QByteArray names[] = {
-        "CopyrightText",     "CopyrightTextStatus", "CopyrightURL",    "Creator",         "CreatorAddress",
-        "CreatorCity",       "CreatorCountry",      "CreatorJobTitle", "CreatorMail",     "CreatorPhone",
-        "CreatorPostalCode", "CreatorState",        "CreatorWebsite",  "RightsUsageTerms"};
-    QByteArray document = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Copyright>\n";
-    for (const QByteArray& name : names)
-        document += "    <" + name + ">" + name.toLower() + "</" + name + ">\n";
-    document += "    <Enabled>0</Enabled>\n</Copyright>\n";
-    CopyRightMetaData metadata{false,
-                               QStringLiteral("copyrighttext"),
-                               QStringLiteral("copyrighttextstatus"),
-                               QStringLiteral("copyrighturl"),
-                               QStringLiteral("rightsusageterms"),
-                               QStringLiteral("creator"),
-                               QStringLiteral("creatoraddress"),
-                               QStringLiteral("creatorcity"),
-                               QStringLiteral("creatorcountry"),
-                               QStringLiteral("creatorjobtitle"),
-                               QStringLiteral("creatormail"),
-                               QStringLiteral("creatorphone"),
-                               QStringLiteral("creatorpostalcode"),
-                               QStringLiteral("creatorstate"),
-                               QStringLiteral("creatorwebsite")};
+    CopyRightMetaData metadata;
+    const std::pair<const char*, QString*> fields[] = {{"CopyrightText", &metadata.CopyrightText},
+                                                       {"CopyrightTextStatus", &metadata.CopyrightTextStatus},
+                                                       {"CopyrightURL", &metadata.CopyrightURL},
+                                                       {"Creator", &metadata.Creator},
+                                                       {"CreatorAddress", &metadata.CreatorAddress},
+                                                       {"CreatorCity", &metadata.CreatorCity},
+                                                       {"CreatorCountry", &metadata.CreatorCountry},
+                                                       {"CreatorJobTitle", &metadata.CreatorJobTitle},
+                                                       {"CreatorMail", &metadata.CreatorMail},
+                                                       {"CreatorPhone", &metadata.CreatorPhone},
+                                                       {"CreatorPostalCode", &metadata.CreatorPostalCode},
+                                                       {"CreatorState", &metadata.CreatorState},
+                                                       {"CreatorWebsite", &metadata.CreatorWebsite},
+                                                       {"RightsUsageTerms", &metadata.RightsUsageTerms}};
+    QByteArray document = "<?xml version=\"1.0\" encoding=\"UTF-8\"?> <Copyright> ";
+    for (const auto& [name, text] : fields) {
+        *text = QString::fromLatin1(name).toLower();
+        document += QByteArray("<") + name + ">" + text->toUtf8() + "</" + name + "> ";
+    }
+    document += "<Enabled>0</Enabled> </Copyright>";
     ASSERT_TRUE(SaveCopyRightMetadata(metadata, path_));
     QFile file(path_);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QByteArray written = file.readAll();
-    EXPECT_EQ(written.simplified().toStdString(), document.simplified().toStdString());
+    EXPECT_EQ(file.readAll().simplified().toStdString(), document.toStdString());
 
     CopyRightMetaData read;
     ASSERT_TRUE(LoadMetadata(read, path_));

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/setting_file.h"
 
-#include <QDir>
-#include <QFile>
+#include "persistence/xml_document.h"
+
 #include <QTemporaryDir>
-#include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,41 +16,18 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using ::testing::HasSubstr;
 
-// Element paths below the root with their texts, one a line, attributes in front: what another reader sees.
-QStringList outline(const QByteArray& document) {
-    QXmlStreamReader reader(document);
-    QStringList path;
-    QStringList lines;
-    QString text;
-    bool leaf = false;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-            case QXmlStreamReader::StartElement:
-                path.append(reader.name().toString());
-                for (const QXmlStreamAttribute& a : reader.attributes()) {
-                    lines.append(u"%1@%2=%3"_s.arg(path.join(u'/'), a.name(), a.value()));
-                }
-                text.clear();
-                leaf = true;
-                break;
-            case QXmlStreamReader::Characters:
-                text += reader.text();
-                break;
-            case QXmlStreamReader::EndElement:
-                if (leaf) lines.append(path.join(u'/') + u'=' + text);
-                leaf = false;
-                path.removeLast();
-                break;
-            default:
-                break;
-        }
-    }
-    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
-    return lines;
+// The paths and texts of all elements that hold no others, with "@" and the type in front of those of a watermark.
+void outline(const XmlElement& element, const QString& path, QStringList& lines) {
+    if (!element.type.isNull()) lines.append(path + u'@' + element.type);
+    if (element.children.empty()) lines.append(path + u'=' + element.text);
+    for (const XmlElement& child : element.children) outline(child, path + u'/' + child.name, lines);
 }
 
-QStringList outline(const WatermarkStack& stack) {
-    return outline(writeSettingDocument(stack));
+std::string outline(const WatermarkStack& stack) {
+    const auto root = readXml(writeSettingDocument(stack), "WatermarkList"_L1, u"test"_s);
+    QStringList lines;
+    if (root) outline(*root, root->name, lines);
+    return lines.join(u'\n').toStdString();
 }
 
 WatermarkStack readBack(const QByteArray& document) {
@@ -128,18 +104,18 @@ TEST(SettingFile, WritesTheElementsOfEachTypeInTheirOrder) {
         QLatin1String elements;
     } rows[] = {
         {text,
-         "@Type=1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> & more|Font/Name=Serif|Font/Bold=1|Font/Italic=0|"
+         "@1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> & more|Font/Name=Serif|Font/Bold=1|Font/Italic=0|"
          "Font/Underline=1|Font/Strike=0|Font/Size=40|Font/IsRelative=1|Shadow=1|ShadowColor=|"
          "Color=NSCalibratedRGBColorSpace 1 0.5 0 1|Alignment=2|TextEffect=3|UseTransparentColor=1|"
          "ProportionalResize=2|"_L1},
         {shape,
-         "@Type=2|ShapeType=3|Sides=6|ResizeHeight=0.500000|ResizeWidth=0.200000|Width=200.000000|"
+         "@2|ShapeType=3|Sides=6|ResizeHeight=0.500000|ResizeWidth=0.200000|Width=200.000000|"
          "Height=150.500000|SolidColor=NSCalibratedRGBColorSpace 1 1 1 1|"
          "FirstColor=NSCalibratedRGBColorSpace 1 1 1 1|SecondColor=NSCalibratedRGBColorSpace 0 0 0 1|"
          "SolidBackground=1|ResizeWidthByPercent=0|ResizeHeightByPercent=1|GradeintType=5|"_L1},
-        {qr, "@Type=3|Text=https://example.org/#top|ResizeWidth=0.200000|ResizeFormat=0|ShadowColor=|"_L1},
+        {qr, "@3|Text=https://example.org/#top|ResizeWidth=0.200000|ResizeFormat=0|ShadowColor=|"_L1},
         {image,
-         "@Type=0|LogoPath=/logos/a.png|ImageData=AP8Q|Resize=0|ResizebyWidth=0|PreserverAspectRatio=1|"
+         "@0|LogoPath=/logos/a.png|ImageData=AP8Q|Resize=0|ResizebyWidth=0|PreserverAspectRatio=1|"
          "ResizeFormat=2|ResizeHeight=0.000000|ResizeWidth=0.000000|Width=64.000000|Height=0.000000|"
          "IsTransparent=1|CreateBW=0|TransparentColor=|"_L1},
     };
@@ -150,8 +126,7 @@ TEST(SettingFile, WritesTheElementsOfEachTypeInTheirOrder) {
                                                : u"WatermarkList/Watermark/"_s);
         }
         expected.append(u"WatermarkList/SelectedFilter=0"_s);
-        EXPECT_EQ(outline(WatermarkStack{{row.watermark}, {}, 0, false}).join(u'\n').toStdString(),
-                  expected.join(u'\n').toStdString());
+        EXPECT_EQ(outline({{row.watermark}, {}, 0, false}), expected.join(u'\n').toStdString());
     }
 }
 
@@ -165,8 +140,8 @@ TEST(SettingFile, WritesEffectsFilterAndMetadataAfterTheWatermarks) {
     effects.Distance = 6;
     effects.Direction = 360;
     effects.ShadowColor.reset();
-    const QString expected =
-        uR"(WatermarkList/Effects/Border/BorderColor=NSCalibratedRGBColorSpace 0 0 0 1
+    const std::string expected =
+        R"(WatermarkList/Effects/Border/BorderColor=NSCalibratedRGBColorSpace 0 0 0 1
 WatermarkList/Effects/Border/TopBorderThickness=1
 WatermarkList/Effects/Border/LeftBorderThickness=2
 WatermarkList/Effects/Border/BottomBorderThickness=3
@@ -178,9 +153,9 @@ WatermarkList/Effects/Shadow/ShadowSpread=5
 WatermarkList/Effects/Shadow/ShadowSize=6
 WatermarkList/Effects/Shadow/EnableShadow=1
 WatermarkList/SelectedFilter=12
-WatermarkList/Metadata=1)"_s;
+WatermarkList/Metadata=1)";
     const WatermarkStack stack{{}, effects, 12, true};
-    EXPECT_EQ(outline(stack).join(u'\n').toStdString(), expected.toStdString());
+    EXPECT_EQ(outline(stack), expected);
     EXPECT_EQ(readBack(writeSettingDocument(stack)), stack);
 }
 
@@ -189,25 +164,27 @@ class RandomRecords {
   public:
     Watermark watermark(std::int32_t type) {
         Watermark w(type);
-        switch (type) {
-            case watermark_type::Text:
-                fillText(w);
-                break;
-            case watermark_type::Shape:
-                fillShape(w);
-                break;
-            case watermark_type::QrCode:
-                fillQrCode(w);
-                break;
-            default:
-                fillImage(w);
-                break;
+        if (type == watermark_type::Text) {
+            set(w.Text, w.FontFamily, w.FontSize, w.FontBold, w.FontItalic, w.FontUnderline,
+                w.FontStrikethrough, w.IsRelative, w.Shadow, w.ShadowColor, w.TextColor,
+                w.UseTransparentColor, w.TextEffect);
+            w.Alignment = static_cast<std::uint64_t>(number(0, 4));
+            w.FontRelativeSize = QStringList{u"Width"_s, u"Height"_s, u"Longer Side"_s}[number(0, 2)];
+        } else if (type == watermark_type::Shape) {
+            set(w.ShapeType, w.Sides, w.ResizeHeight, w.ResizeWidth, w.Width, w.Height, w.SolidColor,
+                w.FirstColor, w.SecondColor, w.SolidBackground, w.ResizeWidthByPercent,
+                w.ResizeHeightByPercent, w.GradeintType);
+        } else if (type == watermark_type::QrCode) {
+            set(w.Text, w.ResizeWidth, w.ResizeFormat, w.ShadowColor);
+        } else {
+            set(w.ImagePath, w.ImageData, w.Resize, w.ResizebyWidth, w.PreserverAspectRatio, w.ResizeFormat,
+                w.ResizeHeight, w.ResizeWidth, w.Width, w.Height, w.IsTransparent, w.CreateBW,
+                w.TransparentColor);
         }
-        set(w.IsEnabled, w.HorizontalTiling, w.VerticalTiling);
+        set(w.IsEnabled, w.HorizontalTiling, w.VerticalTiling, w.Position, w.Rotation, w.PaddingTop,
+            w.PaddingRight, w.PaddingBottom, w.PaddingLeft, w.CustomPositionLeft, w.CustomPositionTop,
+            w.HorizontalSpacing, w.VerticalSpacing);
         w.Transparency = static_cast<float>(number(0, 100)) / 100.0F;
-        w.Position = static_cast<std::int32_t>(number(1, 10));
-        set(w.Rotation, w.PaddingTop, w.PaddingRight, w.PaddingBottom, w.PaddingLeft, w.CustomPositionLeft,
-            w.CustomPositionTop, w.HorizontalSpacing, w.VerticalSpacing);
         if (number(0, 1) == 1) w.ImageProportionalResize = number(0, 1) == 0 ? u"Height"_s : u"Longer Side"_s;
         return w;
     }
@@ -222,40 +199,23 @@ class RandomRecords {
     qint64 number(qint64 from, qint64 to) { return std::uniform_int_distribution<qint64>(from, to)(random_); }
 
   private:
-    void fillText(Watermark& w) {
-        set(w.Text, w.FontFamily, w.FontSize, w.FontBold, w.FontItalic, w.FontUnderline, w.FontStrikethrough,
-            w.IsRelative, w.Shadow, w.ShadowColor, w.TextColor, w.UseTransparentColor);
-        w.Alignment = static_cast<std::uint64_t>(number(0, 4));
-        w.TextEffect = static_cast<std::int32_t>(number(0, 3));
-        w.FontRelativeSize = QStringList{u"Width"_s, u"Height"_s, u"Longer Side"_s}[number(0, 2)];
-    }
-    void fillShape(Watermark& w) {
-        w.ShapeType = static_cast<std::int32_t>(number(1, 4));
-        set(w.Sides, w.ResizeHeight, w.ResizeWidth, w.Width, w.Height, w.SolidColor, w.FirstColor,
-            w.SecondColor, w.SolidBackground, w.ResizeWidthByPercent, w.ResizeHeightByPercent,
-            w.GradeintType);
-    }
-    void fillQrCode(Watermark& w) { set(w.Text, w.ResizeWidth, w.ResizeFormat, w.ShadowColor); }
-    void fillImage(Watermark& w) {
-        set(w.ImagePath, w.Resize, w.ResizebyWidth, w.PreserverAspectRatio, w.ResizeFormat, w.ResizeHeight,
-            w.ResizeWidth, w.Width, w.Height, w.IsTransparent, w.CreateBW, w.TransparentColor);
-        for (qint64 n = number(0, 300); n > 0; --n) w.ImageData.append(static_cast<char>(number(0, 255)));
-    }
-
     template <class... Fields>
     void set(Fields&... fields) {
         (fill(fields), ...);
     }
     void fill(bool& field) { field = number(0, 1) == 1; }
     void fill(std::int64_t& field) { field = number(-1'000'000'000, 1'000'000'000); }
+    void fill(std::int32_t& field) {
+        field = static_cast<std::int32_t>(number(-2'000'000'000, 2'000'000'000));
+    }
+    void fill(QByteArray& field) {
+        for (qint64 n = number(0, 300); n > 0; --n) field.append(static_cast<char>(number(0, 255)));
+    }
     void fill(float& field) { field = static_cast<float>(number(0, 100'000)) / 64.0F; }
     void fill(std::optional<Color>& field) {
         const auto component = [this] { return static_cast<float>(number(0, 1'000'003)) / 1'000'003.0F; };
-        if (number(0, 4) == 0) {
-            field.reset();
-        } else {
-            field = Color{component(), component(), component(), component()};
-        }
+        field.reset();
+        if (number(0, 4) > 0) field = Color{component(), component(), component(), component()};
     }
     void fill(QString& field) {
         static const QStringList pieces = {

@@ -62,7 +62,7 @@ TEST(XmlDocument, RefusesWhatIsHostileOrNoXmlAndSaysWhere) {
         {manyAttributes + "/></Root>", "line 2: a tag is too long"},
         {manyAttributes, "line 2: a tag is too long"},
         {deep, "line 1: the elements are nested too deeply"},
-        {"<Root>" + QByteArray("<a/>").repeated(1'000'001) + "</Root>",
+        {"<Root>" + QByteArray("<a/>").repeated(200'001) + "</Root>",
          "line 1: the file holds too many elements"},
     };
     for (const auto& row : rows) {
@@ -87,31 +87,22 @@ TEST(XmlDocument, AcceptsCommentsSectionsAndEveryLetterCaseOfTheRoot) {
 }
 
 TEST(XmlDocument, ReadsSwitchesAndNumbersOfEveryForm) {
-    const struct {
-        const char* text;
-        bool fallback;
-        bool value;
-    } switches[] = {{"True", false, true}, {"false", true, false}, {" 1\n", false, true},
-                    {"0", true, false},    {"2", false, true},     {"", true, true},
-                    {"yes", false, false}, {"FALSE ", true, false}};
-    for (const auto& row : switches)
-        EXPECT_EQ(toBool(QLatin1String(row.text), row.fallback), row.value) << row.text;
-
-    const struct {
-        const char* text;
-        qint64 value;
-    } numbers[] = {{"-12", -12},
-                   {" 7\n", 7},
-                   {"12.9", 12},
-                   {"1e3", 1000},
-                   {"9223372036854775807", std::numeric_limits<qint64>::max()},
-                   {"9223372036854775808", std::numeric_limits<qint64>::max()},
-                   {"-1e400", std::numeric_limits<qint64>::min()},
-                   {"inf", std::numeric_limits<qint64>::max()},
-                   {"nan", 42},
-                   {"", 42},
-                   {"12px", 42}};
-    for (const auto& row : numbers) EXPECT_EQ(toInteger(QLatin1String(row.text), 42), row.value) << row.text;
+    for (const char* text : {"True", "true", " 1\n", "2"})
+        EXPECT_TRUE(toBool(QLatin1String(text), false)) << text;
+    for (const char* text : {"False", "FALSE ", "0"}) EXPECT_FALSE(toBool(QLatin1String(text), true)) << text;
+    for (const bool fallback : {false, true}) EXPECT_EQ(toBool(QStringLiteral("yes"), fallback), fallback);
+    const std::pair<const char*, qint64> numbers[] = {
+        {"-12", -12},
+        {" 7\n", 7},
+        {"12.9", 12},
+        {"1e3", 1000},
+        {"nan", 42},
+        {"", 42},
+        {"12px", 42},
+        {"9223372036854775808", std::numeric_limits<qint64>::max()},
+        {"-1e400", std::numeric_limits<qint64>::min()},
+        {"inf", std::numeric_limits<qint64>::max()}};
+    for (const auto& [text, value] : numbers) EXPECT_EQ(toInteger(QLatin1String(text), 42), value) << text;
 }
 
 }  // namespace
