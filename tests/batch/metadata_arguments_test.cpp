@@ -39,22 +39,10 @@ TEST(MetadataArguments, ListsOfTheFourChoices) {
 }
 
 TEST(MetadataArguments, CopyrightFieldsComeBeforeTheOrientationWhereTheyAreWritten) {
-    CopyRightMetaData c;
-    c.Enabled = true;
-    c.CopyrightText = QStringLiteral("text");
-    c.CopyrightTextStatus = QStringLiteral("Copyrighted");
-    c.CopyrightURL = QStringLiteral("url");
-    c.RightsUsageTerms = QStringLiteral("terms");
-    c.Creator = QStringLiteral("creator");
-    c.CreatorAddress = QStringLiteral("address");
-    c.CreatorCity = QStringLiteral("city");
-    c.CreatorCountry = QStringLiteral("country");
-    c.CreatorJobTitle = QStringLiteral("job");
-    c.CreatorMail = QStringLiteral("mail");
-    c.CreatorPhone = QStringLiteral("phone");
-    c.CreatorPostalCode = QStringLiteral("code");
-    c.CreatorState = QStringLiteral("state");
-    c.CreatorWebsite = QStringLiteral("site");
+    const auto q = [](const char* text) { return QString::fromLatin1(text); };
+    const CopyRightMetaData c{true,         q("text"),    q("Copyrighted"), q("url"),     q("terms"),
+                              q("creator"), q("address"), q("city"),        q("country"), q("job"),
+                              q("mail"),    q("phone"),   q("code"),        q("state"),   q("site")};
     MetadataRequest r = request(0);
     r.copyright = c;
     EXPECT_EQ(

@@ -66,9 +66,8 @@ class MetadataTransfer : public ::testing::Test {
         found.remove(u"SourceFile"_s);
         return found;
     }
-    // Every resolution of the file, in dots per inch; 0 for one without a unit.
-    QMap<QString, double> resolutions(const QString& path) {
-        const QJsonObject found = tags(path, {u"XResolution"_s, u"ResolutionUnit"_s});
+    // Every resolution of a file's tags, in dots per inch; 0 for one without a unit.
+    static QMap<QString, double> resolutions(const QJsonObject& found) {
         QMap<QString, double> result;
         for (const auto& [group, inch, centimetre] : {std::tuple{u"JFIF"_s, 1, 2}, {u"IFD0"_s, 2, 3}}) {
             if (!found.contains(group + u":XResolution"_s)) continue;
@@ -101,7 +100,8 @@ TEST_F(MetadataTransfer, EachChoiceCarriesWhatItSaysFromAnyResolutionBlockIntoJp
                 const Result<void> done = CopyExifDataTo({output, source, choice, row.dpi, {}}, pool_);
                 ASSERT_TRUE(done) << done.error().message.toStdString();
                 const QJsonObject found =
-                    tags(output, {u"Orientation"_s, u"Artist"_s, u"LensModel"_s, u"XMP:all"_s, u"GPS:all"_s});
+                    tags(output, {u"Orientation"_s, u"Artist"_s, u"LensModel"_s, u"XResolution"_s,
+                                  u"ResolutionUnit"_s, u"XMP:all"_s, u"GPS:all"_s});
                 EXPECT_EQ(found.contains(u"IFD0:Artist"_s), choice != 3);
                 EXPECT_EQ(found.contains(u"ExifIFD:LensModel"_s), choice == 0 || choice == 2);
                 const QStringList positions = QStringList(found.keys()).filter(u"GPS"_s);
@@ -109,7 +109,7 @@ TEST_F(MetadataTransfer, EachChoiceCarriesWhatItSaysFromAnyResolutionBlockIntoJp
                 EXPECT_TRUE(choice == 0 || positions.isEmpty()) << positions.join(u' ').toStdString();
                 EXPECT_EQ(found.contains(u"XMP-plus:CopyrightStatus"_s), choice != 3);
                 EXPECT_EQ(found[u"IFD0:Orientation"_s].toInt(1), 1);
-                const QMap<QString, double> stated = resolutions(output);
+                const QMap<QString, double> stated = resolutions(found);
                 EXPECT_FALSE(stated.isEmpty());
                 for (const double dpi : stated) EXPECT_NEAR(dpi, row.dpi, 1.3);
                 EXPECT_FALSE(QFile::exists(output + u"_exiftool_tmp"_s));

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/copyright_file.h"
 
-#include <QFile>
+#include "persistence/xml_document.h"
+#include "platform/whole_file.h"
+
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -11,10 +13,7 @@ namespace {
 
 class CopyrightFile : public ::testing::Test {
   protected:
-    void write(const QByteArray& content) {
-        QFile file(path_);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
+    void write(const QByteArray& content) { ASSERT_TRUE(writeWholeFile(path_, content)); }
 
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(CopyrightFileName);
@@ -22,30 +21,27 @@ class CopyrightFile : public ::testing::Test {
 
 TEST_F(CopyrightFile, KeepsEveryTextInItsOwnElementAndReadsEnabledAsSwitchedOn) {
     CopyRightMetaData metadata;
-    const std::pair<const char*, QString*> fields[] = {{"CopyrightText", &metadata.CopyrightText},
-                                                       {"CopyrightTextStatus", &metadata.CopyrightTextStatus},
-                                                       {"CopyrightURL", &metadata.CopyrightURL},
-                                                       {"Creator", &metadata.Creator},
-                                                       {"CreatorAddress", &metadata.CreatorAddress},
-                                                       {"CreatorCity", &metadata.CreatorCity},
-                                                       {"CreatorCountry", &metadata.CreatorCountry},
-                                                       {"CreatorJobTitle", &metadata.CreatorJobTitle},
-                                                       {"CreatorMail", &metadata.CreatorMail},
-                                                       {"CreatorPhone", &metadata.CreatorPhone},
-                                                       {"CreatorPostalCode", &metadata.CreatorPostalCode},
-                                                       {"CreatorState", &metadata.CreatorState},
-                                                       {"CreatorWebsite", &metadata.CreatorWebsite},
-                                                       {"RightsUsageTerms", &metadata.RightsUsageTerms}};
+    CopyRightMetaData& m = metadata;
+    QString* const texts[] = {&m.CopyrightText,  &m.CopyrightTextStatus, &m.CopyrightURL,
+                              &m.Creator,        &m.CreatorAddress,      &m.CreatorCity,
+                              &m.CreatorCountry, &m.CreatorJobTitle,     &m.CreatorMail,
+                              &m.CreatorPhone,   &m.CreatorPostalCode,   &m.CreatorState,
+                              &m.CreatorWebsite, &m.RightsUsageTerms};
+    const QByteArrayList names =
+        QByteArray(
+            "CopyrightText CopyrightTextStatus CopyrightURL Creator CreatorAddress CreatorCity "
+            "CreatorCountry "
+            "CreatorJobTitle CreatorMail CreatorPhone CreatorPostalCode CreatorState CreatorWebsite "
+            "RightsUsageTerms")
+            .split(' ');
     QByteArray document = "<?xml version=\"1.0\" encoding=\"UTF-8\"?> <Copyright> ";
-    for (const auto& [name, text] : fields) {
-        *text = QString::fromLatin1(name).toLower();
-        document += QByteArray("<") + name + ">" + text->toUtf8() + "</" + name + "> ";
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        *texts[i] = QString::fromLatin1(names[i]).toLower();
+        document += "<" + names[i] + ">" + names[i].toLower() + "</" + names[i] + "> ";
     }
     document += "<Enabled>0</Enabled> </Copyright>";
     ASSERT_TRUE(SaveCopyRightMetadata(metadata, path_));
-    QFile file(path_);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll().simplified().toStdString(), document.toStdString());
+    EXPECT_EQ(readXmlFile(path_)->simplified().toStdString(), document.toStdString());
 
     CopyRightMetaData read;
     ASSERT_TRUE(LoadMetadata(read, path_));

@@ -2,9 +2,10 @@
 #include "persistence/output_settings_file.h"
 
 #include "persistence/output_options_check.h"
+#include "persistence/xml_document.h"
 #include "platform/file_reference.h"
+#include "platform/whole_file.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -15,9 +16,7 @@ namespace {
 class OutputSettingsFile : public ::testing::Test {
   protected:
     void write(const QByteArray& elements) {
-        QFile file(path_);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<OutputSettings>" + elements + "</OutputSettings>");
+        ASSERT_TRUE(writeWholeFile(path_, "<OutputSettings>" + elements + "</OutputSettings>"));
     }
 
     OutputSettings full() const {
@@ -48,9 +47,7 @@ TEST_F(OutputSettingsFile, HoldsTheFieldsInTheirOrder) {
     s.options.OutputPath = QStringLiteral("/out");
     s.options.OutputFolderData = "/out";
     ASSERT_TRUE(saveOutputSettings(s, path_));
-    QFile file(path_);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll().simplified().toStdString(),
+    EXPECT_EQ(readXmlFile(path_)->simplified().toStdString(),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?> <OutputSettings> <SavePath>/out</SavePath> "
               "<OutputFolderData>L291dA==</OutputFolderData> <OutputFormat>tiff</OutputFormat> "
               "<JpegQuality>85</JpegQuality> <Rename>1</Rename> <RenameFormat>[O]_[###]</RenameFormat> "
@@ -99,13 +96,14 @@ TEST_F(OutputSettingsFile, LeavesOutWhatMakesNoSense) {
 }
 
 TEST_F(OutputSettingsFile, FolderReferenceOverridesThePathOnlyWhileItLeadsSomewhere) {
-    const QByteArray here = fileReference(folder_.path()).toBase64();
-    write("<SavePath>/gone</SavePath><OutputFolderData>" + here + "</OutputFolderData>");
-    EXPECT_EQ(loadOutputSettings(path_, {})->options.OutputPath, folder_.path());
-    write("<SavePath>/gone</SavePath><OutputFolderData>" + QByteArray("/gone/too").toBase64() +
-          "</OutputFolderData>");
-    EXPECT_EQ(loadOutputSettings(path_, {})->options.OutputPath, QStringLiteral("/gone"));
-    EXPECT_EQ(loadOutputSettings(path_, {})->options.OutputFolderData, "/gone/too");
+    for (const bool isThere : {true, false}) {
+        const QString folder = isThere ? folder_.path() : QStringLiteral("/gone/too");
+        write("<SavePath>/gone</SavePath><OutputFolderData>" + folder.toUtf8().toBase64() +
+              "</OutputFolderData>");
+        const Result<OutputSettings> read = loadOutputSettings(path_, {});
+        EXPECT_EQ(read->options.OutputPath, isThere ? folder : QStringLiteral("/gone"));
+        EXPECT_EQ(read->options.OutputFolderData, folder.toUtf8());
+    }
 }
 
 TEST_F(OutputSettingsFile, MissingGivesTheInitialSettingsAndABrokenOneAnError) {

@@ -16,18 +16,20 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using ::testing::HasSubstr;
 
-// The paths and texts of all elements that hold no others, with "@" and the type in front of those of a watermark.
+// The elements that hold no others as "path=text", a watermark's type as "Watermark@type", the paths within a
+// watermark without its name.
 void outline(const XmlElement& element, const QString& path, QStringList& lines) {
     if (!element.type.isNull()) lines.append(path + u'@' + element.type);
     if (element.children.empty()) lines.append(path + u'=' + element.text);
-    for (const XmlElement& child : element.children) outline(child, path + u'/' + child.name, lines);
+    const QString start = path.isEmpty() || !element.type.isNull() ? QString() : path + u'/';
+    for (const XmlElement& child : element.children) outline(child, start + child.name, lines);
 }
 
 std::string outline(const WatermarkStack& stack) {
     const auto root = readXml(writeSettingDocument(stack), "WatermarkList"_L1, u"test"_s);
     QStringList lines;
-    if (root) outline(*root, root->name, lines);
-    return lines.join(u'\n').toStdString();
+    if (root) outline(*root, QString(), lines);
+    return lines.join(u'|').toStdString();
 }
 
 WatermarkStack readBack(const QByteArray& document) {
@@ -43,120 +45,84 @@ Watermark readOne(int type, const QByteArray& elements) {
     return stack.Watermarks.size() == 1 ? stack.Watermarks[0] : Watermark(-1);
 }
 
-constexpr auto CommonElements =
-    "IsEnabled=0|Transparency=0.250000|Rotation=-45|Position=10|PaddingTop=1|PaddingRight=2|PaddingBottom=3|"
-    "PaddingLeft=4|CustomPositionLeft=5|CustomPositionTop=6|HTiling=1|VTiling=0|HorizontalSpacing=7|"
-    "VerticalSpacing=8|ProportionalResize=3"_L1;
-
-Watermark withCommonFields(std::int32_t type) {
-    Watermark w(type);
-    w.IsEnabled = false;
-    w.Transparency = 0.25F;
-    w.Rotation = -45;
-    w.Position = CustomPosition;
-    w.PaddingTop = 1;
-    w.PaddingRight = 2;
-    w.PaddingBottom = 3;
-    w.PaddingLeft = 4;
-    w.CustomPositionLeft = 5;
-    w.CustomPositionTop = 6;
-    w.HorizontalTiling = true;
-    w.HorizontalSpacing = 7;
-    w.VerticalSpacing = 8;
-    w.ImageProportionalResize = u"Longer Side"_s;
-    return w;
-}
-
+// What every field is expected to be in a file, one "path=text" a field, "|" between them. The records are filled
+// field by field in C++ so that a name that is wrong in writer and reader alike is noticed.
 TEST(SettingFile, WritesTheElementsOfEachTypeInTheirOrder) {
-    Watermark text = withCommonFields(watermark_type::Text);
+    const auto common = [](Watermark w) {
+        w.IsEnabled = false;
+        w.Transparency = 0.25F;
+        w.Rotation = -45;
+        w.Position = CustomPosition;
+        std::int64_t next = 1;
+        for (std::int64_t* field :
+             {&w.PaddingTop, &w.PaddingRight, &w.PaddingBottom, &w.PaddingLeft, &w.CustomPositionLeft,
+              &w.CustomPositionTop, &w.HorizontalSpacing, &w.VerticalSpacing}) {
+            *field = next++;
+        }
+        w.HorizontalTiling = true;
+        w.ImageProportionalResize = u"Longer Side"_s;
+        return w;
+    };
+    Watermark text = common(Watermark(watermark_type::Text));
     text.Text = u"#1 <<AUTO:##1+1>> & more"_s;
     text.FontFamily = u"Serif"_s;
     text.FontSize = 40;
-    text.FontBold = text.FontUnderline = text.Shadow = text.IsRelative = true;
+    text.FontBold = text.FontUnderline = text.Shadow = text.IsRelative = text.UseTransparentColor = true;
     text.TextColor = Color{1.0F, 0.5F, 0.0F, 1.0F};
     text.Alignment = 2;
     text.TextEffect = 3;
-    text.UseTransparentColor = true;
     text.FontRelativeSize = u"Height"_s;
-
-    Watermark shape = withCommonFields(watermark_type::Shape);
+    Watermark shape = common(Watermark(watermark_type::Shape));
     shape.ShapeType = shape_type::Polygon;
     shape.Sides = 6;
     shape.ResizeHeight = 0.5F;
-    shape.ResizeWidth = 0.2F;
     shape.Height = 150.5F;
     shape.ResizeHeightByPercent = true;
     shape.GradeintType = 5;
-
-    Watermark qr = withCommonFields(watermark_type::QrCode);
+    Watermark qr = common(Watermark(watermark_type::QrCode));
     qr.Text = u"https://example.org/#top"_s;
     qr.ShadowColor.reset();
-
-    Watermark image = withCommonFields(7);
+    Watermark image = common(Watermark(7));
     image.ImagePath = u"/logos/a.png"_s;
     image.ImageData = QByteArray("\x00\xFF\x10", 3);
     image.ResizeFormat = 2;
     image.PreserverAspectRatio = image.IsTransparent = true;
     image.Width = 64.0F;
+    PhotoEffects effects{1, 2, 4, 3, Color::black(), std::nullopt, 5, 6, 360};
 
-    const struct {
-        Watermark watermark;
-        QLatin1String elements;
-    } rows[] = {
-        {text,
-         "@1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> & more|Font/Name=Serif|Font/Bold=1|Font/Italic=0|"
+    const std::pair<WatermarkStack, QLatin1String> rows[] = {
+        {{{text}, {}, 0, false},
+         "Watermark@1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> & more|Font/Name=Serif|Font/Bold=1|Font/Italic=0|"
          "Font/Underline=1|Font/Strike=0|Font/Size=40|Font/IsRelative=1|Shadow=1|ShadowColor=|"
          "Color=NSCalibratedRGBColorSpace 1 0.5 0 1|Alignment=2|TextEffect=3|UseTransparentColor=1|"
          "ProportionalResize=2|"_L1},
-        {shape,
-         "@2|ShapeType=3|Sides=6|ResizeHeight=0.500000|ResizeWidth=0.200000|Width=200.000000|"
+        {{{shape}, {}, 0, false},
+         "Watermark@2|ShapeType=3|Sides=6|ResizeHeight=0.500000|ResizeWidth=0.000000|Width=200.000000|"
          "Height=150.500000|SolidColor=NSCalibratedRGBColorSpace 1 1 1 1|"
          "FirstColor=NSCalibratedRGBColorSpace 1 1 1 1|SecondColor=NSCalibratedRGBColorSpace 0 0 0 1|"
          "SolidBackground=1|ResizeWidthByPercent=0|ResizeHeightByPercent=1|GradeintType=5|"_L1},
-        {qr, "@3|Text=https://example.org/#top|ResizeWidth=0.200000|ResizeFormat=0|ShadowColor=|"_L1},
-        {image,
-         "@0|LogoPath=/logos/a.png|ImageData=AP8Q|Resize=0|ResizebyWidth=0|PreserverAspectRatio=1|"
+        {{{qr}, {}, 0, false},
+         "Watermark@3|Text=https://example.org/#top|ResizeWidth=0.200000|ResizeFormat=0|ShadowColor=|"_L1},
+        {{{image}, {}, 0, false},
+         "Watermark@0|LogoPath=/logos/a.png|ImageData=AP8Q|Resize=0|ResizebyWidth=0|PreserverAspectRatio=1|"
          "ResizeFormat=2|ResizeHeight=0.000000|ResizeWidth=0.000000|Width=64.000000|Height=0.000000|"
          "IsTransparent=1|CreateBW=0|TransparentColor=|"_L1},
+        {{{}, effects, 12, true},
+         "Effects/Border/BorderColor=NSCalibratedRGBColorSpace 0 0 0 1|Effects/Border/TopBorderThickness=1|"
+         "Effects/Border/LeftBorderThickness=2|Effects/Border/BottomBorderThickness=3|"
+         "Effects/Border/RightBorderThickness=4|Effects/Border/ApplyWatermarkOnBorder=0|"
+         "Effects/Shadow/ShadowColor=|Effects/Shadow/ShadowDirection=360|Effects/Shadow/ShadowSpread=5|"
+         "Effects/Shadow/ShadowSize=6|Effects/Shadow/EnableShadow=1|SelectedFilter=12|Metadata=1"_L1},
     };
-    for (const auto& row : rows) {
-        QStringList expected = (QString(row.elements) + CommonElements).split(u'|');
-        for (QString& line : expected) {
-            line.prepend(line.startsWith(u'@') ? u"WatermarkList/Watermark"_s
-                                               : u"WatermarkList/Watermark/"_s);
-        }
-        expected.append(u"WatermarkList/SelectedFilter=0"_s);
-        EXPECT_EQ(outline({{row.watermark}, {}, 0, false}), expected.join(u'\n').toStdString());
+    const auto commonElements =
+        "IsEnabled=0|Transparency=0.250000|Rotation=-45|Position=10|PaddingTop=1|PaddingRight=2|"
+        "PaddingBottom=3|"
+        "PaddingLeft=4|CustomPositionLeft=5|CustomPositionTop=6|HTiling=1|VTiling=0|HorizontalSpacing=7|"
+        "VerticalSpacing=8|ProportionalResize=3|SelectedFilter=0"_L1;
+    for (const auto& [stack, elements] : rows) {
+        const QString expected = elements + (stack.Watermarks.empty() ? QString() : QString(commonElements));
+        EXPECT_EQ(outline(stack), expected.toStdString());
     }
-}
-
-TEST(SettingFile, WritesEffectsFilterAndMetadataAfterTheWatermarks) {
-    PhotoEffects effects;
-    effects.TopThickness = 1;
-    effects.LeftThickness = 2;
-    effects.BottomThickness = 3;
-    effects.RightThickness = 4;
-    effects.BlurRadius = 5;
-    effects.Distance = 6;
-    effects.Direction = 360;
-    effects.ShadowColor.reset();
-    const std::string expected =
-        R"(WatermarkList/Effects/Border/BorderColor=NSCalibratedRGBColorSpace 0 0 0 1
-WatermarkList/Effects/Border/TopBorderThickness=1
-WatermarkList/Effects/Border/LeftBorderThickness=2
-WatermarkList/Effects/Border/BottomBorderThickness=3
-WatermarkList/Effects/Border/RightBorderThickness=4
-WatermarkList/Effects/Border/ApplyWatermarkOnBorder=0
-WatermarkList/Effects/Shadow/ShadowColor=
-WatermarkList/Effects/Shadow/ShadowDirection=360
-WatermarkList/Effects/Shadow/ShadowSpread=5
-WatermarkList/Effects/Shadow/ShadowSize=6
-WatermarkList/Effects/Shadow/EnableShadow=1
-WatermarkList/SelectedFilter=12
-WatermarkList/Metadata=1)";
-    const WatermarkStack stack{{}, effects, 12, true};
-    EXPECT_EQ(outline(stack), expected);
-    EXPECT_EQ(readBack(writeSettingDocument(stack)), stack);
 }
 
 // Random records, holding in every field its type stores a value that the file can express.
@@ -309,17 +275,18 @@ TEST(SettingFile, KeepsTheConstructedValueOfWhatIsMissingOrUnreadable) {
 }
 
 TEST(SettingFile, ClampsNumbersBeyondAllMeasure) {
-    const Watermark w =
-        readOne(2,
-                "<Width>inf</Width><Height>-1e300</Height><Rotation>99999999999999999999</Rotation>"
-                "<Position>5000000000</Position><Transparency>12</Transparency>"
-                "<Sides>-9223372036854775808</Sides>");
-    EXPECT_EQ(w.Width, 1e9F);
-    EXPECT_EQ(w.Height, -1e9F);
-    EXPECT_EQ(w.Rotation, 1'000'000'000);
-    EXPECT_EQ(w.Position, std::numeric_limits<std::int32_t>::max());
-    EXPECT_EQ(w.Transparency, 1.0F);
-    EXPECT_EQ(w.Sides, -1'000'000'000);
+    Watermark expected(2);
+    expected.Width = 1e9F;
+    expected.Height = -1e9F;
+    expected.Rotation = 1'000'000'000;
+    expected.Sides = -1'000'000'000;
+    expected.Position = std::numeric_limits<std::int32_t>::max();
+    expected.Transparency = 1.0F;
+    EXPECT_EQ(readOne(2,
+                      "<Width>inf</Width><Height>-1e300</Height><Rotation>99999999999999999999</Rotation>"
+                      "<Position>5000000000</Position><Transparency>12</Transparency>"
+                      "<Sides>-9223372036854775808</Sides>"),
+              expected);
 }
 
 TEST(SettingFile, NamesFileAndLineOfAWatermarkWithoutType) {

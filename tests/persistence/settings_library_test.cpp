@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/settings_library.h"
 
+#include "persistence/xml_document.h"
+#include "platform/whole_file.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -13,12 +16,10 @@ namespace {
 class Library : public ::testing::Test {
   protected:
     static void write(const QString& folder, const char* name, const QByteArray& content = "x") {
-        QFile file(QDir(folder).filePath(QString::fromUtf8(name)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        ASSERT_TRUE(writeWholeFile(folder + u'/' + QString::fromUtf8(name), content));
     }
     static QByteArray content(const QString& folder, const char* name) {
-        QFile file(QDir(folder).filePath(QString::fromUtf8(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+        return readXmlFile(folder + u'/' + QString::fromUtf8(name)).value_or("(none)");
     }
     static QStringList list(const char* names) { return QString::fromUtf8(names).split(u'|'); }
 
