@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A quick way through the profiles that nearly all photos have (Adobe RGB, Display P3 and every other one of
-// three curves and a matrix). Such a profile is additive: the light of a colour is the sum of the lights of
-// its components. So three tables of what each component's 256 values contribute, and one that turns the sums
-// into sRGB bytes, convert a pixel with three vector loads and two additions. All figures come from lcms2,
-// and a table is only used where its results agree with lcms2's.
+// A quick and exact way through the profiles that nearly all photos have: grey ones, and the RGB ones of three
+// curves and a matrix such as Adobe RGB and Display P3. They are additive: the light of a colour is the sum
+// of the lights of its components. So one table for each component, of what its values contribute, and one
+// that turns the sums into sRGB bytes convert a pixel with three vector loads and two additions. All figures
+// come from lcms2, and the tables are only used where they agree with its exact results.
 #pragma once
 
 #include <QImage>
@@ -11,6 +11,7 @@
 #include <lcms2.h>
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -18,28 +19,35 @@ namespace zelto {
 
 class AdditiveTransform {
   public:
-    // `transform` is the conversion to stand in for, TYPE_BGRA_8 to sRGB in TYPE_BGRA_8. Nothing where
-    // `profile` is not additive.
-    static std::optional<AdditiveTransform> standIn(cmsHPROFILE profile, cmsHTRANSFORM transform);
+    // What the pixels to convert are made of: 32-bit BGRX, or 64-bit RGBX of 16 bits a component.
+    enum class Depth { Bits8, Bits16 };
 
-    // Converts RGB32 or unpremultiplied ARGB32 in place. Any thread.
-    void apply(QImage& picture) const;
+    // Nothing where `profile` is not additive.
+    static std::optional<AdditiveTransform> make(cmsHPROFILE profile, Depth depth);
+
+    // Writes red, green and blue of every pixel of `target` (32 bits a pixel), whose fourth byte stays. Pixels of 8
+    // bits may be converted in place. Any thread.
+    void apply(const uchar* source, qsizetype stride, QImage& target) const;
+
+    // One colour, components from 0 to 255.
+    QRgb converted(QRgb color) const;
 
   private:
-    AdditiveTransform() = default;
-    bool fill(cmsHPROFILE profile);
-    bool agreesWith(cmsHTRANSFORM transform) const;
-    QRgb converted(QRgb pixel) const;
-
-    // Linear sRGB light, red, green, blue and an unused fourth that makes it one vector.
+    // Linear sRGB light, red, green, blue, and a fourth part that makes it one vector.
     struct alignas(16) Light {
         std::array<std::int32_t, 4> parts{};
     };
-    using Contributions = std::array<Light, 256>;
+    using Contributions = std::vector<Light>;  // by the component's value
 
-    Contributions red_{};  // includes the light of black and the offset into encoded_
-    Contributions green_{};
-    Contributions blue_{};
+    explicit AdditiveTransform(Depth depth);
+    bool fill(cmsHPROFILE profile);
+    bool agreesWith(cmsHPROFILE profile) const;
+    QRgb encodedSum(const Light& red, const Light& green, const Light& blue) const;
+
+    Depth depth_;
+    Contributions red_;  // includes the light of black and the offset into encoded_
+    Contributions green_;
+    Contributions blue_;
     std::vector<uchar> encoded_;
 };
 

@@ -55,8 +55,7 @@ void convertCmykToSrgb(QImage& picture, InkScale inks, const QByteArray& profile
 const QByteArray& adobeRgb1998Profile() {
     static const QByteArray bytes = [] {
         // Adobe RGB (1998) Color Image Encoding, section 4.3.1: these primaries, gamma 2 51/256.
-        const Profile profile =
-            rgbProfile({{0.64, 0.33, 1.0}, {0.21, 0.71, 1.0}, {0.15, 0.06, 1.0}}, 2.19921875);
+        const Profile profile = rgbProfile(AdobeRgbPrimaries, 2.19921875);
         cmsUInt32Number length = 0;
         cmsSaveProfileToMem(profile.get(), nullptr, &length);
         QByteArray saved(static_cast<qsizetype>(length), '\0');

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/color_transform.h"
 
+#include "platform/parallel_rows.h"
+
 #include <QCryptographicHash>
 
 #include <algorithm>
@@ -12,10 +14,6 @@
 namespace zelto {
 namespace {
 
-constexpr cmsUInt32Number greyOf(unsigned bytes) {
-    return COLORSPACE_SH(PT_GRAY) | CHANNELS_SH(1) | EXTRA_SH(3) | BYTES_SH(bytes);
-}
-
 // The memory format for pixels of a profile's colour space, 0 where the two do not go together.
 cmsUInt32Number inputFormat(SourcePixels pixels, cmsColorSpaceSignature space) {
     struct Row {
@@ -25,9 +23,9 @@ cmsUInt32Number inputFormat(SourcePixels pixels, cmsColorSpaceSignature space) {
     };
     static constexpr Row Rows[] = {
         {SourcePixels::Bgrx8, cmsSigRgbData, TYPE_BGRA_8},
-        {SourcePixels::Bgrx8, cmsSigGrayData, greyOf(1)},
+        {SourcePixels::Bgrx8, cmsSigGrayData, GreyInBgrx8},
         {SourcePixels::Rgbx16, cmsSigRgbData, TYPE_RGBA_16},
-        {SourcePixels::Rgbx16, cmsSigGrayData, greyOf(2)},
+        {SourcePixels::Rgbx16, cmsSigGrayData, GreyInRgbx16},
         {SourcePixels::Cmyk8, cmsSigCmykData, TYPE_CMYK_8},
         {SourcePixels::InvertedCmyk8, cmsSigCmykData, TYPE_CMYK_8_REV},
     };
@@ -99,14 +97,14 @@ SharedTransform ColorTransform::make(const QByteArray& profile, SourcePixels pix
     if (isRgb && isIdentity(source.get(), srgb.get())) return nullptr;
 
     const auto made = std::make_shared<ColorTransform>();
-    // Shared by threads, so without lcms2's one-pixel cache.
+    using Depth = AdditiveTransform::Depth;
+    made->additive_ =
+        AdditiveTransform::make(source.get(), pixels == SourcePixels::Rgbx16 ? Depth::Bits16 : Depth::Bits8);
+    if (made->additive_) return made;
+    // Shared by threads, so without lcms2's one-pixel cache. Its usual coarser grid is levels off in dark tones.
     made->lcms_.reset(cmsCreateTransform(source.get(), format, srgb.get(), TYPE_BGRA_8, INTENT_PERCEPTUAL,
-                                         cmsFLAGS_NOCACHE));
-    if (!made->lcms_) return nullptr;
-    if (pixels == SourcePixels::Bgrx8 && isRgb) {
-        made->quick_ = AdditiveTransform::standIn(source.get(), made->lcms_.get());
-    }
-    return made;
+                                         cmsFLAGS_NOCACHE | (isRgb ? cmsFLAGS_HIGHRESPRECALC : 0)));
+    return made->lcms_ ? made : nullptr;
 }
 
 SharedTransform ColorTransform::toSrgb(const QByteArray& profile, SourcePixels pixels) {
@@ -118,14 +116,18 @@ SharedTransform ColorTransform::toSrgb(const QByteArray& profile, SourcePixels p
 }
 
 void ColorTransform::apply(const uchar* source, qsizetype stride, QImage& target) const {
-    if (quick_) {
-        quick_->apply(target);
+    if (additive_) {
+        additive_->apply(source, stride, target);
         return;
     }
-    cmsDoTransformLineStride(lcms_.get(), source, target.bits(), static_cast<cmsUInt32Number>(target.width()),
-                             static_cast<cmsUInt32Number>(target.height()),
-                             static_cast<cmsUInt32Number>(stride),
-                             static_cast<cmsUInt32Number>(target.bytesPerLine()), 0, 0);
+    uchar* bits = target.bits();
+    const qsizetype targetStride = target.bytesPerLine();
+    parallelRows(target.height(), target.width(), [&](int first, int end) {
+        cmsDoTransformLineStride(
+            lcms_.get(), source + stride * first, bits + targetStride * first,
+            static_cast<cmsUInt32Number>(target.width()), static_cast<cmsUInt32Number>(end - first),
+            static_cast<cmsUInt32Number>(stride), static_cast<cmsUInt32Number>(targetStride), 0, 0);
+    });
 }
 
 }  // namespace zelto

@@ -30,8 +30,8 @@ class ColorTransform {
   private:
     static std::shared_ptr<const ColorTransform> make(const QByteArray& profile, SourcePixels pixels);
 
-    TransformHandle lcms_;
-    std::optional<AdditiveTransform> quick_;
+    std::optional<AdditiveTransform> additive_;
+    TransformHandle lcms_;  // where it is not additive
 };
 
 }  // namespace zelto

@@ -206,7 +206,7 @@ class JpegFile {
 }  // namespace
 
 bool isJpeg(QByteArrayView bytes) {
-    return bytes.startsWith(QByteArrayView("\xFF\xD8\xFF", 3));
+    return bytes.startsWith(QByteArrayView("\xFF\xD8", 2));
 }
 
 std::optional<Picture> decodeJpeg(QIODevice& device) {

@@ -12,7 +12,7 @@
 
 namespace zelto {
 
-// Whether a file that begins with these bytes (three are enough) is a JPEG file.
+// Whether a file that begins with these bytes (two are enough) is a JPEG file.
 bool isJpeg(QByteArrayView bytes);
 
 // `device` is open for reading and stands at the file's start.

@@ -27,7 +27,7 @@ Result<void> open(QFile& file) {
 }
 
 std::optional<Picture> decode(QIODevice& device) {
-    return isJpeg(device.peek(3)) ? decodeJpeg(device) : decodeWithPlugins(device);
+    return isJpeg(device.peek(2)) ? decodeJpeg(device) : decodeWithPlugins(device);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ Result<Picture> decodePicture(const QByteArray& bytes) {
 Result<QSize> readPictureSize(const QString& path) {
     QFile file(path);
     if (const Result<void> opened = open(file); !opened) return tl::unexpected(opened.error());
-    const std::optional<QSize> size = isJpeg(file.peek(3)) ? jpegSize(file) : sizeByPlugins(file);
+    const std::optional<QSize> size = isJpeg(file.peek(2)) ? jpegSize(file) : sizeByPlugins(file);
     if (!size) return damaged(path);
     return *size;
 }

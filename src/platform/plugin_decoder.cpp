@@ -34,7 +34,11 @@ class WatchedDevice : public QIODevice {
 
   protected:
     qint64 readData(char* target, qint64 count) override {
-        if (source_.pos() != position_ && !source_.seek(position_)) return -1;
+        const bool inside = position_ <= source_.size();
+        if (!inside || (source_.pos() != position_ && !source_.seek(position_))) {
+            cameUpShort_ = true;
+            return -1;
+        }
         const qint64 got = source_.read(target, count);
         cameUpShort_ |= got < count;
         position_ += std::max<qint64>(got, 0);

@@ -35,8 +35,9 @@ tmsize_t refuseWrite(thandle_t, void*, tmsize_t) {
 toff_t seekSource(thandle_t handle, toff_t offset, int whence) {
     QIODevice& device = static_cast<Source*>(handle)->device;
     const qint64 base = whence == SEEK_SET ? 0 : whence == SEEK_CUR ? device.pos() : device.size();
-    return device.seek(base + static_cast<qint64>(offset)) ? static_cast<toff_t>(device.pos())
-                                                           : static_cast<toff_t>(-1);
+    const qint64 position = base + static_cast<qint64>(offset);
+    const bool done = position >= 0 && position <= device.size() && device.seek(position);
+    return done ? static_cast<toff_t>(position) : static_cast<toff_t>(-1);
 }
 
 int keepSourceOpen(thandle_t) {
