@@ -5,10 +5,12 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
+#include <QtEndian>
 
 #include <exiv2/exiv2.hpp>
 #include <jpeglib.h>
 #include <lcms2.h>
+#include <zlib.h>
 
 #include <algorithm>
 #include <cmath>
@@ -79,27 +81,6 @@ void addGrain(QImage& picture) {
     }
 }
 
-// The EXIF segment's payload, empty when nothing asks for one.
-QByteArray exifPayload(const TestJpeg& options) {
-    Exiv2::ExifData exif;
-    if (options.orientation != 0)
-        exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(options.orientation);
-    if (options.exifDpi != 0) {
-        exif["Exif.Image.XResolution"] = Exiv2::Rational(options.exifDpi, 1);
-        exif["Exif.Image.YResolution"] = Exiv2::Rational(options.exifDpi, 1);
-        exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
-    }
-    if (options.dcfAdobeRgb) {
-        exif["Exif.Photo.ColorSpace"] = std::uint16_t{0xFFFF};
-        exif["Exif.Iop.InteroperabilityIndex"] = "R03";
-    }
-    if (exif.empty()) return {};
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::bigEndian, exif);
-    return QByteArray("Exif\0\0", 6) +
-           QByteArray(reinterpret_cast<const char*>(blob.data()), qsizetype(blob.size()));
-}
-
 // Owns a compressor that writes to memory. libjpeg's own error handler ends the program, which fails the
 // test.
 class JpegCompressor {
@@ -122,8 +103,9 @@ class JpegCompressor {
                         const QByteArray& profile) {
         jpeg_start_compress(&info, TRUE);
         if (!exif.isEmpty()) {
-            jpeg_write_marker(&info, JPEG_APP0 + 1, reinterpret_cast<const JOCTET*>(exif.constData()),
-                              static_cast<unsigned>(exif.size()));
+            const QByteArray payload = QByteArray("Exif\0\0", 6) + exif;
+            jpeg_write_marker(&info, JPEG_APP0 + 1, reinterpret_cast<const JOCTET*>(payload.constData()),
+                              static_cast<unsigned>(payload.size()));
         }
         if (!profile.isEmpty()) {
             jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET*>(profile.constData()),
@@ -175,6 +157,25 @@ QImage drawnSceneWithAlpha(QSize size) {
     return picture;
 }
 
+QByteArray exifBytes(const TestJpeg& options) {
+    Exiv2::ExifData exif;
+    if (options.orientation != 0)
+        exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(options.orientation);
+    if (options.exifDpi != 0) {
+        exif["Exif.Image.XResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.YResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
+    }
+    if (options.dcfAdobeRgb) {
+        exif["Exif.Photo.ColorSpace"] = std::uint16_t{0xFFFF};
+        exif["Exif.Iop.InteroperabilityIndex"] = "R03";
+    }
+    if (exif.empty()) return {};
+    Exiv2::Blob blob;
+    Exiv2::ExifParser::encode(blob, Exiv2::bigEndian, exif);
+    return {reinterpret_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.size())};
+}
+
 QByteArray jpegBytes(const QImage& picture, const TestJpeg& options) {
     const QImage source =
         picture.convertToFormat(options.grey ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
@@ -187,8 +188,10 @@ QByteArray jpegBytes(const QImage& picture, const TestJpeg& options) {
     if (options.progressive) jpeg_simple_progression(&jpeg.info);
     jpeg.info.write_JFIF_header = options.jfifDensity != 0;
     jpeg.info.density_unit = static_cast<UINT8>(options.jfifUnit);
-    jpeg.info.X_density = jpeg.info.Y_density = static_cast<UINT16>(options.jfifDensity);
-    return jpeg.compress(source.constBits(), source.bytesPerLine(), exifPayload(options), options.profile);
+    jpeg.info.X_density = static_cast<UINT16>(options.jfifDensity);
+    jpeg.info.Y_density =
+        static_cast<UINT16>(options.jfifDensityY != 0 ? options.jfifDensityY : options.jfifDensity);
+    return jpeg.compress(source.constBits(), source.bytesPerLine(), exifBytes(options), options.profile);
 }
 
 QByteArray cmykJpegBytes(const QByteArray& pixels, QSize size, bool adobe, bool ycck,
@@ -208,6 +211,18 @@ QByteArray cmykJpegBytes(const QByteArray& pixels, QSize size, bool adobe, bool 
     jpeg.info.write_Adobe_marker = adobe;
     return jpeg.compress(reinterpret_cast<const uchar*>(stored.constData()), qsizetype{4} * size.width(), {},
                          profile);
+}
+
+QByteArray withPngChunk(QByteArray png, const char* type, const QByteArray& data) {
+    const auto bigEndian = [](quint32 value) {
+        const quint32 stored = qToBigEndian(value);
+        return QByteArray(reinterpret_cast<const char*>(&stored), sizeof stored);
+    };
+    const QByteArray chunk = type + data;
+    const auto sum = static_cast<quint32>(
+        crc32(0, reinterpret_cast<const Bytef*>(chunk.constData()), static_cast<uInt>(chunk.size())));
+    constexpr qsizetype BehindHeader = 33;
+    return png.insert(BehindHeader, bigEndian(static_cast<quint32>(data.size())) + chunk + bigEndian(sum));
 }
 
 QByteArray adobeRgbProfile() {

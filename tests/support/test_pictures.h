@@ -26,9 +26,10 @@ struct TestJpeg {
     int orientation = 0;       // the EXIF value 1 to 8; 0 leaves EXIF out unless another field asks for it
     int exifDpi = 0;           // EXIF resolution in inches, 0 for none
     int jfifDensity = 0;       // JFIF resolution, 0 for none
+    int jfifDensityY = 0;      // 0: as jfifDensity
     int jfifUnit = 1;          // 1 dots per inch, 2 dots per centimetre
     bool dcfAdobeRgb = false;  // EXIF says "uncalibrated, R03", as cameras set to Adobe RGB do
-    QByteArray profile;        // ICC profile to embed
+    QByteArray profile = {};   // ICC profile to embed
 };
 
 // A JPEG file of `picture`'s pixels as they are stored (the orientation is only recorded).
@@ -38,6 +39,13 @@ QByteArray jpegBytes(const QImage& picture, const TestJpeg& options = {});
 // them inverted and says so, as Photoshop does; `ycck` stores them as luma, chroma and black.
 QByteArray cmykJpegBytes(const QByteArray& pixels, QSize size, bool adobe, bool ycck,
                          const QByteArray& profile = {});
+
+// The bytes of an EXIF block with these of `options`' values, as they stand in files of every format; empty when
+// there are none.
+QByteArray exifBytes(const TestJpeg& options);
+
+// `png` with one more chunk, behind its header; `type` has four letters.
+QByteArray withPngChunk(QByteArray png, const char* type, const QByteArray& data);
 
 // The bytes of an Adobe RGB (1998) compatible ICC profile.
 QByteArray adobeRgbProfile();
