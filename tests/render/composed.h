@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Records for tests, and the picture a stack of them gives on a plain photo.
+// Records for tests, and the picture a stack of them gives on a photo.
 #pragma once
 
 #include "render/composition.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QString>
 
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace zelto {
 
@@ -25,12 +25,20 @@ inline Watermark textRecord(const QString& text, std::int64_t size, std::int32_t
     return record;
 }
 
-// An opaque red rectangle.
-inline Watermark boxRecord(float width, float height, std::int32_t position) {
+inline Watermark boxRecord(float width, float height, std::int32_t position, Color color = {1, 0, 0, 1}) {
     Watermark record(watermark_type::Shape);
     record.Width = width;
     record.Height = height;
-    record.SolidColor = Color{1, 0, 0, 1};
+    record.SolidColor = color;
+    record.Transparency = 1.0F;
+    record.Position = position;
+    return record;
+}
+
+inline Watermark logoRecord(const QImage& picture, std::int32_t position = 7) {
+    Watermark record(watermark_type::Image);
+    QBuffer buffer(&record.ImageData);
+    picture.save(&buffer, "PNG");
     record.Transparency = 1.0F;
     record.Position = position;
     return record;
@@ -42,17 +50,21 @@ inline QImage plainPhoto(QSize size, QColor color = Qt::white) {
     return photo;
 }
 
-inline PhotoRequest requestFor(WatermarkStack stack) {
+inline PhotoRequest requestFor(const WatermarkStack& stack) {
     PhotoRequest request;
     request.path = QStringLiteral("/photos/beach.jpg");
-    request.stack = std::make_shared<const WatermarkStack>(std::move(stack));
+    request.stack = std::make_shared<const WatermarkStack>(stack);
     return request;
 }
 
-inline QImage composed(const WatermarkStack& stack, QImage photo) {
+inline PhotoScene sceneOf(const WatermarkStack& stack, QImage photo) {
     Picture picture;
     picture.image = std::move(photo);
-    return MakeWatermarkImage(buildPhotoScene(requestFor(stack), std::move(picture)), stack);
+    return buildPhotoScene(requestFor(stack), std::move(picture));
+}
+
+inline QImage composed(const WatermarkStack& stack, QImage photo) {
+    return MakeWatermarkImage(sceneOf(stack, std::move(photo)), stack);
 }
 
 inline QImage composed(const Watermark& record, QImage photo) {

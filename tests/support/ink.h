@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looking for what was drawn on a plain background.
+// Looking for what was drawn on a plain background. Boxes have y growing downward and are empty where nothing is
+// found; tolerances are levels of 255 that any channel may differ.
 #pragma once
 
 #include <QColor>
@@ -8,14 +9,13 @@
 
 namespace zelto {
 
-// The smallest rectangle around all pixels of `picture` that differ from `background` by more than
-// `tolerance` in a channel, y growing downward from the top-left corner; empty where nothing was drawn.
+// Around all pixels that are not `background`.
 QRect inkBox(const QImage& picture, QColor background = Qt::white, int tolerance = 8);
 
-// The same for the pixels that are `color` within `tolerance` in every channel.
+// Around all pixels that are `color`.
 QRect colorBox(const QImage& picture, QColor color, int tolerance = 8);
 
-// The largest difference of two pictures of one size in any channel of any pixel; 256 where the sizes differ.
+// The largest difference of any two pixels; 256 where the pictures differ in size.
 int largestDifference(const QImage& a, const QImage& b);
 
 }  // namespace zelto
