@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The border and drop shadow around a whole photo. Rectangles are in pixels of the returned picture, y growing
-// upward from its bottom-left corner. Reentrant, any thread.
+// upward from its bottom-left corner. Lengths below 0, which only a damaged setting holds, count as 0; a colour that
+// is absent paints nothing; a border or a shadow that would make the picture larger than any may be
+// (MaximumPicturePixels) is left out. The result is RGB32 where nothing of it can be seen through. Reentrant, any
+// thread; the work of one call is spread over the cores.
 #pragma once
+
+#include "records/photo_effects.h"
 
 #include <QImage>
 #include <QRect>
 #include <QSize>
-
-#include "records/photo_effects.h"
 
 namespace zelto {
 

@@ -2,15 +2,17 @@
 // Shape watermarks: rectangle, ellipse, polygon and bar in one colour or a gradient. Reentrant, any thread.
 #pragma once
 
+#include "records/watermark.h"
+
 #include <QImage>
 #include <QSizeF>
-
-#include "records/watermark.h"
 
 namespace zelto {
 
 // The picture of a shape record at its final size, already turned and at its opacity; `reference` is the area in
-// photo pixels that relative sizes refer to. A null picture where the record has no area.
+// photo pixels that relative sizes refer to. A positive rotation turns clockwise as seen, on the box of the turned
+// bounds rounded up to whole pixels. A colour that is absent paints nothing. A null picture where the record has no
+// area, a polygon fewer than three sides, or a side is longer than a painter can draw.
 QImage GetShapeImage(const Watermark& shape, QSizeF reference);
 
 }  // namespace zelto

@@ -37,12 +37,5 @@ TEST(EffectDiagnostics, BothPicturesReplaceEarlierOnes) {
               shadowed.copy(3, 3, 80, 60));
 }
 
-TEST(EffectDiagnostics, AFolderThatIsGoneIsAnError) {
-    const QImage photo = drawnScene({6, 4});
-    const Result<void> written = writeEffectDiagnostics(photo, photo, QStringLiteral("/nowhere/at/all"));
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().code, ErrorCode::CannotWrite);
-}
-
 }  // namespace
 }  // namespace zelto

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_effects.h"
 
+#include "support/ink.h"
 #include "support/test_pictures.h"
 
 #include <gtest/gtest.h>
@@ -47,15 +48,6 @@ Framed apply(QImage photo, const PhotoEffects& effect, bool final = true) {
     return result;
 }
 
-QRgb stored(const QImage& image, int x, int y) {
-    return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
-}
-
-int difference(QRgb a, QRgb b) {
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-}
-
 // One axis of the blur, summed up term by term: every value of `line` seen through the weights exp(-i^2 / 2
 // sigma^2), -blur <= i <= blur.
 std::vector<double> blurredLine(const std::vector<double>& line, int blur) {
@@ -76,8 +68,8 @@ std::vector<double> blurredLine(const std::vector<double>& line, int blur) {
 
 // `framed` with its shadow, as slow and obvious as can be. `place` and `offset` count from the canvas's lower
 // left.
-QImage slowShadow(const QImage& framed, QSize canvas, QPoint place, QPoint offset, int blur,
-                  const Color& color) {
+QImage slowShadow(QImage framed, QSize canvas, QPoint place, QPoint offset, int blur, const Color& color) {
+    framed = storedValues(framed);
     const int margin = blur + std::max(std::abs(offset.x()), std::abs(offset.y()));
     const int width = canvas.width() + 2 * margin;
     const int height = canvas.height() + 2 * margin;
@@ -88,7 +80,7 @@ QImage slowShadow(const QImage& framed, QSize canvas, QPoint place, QPoint offse
     for (int y = 0; y < framed.height(); ++y) {
         std::vector<double> line(static_cast<std::size_t>(width), 0.0);
         for (int x = 0; x < framed.width(); ++x) {
-            line[static_cast<std::size_t>(left + offset.x() + x)] = qAlpha(stored(framed, x, y));
+            line[static_cast<std::size_t>(left + offset.x() + x)] = qAlpha(framed.pixel(x, y));
         }
         const std::vector<double> across = blurredLine(line, blur);
         std::copy(across.begin(), across.end(),
@@ -102,7 +94,7 @@ QImage slowShadow(const QImage& framed, QSize canvas, QPoint place, QPoint offse
         for (int y = 0; y < canvas.height(); ++y) {
             const double tint = down[static_cast<std::size_t>(y + margin)] * static_cast<double>(color.Alpha);
             const QPoint in(x + margin - left, y + margin - top);
-            const QRgb over = framed.rect().contains(in) ? stored(framed, in.x(), in.y()) : 0;
+            const QRgb over = framed.rect().contains(in) ? framed.pixel(in) : 0;
             const auto part = [&](int own, float component) {
                 return qRound(own + static_cast<double>(component) * tint * (255 - qAlpha(over)) / 255.0);
             };
@@ -114,14 +106,9 @@ QImage slowShadow(const QImage& framed, QSize canvas, QPoint place, QPoint offse
     return result;
 }
 
+// Of the premultiplied values.
 int worstDifference(const QImage& a, const QImage& b) {
-    if (a.size() != b.size()) return 256;
-    int worst = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x)
-            worst = std::max(worst, difference(stored(a, x, y), stored(b, x, y)));
-    }
-    return worst;
+    return largestDifference(storedValues(a), storedValues(b));
 }
 
 TEST(PhotoEffects, FramesThePhotoOnItsBorder) {
@@ -152,10 +139,10 @@ TEST(PhotoEffects, ATransparentPhotoShowsTheBorderColorAndATransparentBorderStay
     EXPECT_EQ(onRed.pixel(2, 0), qRgb(127, 100, 0));
 
     effect.BorderColor = HalfBlue;
-    const QImage onBlue = apply(photo, effect).picture;
-    EXPECT_LE(difference(stored(onBlue, 0, 0), qRgba(0, 0, 128, 128)), 1);
-    EXPECT_LE(difference(stored(onBlue, 1, 0), qRgba(0, 0, 128, 128)), 1);
-    EXPECT_LE(difference(stored(onBlue, 2, 0), qRgba(0, 100, 64, 192)), 1);
+    const QImage onBlue = storedValues(apply(photo, effect).picture);
+    EXPECT_LE(largestDifference(onBlue.pixel(0, 0), qRgba(0, 0, 128, 128)), 1);
+    EXPECT_LE(largestDifference(onBlue.pixel(1, 0), qRgba(0, 0, 128, 128)), 1);
+    EXPECT_LE(largestDifference(onBlue.pixel(2, 0), qRgba(0, 100, 64, 192)), 1);
 }
 
 struct DirectionRow {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_filters.h"
 
+#include "support/ink.h"
 #include "support/instruction_sets.h"
 
 #include <gtest/gtest.h>
@@ -133,11 +134,6 @@ QImage palette(QSize size, bool withAlpha) {
     return picture;
 }
 
-int difference(QRgb a, QRgb b) {
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-}
-
 QImage onePixel(QRgb color) {
     QImage picture(1, 1, QImage::Format_RGB32);
     picture.fill(color);
@@ -164,7 +160,7 @@ void expectNearlyEqual(const QImage& picture, const QImage& expected) {
         const auto* const row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         const auto* const expectedRow = reinterpret_cast<const QRgb*>(expected.constScanLine(y));
         for (int x = 0; x < picture.width(); ++x) {
-            const int off = difference(row[x], expectedRow[x]);
+            const int off = largestDifference(row[x], expectedRow[x]);
             worst = std::max(worst, off);
             unequal += off != 0;
         }
@@ -203,7 +199,7 @@ TEST(PhotoFilters, KnownColors) {
     };
     for (const auto& c : cases) {
         const QRgb got = ApplyFilter(c.number, onePixel(c.from)).pixel(0, 0);
-        EXPECT_LE(difference(got, c.to), 1) << c.number << ": " << QColor(got).name().toStdString();
+        EXPECT_LE(largestDifference(got, c.to), 1) << c.number << ": " << QColor(got).name().toStdString();
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/qr_code.h"
 
+#include "support/ink.h"
 #include "support/qr_reader.h"
 
 #include <QPainter>
@@ -8,8 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <thread>
-#include <vector>
 
 namespace zelto {
 namespace {
@@ -32,15 +31,9 @@ TEST(QrCode, ReadsBackAsTheText) {
     }
 }
 
-// The dark pixels' box, from the top left.
+// From the top left, of the dark pixels on a clear background.
 QRect darkBox(const QImage& picture) {
-    QRect box;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (qAlpha(picture.pixel(x, y)) > 128) box |= QRect(x, y, 1, 1);
-        }
-    }
-    return box;
+    return colorBox(picture, Qt::black, 127);
 }
 
 TEST(QrCode, ModulesAreWholeUnitsCentredInTheSurface) {
@@ -116,17 +109,6 @@ TEST(QrCode, NothingWhereThereIsNoSymbolOrNoRoom) {
     for (const double side : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_TRUE(qrImageForString(TwentyFive, side, Color::white()).isNull()) << side;
     }
-}
-
-TEST(QrCode, ManyThreadsAtATime) {
-    const QImage alone = qrImageForString(TwentyFive, 200.0, Color::white());
-    std::vector<QImage> pictures(8);
-    std::vector<std::thread> threads;
-    for (QImage& picture : pictures) {
-        threads.emplace_back([&picture] { picture = qrImageForString(TwentyFive, 200.0, Color::white()); });
-    }
-    for (std::thread& thread : threads) thread.join();
-    for (const QImage& picture : pictures) EXPECT_EQ(picture, alone);
 }
 
 }  // namespace

@@ -7,11 +7,6 @@
 namespace zelto {
 namespace {
 
-int difference(QRgb a, QRgb b) {
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-}
-
 template <class Wanted>
 QRect boxOf(const QImage& picture, Wanted wanted) {
     QRect box;
@@ -27,12 +22,22 @@ QRect boxOf(const QImage& picture, Wanted wanted) {
 
 QRect inkBox(const QImage& picture, QColor background, int tolerance) {
     const QRgb paper = background.rgba();
-    return boxOf(picture, [=](QRgb pixel) { return difference(pixel, paper) > tolerance; });
+    return boxOf(picture, [=](QRgb pixel) { return largestDifference(pixel, paper) > tolerance; });
 }
 
 QRect colorBox(const QImage& picture, QColor color, int tolerance) {
     const QRgb ink = color.rgba();
-    return boxOf(picture, [=](QRgb pixel) { return difference(pixel, ink) <= tolerance; });
+    return boxOf(picture, [=](QRgb pixel) { return largestDifference(pixel, ink) <= tolerance; });
+}
+
+int largestDifference(QRgb a, QRgb b) {
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+QImage storedValues(QImage picture) {
+    picture.reinterpretAsFormat(QImage::Format_ARGB32);
+    return picture;
 }
 
 int largestDifference(const QImage& a, const QImage& b) {
@@ -40,7 +45,7 @@ int largestDifference(const QImage& a, const QImage& b) {
     int largest = 0;
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x)
-            largest = std::max(largest, difference(a.pixel(x, y), b.pixel(x, y)));
+            largest = std::max(largest, largestDifference(a.pixel(x, y), b.pixel(x, y)));
     }
     return largest;
 }

@@ -15,7 +15,14 @@ QRect inkBox(const QImage& picture, QColor background = Qt::white, int tolerance
 // Around all pixels that are `color`.
 QRect colorBox(const QImage& picture, QColor color, int tolerance = 8);
 
-// The largest difference of any two pixels; 256 where the pictures differ in size.
+// The largest difference of two colours in any channel.
+int largestDifference(QRgb a, QRgb b);
+
+// `picture` (32 bits a pixel) with its stored values as they are, so that pixel() of a premultiplied picture
+// gives the premultiplied colour.
+QImage storedValues(QImage picture);
+
+// The largest difference of two pictures of one size in any channel of any pixel; 256 where the sizes differ.
 int largestDifference(const QImage& a, const QImage& b);
 
 }  // namespace zelto
