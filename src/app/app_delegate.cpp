@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/app_delegate.h"
 
+#include "app/window_resources.h"
 #include "batch/folder_scan.h"
 #include "persistence/setting_file.h"
 #include "platform/preferences.h"
@@ -20,7 +21,7 @@ Q_LOGGING_CATEGORY(startUp, "zelto.start")
 
 // The tips that ship with the program; none where they are missing.
 QByteArray tipsDocument() {
-    QFile file(QStringLiteral(":/Tips.xml"));
+    QFile file(windowResource(QStringLiteral("Tips.xml")));
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/icons.h"
 
-#include <QFile>
+#include "app/window_resources.h"
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -11,18 +12,11 @@
 #include <memory>
 #include <utility>
 
-// Resources of a static library register themselves only when they are asked to, outside any namespace.
-static void registerWindowResources() {
-    Q_INIT_RESOURCE(window);
-}
-
 namespace zelto {
 namespace {
 
 QString iconPath(QLatin1String name) {
-    static const bool registered = (registerWindowResources(), true);
-    Q_UNUSED(registered)
-    return QStringLiteral(":/window/icons/") + name + QStringLiteral(".svg");
+    return windowResource(QStringLiteral("icons/") + name + QStringLiteral(".svg"));
 }
 
 QColor lineColor(QIcon::Mode mode) {

@@ -3,13 +3,10 @@
 
 #include "app/preview/halved_picture.h"
 #include "render/composition.h"
+#include "support/ink.h"
 #include "support/test_pictures.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 
 namespace zelto {
 namespace {
@@ -65,21 +62,6 @@ PhotoScene sceneOf(const WatermarkStack& stack, QImage photo = drawnScene(PhotoS
     request.path = QStringLiteral("/photos/scene.jpg");
     request.stack = std::make_shared<const WatermarkStack>(stack);
     return buildPhotoScene(request, Picture{std::move(photo)});
-}
-
-int largestDifference(const QImage& a, const QImage& b) {
-    if (a.size() != b.size()) return 256;
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor left = a.pixelColor(x, y);
-            const QColor right = b.pixelColor(x, y);
-            largest =
-                std::max({largest, std::abs(left.red() - right.red()), std::abs(left.green() - right.green()),
-                          std::abs(left.blue() - right.blue()), std::abs(left.alpha() - right.alpha())});
-        }
-    }
-    return largest;
 }
 
 TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {

@@ -4,6 +4,7 @@
 #include "app/image_list_controller.h"
 #include "app/preview/region_composer.h"
 #include "app/watermark_controller.h"
+#include "render/effect_diagnostics.h"
 
 #include <QLoggingCategory>
 
@@ -14,6 +15,9 @@ namespace {
 
 Q_LOGGING_CATEGORY(preview, "zelto.preview")
 
+// How long an effect must have stayed as it is before its pictures are written: encoding takes seconds.
+constexpr int DiagnosticsMilliseconds = 1500;
+
 }  // namespace
 
 PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
@@ -23,7 +27,14 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
       watermarks_(watermarks),
       document_(watermarks.document()),
       view_(view),
+      diagnostics_([](const QImage& framed) {
+          const Result<void> written = writeEffectDiagnostics(framed, framed);
+          if (!written) qCWarning(preview, "%s", qUtf8Printable(written.error().message));
+      }),
       logos_(std::make_shared<LogoCache>()) {
+    diagnosticsDue_.setSingleShot(true);
+    diagnosticsDue_.setInterval(DiagnosticsMilliseconds);
+    connect(&diagnosticsDue_, &QTimer::timeout, this, &PhotoPreview::writeDiagnostics);
     connect(&photos_, &ImageListController::selectImage, this, &PhotoPreview::selectImage);
     connect(&photos_.model(), &QAbstractItemModel::rowsInserted, this,
             [this] { builder_.updateLayers(request()); });
@@ -106,6 +117,7 @@ void PhotoPreview::take(const PreviewUpdate& update) {
         qCInfo(preview, "photo size = %d x %d", scene.photoSize.width(), scene.photoSize.height());
         qCInfo(preview, "filtered size = %d x %d", scene.imageRect.width(), scene.imageRect.height());
     }
+    if (update.isOtherPicture) diagnosticsDue_.start();
     view_.apply(update);
     const bool isCurrent = update.shown->stack == document_.snapshot();
     for (std::size_t i = 0; isCurrent && i < scene.layers.size(); ++i) {
@@ -117,6 +129,14 @@ void PhotoPreview::take(const PreviewUpdate& update) {
     }
     prefetchNeighbours();
     Q_EMIT shown();
+}
+
+// The effect step leaves its picture in the home folder; the preview takes that step where watermarks may lie on the
+// border.
+void PhotoPreview::writeDiagnostics() {
+    const auto& scene = view_.shown();
+    const bool hasStep = scene && scene->stack->Effects && scene->stack->Effects->ApplyWatermarkOnBorder;
+    if (hasStep) diagnostics_.post(scene->scene.picture);
 }
 
 void PhotoPreview::prefetchNeighbours() {

@@ -10,6 +10,7 @@
 
 #include <QObject>
 #include <QRectF>
+#include <QTimer>
 
 #include <memory>
 
@@ -47,6 +48,7 @@ class PhotoPreview : public QObject {
     void follow(const StackChange& change);
     void take(const PreviewUpdate& update);
     void prefetchNeighbours();
+    void writeDiagnostics();
     void nudge(int index, QPoint step);
 
     ImageListController& photos_;
@@ -54,6 +56,8 @@ class PhotoPreview : public QObject {
     WatermarkDocument& document_;
     PreviewView& view_;
     SceneBuilder builder_;
+    NewestWorker<QImage> diagnostics_;  // writes the framed photo into the home folder
+    QTimer diagnosticsDue_;
     std::shared_ptr<LogoCache> logos_;
     int neighboursOf_ = -1;  // the row whose neighbours have been made ready
 };

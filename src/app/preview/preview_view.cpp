@@ -247,9 +247,11 @@ void PreviewView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void PreviewView::endDrag(bool drop) {
-    const std::optional<LayerDrag> drag = std::exchange(drag_, std::nullopt);
-    if (!drag || !std::exchange(isDragging_, false)) return;
-    if (drop && drag->isMoved()) Q_EMIT layerDropped(drag->index(), drag->place());
+    if (!drag_) return;
+    const LayerDrag drag = *drag_;
+    drag_.reset();
+    if (!std::exchange(isDragging_, false)) return;
+    if (drop && drag.isMoved()) Q_EMIT layerDropped(drag.index(), drag.place());
     Q_EMIT layerDragged(std::nullopt);
     viewport()->update();
 }

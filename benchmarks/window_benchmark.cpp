@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How long the window keeps a user waiting, from what he does until the screen has been painted. Photos are JPEG
+// files of 24 megapixels, seen as a whole in a window of 1280 x 800.
+#include "app/main_window.h"
+#include "platform/picture_reader.h"
+#include "support/test_pictures.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace zelto {
+namespace {
+
+constexpr QSize PhotoSize(6000, 4000);
+
+class Window {
+  public:
+    explicit Window(int photos) : window_(shared_, standardDialogs(), EditorSet()) {
+        window_.resize(1280, 800);
+        window_.show();
+        const QByteArray bytes = jpegBytes(drawnScene(PhotoSize), {.fullChroma = false});
+        QStringList paths;
+        for (int i = 0; i < photos; ++i) {
+            paths.append(folder_.filePath(QStringLiteral("%1.jpg").arg(i)));
+            QFile file(paths.last());
+            if (file.open(QFile::WriteOnly)) file.write(bytes);
+        }
+        window_.photos().AddImages(paths);
+        settle();
+    }
+
+    MainWindow& operator*() { return window_; }
+    MainWindow* operator->() { return &window_; }
+
+    // Runs the program until everything asked for is on the screen.
+    void settle() {
+        while (!window_.preview().isSettled())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+        window_.previewView().viewport()->repaint();
+    }
+
+    // Lets the neighbours of the photo on show be made ready.
+    static void waitInBackground(int milliseconds) {
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < milliseconds)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+
+  private:
+    MyGlobalInstance shared_;
+    QTemporaryDir folder_;
+    MainWindow window_;
+};
+
+// Another photo, not made ready before; "toDecode" is the time it takes in units of decoding alone.
+void AnotherPhoto(benchmark::State& state) {
+    Window window(7);
+    Window::waitInBackground(3000);
+    const QString path = window->photos().images()[6].ImagePath;
+    double shown = 0.0;
+    double decoded = 0.0;
+    bool atFirst = true;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        window->photos().ChangeImage(atFirst ? QStringLiteral("6") : QStringLiteral("0"));
+        window.settle();
+        const double seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+        atFirst = !atFirst;
+        Window::waitInBackground(1500);
+        timer.restart();
+        benchmark::DoNotOptimize(readPicture(path));
+        decoded += static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+        shown += seconds;
+        state.SetIterationTime(seconds);
+    }
+    state.counters["toDecode"] = shown / decoded;
+}
+BENCHMARK(AnotherPhoto)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(6);
+
+// The next photo, made ready while the one before was looked at.
+void NextPhoto(benchmark::State& state) {
+    Window window(8);
+    int row = 0;
+    for (auto _ : state) {
+        Window::waitInBackground(1500);
+        QElapsedTimer timer;
+        timer.start();
+        window->photos().ChangeImage(QString::number(++row % 8));
+        window.settle();
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+    }
+}
+BENCHMARK(NextPhoto)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
+
+// A letter typed into a text watermark; the median of a hundred.
+void TypedLetter(benchmark::State& state) {
+    Window window(1);
+    Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
+    text.FontFamily = QStringLiteral("DejaVu Sans");
+    text.FontSize = 160;
+    text.TextColor = Color::white();
+    text.Position = 9;
+    text.Shadow = state.range(0) != 0;
+    text.ShadowColor = Color::black();
+    text.Text = QStringLiteral("©");
+    window->watermarks().ReflectWatermark(text, true);
+    window->document().setCurrentWatermark(0);
+    if (state.range(1) != 0) window->controller().ActualSize();
+    window.settle();
+    std::vector<double> times;
+    for (auto _ : state) {
+        text.Text =
+            QStringLiteral("© Zelto ") + QString(static_cast<int>(times.size()) % 20, QLatin1Char('x'));
+        QElapsedTimer timer;
+        timer.start();
+        window->watermarks().ReflectWatermark(text, true, QStringLiteral("Text"));
+        window.settle();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        state.SetIterationTime(times.back());
+    }
+    std::nth_element(times.begin(), times.begin() + 50, times.end());
+    state.counters["median_ms"] = times[50] * 1e3;
+}
+BENCHMARK(TypedLetter)
+    ->ArgNames({"shadow", "actualSize"})
+    ->Args({0, 0})
+    ->Args({1, 0})
+    ->Args({1, 1})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(100);
+
+// Photos added to the list, until the list shows them.
+void AddedPhotos(benchmark::State& state) {
+    QStringList paths;
+    for (int i = 0; i < state.range(0); ++i)
+        paths.append(QStringLiteral("/photos/2024/%1/IMG_%2.jpg").arg(i / 500).arg(i));
+    for (auto _ : state) {
+        MyGlobalInstance shared;
+        MainWindow window(shared, standardDialogs(), EditorSet());
+        window.show();
+        QCoreApplication::processEvents();
+        QElapsedTimer timer;
+        timer.start();
+        window.photos().AddImages(paths);
+        QCoreApplication::processEvents();
+        window.photoList().viewport()->repaint();
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+    }
+}
+BENCHMARK(AddedPhotos)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(3);
+
+// From nothing to a window that can be used.
+void StartedWindow(benchmark::State& state) {
+    for (auto _ : state) {
+        MyGlobalInstance shared;
+        MainWindow window(shared, standardDialogs(), EditorSet());
+        window.show();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(StartedWindow)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zelto
