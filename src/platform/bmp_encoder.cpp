@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/picture_encoders.h"
 #include "platform/picture_rows.h"
+#include "platform/resolution.h"
 
 #include <QDataStream>
 #include <QIODevice>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace zelto {
@@ -15,7 +15,6 @@ namespace zelto {
 // BITMAPINFOHEADER of 14 and 40 bytes, then blue, green, red, rows padded to four bytes.
 Result<QByteArray> encodeBmp(const QImage& picture, const EncodeOptions& options) {
     constexpr quint32 HeaderBytes = 14 + 40;
-    constexpr double InchesPerMetre = 1.0 / 0.0254;
     const int width = picture.width();
     const int height = picture.height();
     const qsizetype stride = (qsizetype{width} * 3 + 3) / 4 * 4;
@@ -27,9 +26,8 @@ Result<QByteArray> encodeBmp(const QImage& picture, const EncodeOptions& options
     header << quint16{0x4d42} << static_cast<quint32>(HeaderBytes + stride * height) << quint32{0}
            << HeaderBytes;
     header << quint32{40} << qint32{width} << qint32{height} << quint16{1} << quint16{24} << quint32{0}
-           << static_cast<quint32>(stride * height)
-           << static_cast<qint32>(std::lround(options.dpiX * InchesPerMetre))
-           << static_cast<qint32>(std::lround(options.dpiY * InchesPerMetre)) << quint32{0} << quint32{0};
+           << static_cast<quint32>(stride * height) << dotsPerMeter(options.dpiX)
+           << dotsPerMeter(options.dpiY) << quint32{0} << quint32{0};
 
     bytes.resize(HeaderBytes + stride * height);
     std::vector<QRgb> flat(static_cast<std::size_t>(width));

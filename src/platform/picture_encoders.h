@@ -10,6 +10,8 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <new>
+
 namespace zelto {
 
 Result<QByteArray> encodeJpeg(const QImage& picture, const EncodeOptions& options);
@@ -20,5 +22,16 @@ Result<QByteArray> encodeTiff(const QImage& picture, const EncodeOptions& option
 Result<QByteArray> encodeBmp(const QImage& picture, const EncodeOptions& options);
 Result<QByteArray> encodeGif(const QImage& picture, const EncodeOptions& options);
 Result<QByteArray> encodePdf(const QImage& picture, const EncodeOptions& options);
+
+// For the callbacks that libraries hand their bytes to: false where memory does not suffice, since no exception may
+// pass through a library written in C.
+inline bool appendBytes(QByteArray& bytes, const void* data, qsizetype size) noexcept {
+    try {
+        bytes.append(static_cast<const char*>(data), size);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
 
 }  // namespace zelto

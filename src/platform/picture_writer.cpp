@@ -22,10 +22,11 @@ constexpr qint64 NoLimit = std::numeric_limits<qint64>::max();
 constexpr qint64 FourGigabytes = qint64{1} << 32;
 constexpr int AnySide = std::numeric_limits<int>::max();
 
-// In the order of the enumeration.
+// In the order of the enumeration. PNG itself could hold larger sides, but its library, and so nearly every reader,
+// refuses them.
 constexpr std::array Formats = {
     FormatEntry{PictureFormat::Jpeg, "JPEG", 65500, NoLimit, 3, encodeJpeg},
-    FormatEntry{PictureFormat::Png, "PNG", AnySide, NoLimit, 4, encodePng},
+    FormatEntry{PictureFormat::Png, "PNG", 1000000, NoLimit, 4, encodePng},
     FormatEntry{PictureFormat::Tiff, "TIFF", AnySide, FourGigabytes, 4, encodeTiff},
     FormatEntry{PictureFormat::Bmp, "BMP", AnySide, FourGigabytes, 3, encodeBmp},
     FormatEntry{PictureFormat::Gif, "GIF", 65535, NoLimit, 1, encodeGif},

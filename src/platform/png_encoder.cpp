@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/picture_encoders.h"
 #include "platform/picture_rows.h"
+#include "platform/resolution.h"
 
 #include <png.h>
+#include <zlib.h>
 
 #include <array>
-#include <cmath>
-#include <new>
 #include <vector>
 
 namespace zelto {
 namespace {
 
-constexpr double InchesPerMetre = 1.0 / 0.0254;
+// Run lengths over Paeth's predictions: on photos as small as zlib's level 6, in a fifth of its time, and not far from
+// it on drawings. Choosing among the filters row by row costs half as much again and chose this one on every photo.
+constexpr int Filter = PNG_FILTER_PAETH;
+constexpr int Strategy = Z_RLE;
+constexpr std::size_t ChunkBytes = 1 << 16;
 
 struct Output {
     QByteArray bytes;
@@ -27,14 +31,8 @@ struct Output {
 void ignoreWarning(png_structp, png_const_charp) {}
 
 void append(png_structp codec, png_bytep data, std::size_t size) {
-    bool failed = false;
-    try {
-        static_cast<Output*>(png_get_io_ptr(codec))
-            ->bytes.append(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    } catch (const std::bad_alloc&) {
-        failed = true;  // no exception may pass through a C library
-    }
-    if (failed) png_error(codec, "out of memory");
+    QByteArray& bytes = static_cast<Output*>(png_get_io_ptr(codec))->bytes;
+    if (!appendBytes(bytes, data, static_cast<qsizetype>(size))) png_error(codec, "out of memory");
 }
 
 void noFlush(png_structp) {}
@@ -45,13 +43,14 @@ bool compress(png_structp codec, png_infop info, const QImage& picture, const En
     if (setjmp(png_jmpbuf(codec)) != 0) return false;  // NOLINT(cert-err52-cpp): libpng has no other way out
     const bool alpha = picture.hasAlphaChannel();
     const int width = picture.width();
-    png_set_user_limits(codec, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
-    png_set_compression_level(codec, 3);
+    png_set_filter(codec, PNG_FILTER_TYPE_BASE, Filter);
+    png_set_compression_strategy(codec, Strategy);
+    png_set_compression_level(codec, Z_BEST_SPEED);
+    png_set_compression_buffer_size(codec, ChunkBytes);
     png_set_IHDR(codec, info, static_cast<png_uint_32>(width), static_cast<png_uint_32>(picture.height()), 8,
                  alpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_set_pHYs(codec, info, static_cast<png_uint_32>(std::lround(options.dpiX * InchesPerMetre)),
-                 static_cast<png_uint_32>(std::lround(options.dpiY * InchesPerMetre)), PNG_RESOLUTION_METER);
+    png_set_pHYs(codec, info, dotsPerMeter(options.dpiX), dotsPerMeter(options.dpiY), PNG_RESOLUTION_METER);
     png_write_info(codec, info);
     for (int y = 0; y < picture.height(); ++y) {
         (alpha ? rowAsStraightRgba : rowAsRgb)(pixelRow(picture, y), width, scratch);

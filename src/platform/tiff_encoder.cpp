@@ -17,6 +17,10 @@ namespace {
 
 constexpr qsizetype StripBytes = 1 << 20;
 
+// Over horizontal differences the quickest level is as small as LZW, in half its time; level 6 would save a tenth for
+// five times the time.
+constexpr int DeflateLevel = 1;
+
 // The file libtiff writes, in memory: it goes back to fill in directory offsets.
 struct MemoryFile {
     QByteArray bytes;
@@ -88,6 +92,7 @@ void describe(TIFF* tiff, const QImage& picture, const EncodeOptions& options, i
     TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
     TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
     TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_ADOBE_DEFLATE);
+    TIFFSetField(tiff, TIFFTAG_ZIPQUALITY, DeflateLevel);
     TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
     TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(rowsPerStrip));
     TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);

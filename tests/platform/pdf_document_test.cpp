@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/pdf_document.h"
+
+#include "platform/picture_rows.h"
+#include "platform/picture_writer.h"
+#include "support/test_pictures.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QPainter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace zelto {
+namespace {
+
+using ::testing::HasSubstr;
+
+// A device that is full after so many bytes.
+class FullDevice : public QIODevice {
+  public:
+    explicit FullDevice(qint64 room) : room_(room) { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+
+  protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char*, qint64 size) override {
+        if (room_ == 0) {
+            setErrorString(QStringLiteral("no room"));
+            return -1;
+        }
+        const qint64 taken = std::min(size, room_);
+        room_ -= taken;
+        return taken;
+    }
+
+  private:
+    qint64 room_;
+};
+
+class PdfTest : public ::testing::Test {
+  protected:
+    // What a program of poppler says of, or makes from, the document.
+    std::string poppler(const char* program, const QByteArray& document, const QStringList& arguments) {
+        QFile file(folder_.filePath(QStringLiteral("document.pdf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
+        file.close();
+        QProcess process;
+        process.setWorkingDirectory(folder_.path());
+        process.start(QLatin1String(program), QStringList(arguments)
+                                                  << file.fileName() << QStringLiteral("page"));
+        EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program;
+        EXPECT_EQ(process.readAllStandardError().toStdString(), "");
+        return process.readAllStandardOutput().simplified().toStdString();
+    }
+
+    std::string facts(const QByteArray& document) {
+        QFile file(folder_.filePath(QStringLiteral("document.pdf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
+        file.close();
+        QProcess process;
+        process.start(QStringLiteral("pdfinfo"),
+                      {QStringLiteral("-l"), QStringLiteral("99"), file.fileName()});
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.readAllStandardError().toStdString(), "");
+        return process.readAllStandardOutput().simplified().toStdString();
+    }
+
+    // The only page as it is seen, one pixel a point.
+    QImage page(const QByteArray& document) {
+        poppler("pdftoppm", document,
+                {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
+                 QStringLiteral("-singlefile")});
+        return QImage(folder_.filePath(QStringLiteral("page.png"))).convertToFormat(QImage::Format_RGB32);
+    }
+
+    const QTemporaryDir folder_;
+};
+
+QImage onWhite(const QImage& picture) {
+    QImage canvas(picture.size(), QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter(&canvas).drawImage(0, 0, picture);
+    return canvas;
+}
+
+int largestDifference(const QImage& a, const QImage& b) {
+    if (a.size() != b.size()) return 256;
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            for (const int shift : {0, 8, 16}) {
+                const int d = static_cast<int>((pixelRow(a, y)[x] >> shift) & 0xffU) -
+                              static_cast<int>((pixelRow(b, y)[x] >> shift) & 0xffU);
+                largest = std::max(largest, std::abs(d));
+            }
+        }
+    }
+    return largest;
+}
+
+TEST_F(PdfTest, PageIsThePictureOnePointAPixel) {
+    for (const QSize size : {QSize(1, 1), QSize(301, 187)}) {
+        QImage withText = drawnScene(size);
+        for (int x = 0; x < size.width(); x += 2) withText.setPixel(x, size.height() / 2, qRgb(255, 0, 0));
+        QImage opaqueWithAlpha = withText.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        for (const QImage& picture : {withText, opaqueWithAlpha, drawnSceneWithAlpha(size)}) {
+            const Result<QByteArray> document =
+                encodePicture(picture, PictureFormat::Pdf, {.jpegQuality = 5});
+            ASSERT_TRUE(document);
+            EXPECT_THAT(facts(*document), HasSubstr("size: " + std::to_string(size.width()) + " x " +
+                                                    std::to_string(size.height()) + " pts"));
+            // No more than JPEG's finest tables leave, however low the quality asked for JPEG files is.
+            EXPECT_LE(largestDifference(page(*document), onWhite(picture)), 24)
+                << size.width() << ' ' << picture.format();
+        }
+    }
+}
+
+TEST_F(PdfTest, VeryLargePagesHaveLargerUnits) {
+    QImage picture(28800, 2, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    const QByteArray document = encodePicture(picture, PictureFormat::Pdf, {}).value();
+    EXPECT_THAT(document.toStdString(), HasSubstr("/MediaBox [0 0 14400 1]"));
+    EXPECT_THAT(document.toStdString(), HasSubstr("/UserUnit 2 "));
+    facts(document);
+}
+
+TEST_F(PdfTest, PagesFollowEachOtherAtTheirOwnSizesAndAreWrittenOneByOne) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    PdfDocument document(buffer);
+    qint64 before = 0;
+    for (int i = 0; i < 12; ++i) {
+        ASSERT_TRUE(
+            document.addPage(i % 2 == 0 ? drawnScene({100 + i, 80}) : drawnSceneWithAlpha({100 + i, 80})));
+        EXPECT_GT(buffer.size(), before + 500);
+        before = buffer.size();
+        EXPECT_FALSE(document.addPage(QImage()));
+        EXPECT_FALSE(document.addPage(QImage(70000, 1, QImage::Format_RGB32)));
+    }
+    ASSERT_TRUE(document.finish());
+    EXPECT_EQ(document.pageCount(), 12);
+    const std::string found = facts(buffer.data());
+    EXPECT_THAT(found, HasSubstr("Pages: 12"));
+    for (int i = 0; i < 12; ++i) {
+        EXPECT_THAT(found, HasSubstr("Page " + std::to_string(i + 1) + " size: " + std::to_string(100 + i) +
+                                     " x 80"));
+    }
+}
+
+TEST_F(PdfTest, SaysWhenItCannotBeWrittenOrHasNoPages) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const Result<void> empty = PdfDocument(buffer).finish();
+    ASSERT_FALSE(empty);
+    EXPECT_EQ(empty.error().code, ErrorCode::InvalidValue);
+
+    const QImage picture = drawnScene({60, 40});
+    const qsizetype whole = encodePicture(picture, PictureFormat::Pdf, {}).value().size();
+    for (const qint64 room : {qint64{0}, qint64{100}, qint64{whole / 2}, qint64{whole - 1}}) {
+        FullDevice device(room);
+        PdfDocument document(device);
+        const Result<void> added = document.addPage(picture);
+        const Result<void> finished = document.finish();
+        EXPECT_TRUE(room == whole - 1 || !added) << room;
+        ASSERT_FALSE(finished) << room;
+        EXPECT_EQ(finished.error().code, ErrorCode::CannotWrite);
+        EXPECT_THAT(finished.error().message.toStdString(), HasSubstr("no room"));
+    }
+}
+
+}  // namespace
+}  // namespace zelto
