@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/pdf_document.h"
 
-#include "platform/picture_rows.h"
 #include "platform/picture_writer.h"
+#include "platform/whole_file.h"
+#include "support/ink.h"
+#include "support/run_program.h"
 #include "support/test_pictures.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QPainter>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <cstdlib>
+#include <algorithm>
 
 namespace zelto {
 namespace {
@@ -45,64 +43,32 @@ class FullDevice : public QIODevice {
 
 class PdfTest : public ::testing::Test {
   protected:
-    // What a program of poppler says of, or makes from, the document.
-    std::string poppler(const char* program, const QByteArray& document, const QStringList& arguments) {
-        QFile file(folder_.filePath(QStringLiteral("document.pdf")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
-        file.close();
-        QProcess process;
-        process.setWorkingDirectory(folder_.path());
-        process.start(QLatin1String(program), QStringList(arguments)
-                                                  << file.fileName() << QStringLiteral("page"));
-        EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program;
-        EXPECT_EQ(process.readAllStandardError().toStdString(), "");
-        return process.readAllStandardOutput().simplified().toStdString();
+    // What a program of poppler says of the document, or makes from it.
+    std::string poppler(const char* program, const QStringList& arguments, const QByteArray& document,
+                        const QStringList& target = {}) {
+        const QString path = folder_.filePath(QStringLiteral("document.pdf"));
+        EXPECT_TRUE(writeWholeFile(path, document));
+        const ProgramRun run = runProgram(QLatin1String(program), arguments + QStringList(path) + target);
+        EXPECT_EQ(run.exitStatus, 0) << program;
+        EXPECT_EQ(run.errors, "");
+        return run.output.simplified().toStdString();
     }
 
     std::string facts(const QByteArray& document) {
-        QFile file(folder_.filePath(QStringLiteral("document.pdf")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
-        file.close();
-        QProcess process;
-        process.start(QStringLiteral("pdfinfo"),
-                      {QStringLiteral("-l"), QStringLiteral("99"), file.fileName()});
-        EXPECT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.readAllStandardError().toStdString(), "");
-        return process.readAllStandardOutput().simplified().toStdString();
+        return poppler("pdfinfo", {QStringLiteral("-l"), QStringLiteral("99")}, document);
     }
 
     // The only page as it is seen, one pixel a point.
     QImage page(const QByteArray& document) {
-        poppler("pdftoppm", document,
-                {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
-                 QStringLiteral("-singlefile")});
-        return QImage(folder_.filePath(QStringLiteral("page.png"))).convertToFormat(QImage::Format_RGB32);
+        const QStringList asPicture = {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
+                                       QStringLiteral("-singlefile")};
+        const QString target = folder_.filePath(QStringLiteral("page"));
+        poppler("pdftoppm", asPicture, document, {target});
+        return QImage(target + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
     }
 
     const QTemporaryDir folder_;
 };
-
-QImage onWhite(const QImage& picture) {
-    QImage canvas(picture.size(), QImage::Format_RGB32);
-    canvas.fill(Qt::white);
-    QPainter(&canvas).drawImage(0, 0, picture);
-    return canvas;
-}
-
-int largestDifference(const QImage& a, const QImage& b) {
-    if (a.size() != b.size()) return 256;
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            for (const int shift : {0, 8, 16}) {
-                const int d = static_cast<int>((pixelRow(a, y)[x] >> shift) & 0xffU) -
-                              static_cast<int>((pixelRow(b, y)[x] >> shift) & 0xffU);
-                largest = std::max(largest, std::abs(d));
-            }
-        }
-    }
-    return largest;
-}
 
 TEST_F(PdfTest, PageIsThePictureOnePointAPixel) {
     for (const QSize size : {QSize(1, 1), QSize(301, 187)}) {

@@ -3,13 +3,12 @@
 
 #include "platform/picture_reader.h"
 #include "platform/picture_rows.h"
+#include "support/ink.h"
+#include "support/run_program.h"
 #include "support/test_pictures.h"
 
 #include <QColor>
 #include <QMap>
-#include <QPainter>
-#include <QProcess>
-#include <QSet>
 #include <QTemporaryFile>
 
 #include <gmock/gmock.h>
@@ -35,13 +34,6 @@ QImage readBack(const QByteArray& bytes) {
     return picture ? picture->image : QImage();
 }
 
-QImage onWhite(const QImage& picture) {
-    QImage canvas(picture.size(), QImage::Format_RGB32);
-    canvas.fill(Qt::white);
-    QPainter(&canvas).drawImage(0, 0, picture);
-    return canvas;
-}
-
 // Root mean square of the differences of all bytes; infinite for pictures of different sizes.
 double difference(const QImage& a, const QImage& b) {
     if (a.size() != b.size() || a.isNull()) return INFINITY;
@@ -64,11 +56,11 @@ double difference(const QImage& a, const QImage& b) {
 QMap<QString, QString> tagsOf(const QByteArray& bytes) {
     QTemporaryFile file;
     EXPECT_TRUE(file.open() && file.write(bytes) == bytes.size() && file.flush());
-    QProcess exiftool;
-    exiftool.start(QStringLiteral("exiftool"), {QStringLiteral("-s"), file.fileName()});
-    EXPECT_TRUE(exiftool.waitForFinished()) << "exiftool is missing";
+    const ProgramRun exiftool =
+        runProgram(QStringLiteral("exiftool"), {QStringLiteral("-s"), file.fileName()});
+    EXPECT_EQ(exiftool.exitStatus, 0) << exiftool.errors.constData();
     QMap<QString, QString> tags;
-    for (const QByteArray& line : exiftool.readAllStandardOutput().split('\n')) {
+    for (const QByteArray& line : exiftool.output.split('\n')) {
         const qsizetype colon = line.indexOf(':');
         tags[QString::fromUtf8(line.left(colon).trimmed())] =
             QString::fromUtf8(line.mid(colon + 1).trimmed());

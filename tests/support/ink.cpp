@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/ink.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -48,6 +50,13 @@ int largestDifference(const QImage& a, const QImage& b) {
             largest = std::max(largest, largestDifference(a.pixel(x, y), b.pixel(x, y)));
     }
     return largest;
+}
+
+QImage onWhite(const QImage& picture) {
+    QImage paper(picture.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(0, 0, picture);
+    return paper;
 }
 
 }  // namespace zelto

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looking for what was drawn on a plain background. Boxes have y growing downward and are empty where nothing is
-// found; tolerances are levels of 255 that any channel may differ.
+// Looking for what was drawn on a plain background, and comparing pictures. Boxes have y growing downward and are
+// empty where nothing is found; tolerances are levels of 255 that any channel may differ.
 #pragma once
 
 #include <QColor>
@@ -24,5 +24,8 @@ QImage storedValues(QImage picture);
 
 // The largest difference of two pictures of one size in any channel of any pixel; 256 where the sizes differ.
 int largestDifference(const QImage& a, const QImage& b);
+
+// What a picture with transparency looks like on white paper.
+QImage onWhite(const QImage& picture);
 
 }  // namespace zelto
