@@ -63,7 +63,7 @@ class PdfTest : public ::testing::Test {
         const QStringList asPicture = {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
                                        QStringLiteral("-singlefile")};
         const QString target = folder_.filePath(QStringLiteral("page"));
-        poppler("pdftoppm", asPicture, document, {target});
+        poppler("pdftocairo", asPicture, document, {target});
         return QImage(target + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
     }
 
@@ -103,13 +103,14 @@ TEST_F(PdfTest, PagesFollowEachOtherAtTheirOwnSizesAndAreWrittenOneByOne) {
     PdfDocument document(buffer);
     qint64 before = 0;
     for (int i = 0; i < 12; ++i) {
+        const QSize size(100 + i, 80);
         ASSERT_TRUE(
-            document.addPage(i % 2 == 0 ? drawnScene({100 + i, 80}) : drawnSceneWithAlpha({100 + i, 80})));
+            document.addPage(*encodePdfPage(i % 2 == 0 ? drawnScene(size) : drawnSceneWithAlpha(size))));
         EXPECT_GT(buffer.size(), before + 500);
         before = buffer.size();
-        EXPECT_FALSE(document.addPage(QImage()));
-        EXPECT_FALSE(document.addPage(QImage(70000, 1, QImage::Format_RGB32)));
     }
+    EXPECT_FALSE(encodePdfPage(QImage()));
+    EXPECT_FALSE(encodePdfPage(QImage(70000, 1, QImage::Format_RGB32)));
     ASSERT_TRUE(document.finish());
     EXPECT_EQ(document.pageCount(), 12);
     const std::string found = facts(buffer.data());
@@ -132,7 +133,7 @@ TEST_F(PdfTest, SaysWhenItCannotBeWrittenOrHasNoPages) {
     for (const qint64 room : {qint64{0}, qint64{100}, qint64{whole / 2}, qint64{whole - 1}}) {
         FullDevice device(room);
         PdfDocument document(device);
-        const Result<void> added = document.addPage(picture);
+        const Result<void> added = document.addPage(*encodePdfPage(picture));
         const Result<void> finished = document.finish();
         EXPECT_TRUE(room == whole - 1 || !added) << room;
         ASSERT_FALSE(finished) << room;

@@ -104,7 +104,9 @@ TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
             const QImage alpha = drawnSceneWithAlpha(size);
             const QImage result = readBack(encoded(alpha, row.format, options));
             EXPECT_LE(difference(result, row.keepsAlpha ? alpha : onWhite(alpha)), row.alphaError);
-            if (size.width() > 3) EXPECT_EQ(result.hasAlphaChannel(), row.keepsAlpha);
+            if (size.width() > 3) {
+                EXPECT_EQ(result.hasAlphaChannel(), row.keepsAlpha);
+            }
         }
     }
 }

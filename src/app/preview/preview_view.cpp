@@ -248,10 +248,12 @@ void PreviewView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PreviewView::endDrag(bool drop) {
     if (!drag_) return;
-    const LayerDrag drag = *drag_;
+    const int index = drag_->index();
+    const auto place = drag_->place();
+    const bool isDropped = drop && drag_->isMoved();
     drag_.reset();
     if (!std::exchange(isDragging_, false)) return;
-    if (drop && drag.isMoved()) Q_EMIT layerDropped(drag.index(), drag.place());
+    if (isDropped) Q_EMIT layerDropped(index, place);
     Q_EMIT layerDragged(std::nullopt);
     viewport()->update();
 }
