@@ -30,6 +30,7 @@ inline constexpr Preference<qint64> LastAutoNumber{QLatin1String("LastAutoNumber
 inline constexpr Preference<QString> LastDateFormat{QLatin1String("LastDateFormat")};
 inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
 inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
+inline constexpr Preference<QVariantMap> EditorPlaces{QLatin1String("Window/Editors")};  // geometry by name
 }  // namespace preference
 
 namespace detail {

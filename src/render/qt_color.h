@@ -17,4 +17,10 @@ inline QColor toQColor(const Color& color) {
     return QColor::fromRgbF(unit(color.Red), unit(color.Green), unit(color.Blue), unit(color.Alpha));
 }
 
+// A colour that was chosen, in 8 bits a component: a pixel of the same bytes has exactly this colour.
+inline Color toColor(const QColor& color) {
+    const auto unit = [](int component) { return static_cast<float>(component) / 255.0F; };
+    return {unit(color.red()), unit(color.green()), unit(color.blue()), unit(color.alpha())};
+}
+
 }  // namespace zelto

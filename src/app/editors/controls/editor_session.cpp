@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/controls/editor_session.h"
+
+namespace zelto {
+namespace {
+
+const QUndoCommand* lastStep(const QUndoStack& history) {
+    return history.index() > 0 ? history.command(history.index() - 1) : nullptr;
+}
+
+Watermark startOf(const WatermarkController& controller, std::int32_t type) {
+    const int index = controller.CurrentWatermark();
+    return index < 0 ? WatermarkController::startingWatermark(type) : controller.GetWatermarkAtRow(index);
+}
+
+}  // namespace
+
+EditorSession::EditorSession(const EditorCall& call, QObject* parent)
+    : QObject(parent), controller_(call.controller), before_(lastStep(controller_.document().history())) {
+    connect(&controller_.document(), &WatermarkDocument::changed, this, &EditorSession::changed);
+}
+
+bool EditorSession::hasChanged() const {
+    return lastStep(controller_.document().history()) != before_;
+}
+
+void EditorSession::revert() {
+    while (hasChanged() && controller_.document().history().canUndo()) {
+        controller_.document().history().undo();
+    }
+}
+
+WatermarkSession::WatermarkSession(const EditorCall& call, std::int32_t type, QObject* parent)
+    : EditorSession(call, parent),
+      start_(startOf(call.controller, type)),
+      record_(start_),
+      isNew_(call.controller.CurrentWatermark() < 0) {}
+
+bool WatermarkSession::isInList() const {
+    return controller().CurrentWatermark() >= 0;
+}
+
+Watermark WatermarkSession::record() const {
+    return isInList() ? controller().GetWatermarkAtRow(controller().CurrentWatermark()) : record_;
+}
+
+void WatermarkSession::edit(const WatermarkEdit& edit) {
+    const Watermark before = record();
+    record_ = before;
+    edit(record_);
+    if (record_ == before) return;
+    if (isInList()) {
+        controller().UpdateWatermark(record_, step());
+    } else {
+        reflect();
+    }
+    // A new record that holds nothing yet has not touched the document.
+    if (!isInList()) Q_EMIT changed();
+}
+
+void WatermarkSession::reflect() {
+    controller().ReflectWatermark(record_, true, step());
+}
+
+void WatermarkSession::revert() {
+    record_ = start_;
+    EditorSession::revert();
+    Q_EMIT changed();
+}
+
+void WatermarkSession::finish() {
+    if (isInList()) controller().ReflectWatermark(record(), true, step());
+}
+
+}  // namespace zelto
