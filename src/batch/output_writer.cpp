@@ -2,7 +2,6 @@
 #include "batch/output_writer.h"
 
 #include "batch/file_identity.h"
-#include "batch/kept_file.h"
 #include "batch/metadata_transfer.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
@@ -12,15 +11,20 @@
 #include "platform/resample.h"
 #include "platform/whole_file.h"
 #include "render/composition.h"
+#include "render/effect_diagnostics.h"
+#include "render/photo_filters.h"
 #include "render/photo_scene.h"
 
 #include <QDir>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <utility>
 
 namespace zelto {
 namespace {
+
+Q_LOGGING_CATEGORY(outputLog, "zelto.output")
 
 constexpr qint64 BytesPerPixel = 4;
 
@@ -120,6 +124,10 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
 }
 
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
+    // Held open rather than remembered by name: its output may be about to take its place.
+    if (settings_.stack->Effects) {
+        if (Result<KeptFile> kept = KeptFile::keep(task.source)) effectPhoto_ = *std::move(kept);
+    }
     return photo.page ? addPage(*photo.page) : writeFile(task, photo);
 }
 
@@ -162,8 +170,23 @@ Result<QString> OutputWriter::finishCombinedPdf() {
     return pdf->document.finish().and_then([&] { return pdf->file.commit(path); }).map([&] { return path; });
 }
 
+// From the file once more, since keeping the pictures of every photo that might be the last would cost each run the
+// memory of one.
+Result<void> OutputWriter::writeEffectPictures(const KeptFile& photo) const {
+    const WatermarkStack& stack = *settings_.stack;
+    return readPicture(photo.path()).and_then([&](Picture read) {
+        return writeEffectDiagnostics(ApplyFilter(stack.SelectedFilter, std::move(read.image)),
+                                      *stack.Effects, true);
+    });
+}
+
 void OutputWriter::settle() {
     metadata_.settle();
+    if (const auto photo = std::exchange(effectPhoto_, std::nullopt)) {
+        // Nobody waits for these pictures: where the home folder takes none, the outputs are as good.
+        const Result<void> written = writeEffectPictures(*photo);
+        if (!written) qCInfo(outputLog, "%s", qUtf8Printable(written.error().message));
+    }
 }
 
 }  // namespace zelto

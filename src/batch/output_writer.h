@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Turns photos into their watermarked output files, or into the pages of one combined PDF: the scene is
-// composed, resized and encoded in prepare(), and written in commit(), a whole file or none.
+// composed, resized and encoded in prepare(), and written in commit(), a whole file or none. A stack with a photo
+// effect leaves that step's two pictures of the last photo in the user's home folder as well.
 #pragma once
 
 #include "batch/exiftool_pool.h"
+#include "batch/kept_file.h"
 #include "batch/metadata_queue.h"
 #include "batch/photo_processor.h"
 #include "records/copyright_metadata.h"
@@ -37,6 +39,7 @@ class OutputWriter : public PhotoProcessor {
     Result<void> commit(const PhotoTask& task, PreparedPhoto photo) override;
     // An unfinished PDF leaves no file.
     Result<QString> finishCombinedPdf() override;
+    // Writes the effect's pictures too.
     void settle() override;
 
   private:
@@ -44,6 +47,7 @@ class OutputWriter : public PhotoProcessor {
 
     Result<void> addPage(const PdfPage& page);
     Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
+    Result<void> writeEffectPictures(const KeptFile& photo) const;
 
     const Settings settings_;
     const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
@@ -51,6 +55,7 @@ class OutputWriter : public PhotoProcessor {
     MetadataQueue metadata_;  // uses exiftool_
     std::once_flag exiftoolIsExpected_;
     std::unique_ptr<CombinedPdf> combinedPdf_;
+    std::optional<KeptFile> effectPhoto_;  // the last photo that went through the effect step
 };
 
 }  // namespace zelto

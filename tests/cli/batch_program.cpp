@@ -30,7 +30,11 @@ WatermarkStack markStack() {
 }  // namespace
 
 BatchProgram::BatchProgram() {
-    EXPECT_TRUE(SaveWatermarkSettings(markStack(), path(QStringLiteral("mark.zcs"))));
+    useSetting(markStack());
+}
+
+void BatchProgram::useSetting(const WatermarkStack& stack) const {
+    EXPECT_TRUE(SaveWatermarkSettings(stack, path(QStringLiteral("mark.zcs"))));
 }
 
 QString BatchProgram::path(const QString& name) const {

@@ -2,6 +2,7 @@
 // zelto-batch with a folder of its own: photos in, a setting that leaves an unmistakable mark, and what came out.
 #pragma once
 
+#include "records/watermark_stack.h"
 #include "support/run_program.h"
 
 #include <QImage>
@@ -29,6 +30,8 @@ class BatchProgram : public ::testing::Test {
     // Whether the mark, a red square of 10 pixels, stands in the bottom right corner of a picture.
     static ::testing::AssertionResult isMarked(const QImage& picture);
 
+    // Makes another stack the setting of the runs to come.
+    void useSetting(const WatermarkStack& stack) const;
     // Runs with the setting and the output folder out/, then `arguments`.
     ProgramRun run(const QStringList& arguments, const ProgramEnvironment& environment = {}) const;
     ProgramRun runBare(const QStringList& arguments, const ProgramEnvironment& environment = {}) const;
