@@ -25,7 +25,12 @@ bool printResult(const QByteArray& text) {
 // Qt asks for a UTF-8 locale and a display, and would complain or fail in a bare environment.
 void prepareEnvironment() {
     std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
+        // Dates are still written in the language asked for, which need not be installed.
+        if (const QByteArray all = qgetenv("LC_ALL"); !all.isEmpty()) qputenv("LC_TIME", all);
+        qunsetenv("LC_ALL");
+        qputenv("LC_CTYPE", "C.UTF-8");
+    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
 }

@@ -22,6 +22,8 @@ QStringList readQrCodes(const QImage& picture) {
     zbar::ImageScanner scanner;
     scanner.set_config(zbar::ZBAR_NONE, zbar::ZBAR_CFG_ENABLE, 0);
     scanner.set_config(zbar::ZBAR_QRCODE, zbar::ZBAR_CFG_ENABLE, 1);
+    // The bytes as they are: zbar takes short texts of other scripts for Shift-JIS or Big5.
+    scanner.set_config(zbar::ZBAR_QRCODE, zbar::ZBAR_CFG_BINARY, 1);
     scanner.scan(image);
     QStringList texts;
     for (auto symbol = image.symbol_begin(); symbol != image.symbol_end(); ++symbol) {
