@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/macros/macro_controller.h"
+
+#include "app/editors/macros/auto_number_window_controller.h"
+#include "app/editors/macros/date_format_window_controller.h"
+#include "app/editors/macros/special_character_window_controller.h"
+#include "macros/macro_list.h"
+#include "platform/dates.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QThreadPool>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+// A value of several lines, or of a thousand numbers, in one line.
+QString lineOf(const QString& value) {
+    constexpr qsizetype Longest = 200;
+    const QString line = value.simplified();
+    return line.size() > Longest ? line.first(Longest) + QStringLiteral("…") : line;
+}
+
+}  // namespace
+
+MacroController::MacroController(const QString& photoPath, qint64 photoRow, Insert insert, QWidget* parent)
+    : QWidget(parent),
+      insert_(std::move(insert)),
+      rows_(new QStandardItemModel(0, 2, this)),
+      found_(new QSortFilterProxyModel(this)),
+      search_(new QLineEdit(this)),
+      list_(new QTreeView(this)),
+      insertButton_(new QPushButton(tr("&Insert Macro"), this)) {
+    layOut();
+    take({fixedMacros(), {}});
+    QThreadPool::globalInstance()->start([self = QPointer(this), photoPath, photoRow] {
+        const PhotoMacros macros =
+            macrosOfPhoto(photoPath, photoRow, QDateTime::currentDateTime(), userDateLocale());
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [self, macros] {
+                if (!self) return;
+                self->take(macros);
+                self->isComplete_ = true;
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+MacroController::MacroController(const QString& photoPath, qint64 photoRow, QPlainTextEdit& text,
+                                 QWidget* parent)
+    : MacroController(
+          photoPath, photoRow,
+          [&text](const QString& picked) {
+              text.insertPlainText(picked);
+              text.setFocus();
+          },
+          parent) {}
+
+void MacroController::layOut() {
+    rows_->setHorizontalHeaderLabels({tr("Macro"), tr("On this photo")});
+    found_->setSourceModel(rows_);
+    found_->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    found_->setFilterKeyColumn(-1);
+
+    search_->setObjectName(QStringLiteral("searchMacros"));
+    search_->setPlaceholderText(tr("Search macros and values"));
+    search_->setAccessibleName(tr("Search macros"));
+    search_->setClearButtonEnabled(true);
+    connect(search_, &QLineEdit::textChanged, this, [this](const QString& part) {
+        found_->setFilterFixedString(part);
+        if (!list_->currentIndex().isValid()) list_->setCurrentIndex(found_->index(0, 0));
+    });
+    connect(search_, &QLineEdit::returnPressed, this, &MacroController::InsertMacro);
+
+    list_->setObjectName(QStringLiteral("macros"));
+    list_->setAccessibleName(tr("Macros"));
+    list_->setModel(found_);
+    list_->setRootIsDecorated(false);
+    list_->setUniformRowHeights(true);
+    list_->setAllColumnsShowFocus(true);
+    list_->setAlternatingRowColors(true);
+    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list_->header()->setSectionsMovable(false);
+    connect(list_, &QTreeView::doubleClicked, this, &MacroController::MacrolistDoubleClicked);
+    connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& row) { insertButton_->setEnabled(row.isValid()); });
+
+    insertButton_->setObjectName(QStringLiteral("InsertMacro"));
+    insertButton_->setAutoDefault(false);
+    connect(insertButton_, &QPushButton::clicked, this, &MacroController::InsertMacro);
+    auto* characters = new QPushButton(tr("&Special Character…"), this);
+    characters->setObjectName(QStringLiteral("SpecialCharacter"));
+    characters->setAutoDefault(false);
+    connect(characters, &QPushButton::clicked, this, &MacroController::OpenSpecialCharwindow);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(insertButton_);
+    buttons->addWidget(characters);
+    buttons->addStretch();
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(search_);
+    column->addWidget(list_, 1);
+    column->addLayout(buttons);
+}
+
+void MacroController::AddMacroItem(const Macro& macro, const QString& value) {
+    macros_ += macro;
+    auto* label = new QStandardItem(macro.MacroText);
+    auto* shown = new QStandardItem(lineOf(value));
+    shown->setToolTip(value);
+    label->setToolTip(macro.MacroName);
+    rows_->appendRow({label, shown});
+}
+
+void MacroController::take(const PhotoMacros& macros) {
+    const int row = found_->mapToSource(list_->currentIndex()).row();
+    macros_.clear();
+    rows_->removeRows(0, rows_->rowCount());
+    for (qsizetype i = 0; i < macros.list.size(); ++i) {
+        AddMacroItem(macros.list[i], macros.values.value(i));
+    }
+    list_->resizeColumnToContents(0);
+    const QModelIndex kept = found_->mapFromSource(rows_->index(std::max(row, 0), 0));
+    list_->setCurrentIndex(kept.isValid() ? kept : found_->index(0, 0));
+}
+
+void MacroController::InsertMacro() {
+    choose(list_->currentIndex(), MacroGesture::InsertMacro);
+}
+
+void MacroController::MacrolistDoubleClicked(const QModelIndex& row) {
+    choose(row, MacroGesture::DoubleClick);
+}
+
+void MacroController::choose(const QModelIndex& row, MacroGesture gesture) {
+    if (!row.isValid()) return;
+    const int index = found_->mapToSource(row).row();
+    const QString token = macros_.at(index).MacroName;
+    switch (macroAction(macros_, index, gesture)) {
+        case MacroAction::InsertToken:
+            insert_(token);
+            return;
+        case MacroAction::OpenDateFormat: {
+            DateFormatWindowControlller dialog(token, QDateTime::currentDateTime(), window());
+            if (dialog.exec() == QDialog::Accepted) insert_(dialog.MacroName());
+            return;
+        }
+        case MacroAction::OpenAutoNumber: {
+            AutoNumberWindowController dialog(window());
+            if (dialog.exec() == QDialog::Accepted) insert_(dialog.MacroName());
+            return;
+        }
+    }
+}
+
+void MacroController::OpenSpecialCharwindow() {
+    SpecialCharacterWindowController dialog(window());
+    if (dialog.exec() == QDialog::Accepted) insert_(dialog.character());
+}
+
+}  // namespace zelto

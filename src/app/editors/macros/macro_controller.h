@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of macros an editor shows beside its text: each with what it prints for the selected photo, found
+// by typing a part of either, and inserted by a double click or the button below, by way of the dialog of its
+// format where it has one. Also the way to the special characters. Main thread only.
+#pragma once
+
+#include "macros/photo_macros.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+
+class QLineEdit;
+class QModelIndex;
+class QPlainTextEdit;
+class QPushButton;
+class QSortFilterProxyModel;
+class QStandardItemModel;
+class QTreeView;
+
+namespace zelto {
+
+enum class MacroGesture;
+
+class MacroController : public QWidget {
+    Q_OBJECT
+
+  public:
+    // Takes what was picked.
+    using Insert = std::function<void(const QString& text)>;
+
+    // For the photo at `photoPath` (empty for none), at `photoRow` of the photo list.
+    MacroController(const QString& photoPath, qint64 photoRow, Insert insert, QWidget* parent = nullptr);
+    // Inserts at the cursor of `text`, which outlives it.
+    MacroController(const QString& photoPath, qint64 photoRow, QPlainTextEdit& text,
+                    QWidget* parent = nullptr);
+
+    // Does what choosing the selected row does.
+    void InsertMacro();
+    void MacrolistDoubleClicked(const QModelIndex& row);
+    void OpenSpecialCharwindow();
+
+    // Whether the values of the photo are there; they are found out in the background.
+    bool isComplete() const { return isComplete_; }
+
+  private:
+    void layOut();
+    void AddMacroItem(const Macro& macro, const QString& value);
+    void take(const PhotoMacros& macros);
+    void choose(const QModelIndex& row, MacroGesture gesture);
+
+    Insert insert_;
+    QList<Macro> macros_;
+    QStandardItemModel* rows_;
+    QSortFilterProxyModel* found_;
+    QLineEdit* search_;
+    QTreeView* list_;
+    QPushButton* insertButton_;
+    bool isComplete_ = false;
+};
+
+}  // namespace zelto

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "macros/photo_macros.h"
+
+#include "macros/macro_expander.h"
+#include "macros/macro_list.h"
+#include "platform/dates.h"
+#include "platform/picture_reader.h"
+
+#include <memory>
+
+namespace zelto {
+namespace {
+
+MacroContext contextOf(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
+    MacroContext context;
+    context.photoPath = path;
+    context.row = row;
+    context.now = now;
+    context.locale = locale;
+    context.properties = std::make_shared<LazyImageProperties>(path);
+    if (const Result<Picture> photo = readPicture(path)) {
+        constexpr double PointsPerInch = 72.0;
+        context.pixelSize = photo->image.size();
+        context.pointSize = {context.pixelSize.width() * PointsPerInch / photo->dpiX,
+                             context.pixelSize.height() * PointsPerInch / photo->dpiY};
+    }
+    return context;
+}
+
+}  // namespace
+
+PhotoMacros macrosOfPhoto(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
+    PhotoMacros macros{fixedMacros(), {}};
+    if (path.isEmpty()) {
+        // Only the date of today is the same everywhere.
+        macros.values.resize(macros.list.size());
+        macros.values[1] = formatShortDate(now, locale);
+        return macros;
+    }
+    const MacroContext context = contextOf(path, row, now, locale);
+    macros.list += metadataMacros(context.properties->get());
+    const QString countByOne = GenerateAutoMacro({});
+    for (const Macro& macro : macros.list) {
+        const QString& token = macro.MacroName.isEmpty() ? countByOne : macro.MacroName;
+        macros.values += ParseMacros(token, context).text;
+    }
+    return macros;
+}
+
+}  // namespace zelto

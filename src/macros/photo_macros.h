@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The macros an editor offers for one photo, each with what it prints there. Reentrant, any thread; reads the
+// photo.
+#pragma once
+
+#include "records/macro.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+namespace zelto {
+
+struct PhotoMacros {
+    QList<Macro> list;   // the fixed rows, then the photo's EXIF and IPTC properties
+    QStringList values;  // of each row; the running number's is that of a count by one from 1
+};
+
+// `row` is the photo's place in the photo list, from 0. An empty path, for no photo, gives the fixed rows with
+// what can be told without one.
+PhotoMacros macrosOfPhoto(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale);
+
+}  // namespace zelto
