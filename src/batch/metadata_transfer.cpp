@@ -4,6 +4,7 @@
 #include "batch/kept_file.h"
 #include "batch/recorded_resolution.h"
 #include "platform/whole_file.h"
+#include "records/output_options.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,18 +44,16 @@ Result<void> runCommand(const QStringList& arguments, const QString& output, Exi
                         std::chrono::milliseconds timeout) {
     removeTemporary(output);
     const Result<QString> answer = pool.run(arguments, timeout);
-    if (!answer) {
-        removeTemporary(output);
-        return tl::unexpected(answer.error());
-    }
     // A file that already is as it should be is told "unchanged".
-    if (!answer->contains(QLatin1String("1 image files updated")) &&
-        !answer->contains(QLatin1String("1 image files unchanged"))) {
-        return fail(ErrorCode::ProgramFailed,
-                    QStringLiteral("exiftool did not write \"%1\": %2").arg(output, answer->simplified()),
-                    output);
+    if (answer && (answer->contains(QLatin1String("1 image files updated")) ||
+                   answer->contains(QLatin1String("1 image files unchanged")))) {
+        return {};
     }
-    return {};
+    removeTemporary(output);
+    if (!answer) return tl::unexpected(answer.error());
+    return fail(ErrorCode::ProgramFailed,
+                QStringLiteral("exiftool did not write \"%1\": %2").arg(output, answer->simplified()),
+                output);
 }
 
 MetadataFaults faultsOf(const MetadataRequest& request) {
@@ -71,12 +70,17 @@ Result<void> transfer(const MetadataRequest& request, ExiftoolPool& pool, std::c
     if (mend.isEmpty()) return {};
     const Result<void> mended = runCommand(mend, request.output, pool, timeout);
     if (mended) return {};
-    // Better no metadata than a position that was to be left out.
     const Result<void> restored = writeWholeFile(request.output, asWritten->read());
     return restored ? mended : restored;
 }
 
-// The same by way of a copy of the output under a name of plain characters.
+// The positions that are to be left out are in the file until the second command has run. No file of its final name
+// may hold them, not even where this program is killed in between.
+bool passesThroughPositions(const MetadataRequest& request) {
+    return request.exifDataToInclude == exif_data::ExcludeGeolocation;
+}
+
+// The same by way of a copy of the output elsewhere, under a name of plain characters.
 Result<void> transferByCopy(MetadataRequest request, ExiftoolPool& pool, std::chrono::milliseconds timeout) {
     const Result<KeptFile> asWritten = KeptFile::keep(request.output);
     if (!asWritten) return tl::unexpected(asWritten.error());
@@ -105,7 +109,8 @@ Result<void> CopyExifDataTo(const MetadataRequest& request, ExiftoolPool& pool,
         safeSource = *std::move(kept);
         told.source = safeSource->path();
     }
-    return isUnsafeOutput(told.output) ? transferByCopy(told, pool, timeout) : transfer(told, pool, timeout);
+    const bool byCopy = isUnsafeOutput(told.output) || passesThroughPositions(told);
+    return byCopy ? transferByCopy(told, pool, timeout) : transfer(told, pool, timeout);
 }
 
 }  // namespace zelto

@@ -57,13 +57,16 @@ QString BatchProgram::makeFile(const QString& name, const QByteArray& bytes) con
     return file.fileName();
 }
 
-QStringList BatchProgram::outputs() const {
-    QStringList names;
-    const QDir out(path(QStringLiteral("out")));
-    QDirIterator iterator(out.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (iterator.hasNext()) names.append(out.relativeFilePath(iterator.next()));
-    names.sort();
-    return names;
+QMap<QString, QByteArray> BatchProgram::filesBelow(const QString& folder) const {
+    QMap<QString, QByteArray> files;
+    const QDir top(path(folder));
+    QDirIterator iterator(top.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (iterator.hasNext()) {
+        QFile file(iterator.next());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        files.insert(top.relativeFilePath(file.fileName()), file.readAll());
+    }
+    return files;
 }
 
 ::testing::AssertionResult BatchProgram::isMarked(const QImage& picture) {

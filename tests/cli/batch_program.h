@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -24,8 +25,10 @@ class BatchProgram : public ::testing::Test {
     // A light grey photo at in/NAME, in the format of its extension. Returns its path.
     QString makePhoto(const QString& name, QSize size = {64, 48}) const;
     QString makeFile(const QString& name, const QByteArray& bytes) const;
+    // What lies below a folder, hidden files included, by its path in there.
+    QMap<QString, QByteArray> filesBelow(const QString& folder) const;
     // The files below out/, sorted.
-    QStringList outputs() const;
+    QStringList outputs() const { return filesBelow(QStringLiteral("out")).keys(); }
     QImage output(const QString& name) const { return QImage(path(QStringLiteral("out/") + name)); }
     // Whether the mark, a red square of 10 pixels, stands in the bottom right corner of a picture.
     static ::testing::AssertionResult isMarked(const QImage& picture);

@@ -3,7 +3,6 @@
 #include "cli/batch_program.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 
 namespace zelto {
@@ -20,20 +19,11 @@ class Shards : public BatchProgram {
     QStringList arguments(const QString& shard) const {
         return {u"--shard"_s, shard, u"--rename"_s, u"[O]_[##]"_s, path(u"in"_s)};
     }
-    QMap<QString, QByteArray> files() const {
-        QMap<QString, QByteArray> contents;
-        for (const QString& name : outputs()) {
-            QFile file(path(u"out/"_s + name));
-            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            contents.insert(name, file.readAll());
-        }
-        return contents;
-    }
 };
 
 TEST_F(Shards, TogetherWriteWhatOneRunWrites) {
     run(arguments(u"0/1"_s));
-    const auto whole = files();
+    const auto whole = filesBelow(u"out"_s);
     ASSERT_EQ(whole.size(), 7);
     QDir(path(u"out"_s)).removeRecursively();
     QStringList indices;
@@ -47,7 +37,30 @@ TEST_F(Shards, TogetherWriteWhatOneRunWrites) {
         indices.append(own.join(u','));
     }
     EXPECT_EQ(indices, QStringList({u"0,3,6"_s, u"1,4,7"_s, u"2,5"_s}));
-    EXPECT_EQ(files(), whole);
+    EXPECT_EQ(filesBelow(u"out"_s), whole);
+}
+
+TEST_F(Shards, RunUnderGnuParallelAsTheExampleSays) {
+    const QString odd = path(u"it's $HOME; \"the\" folder"_s);
+    ASSERT_TRUE(QDir().rename(path(u"in"_s), odd));
+    const QStringList options = {u"--rename"_s, u"[O] & [##]"_s};
+    run(options + QStringList(odd));
+    const auto whole = filesBelow(u"out"_s);
+    ASSERT_EQ(whole.size(), 7);
+
+    const QString script = QStringLiteral(ZELTO_EXAMPLES "/many-machines/gnu-parallel.sh");
+    ProgramEnvironment environment = {{u"ZELTO_BATCH"_s, program()}, {u"SHARDS"_s, u"3"_s}};
+    const QStringList arguments =
+        QStringList{path(u"mark.zcs"_s), path(u"sharded"_s), odd, u"--"_s, u"--json"_s} + options;
+    const auto shardsRun = [&] {
+        const ProgramRun result = runProgram(script, arguments, environment);
+        EXPECT_EQ(result.exitStatus, 1) << "one shard has a damaged photo: " << result.errors.toStdString();
+        EXPECT_EQ(filesBelow(u"sharded"_s), whole);
+        return result.output.count("\"version\"");
+    };
+    EXPECT_EQ(shardsRun(), 3);
+    environment.insert(u"RESUME"_s, u"1"_s);
+    EXPECT_EQ(shardsRun(), 1);
 }
 
 TEST_F(Shards, AreToldByTheEnvironment) {

@@ -4,6 +4,10 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <cerrno>
 #include <csignal>
 
 namespace zelto {
@@ -49,6 +53,16 @@ ProgramRun runAndSignal(const QString& program, const QStringList& arguments, in
     }
     if (process.state() == QProcess::Running) kill(static_cast<pid_t>(process.processId()), signal);
     return finished(process, errors);
+}
+
+void runAndKill(const QString& program, const QStringList& arguments, int milliseconds) {
+    prctl(PR_SET_CHILD_SUBREAPER, 1);  // what the program leaves behind becomes a child of this one
+    QProcess process;
+    start(process, program, arguments);
+    if (!process.waitForFinished(milliseconds)) process.kill();
+    process.waitForFinished(Patience);
+    while (waitpid(-1, nullptr, 0) > 0 || errno == EINTR) {
+    }
 }
 
 }  // namespace zelto

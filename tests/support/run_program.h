@@ -24,4 +24,8 @@ ProgramRun runProgram(const QString& program, const QStringList& arguments,
 // The same, sending the program `signal` once `lines` lines have come on its standard error.
 ProgramRun runAndSignal(const QString& program, const QStringList& arguments, int lines, int signal);
 
+// Runs the program, kills it after so many milliseconds where it has not ended, and returns when everything it has
+// started has ended too.
+void runAndKill(const QString& program, const QStringList& arguments, int milliseconds);
+
 }  // namespace zelto
