@@ -29,7 +29,8 @@ QByteArray tipsDocument() {
 
 AppDelegate::AppDelegate(DialogSet dialogs, EditorSet editors)
     : dialogs_(std::move(dialogs)),
-      window_(std::make_unique<MainWindow>(shared_, dialogs_, std::move(editors))) {}
+      window_(std::make_unique<MainWindow>(shared_, dialogs_, std::move(editors))),
+      run_(*window_, shared_) {}
 
 void AppDelegate::start(const StartRequest& request) {
     const Result<void> folder = shared_.findSettingDirectory();

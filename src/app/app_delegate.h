@@ -6,6 +6,7 @@
 #include "app/editors/editor_set.h"
 #include "app/main_window.h"
 #include "app/my_global_instance.h"
+#include "app/run/run_controller.h"
 
 #include <QString>
 #include <QStringList>
@@ -40,6 +41,7 @@ class AppDelegate {
     MyGlobalInstance shared_;
     DialogSet dialogs_;
     std::unique_ptr<MainWindow> window_;
+    RunController run_;
 };
 
 }  // namespace zelto

@@ -25,6 +25,7 @@ class ImageListController : public QObject {
     explicit ImageListController(QUndoStack& history, QObject* parent = nullptr);
 
     PhotoListModel& model() { return model_; }
+    const PhotoListModel& model() const { return model_; }
     // Which rows are selected; the current one is the photo on the preview.
     QItemSelectionModel& selection() { return selection_; }
 

@@ -262,6 +262,7 @@ void MainWindow::EnableDisableWatermarkControls() {
     middle_->setCurrentIndex(hasPhotos ? 1 : 0);
     photoList_->setEnabled(!isRunning_);
     watermarkPanel_->setEnabled(!isRunning_);
+    previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());
     redo_->setEnabled(!isRunning_ && document_.history().canRedo());
     showStatus();

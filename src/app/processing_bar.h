@@ -10,6 +10,8 @@
 
 namespace zelto {
 
+class ElidedLabel;
+
 class ProcessingBar : public QWidget {
     Q_OBJECT
 
@@ -18,7 +20,11 @@ class ProcessingBar : public QWidget {
 
     // Progress counts the rows of the list that have had their turn.
     void begin(int rows);
-    void setProgress(int done, const QString& photo);
+    void setProgress(int done);
+    // The photo in hand; shortened where there is no room for its name.
+    void setPhoto(const QString& name);
+    // How fast it goes, or why it does not.
+    void setPace(const QString& pace);
     // Whether the first button resumes a paused run or pauses a running one.
     void setPaused(bool paused);
 
@@ -27,8 +33,9 @@ class ProcessingBar : public QWidget {
     QProgressBar* ProcessingIndicator() const { return progress_; }
 
   private:
-    QLabel* photo_;
+    ElidedLabel* photo_;
     QProgressBar* progress_;
+    QLabel* pace_;
     QPushButton* pause_;
     QPushButton* cancel_;
 };

@@ -12,13 +12,9 @@
 namespace zelto {
 namespace {
 
-using Seconds = std::chrono::duration<double>;
-
 constexpr auto RedrawInterval = std::chrono::milliseconds(100);
 constexpr int DefaultColumns = 80;
 constexpr qsizetype LongestBar = 40;
-// From here on a rate is more than noise.
-constexpr qint64 PhotosForARate = 2;
 
 bool isTerminal() {
     return isatty(STDERR_FILENO) == 1 && qgetenv("TERM") != "dumb" && !qEnvironmentVariableIsEmpty("TERM");
@@ -35,18 +31,6 @@ void print(const QString& text) {
     std::fflush(stderr);
 }
 
-// 0:04, 12:30, 1:02:03
-QString clockTime(double seconds) {
-    const auto whole = static_cast<qint64>(seconds + 0.5);
-    const auto twoDigits = [](qint64 number) {
-        return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-    };
-    const QString minutes =
-        whole < 3600 ? QString::number(whole / 60)
-                     : QString::number(whole / 3600) + QLatin1Char(':') + twoDigits(whole / 60 % 60);
-    return minutes + QLatin1Char(':') + twoDigits(whole % 60);
-}
-
 }  // namespace
 
 Console::Console(const ConsoleChoices& choices)
@@ -57,18 +41,17 @@ Console::Console(const ConsoleChoices& choices)
 
 void Console::begin(qint64 total) {
     const std::lock_guard lock(mutex_);
-    start_ = Clock::now();
-    total_ = total;
+    pace_.begin(total);
     if (bar_) drawBar();
 }
 
 void Console::advance(const QString& line) {
     const std::lock_guard lock(mutex_);
-    ++done_;
+    pace_.advance();
     if (bar_) {
-        if (done_ == total_ || Clock::now() - drawn_ >= RedrawInterval) drawBar();
+        if (pace_.done() == pace_.total() || Clock::now() - drawn_ >= RedrawInterval) drawBar();
     } else if (!quiet_ && !line.isEmpty()) {
-        print(QStringLiteral("[%1/%2] %3\n").arg(done_).arg(total_).arg(line));
+        print(QStringLiteral("[%1/%2] %3\n").arg(pace_.done()).arg(pace_.total()).arg(line));
     }
 }
 
@@ -77,7 +60,7 @@ void Console::problem(const QString& text) {
     clearBar();
     print((color_ ? QStringLiteral("\x1b[1;31mzelto-batch:\x1b[0m ") : QStringLiteral("zelto-batch: ")) +
           text + QLatin1Char('\n'));
-    if (bar_ && total_ > 0) drawBar();
+    if (bar_ && pace_.total() > 0) drawBar();
 }
 
 void Console::note(const QString& text) {
@@ -85,28 +68,24 @@ void Console::note(const QString& text) {
     const std::lock_guard lock(mutex_);
     clearBar();
     print(QStringLiteral("zelto-batch: ") + text + QLatin1Char('\n'));
-    if (bar_ && total_ > 0) drawBar();
+    if (bar_ && pace_.total() > 0) drawBar();
 }
 
 void Console::end() {
     const std::lock_guard lock(mutex_);
     clearBar();
-    total_ = 0;
+    pace_.begin(0);
 }
 
 QString Console::bar() const {
-    QString text = QStringLiteral(" %1/%2").arg(done_).arg(total_);
-    const double elapsed = Seconds(Clock::now() - start_).count();
-    if (done_ >= PhotosForARate && elapsed > 0) {
-        const double rate = static_cast<double>(done_) / elapsed;
-        text += QStringLiteral("  %1 photos/s  %2 left")
-                    .arg(rate, 0, 'f', rate < 10 ? 1 : 0)
-                    .arg(clockTime(static_cast<double>(total_ - done_) / rate));
+    QString text = QStringLiteral(" %1/%2").arg(pace_.done()).arg(pace_.total());
+    if (const auto figures = pace_.figures()) {
+        text += QStringLiteral("  %1 photos/s  %2 left").arg(figures->rate(), figures->timeLeft());
     }
     // The last column stays free: filling it would wrap the line on some terminals.
     const qsizetype width = std::min<qsizetype>(LongestBar, columns() - 3 - text.size());
     if (width < 4) return text.trimmed().left(columns() - 1);
-    const qsizetype filled = total_ > 0 ? width * done_ / total_ : width;
+    const qsizetype filled = pace_.total() > 0 ? width * pace_.done() / pace_.total() : width;
     const QString full = QString(filled, QLatin1Char('#'));
     const QString rest = QString(width - filled, QLatin1Char('.'));
     return QLatin1Char('[') +

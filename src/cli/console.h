@@ -3,6 +3,8 @@
 // Everything here goes to standard error. Any thread.
 #pragma once
 
+#include "batch/run_pace.h"
+
 #include <QString>
 
 #include <chrono>
@@ -33,7 +35,7 @@ class Console {
     void end();
 
   private:
-    using Clock = std::chrono::steady_clock;
+    using Clock = RunPace::Clock;
 
     QString bar() const;
     void drawBar();
@@ -45,10 +47,8 @@ class Console {
     const bool bar_;
 
     std::mutex mutex_;  // guards everything below and the terminal's line
-    Clock::time_point start_ = Clock::now();
+    RunPace pace_;
     Clock::time_point drawn_;
-    qint64 done_ = 0;
-    qint64 total_ = 0;
     bool shown_ = false;
 };
 

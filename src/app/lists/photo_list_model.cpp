@@ -3,6 +3,7 @@
 
 #include "batch/path_parts.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zelto {
@@ -114,8 +115,19 @@ void PhotoListModel::markUnprocessed() {
 }
 
 void PhotoListModel::setOutcome(int row, PhotoStatus status, const QString& errorMessage) {
-    list_.setOutcome(static_cast<std::size_t>(row), status, errorMessage);
-    Q_EMIT dataChanged(index(row), index(row));
+    setOutcomes({{row, status, errorMessage}});
+}
+
+// Views are told once, of all rows between the first and the last.
+void PhotoListModel::setOutcomes(const std::vector<RowOutcome>& outcomes) {
+    if (outcomes.empty()) return;
+    for (const RowOutcome& each : outcomes) {
+        list_.setOutcome(static_cast<std::size_t>(each.row), each.status, each.errorMessage);
+    }
+    const auto [first, last] =
+        std::minmax_element(outcomes.begin(), outcomes.end(),
+                            [](const RowOutcome& a, const RowOutcome& b) { return a.row < b.row; });
+    Q_EMIT dataChanged(index(first->row), index(last->row));
 }
 
 void PhotoListModel::announceAll() {

@@ -6,10 +6,18 @@
 #include "batch/image_list.h"
 
 #include <QAbstractListModel>
+#include <QString>
 
 #include <vector>
 
 namespace zelto {
+
+// How a run left the photo of a row.
+struct RowOutcome {
+    int row = 0;
+    PhotoStatus status = PhotoStatus::NotProcessed;
+    QString errorMessage;
+};
 
 class PhotoListModel : public QAbstractListModel {
     Q_OBJECT
@@ -34,6 +42,7 @@ class PhotoListModel : public QAbstractListModel {
     // See ImageList.
     void markUnprocessed();
     void setOutcome(int row, PhotoStatus status, const QString& errorMessage);
+    void setOutcomes(const std::vector<RowOutcome>& outcomes);
 
   private:
     void announceAll();

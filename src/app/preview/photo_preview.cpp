@@ -4,6 +4,7 @@
 #include "app/image_list_controller.h"
 #include "app/preview/region_composer.h"
 #include "app/watermark_controller.h"
+#include "platform/dates.h"
 #include "render/effect_diagnostics.h"
 
 #include <QLoggingCategory>
@@ -73,6 +74,7 @@ PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
     request.listSize = photos_.count();
     request.final = final;
     request.now = QDateTime::currentDateTime();
+    request.locale = userDateLocale();
     request.stack = document_.snapshot();
     request.logos = logos_;
     return request;

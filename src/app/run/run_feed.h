@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Brings what a run tells on its own thread to the main thread: gathered, and a few times a second at most, so that
+// the window keeps up with any number of photos. What the user has to see at once, a question or the end, is not
+// held back. Lives on the main thread; the observer's functions are called by the run.
+#pragma once
+
+#include "batch/batch_observer.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace zelto {
+
+// What has happened since it was last told.
+struct RunNews {
+    std::vector<PhotoOutcome> outcomes;  // in the order they came about
+    std::optional<qint64> photoInHand;   // its row
+    std::optional<qint64> done;          // rows that have had their turn
+    bool asks = false;                   // three photos in a row failed
+    std::optional<QString> pdfFailure;   // why the combined PDF could not be written
+    std::optional<RunReport> report;     // the worker has ended
+};
+
+class RunFeed : public QObject, public BatchObserver {
+    Q_OBJECT
+
+  public:
+    explicit RunFeed(QObject* parent = nullptr);
+
+    void runStarted(bool resumed) override;
+    void photoStarted(qint64 row) override;
+    void photoFinished(const PhotoOutcome& outcome) override;
+    void progressed(qint64 done) override;
+    void successiveFail() override;
+    void combinedPdfFailed(const QString& reason) override;
+    void runEnded(const RunReport& report) override;
+
+  Q_SIGNALS:
+    void arrived(const zelto::RunNews& news);
+
+  private:
+    enum class Pending { Nothing, News, UrgentNews };
+
+    template <class Change>
+    void note(Pending urgency, Change change);
+    void schedule();
+    void deliver();
+
+    std::mutex mutex_;  // guards the next two
+    RunNews news_;
+    Pending pending_ = Pending::Nothing;
+
+    QTimer due_;
+    QElapsedTimer sinceDelivery_;
+};
+
+}  // namespace zelto

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/run/run_plan.h"
+
+#include "app/image_list_controller.h"
+#include "app/watermark_document.h"
+#include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
+#include "platform/dates.h"
+#include "platform/preferences.h"
+
+#include <QLoggingCategory>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(runLog, "zelto.run")
+
+void saveLastWatermark(const WatermarkStack& stack, const QString& folder) {
+    const Result<void> saved =
+        SettingsLibrary(folder).path(LastWatermarkSetting).and_then([&](const QString& path) {
+            return SaveWatermarkSettings(stack, path);
+        });
+    if (!saved) qCWarning(runLog, "%s", qUtf8Printable(saved.error().message));
+}
+
+}  // namespace
+
+qint64 RunPlan::photosFrom(qint64 row) const {
+    return std::count_if(request.photos.begin() + row, request.photos.end(),
+                         [](const BatchPhoto& photo) { return photo.checked; });
+}
+
+RunPlan planRun(const ImageListController& photos, const WatermarkDocument& document,
+                const OutputOptions& options, const QString& settingsFolder) {
+    RunPlan plan;
+    for (const Image& photo : photos.images()) {
+        plan.request.photos.push_back({photo.ImagePath, photo.ApplyWatermark});
+    }
+    plan.request.options = options;
+    plan.request.folders = photos.model().list().InputOutputDictionary();
+    const auto stack = document.snapshot();
+    plan.request.saveLastWatermark = [stack, settingsFolder] { saveLastWatermark(*stack, settingsFolder); };
+    plan.request.storeLastAutoNumber = [](qint64 number) {
+        setPreference(preference::LastAutoNumber, number);
+    };
+    plan.writing = {options, stack, userDateLocale(), document.state().Metadata, plan.request.limits.jobs};
+    return plan;
+}
+
+}  // namespace zelto
