@@ -5,7 +5,6 @@
 
 #include <QImage>
 
-
 namespace zelto {
 
 // Makes every pixel transparent whose colour is exactly (red, green, blue), components between 0 and 1. The

@@ -5,12 +5,12 @@
 // ends early counts as damaged: no half picture is ever returned. All functions may be called on any thread.
 #pragma once
 
+#include "platform/result.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <QString>
-
-#include "platform/result.h"
 
 namespace zelto {
 

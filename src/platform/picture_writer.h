@@ -3,12 +3,13 @@
 // have no transparency: such a picture stands on white there. No profile is embedded. Any thread.
 #pragma once
 
+#include "platform/result.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QStringView>
-#include <optional>
 
-#include "platform/result.h"
+#include <optional>
 
 namespace zelto {
 

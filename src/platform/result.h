@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+
 #include <tl/expected.hpp>
 
 namespace zelto {
