@@ -72,6 +72,35 @@ struct Group {
     }
 
     QTransform fromPicture() const { return QTransform::fromTranslate(-pixels.x(), -pixels.y()); }
+
+    // Leaves out what is transparent and has nothing drawn on it within `reach` pixels.
+    void tighten(int reach) {
+        const QRect ink = inkBox().adjusted(-reach, -reach, reach, reach).intersected(image.rect());
+        image = image.copy(ink);
+        pixels = ink.translated(pixels.topLeft());
+    }
+
+  private:
+    QRect inkBox() const {
+        int top = image.height();
+        int bottom = -1;
+        int left = image.width();
+        int right = -1;
+        const auto isInk = [](QRgb pixel) { return pixel != 0; };
+        for (int y = 0; y < image.height(); ++y) {
+            const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+            const auto* const end = row + image.width();
+            const auto* const first = std::find_if(row, end, isInk);
+            if (first == end) continue;
+            top = std::min(top, y);
+            bottom = y;
+            left = std::min(left, static_cast<int>(first - row));
+            const auto* last = end;
+            while (last - row > right + 1 && !isInk(*(last - 1))) --last;
+            right = std::max(right, static_cast<int>(last - row) - 1);
+        }
+        return {QPoint(left, top), QPoint(right, bottom)};
+    }
 };
 
 void drawLabelText(QPainter& painter, const TextBlock& block, const QTransform& toDevice,
@@ -97,6 +126,8 @@ void drawLabelGroup(QPainter& painter, const TextBlock& block, const ContentPlac
         QPainter ink(&group.image);
         drawLabelText(ink, block, place.toPicture * group.fromPicture(), group.image.rect());
     }
+    group.tighten(reach);
+    if (group.image.isNull()) return;
     group.image = imageWithOpacity(std::move(group.image), block.attributes.foreground.Alpha);
     if (block.attributes.shadow) {
         Color color = *block.attributes.shadow;

@@ -13,18 +13,21 @@ namespace {
 
 constexpr int Channels = 4;
 
+// Holds the sum of as many rows as the most halvings put together.
+using ColumnSum = std::uint16_t;
+
 // One row of the halved picture from the rows of `part` it stands for. `sums` has room for a row of the part.
 void halveRow(QRgb* out, const QImage& picture, const QRect& part, int row, int times,
-              std::vector<std::uint32_t>& sums) {
+              std::vector<ColumnSum>& sums) {
     const int block = 1 << times;
     const int first = part.top() + row * block;
     const int rows = std::min(block, part.top() + part.height() - first);
     const int bytes = part.width() * Channels;
     std::fill(sums.begin(), sums.end(), 0);
-    std::uint32_t* sum = sums.data();
+    ColumnSum* sum = sums.data();
     for (int y = first; y < first + rows; ++y) {
         const uchar* in = picture.constScanLine(y) + static_cast<std::ptrdiff_t>(part.left()) * Channels;
-        for (int i = 0; i < bytes; ++i) sum[i] += in[i];
+        for (int i = 0; i < bytes; ++i) sum[i] = static_cast<ColumnSum>(sum[i] + in[i]);
     }
     auto* target = reinterpret_cast<uchar*>(out);
     for (int left = 0; left < part.width(); left += block) {
@@ -56,7 +59,7 @@ void halveInto(QImage& target, int firstRow, const QImage& picture, const QRect&
     uchar* const pixels = target.scanLine(firstRow);
     const auto stride = static_cast<std::ptrdiff_t>(target.bytesPerLine());
     parallelRows(rows, part.width() << times, [&](int first, int end) {
-        std::vector<std::uint32_t> sums(static_cast<std::size_t>(part.width()) * Channels);
+        std::vector<ColumnSum> sums(static_cast<std::size_t>(part.width()) * Channels);
         for (int row = first; row < end; ++row) {
             halveRow(reinterpret_cast<QRgb*>(pixels + row * stride), picture, part, row, times, sums);
         }

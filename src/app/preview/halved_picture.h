@@ -10,7 +10,10 @@
 
 namespace zelto {
 
-// The size of a picture halved `times` (up to 9), incomplete squares at the right and the bottom included.
+// The most a picture is halved.
+inline constexpr int MaximumHalvings = 8;
+
+// The size of a picture halved `times`, incomplete squares at the right and the bottom included.
 QSize halvedSize(QSize size, int times);
 
 // `part` of the picture, halved.

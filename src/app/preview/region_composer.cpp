@@ -16,6 +16,7 @@ namespace {
 // Rows composed at a time where the result is scaled down: enough to draw each layer only a few times, few
 // enough that what was composed is still in the cache when it is scaled.
 constexpr int BandRows = 512;
+static_assert(BandRows % (1 << MaximumHalvings) == 0);
 
 // How far a layer's content may reach beyond its frame, in pixels.
 double overhang(const WatermarkView& layer) {
@@ -77,7 +78,7 @@ QImage composeHalved(const PhotoScene& scene, const WatermarkStack& stack, const
 
 int halvingsFor(double scale) {
     int times = 0;
-    while (scale <= 0.5 && (BandRows >> (times + 1)) > 0) {
+    while (scale <= 0.5 && times < MaximumHalvings) {
         scale *= 2.0;
         ++times;
     }
