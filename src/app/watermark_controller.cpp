@@ -4,7 +4,6 @@
 #include "app/image_list_controller.h"
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
-#include "platform/application_folders.h"
 
 #include <QLoggingCategory>
 #include <QtMath>
@@ -181,12 +180,25 @@ void WatermarkController::MakeWatermarkChanges() {
     Q_EMIT rebuildLayers();
 }
 
-void WatermarkController::AddFilter(int number) {
+void WatermarkController::AddFilter(int number, const QString& step) {
     if (number == 0) return;
-    document_.change(tr("Choose Filter"), [number](StackState& state) {
-        state.SelectedFilter = number;
-        state.Stack.SelectedFilter = number;
-    });
+    document_.change(
+        tr("Choose Filter"),
+        [number](StackState& state) {
+            state.SelectedFilter = number;
+            state.Stack.SelectedFilter = number;
+        },
+        mergeKey(step));
+}
+
+void WatermarkController::removeFilter(const QString& step) {
+    document_.change(
+        tr("Remove Filter"),
+        [](StackState& state) {
+            state.SelectedFilter = 0;
+            state.Stack.SelectedFilter = 0;
+        },
+        mergeKey(step));
 }
 
 void WatermarkController::MakeFilterImage(int number) {
@@ -237,10 +249,7 @@ void WatermarkController::RemoveWatermark(int row) {
     if (row < 0 || row >= model_.rowCount()) return;
     switch (model_.kindOf(row)) {
         case WatermarkListModel::RowKind::Filter:
-            document_.change(tr("Remove Filter"), [](StackState& state) {
-                state.SelectedFilter = 0;
-                state.Stack.SelectedFilter = 0;
-            });
+            removeFilter();
             return;
         case WatermarkListModel::RowKind::Metadata:
             document_.change(tr("Remove Copyright"), [](StackState& state) { state.Metadata.reset(); });
@@ -313,9 +322,8 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
     std::optional<CopyRightMetaData> metadata;
     if (stack->Metadata) {
         metadata.emplace().Enabled = true;
-        const Result<void> read = applicationFolder(ZeltoFolder).and_then([&metadata](const QString& folder) {
-            return LoadMetadata(*metadata, folder + CopyrightFileName);
-        });
+        const Result<void> read = copyrightFilePath().and_then(
+            [&metadata](const QString& file) { return LoadMetadata(*metadata, file); });
         if (!read) qCWarning(watermarks, "%s", qUtf8Printable(read.error().message));
     }
     replaceStack(*stack, metadata, tr("Load Setting"));

@@ -72,7 +72,9 @@ class WatermarkController : public QObject {
     void MakeWatermarkChanges();
 
     // Chooses and applies a photo filter; 0 does nothing.
-    void AddFilter(int number);
+    void AddFilter(int number, const QString& step = {});
+    // Takes the filter and its row away.
+    void removeFilter(const QString& step = {});
     // Shows the selected photo with filter `number`, 0 for none.
     void MakeFilterImage(int number);
     void AddEffects(const std::optional<PhotoEffects>& effects, const QString& step = {});

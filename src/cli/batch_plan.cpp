@@ -106,9 +106,9 @@ Result<std::optional<CopyRightMetaData>> copyrightData(const CommandLine& line, 
     if (!named && !stack.Metadata) return std::nullopt;
     QString path = line.copyrightFile;
     if (!named) {
-        const Result<QString> folder = applicationFolder(ZeltoFolder);
-        if (!folder) return std::nullopt;
-        path = *folder + CopyrightFileName;
+        const Result<QString> own = copyrightFilePath();
+        if (!own) return std::nullopt;
+        path = *own;
     }
     if (!QFileInfo(path).isFile()) {
         if (!named) return std::nullopt;

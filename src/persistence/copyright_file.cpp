@@ -2,6 +2,7 @@
 #include "persistence/copyright_file.h"
 
 #include "persistence/xml_document.h"
+#include "platform/application_folders.h"
 #include "platform/whole_file.h"
 
 #include <array>
@@ -36,6 +37,12 @@ constexpr std::array<TextField, 14> TextFields = {{
 }};
 
 }  // namespace
+
+Result<QString> copyrightFilePath() {
+    return applicationFolder(ZeltoFolder).map([](const QString& folder) {
+        return folder + CopyrightFileName;
+    });
+}
 
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path) {
     return writeWholeFile(path, writeXml(RootName, [&metadata](QXmlStreamWriter& writer) {

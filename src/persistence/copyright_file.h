@@ -11,6 +11,9 @@ namespace zelto {
 
 inline constexpr QLatin1String CopyrightFileName("Copyright.xml");
 
+// Where the user's own file lies; its folder is made where it is missing.
+Result<QString> copyrightFilePath();
+
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path);
 
 // Fills `metadata` from the file at `path`; leaves it as it is where there is no such file. Error:

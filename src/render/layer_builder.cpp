@@ -9,7 +9,6 @@
 #include "render/text_block.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace zelto {
@@ -35,13 +34,6 @@ Content shapeContent(const Watermark& record, QSizeF reference) {
     QImage picture = GetShapeImage(record, reference);
     const QSizeF size = picture.size();
     return pictureContent(std::move(picture), size);
-}
-
-// The side of a QR code on the photo; 0 where the record gives it none.
-double qrSide(const Watermark& record, QSizeF reference) {
-    double side = record.ResizeWidth;
-    if (record.ResizeFormat == 0) side = record.ResizebyWidth ? side * reference.width() : 0.0;
-    return side > 0.0 && std::isfinite(side) ? side : 0.0;
 }
 
 Content qrContent(const Watermark& record, const QString& text, QSizeF reference) {

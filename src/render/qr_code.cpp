@@ -44,6 +44,12 @@ void drawQRCode(const QrSymbol& symbol, QPainter& painter, double size) {
     painter.fillPath(path, Qt::black);
 }
 
+double qrSide(const Watermark& record, QSizeF reference) {
+    double side = record.ResizeWidth;
+    if (record.ResizeFormat == 0) side = record.ResizebyWidth ? side * reference.width() : 0.0;
+    return side > 0.0 && std::isfinite(side) ? side : 0.0;
+}
+
 QImage qrImageForString(const QString& text, double side, const std::optional<Color>& background) {
     side = withoutDust(side);
     if (canvasSide(side) == 0) return {};

@@ -3,10 +3,11 @@
 // libqrencode's work, which guards its own tables. Reentrant, any thread.
 #pragma once
 
-#include "records/color.h"
+#include "records/watermark.h"
 
 #include <QByteArray>
 #include <QImage>
+#include <QSizeF>
 #include <QString>
 
 #include <optional>
@@ -28,6 +29,10 @@ std::optional<QrSymbol> encodeQrSymbol(const QString& text);
 // Draws the dark modules in black as squares of as many whole units as fit `width` times into `size`, what is
 // left over shared by both sides. The painter's y grows downward.
 void drawQRCode(const QrSymbol& symbol, QPainter& painter, double size);
+
+// The side in pixels of a record's code on photos whose reference area is `reference`; 0 where the record gives
+// it none.
+double qrSide(const Watermark& record, QSizeF reference);
 
 // The square picture of `text`, `side` pixels wide or as wide as the symbol has modules where that is more,
 // always whole pixels. A twentieth of `side` stays free on every side. A null picture for an empty text, one

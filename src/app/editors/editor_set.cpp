@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/editor_set.h"
 
+#include "app/editors/copyright_editor.h"
+#include "app/editors/effects_editor.h"
+#include "app/editors/filter_window.h"
+#include "app/editors/qr_code_editor.h"
+#include "app/editors/shape_editor.h"
+
 namespace zelto {
 
 EditorSet standardEditors() {
-    return {};
+    return {
+        {EditorKind::Shape, editShape},         {EditorKind::QrCode, editQrCode},
+        {EditorKind::Filter, chooseFilter},     {EditorKind::Effects, editEffects},
+        {EditorKind::Copyright, editCopyright},
+    };
 }
 
 }  // namespace zelto

@@ -1,36 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/editor_dialog.h"
 
-#include "platform/preferences.h"
-
 #include <QDialogButtonBox>
-#include <QShowEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 namespace zelto {
 
 EditorDialog::EditorDialog(const EditorCall& call, EditorSession& session, const QString& name,
                            const QString& title)
-    : QDialog(call.parent), session_(session) {
-    setObjectName(name);
-    setWindowTitle(title);
-    auto* buttons = new QDialogButtonBox(this);
-    revert_ = buttons->addButton(tr("&Revert"), QDialogButtonBox::ResetRole);
-    revert_->setObjectName(QStringLiteral("Revert"));
-    revert_->setToolTip(tr("Take back everything that was changed since this window was opened"));
-    revert_->setAutoDefault(false);
-    QPushButton* close = buttons->addButton(QDialogButtonBox::Close);
-    close->setDefault(true);
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::accept);
-    connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    connect(revert_, &QPushButton::clicked, this, [this] { session_.revert(); });
+    : RememberedDialog(name, title, call.parent), session_(session) {
     connect(&session_, &EditorSession::changed, this, &EditorDialog::reload);
 }
 
+// The buttons come last, so that Tab reaches them last.
 void EditorDialog::setContent(QWidget* content) {
-    static_cast<QVBoxLayout*>(layout())->insertWidget(0, content, 1);
+    auto* buttons = new QDialogButtonBox(this);
+    revert_ = buttons->addButton(tr("Re&vert"), QDialogButtonBox::ResetRole);
+    revert_->setObjectName(QStringLiteral("Revert"));
+    revert_->setToolTip(tr("Take back everything that was changed since this window was opened"));
+    revert_->setAutoDefault(false);
+    buttons->addButton(QDialogButtonBox::Close)->setDefault(true);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(content, 1);
+    column->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::accept);
+    connect(revert_, &QPushButton::clicked, &session_, &EditorSession::revert);
 }
 
 void EditorDialog::run() {
@@ -39,8 +34,7 @@ void EditorDialog::run() {
 }
 
 void EditorDialog::done(int result) {
-    keepPlace();
-    QDialog::done(result);
+    RememberedDialog::done(result);
     disconnect(&session_, nullptr, this, nullptr);
     session_.finish();
 }
@@ -50,33 +44,14 @@ void EditorDialog::reload() {
     revert_->setEnabled(session_.hasChanged());
 }
 
-void EditorDialog::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) place();
-    QDialog::showEvent(event);
-}
-
-// Where it was last time; the first time at the right edge of the window, which leaves most of the photo free.
-void EditorDialog::place() {
-    const QVariantMap places = storedPreference(preference::EditorPlaces).value_or(QVariantMap());
-    if (restoreGeometry(places.value(objectName()).toByteArray())) return;
-    adjustSize();
-    if (parentWidget() == nullptr) return;
-    constexpr int Margin = 16;
-    const QWidget* window = parentWidget()->window();
-    const QRect frame = window->frameGeometry();
-    move(frame.right() - width() - Margin, window->mapToGlobal(QPoint(0, 4 * Margin)).y());
-}
-
-void EditorDialog::keepPlace() const {
-    QVariantMap places = storedPreference(preference::EditorPlaces).value_or(QVariantMap());
-    places.insert(objectName(), saveGeometry());
-    setPreference(preference::EditorPlaces, places);
-}
-
 void addRow(QFormLayout& form, const QString& label, QWidget* control) {
-    form.addRow(label, control);
+    auto* shown = new QLabel(label, control->parentWidget());
+    shown->setBuddy(control);
+    shown->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);  // in the middle of tall rows
+    form.addRow(shown, control);
     if (!control->accessibleName().isEmpty()) return;
-    control->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    QString name = label;
+    control->setAccessibleName(name.remove(QLatin1Char('&')).remove(QLatin1Char(':')));
 }
 
 }  // namespace zelto

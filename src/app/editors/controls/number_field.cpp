@@ -13,15 +13,20 @@ namespace zelto {
 
 NumberField::NumberField(const NumberKind& kind, QWidget* parent)
     : QDoubleSpinBox(parent), hint_(new InputHint(this)) {
+    setAccelerated(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setKind(kind);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberField::showProblem);
+}
+
+void NumberField::setKind(const NumberKind& kind) {
+    if (suffix() == kind.unit && maximum() == kind.largest) return;
+    const QSignalBlocker quiet(this);
     setDecimals(kind.decimals);
     setRange(kind.smallest, kind.largest);
     setSingleStep(kind.step);
     setSuffix(QString(kind.unit));
-    setAccelerated(true);
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     range_ = tr("A number from %1 to %2").arg(textFromValue(kind.smallest), textFromValue(kind.largest));
-    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberField::showProblem);
 }
 
 void NumberField::load(double value) {
@@ -39,6 +44,14 @@ QString NumberField::problem() const {
 
 QValidator::State NumberField::validate(QString& text, int& position) const {
     return std::max(QDoubleSpinBox::validate(text, position), QValidator::Intermediate);
+}
+
+void NumberField::fixup(QString& text) const {
+    if (emptyValue_ && cleanText().isEmpty()) {
+        text = textFromValue(*emptyValue_) + suffix();
+    } else {
+        QDoubleSpinBox::fixup(text);
+    }
 }
 
 void NumberField::showProblem() {

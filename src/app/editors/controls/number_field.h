@@ -6,6 +6,8 @@
 #include <QDoubleSpinBox>
 #include <QLatin1String>
 
+#include <optional>
+
 namespace zelto {
 
 class InputHint;
@@ -33,6 +35,11 @@ class NumberField : public QDoubleSpinBox {
   public:
     explicit NumberField(const NumberKind& kind, QWidget* parent = nullptr);
 
+    // Changes what the number is; the value stays as far as it fits.
+    void setKind(const NumberKind& kind);
+    // What leaving the field empty means; without this, the number that was there before.
+    void setEmptyValue(double value) { emptyValue_ = value; }
+
     // Shows `value` without telling anyone. A number that is being typed stays as it is when it means `value`.
     void load(double value);
 
@@ -40,6 +47,7 @@ class NumberField : public QDoubleSpinBox {
     QString problem() const;
 
     QValidator::State validate(QString& text, int& position) const override;
+    void fixup(QString& text) const override;
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
@@ -48,6 +56,7 @@ class NumberField : public QDoubleSpinBox {
     void showProblem();
 
     QString range_;
+    std::optional<double> emptyValue_;
     InputHint* hint_;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/position_grid.h"
 
+#include "app/editors/controls/tile_button.h"
 #include "app/icons.h"
 
 #include <QGridLayout>
 #include <QPainter>
-#include <QToolButton>
 
 #include <array>
 
@@ -54,13 +54,9 @@ PositionGrid::PositionGrid(QWidget* parent) : QWidget(parent), cells_(new QButto
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2);
     for (int tag = 1; tag <= 9; ++tag) {
-        auto* button = new QToolButton(this);
-        button->setCheckable(true);
-        button->setIcon(lineIcon(cellDrawing(tag)));
-        button->setIconSize({28, 28});
-        button->setFocusPolicy(Qt::StrongFocus);
-        button->setAccessibleName(tr(CellNames.at(static_cast<std::size_t>(tag))));
-        button->setToolTip(button->accessibleName());
+        auto* button =
+            new TileButton(lineIcon(cellDrawing(tag)), tr(CellNames.at(static_cast<std::size_t>(tag))), this);
+        button->setMinimumSize(button->sizeHint());
         grid->addWidget(button, (tag - 1) / 3, (tag - 1) % 3);
         cells_->addButton(button, tag);
     }

@@ -53,10 +53,10 @@ QWidget* PositionGroup::makePosition() {
     auto* box = new QGroupBox(tr("Position"), this);
     preset_ = new QRadioButton(tr("&Preset"), box);
     preset_->setObjectName(QStringLiteral("PresetPosition"));
-    custom_ = new QRadioButton(tr("&Custom"), box);
-    custom_->setObjectName(QStringLiteral("CustomPosition"));
     grid_ = new PositionGrid(box);
-    left_ = addNumber("CustomPositionLeft", tr("From &left:"), number_kind::Length,
+    custom_ = new QRadioButton(tr("C&ustom"), box);
+    custom_->setObjectName(QStringLiteral("CustomPosition"));
+    left_ = addNumber("CustomPositionLeft", tr("From l&eft:"), number_kind::Length,
                       &Watermark::CustomPositionLeft);
     top_ =
         addNumber("CustomPositionTop", tr("From &top:"), number_kind::Length, &Watermark::CustomPositionTop);
@@ -69,8 +69,6 @@ QWidget* PositionGroup::makePosition() {
     addRow(*layout, 2, 1, top_);
     layout->setRowStretch(3, 1);
     layout->setColumnStretch(0, 1);
-    QWidget::setTabOrder(preset_, custom_);
-    QWidget::setTabOrder(custom_, grid_);
 
     connect(preset_, &QRadioButton::clicked, this, [this] {
         Q_EMIT edited([cell = lastCell_](Watermark& record) {

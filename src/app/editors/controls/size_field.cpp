@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/controls/size_field.h"
+
+#include <QHBoxLayout>
+
+#include <cmath>
+
+namespace zelto {
+namespace {
+
+enum Unit { Pixels, Share };
+
+}  // namespace
+
+SizeField::SizeField(const QString& shareTitle, double reference, QWidget* parent)
+    : QWidget(parent),
+      reference_(reference),
+      number_(new NumberField(number_kind::Size, this)),
+      unit_(new QComboBox(this)) {
+    unit_->addItem(tr("Pixels"));
+    unit_->addItem(shareTitle);
+    unit_->setAccessibleName(tr("Unit"));
+    setFocusProxy(number_);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(number_, 2);
+    row->addWidget(unit_, 3);
+    connect(number_, &NumberField::valueChanged, this, [this](double value) {
+        const bool isRelative = unit_->currentIndex() == Share;
+        Q_EMIT sizeChosen(isRelative ? value / 100.0 : value, isRelative);
+    });
+    connect(unit_, &QComboBox::activated, this, [this](int unit) { changeUnit(unit == Share); });
+}
+
+void SizeField::load(double length, bool isRelative) {
+    unit_->setCurrentIndex(isRelative ? Share : Pixels);
+    number_->setKind(isRelative ? number_kind::Percent : number_kind::Size);
+    number_->load(isRelative ? length * 100.0 : length);
+}
+
+void SizeField::changeUnit(bool toRelative) {
+    const bool isRelative = number_->suffix() == QLatin1String(number_kind::Percent.unit);
+    if (toRelative == isRelative) return;
+    double length = toRelative ? 0.2 : 200.0;  // where there is no photo to convert by
+    if (reference_ > 0.0) {
+        length =
+            toRelative ? number_->value() / reference_ : std::round(number_->value() / 100.0 * reference_);
+    }
+    load(length, toRelative);
+    Q_EMIT sizeChosen(length, toRelative);
+}
+
+}  // namespace zelto

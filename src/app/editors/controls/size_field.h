@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A length in pixels or as a share of the photo, with the choice between the two. Choosing the other one keeps
+// the length as it is on the photo. Main thread only.
+#pragma once
+
+#include "app/editors/controls/number_field.h"
+
+#include <QComboBox>
+#include <QWidget>
+
+namespace zelto {
+
+class SizeField : public QWidget {
+    Q_OBJECT
+
+  public:
+    // `shareTitle` says what the share is of; `reference` is that length in pixels, 0 where it is not known.
+    SizeField(const QString& shareTitle, double reference, QWidget* parent = nullptr);
+
+    // Shows a length in pixels, or as a fraction of the reference, without telling anyone.
+    void load(double length, bool isRelative);
+
+    NumberField& number() { return *number_; }
+    QComboBox& unit() { return *unit_; }
+
+  Q_SIGNALS:
+    void sizeChosen(double length, bool isRelative);
+
+  private:
+    void changeUnit(bool toRelative);
+
+    const double reference_;
+    NumberField* number_;
+    QComboBox* unit_;
+};
+
+}  // namespace zelto

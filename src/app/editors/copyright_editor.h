@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The form for the copyright and creator texts written into photos. Accepted, they are kept in their file for
+// the next time. Main thread only.
+#pragma once
+
+#include "app/editors/editor_set.h"
+
+namespace zelto {
+
+void editCopyright(const EditorCall& call);
+
+}  // namespace zelto

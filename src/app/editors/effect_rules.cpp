@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/effect_rules.h"
+
+#include <array>
+
+namespace zelto {
+namespace {
+
+struct DirectionRow {
+    int right;  // 1 to the right, -1 to the left
+    int up;
+    std::int64_t direction;
+    ShadowSides sides;
+};
+// Right alone is a whole turn: 0 means all sides.
+constexpr std::array Directions = {
+    DirectionRow{0, 0, 0, {.top = true, .left = true, .right = true, .bottom = true}},
+    DirectionRow{1, 1, 45, {.top = true, .right = true}},
+    DirectionRow{0, 1, 90, {.top = true}},
+    DirectionRow{-1, 1, 135, {.top = true, .left = true}},
+    DirectionRow{-1, 0, 180, {.left = true}},
+    DirectionRow{-1, -1, 225, {.left = true, .bottom = true}},
+    DirectionRow{0, -1, 270, {.bottom = true}},
+    DirectionRow{1, -1, 315, {.right = true, .bottom = true}},
+    DirectionRow{1, 0, 360, {.right = true}},
+};
+
+}  // namespace
+
+std::int64_t shadowDirection(const ShadowSides& sides) {
+    const int right = static_cast<int>(sides.right) - static_cast<int>(sides.left);
+    const int up = static_cast<int>(sides.top) - static_cast<int>(sides.bottom);
+    for (const DirectionRow& row : Directions) {
+        if (row.right == right && row.up == up) return row.direction;
+    }
+    return 0;
+}
+
+ShadowSides shadowSides(std::int64_t direction) {
+    for (const DirectionRow& row : Directions) {
+        if (row.direction == direction) return row.sides;
+    }
+    return {};
+}
+
+void setShadowSides(PhotoEffects& effects, const ShadowSides& sides) {
+    effects.Direction = shadowDirection(sides);
+    effects.EnableShadow = sides.any();
+}
+
+void setSameBorder(PhotoEffects& effects, bool same) {
+    effects.SameBorder = same;
+    if (same) setThickness(effects, &PhotoEffects::TopThickness, effects.TopThickness);
+}
+
+void setThickness(PhotoEffects& effects, std::int64_t PhotoEffects::*side, std::int64_t pixels) {
+    effects.*side = pixels;
+    if (!effects.SameBorder) return;
+    effects.TopThickness = pixels;
+    effects.LeftThickness = pixels;
+    effects.RightThickness = pixels;
+    effects.BottomThickness = pixels;
+}
+
+}  // namespace zelto

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the controls of the effects editor do to its record. Pure functions of records; no widgets.
+#pragma once
+
+#include "records/photo_effects.h"
+
+#include <cstdint>
+
+namespace zelto {
+
+// The sides of the photo on which its shadow is seen.
+struct ShadowSides {
+    bool top = false;
+    bool left = false;
+    bool right = false;
+    bool bottom = false;
+
+    bool any() const { return top || left || right || bottom; }
+    bool operator==(const ShadowSides&) const = default;
+};
+
+// `PhotoEffects::Direction` for a choice of sides; opposite sides outweigh each other.
+std::int64_t shadowDirection(const ShadowSides& sides);
+
+// The sides a direction stands for; none for a number that is no direction.
+ShadowSides shadowSides(std::int64_t direction);
+
+// Chooses the sides; a shadow on no side is switched off.
+void setShadowSides(PhotoEffects& effects, const ShadowSides& sides);
+
+// Whether one width holds for all sides. Switched on, that is the width of the top.
+void setSameBorder(PhotoEffects& effects, bool same);
+// The width of one side, or of all where they are the same.
+void setThickness(PhotoEffects& effects, std::int64_t PhotoEffects::*side, std::int64_t pixels);
+
+}  // namespace zelto

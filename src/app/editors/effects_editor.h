@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The editor for the border and the shadow of the photos. Main thread only.
+#pragma once
+
+#include "app/editors/editor_set.h"
+
+namespace zelto {
+
+void editEffects(const EditorCall& call);
+
+}  // namespace zelto

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The editor for QR codes: what they say, how large they are, on which background and where they stand. It
+// warns while a code could not be read. Main thread only.
+#pragma once
+
+#include "app/editors/editor_set.h"
+
+namespace zelto {
+
+void editQrCode(const EditorCall& call);
+
+}  // namespace zelto

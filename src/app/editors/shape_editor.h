@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The editor for shapes: what they are, how large, how filled and turned, and where they stand. Main thread
+// only.
+#pragma once
+
+#include "app/editors/editor_set.h"
+
+namespace zelto {
+
+void editShape(const EditorCall& call);
+
+}  // namespace zelto
