@@ -14,8 +14,9 @@ namespace {
 
 Q_LOGGING_CATEGORY(metadataLog, "zelto.metadata")
 
-// Requests may hold files open, so they must not pile up.
-constexpr std::size_t QueuedPerThread = 4;
+// Requests waiting for a thread before it is worth starting another: the program a new one needs takes as long to
+// start as this many requests take.
+constexpr std::size_t QueuedPerThread = 16;
 
 }  // namespace
 
@@ -36,9 +37,13 @@ void MetadataQueue::add(MetadataRequest request, std::optional<KeptFile> keptSou
     QSet<QString> files = {fileIdentity(request.output), fileIdentity(request.source)};
     if (keptSource) request.source = keptSource->path();
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return entries_.size() < mostThreads_ * (QueuedPerThread + 1); });
+    // Requests may hold files open, so they must not pile up.
+    changed_.wait(lock, [this] { return entries_.size() <= mostThreads_ * (QueuedPerThread + 1); });
     entries_.push_back({std::move(request), std::move(keptSource), std::move(files), false});
-    if (idleThreads_ == 0 && threads_.size() < mostThreads_) threads_.emplace_back([this] { work(); });
+    const bool isBehind = entries_.size() > threads_.size() * (QueuedPerThread + 1);
+    if (threads_.empty() || (isBehind && threads_.size() < mostThreads_)) {
+        threads_.emplace_back([this] { work(); });
+    }
     changed_.notify_all();
 }
 
@@ -67,9 +72,7 @@ void MetadataQueue::work() {
             std::find_if(entries_.begin(), entries_.end(), [](const Entry& entry) { return !entry.begun; });
         if (next == entries_.end()) {
             if (ending_) return;
-            ++idleThreads_;
             changed_.wait(lock);
-            --idleThreads_;
             continue;
         }
         next->begun = true;

@@ -56,7 +56,6 @@ class MetadataQueue {
     std::mutex mutex_;  // guards everything below
     std::condition_variable changed_;
     std::list<Entry> entries_;  // not done yet, in the order they were added
-    std::size_t idleThreads_ = 0;
     bool ending_ = false;
     int failures_ = 0;  // since the last settle()
     QString firstFailure_;

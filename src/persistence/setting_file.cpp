@@ -22,8 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 constexpr qint64 MaximumLength = 1'000'000'000;
 
 // --- Forms of a value that its type alone does not tell. Each holds a reference to the record's field;
-// reading and
-// --- writing are the overloads of fromText() and toText() below.
+// --- reading and writing are the overloads of fromText() and toText() below.
 
 // A text whose "#" is stored as "&hash;". So a text that holds "&hash;" itself reads back with "#" there.
 template <class Text>
@@ -151,9 +150,8 @@ void fromText(const QString& text, Negated<bool> value) {
 }
 
 // --- The two who walk the fields: field(name, value) is one element, group(name, fields) one that holds
-// others,
-// --- older(name, value) an element that only older files have; it is named before the one that took its
-// place.
+// --- others, older(name, value) an element that only older files have; it is named before the one that took
+// --- its place.
 
 class FieldWriter {
   public:
