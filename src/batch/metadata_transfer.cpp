@@ -40,6 +40,14 @@ void removeTemporary(const QString& output) {
     QFile::remove(output + TemporarySuffix);
 }
 
+// What exiftool said, as much of it as fits a message and nothing that would work on a terminal.
+QString excerpt(const QString& answer) {
+    constexpr qsizetype Longest = 300;
+    QString text = answer.simplified().left(Longest);
+    text.removeIf([](QChar c) { return !c.isPrint(); });
+    return text;
+}
+
 Result<void> runCommand(const QStringList& arguments, const QString& output, ExiftoolPool& pool,
                         std::chrono::milliseconds timeout) {
     removeTemporary(output);
@@ -52,8 +60,7 @@ Result<void> runCommand(const QStringList& arguments, const QString& output, Exi
     removeTemporary(output);
     if (!answer) return tl::unexpected(answer.error());
     return fail(ErrorCode::ProgramFailed,
-                QStringLiteral("exiftool did not write \"%1\": %2").arg(output, answer->simplified()),
-                output);
+                QStringLiteral("exiftool did not write \"%1\": %2").arg(output, excerpt(*answer)), output);
 }
 
 MetadataFaults faultsOf(const MetadataRequest& request) {

@@ -2,7 +2,6 @@
 #include "batch/output_writer.h"
 
 #include "batch/file_identity.h"
-#include "batch/metadata_transfer.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
 #include "batch/path_parts.h"
@@ -56,8 +55,9 @@ struct OutputWriter::CombinedPdf {
 OutputWriter::OutputWriter(Settings settings)
     : settings_(std::move(settings)),
       exiftool_(settings_.metadataJobs),
-      metadata_(settings_.metadataJobs,
-                [this](const MetadataRequest& request) { return CopyExifDataTo(request, exiftool_); }) {}
+      metadata_(settings_.metadataJobs, [this](const MetadataRequest& request) {
+          return CopyExifDataTo(request, exiftool_, settings_.metadataTimeout);
+      }) {}
 
 OutputWriter::~OutputWriter() = default;
 

@@ -7,6 +7,7 @@
 #include "batch/exiftool_pool.h"
 #include "batch/kept_file.h"
 #include "batch/metadata_queue.h"
+#include "batch/metadata_transfer.h"
 #include "batch/photo_processor.h"
 #include "records/copyright_metadata.h"
 #include "records/output_options.h"
@@ -15,6 +16,7 @@
 
 #include <QLocale>
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -29,6 +31,7 @@ class OutputWriter : public PhotoProcessor {
         QLocale locale;
         std::optional<CopyRightMetaData> copyright;
         int metadataJobs = 1;  // outputs that are given their metadata at a time
+        std::chrono::milliseconds metadataTimeout = MetadataTimeout;  // for one output
     };
 
     explicit OutputWriter(Settings settings);

@@ -4,6 +4,7 @@
 #include "batch/kept_file.h"
 #include "platform/picture_writer.h"
 #include "platform/whole_file.h"
+#include "records/output_options.h"
 #include "support/test_pictures.h"
 
 #include <QDir>
@@ -182,13 +183,15 @@ TEST_F(MetadataTransfer, OutputInThePlaceOfItsSourceKeepsTheMetadata) {
 TEST_F(MetadataTransfer, FailureLeavesTheFileAsItWasWritten) {
     const QString source = cameraPhoto(u"s.jpg"_s);
     const QByteArray jpeg = picture(PictureFormat::Jpeg, 72.0);
-    const QString program = write(u"program"_s,
-                                  "#!/bin/sh\n"
-                                  "export done=no\n"
-                                  "sed -u 's/^-gps:all=$/-broken/' | sed -u '/^-broken$/q' | '" +
-                                      exiftoolProgram().toUtf8() + "' \"$@\"\n");
-    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    ExiftoolPool stopsBeforeTheSecondCommand(1, program);
+    const auto program = [&](const QString& name, const QByteArray& lines) {
+        const QString path = write(name, "#!/bin/sh\n" + lines + "\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return path;
+    };
+    ExiftoolPool stopsBeforeTheSecondCommand(
+        1, program(u"stops"_s,
+                   "sed -u '/^-jfif:ResolutionUnit=/q' | '" + exiftoolProgram().toUtf8() + "' \"$@\""));
+    ExiftoolPool raves(1, program(u"raves"_s, "printf '\\033[2J%05000d\\n{ready1}\\n' 1; cat >/dev/null"));
     ExiftoolPool missing(1, folder_.filePath(u"missing"_s));
     const struct {
         ExiftoolPool& pool;
@@ -196,13 +199,22 @@ TEST_F(MetadataTransfer, FailureLeavesTheFileAsItWasWritten) {
         QString source;
     } rows[] = {{stopsBeforeTheSecondCommand, jpeg, source},
                 {missing, jpeg, source},
+                {raves, jpeg, source},
                 {pool_, jpeg, folder_.filePath(u"no such.jpg"_s)},
                 {pool_, "no picture", source}};
+    // A resolution that the file has not takes a second command.
+    constexpr double Unrecorded = 150.0;
     for (const auto& row : rows) {
-        const QString output = write(u"out.jpg"_s, row.written);
-        EXPECT_FALSE(CopyExifDataTo({output, row.source, 2, 72.0, {}}, row.pool, 2s));
-        EXPECT_EQ(content(output), row.written);
-        EXPECT_FALSE(QFile::exists(output + u"_exiftool_tmp"_s));
+        for (const std::int64_t choice : {exif_data::IncludeAll, exif_data::ExcludeGeolocation}) {
+            const QString output = write(u"out.jpg"_s, row.written);
+            const Result<void> done =
+                CopyExifDataTo({output, row.source, choice, Unrecorded, {}}, row.pool, 2s);
+            ASSERT_FALSE(done);
+            EXPECT_LT(done.error().message.size(), 600);
+            EXPECT_FALSE(done.error().message.contains(u'\x1b'));
+            EXPECT_EQ(content(output), row.written);
+            EXPECT_FALSE(QFile::exists(output + u"_exiftool_tmp"_s));
+        }
     }
     const QString output = write(u"out.jpg"_s, jpeg);
     write(u"out.jpg_exiftool_tmp"_s, "left behind");
