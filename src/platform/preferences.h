@@ -28,6 +28,8 @@ inline constexpr Preference<QString> LastOutDirectory{QLatin1String("LastOutDire
 inline constexpr Preference<QByteArray> LastOutDirectoryData{QLatin1String("LastOutDirectoryData")};
 inline constexpr Preference<qint64> LastAutoNumber{QLatin1String("LastAutoNumber")};
 inline constexpr Preference<QString> LastDateFormat{QLatin1String("LastDateFormat")};
+inline constexpr Preference<QString> VersionAddress{QLatin1String("VersionAddress")};
+inline constexpr Preference<QString> DownloadAddress{QLatin1String("DownloadAddress")};
 inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
 inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
 inline constexpr Preference<QVariantMap> EditorPlaces{QLatin1String("Window/Editors")};  // geometry by name

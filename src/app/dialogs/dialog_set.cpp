@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/dialog_set.h"
 
+#include "app/dialogs/version_check.h"
+
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -19,6 +21,7 @@ QStringList choosePhotos(QWidget* parent, const QString& startFolder) {
 DialogSet standardDialogs() {
     DialogSet dialogs;
     dialogs.choosePhotos = choosePhotos;
+    dialogs.versionCheck = CheckLatestVersion;
     return dialogs;
 }
 

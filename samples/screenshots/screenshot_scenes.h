@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What docs/images shows, a row a picture. A new picture is a new row.
+#pragma once
+
+#include "samples/screenshots/stage.h"
+
+#include <vector>
+
+namespace zelto::samples {
+
+struct ScreenshotScene {
+    enum class Look { Light, Dark };
+    enum class Shot { Window, Dialog };  // everything, or only the dialog that was opened last
+
+    const char* name;  // of the picture's file, without extension
+    Look look;
+    double scale;  // device pixels a pixel
+    Shot shot;
+    // Sets the scene; may open a dialog that blocks.
+    void (*set)(Stage& stage);
+    // Whether the scene is set; asked again and again, within the event loop of a dialog too.
+    bool (*isSet)(Stage& stage);
+};
+
+const std::vector<ScreenshotScene>& screenshotScenes();
+
+}  // namespace zelto::samples
