@@ -173,7 +173,7 @@ void Stage::loadSetting(const QString& name) {
     const Result<void> loaded = window_->watermarks().LoadWatermarkSetting(samples_.filePath(name));
     if (!loaded) qFatal("%s", qPrintable(loaded.error().message));
     window_->document().history().clear();
-    window_->watermarks().selectWatermark(-1);
+    window_->watermarks().selection().clear();
 }
 
 void Stage::startRun(int photos) {

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/message_sheet.h"
 
-#include <QPushButton>
+#include "app/icons.h"
 
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+#include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -15,13 +21,52 @@ QMessageBox::ButtonRole roleOf(const MessageSheet& message, int button) {
     return button == 0 ? QMessageBox::AcceptRole : QMessageBox::ActionRole;
 }
 
+struct IconRow {
+    QMessageBox::Icon icon;
+    const char* themed;
+    const char* own;
+};
+constexpr std::array Icons = {
+    IconRow{QMessageBox::Information, "dialog-information", "information"},
+    IconRow{QMessageBox::Question, "dialog-question", "question"},
+    IconRow{QMessageBox::Warning, "dialog-warning", "warning"},
+};
+
+// The desktop's, and where it has none, one drawn for this program.
+QPixmap iconPixmap(const QMessageBox& box, QMessageBox::Icon icon) {
+    const auto* row =
+        std::find_if(Icons.begin(), Icons.end(), [icon](const IconRow& each) { return each.icon == icon; });
+    if (row == Icons.end()) return {};
+    const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    return QIcon::fromTheme(QLatin1String(row->themed), colorIcon(QLatin1String(row->own)))
+        .pixmap(QSize(side, side), box.devicePixelRatioF());
+}
+
 }  // namespace
+
+void dressMessage(QMessageBox& box, QMessageBox::Icon icon, const QString& title, const QString& text) {
+    constexpr int LineCharacters = 56;
+    box.setIconPixmap(iconPixmap(box, icon));
+    box.setWindowTitle(title);
+    box.setText(title);
+    box.setInformativeText(text);
+    if (auto* heading = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        QFont bold = heading->font();
+        bold.setBold(true);
+        heading->setFont(bold);
+    }
+    if (auto* body = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+        const QFontMetrics metrics = body->fontMetrics();
+        body->setMinimumWidth(std::min(metrics.boundingRect(QRect(), Qt::TextExpandTabs, text).width(),
+                                       metrics.averageCharWidth() * LineCharacters));
+    }
+}
 
 QMessageBox* openMessageSheet(QWidget* window, const MessageSheet& message,
                               std::function<void(int button)> answered) {
-    auto* box = new QMessageBox(message.icon, message.title, message.title, QMessageBox::NoButton, window);
+    auto* box = new QMessageBox(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(message.text);
+    dressMessage(*box, message.icon, message.title, message.text);
     std::vector<QAbstractButton*> buttons;
     for (const QString& text : message.buttons) {
         const int place = static_cast<int>(buttons.size());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A message or question over the window that the program does not wait for: it goes on, and is told the answer.
-// Main thread only.
+// How messages and questions look, and those over the window that the program does not wait for: it goes on, and is
+// told the answer. Main thread only.
 #pragma once
 
 #include <QMessageBox>
@@ -10,6 +10,9 @@
 #include <functional>
 
 namespace zelto {
+
+// Gives a message box its words and its icon: the title stands out, the text has room for a sentence.
+void dressMessage(QMessageBox& box, QMessageBox::Icon icon, const QString& title, const QString& text);
 
 struct MessageSheet {
     QMessageBox::Icon icon = QMessageBox::Information;

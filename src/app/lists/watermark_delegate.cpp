@@ -39,7 +39,9 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
 
     const QRect icon(box.right() + 1 + Margin, option.rect.top() + (option.rect.height() - IconSide) / 2,
                      IconSide, IconSide);
-    const QIcon::Mode mode = isSelected ? QIcon::Selected : isOn ? QIcon::Normal : QIcon::Disabled;
+    const QIcon::Mode mode = !option.state.testFlag(QStyle::State_Enabled) || !isOn ? QIcon::Disabled
+                             : isSelected                                           ? QIcon::Selected
+                                                                                    : QIcon::Normal;
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon, Qt::AlignCenter, mode);
 
     const QRect text(icon.right() + 1 + Margin, option.rect.top(),
