@@ -61,16 +61,20 @@ void ColorWell::openDialog() {
     dialog_->setWindowTitle(accessibleName());
     // The toolkit's own dialog can also take a colour from the screen, and tells of each one looked at.
     dialog_->setOptions(QColorDialog::ShowAlphaChannel | QColorDialog::DontUseNativeDialog);
-    connect(dialog_, &QColorDialog::currentColorChanged, this,
-            [this](const QColor& color) { choose(toColor(color)); });
-    connect(dialog_, &QColorDialog::rejected, this, [this, before = color_] { choose(before); });
+    const auto take = [this](const QColor& color) { choose(toColor(color)); };
+    if (color_) {
+        connect(dialog_, &QColorDialog::currentColorChanged, this, take);
+        connect(dialog_, &QColorDialog::rejected, this, [this, before = *color_] { choose(before); });
+    }
+    connect(dialog_, &QColorDialog::colorSelected, this, take);
     dialog_->open();
 }
 
-void ColorWell::choose(const std::optional<Color>& color) {
-    if (color == color_) return;
+void ColorWell::choose(const Color& color) {
+    // A colour of a file may lie between those of 8 bits; choosing what is seen leaves it so.
+    if (color_ && (color == *color_ || color == toColor(toQColor(*color_)))) return;
     load(color);
-    if (color) Q_EMIT colorChosen(*color);
+    Q_EMIT colorChosen(color);
 }
 
 void ColorWell::paintEvent(QPaintEvent* event) {

@@ -35,7 +35,7 @@ class ColorWell : public QToolButton {
 
   private:
     void openDialog();
-    void choose(const std::optional<Color>& color);
+    void choose(const Color& color);
 
     std::optional<Color> color_;
     QPointer<QColorDialog> dialog_;

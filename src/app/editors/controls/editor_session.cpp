@@ -18,6 +18,8 @@ Watermark startOf(const WatermarkController& controller, std::int32_t type) {
 EditorSession::EditorSession(const EditorCall& call, QObject* parent)
     : QObject(parent), controller_(call.controller), before_(lastStep(controller_.document().history())) {
     connect(&controller_.document(), &WatermarkDocument::changed, this, &EditorSession::changed);
+    // The history counts a step only after the document has told of it.
+    connect(&controller_.document().history(), &QUndoStack::indexChanged, this, &EditorSession::changed);
 }
 
 bool EditorSession::hasChanged() const {

@@ -56,6 +56,7 @@ PositionGrid::PositionGrid(QWidget* parent) : QWidget(parent), cells_(new QButto
     for (int tag = 1; tag <= 9; ++tag) {
         auto* button =
             new TileButton(lineIcon(cellDrawing(tag)), tr(CellNames.at(static_cast<std::size_t>(tag))), this);
+        button->setObjectName(QStringLiteral("Cell%1").arg(tag));
         button->setMinimumSize(button->sizeHint());
         grid->addWidget(button, (tag - 1) / 3, (tag - 1) % 3);
         cells_->addButton(button, tag);
