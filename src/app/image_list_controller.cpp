@@ -74,9 +74,10 @@ void ImageListController::AddImages(const QStringList& paths) {
         photos.images.emplace_back(path);
     }
     if (!photos.images.empty()) {
+        const QString name =
+            photos.images.size() == 1 ? tr("Add Photo") : tr("Add %1 Photos").arg(photos.images.size());
         history_.push(new SplicePhotos(
-            photos.images.size() == 1 ? tr("Add Photo") : tr("Add %1 Photos").arg(photos.images.size()),
-            SplicePhotos::Direction::In, std::move(photos),
+            name, SplicePhotos::Direction::In, std::move(photos),
             [this](const ImageList::Placed& placed) { insertPhotos(placed); },
             [this](const std::vector<std::size_t>& rows) { takePhotos(rows); }));
     }
