@@ -19,6 +19,11 @@ QString insideOutput(const QString& relative) {
     return components.join(QLatin1Char('/'));
 }
 
+// The destination of a folder without an ancestor in the map.
+QString topDestination(const QString& folder, const QString& outputPath) {
+    return joinedPath(outputPath, insideOutput(lastPathComponent(folder)));
+}
+
 }  // namespace
 
 std::optional<QString> GetRelativePath(const QString& candidate, const QString& folder) {
@@ -48,12 +53,18 @@ bool HasParent(const QString& folder, const FolderDestinations& inDictionary, co
     return true;
 }
 
+QString destinationOf(const QString& folder, const FolderDestinations& sources, const QString& outputPath) {
+    FolderDestinations destination = {{folder, QString()}};
+    return HasParent(folder, sources, outputPath, destination) ? destination.value(folder)
+                                                               : topDestination(folder, outputPath);
+}
+
 QStringList resolveDestinations(FolderDestinations& destinations, const QString& outputPath) {
     QStringList topFolders;
     const FolderDestinations sources = destinations;
     for (const QString& folder : sources.keys()) {
         if (HasParent(folder, sources, outputPath, destinations)) continue;
-        const QString destination = joinedPath(outputPath, insideOutput(lastPathComponent(folder)));
+        const QString destination = topDestination(folder, outputPath);
         destinations[folder] = destination;
         topFolders.append(destination);
     }

@@ -25,6 +25,9 @@ std::optional<QString> GetRelativePath(const QString& candidate, const QString& 
 bool HasParent(const QString& folder, const FolderDestinations& inDictionary, const QString& outputPath,
                FolderDestinations& destinations);
 
+// Where the photos of `folder` go when the map knows the source folders `sources`.
+QString destinationOf(const QString& folder, const FolderDestinations& sources, const QString& outputPath);
+
 // Fills in every destination and returns those of the folders without an ancestor in the map, in key order.
 QStringList resolveDestinations(FolderDestinations& destinations, const QString& outputPath);
 

@@ -32,35 +32,57 @@ constexpr std::array ScannedExtensions = {
     QLatin1String(".tif"), QLatin1String(".png"),  QLatin1String(".bmp"),
 };
 
-struct FolderEntries {
-    QStringList names;
-    QStringList subFolders;
+// How many entries of a folder are listed between two questions whether to go on.
+constexpr int EntriesPerQuestion = 500;
+
+class Scan {
+  public:
+    Scan(bool includeSubFolders, const QString& extensionList, const ScanGoesOn& goesOn)
+        : includeSubFolders_(includeSubFolders), extensionList_(extensionList), goesOn_(goesOn) {}
+
+    void visit(const QString& folder) {
+        const Entries entries = listed(folder);
+        for (const QString& name : entries.names) {
+            if (isScannedName(name, extensionList_)) found_.append(folder + QLatin1Char('/') + name);
+        }
+        for (const QString& name : entries.subFolders) {
+            if (!goesOn()) return;
+            visit(folder + QLatin1Char('/') + name);
+        }
+    }
+
+    const QStringList& found() const { return found_; }
+
+  private:
+    struct Entries {
+        QStringList names;
+        QStringList subFolders;
+    };
+
+    Entries listed(const QString& folder) {
+        Entries entries;
+        QDirIterator iterator(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        while (iterator.hasNext()) {
+            iterator.next();
+            entries.names.append(iterator.fileName());
+            if (includeSubFolders_) {
+                const QFileInfo info = iterator.fileInfo();
+                if (!info.isSymLink() && info.isDir()) entries.subFolders.append(iterator.fileName());
+            }
+            if (entries.names.size() % EntriesPerQuestion == 0 && !goesOn()) break;
+        }
+        std::sort(entries.names.begin(), entries.names.end());
+        std::sort(entries.subFolders.begin(), entries.subFolders.end());
+        return entries;
+    }
+
+    bool goesOn() const { return !goesOn_ || goesOn_(found_.size()); }
+
+    const bool includeSubFolders_;
+    const QString& extensionList_;
+    const ScanGoesOn& goesOn_;
+    QStringList found_;
 };
-
-FolderEntries listed(const QString& folder) {
-    FolderEntries entries;
-    QDirIterator iterator(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (iterator.hasNext()) {
-        iterator.next();
-        entries.names.append(iterator.fileName());
-        const QFileInfo info = iterator.fileInfo();
-        if (!info.isSymLink() && info.isDir()) entries.subFolders.append(iterator.fileName());
-    }
-    std::sort(entries.names.begin(), entries.names.end());
-    std::sort(entries.subFolders.begin(), entries.subFolders.end());
-    return entries;
-}
-
-void scan(const QString& folder, bool includeSubFolders, const QString& extensionList, QStringList& found) {
-    const FolderEntries entries = listed(folder);
-    for (const QString& name : entries.names) {
-        if (isScannedName(name, extensionList)) found.append(folder + QLatin1Char('/') + name);
-    }
-    if (!includeSubFolders) return;
-    for (const QString& name : entries.subFolders) {
-        scan(folder + QLatin1Char('/') + name, true, extensionList, found);
-    }
-}
 
 }  // namespace
 
@@ -80,15 +102,15 @@ bool isScannedName(const QString& fileName, const QString& extensionList) {
 }
 
 Result<QStringList> ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
-                                           const QString& extensionList) {
+                                           const QString& extensionList, const ScanGoesOn& goesOn) {
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isReadable() || !info.isExecutable()) {
         return fail(ErrorCode::NotFound, QStringLiteral("The folder “%1” cannot be read.").arg(folder),
                     folder);
     }
-    QStringList found;
-    scan(folder, includeSubFolders, extensionList, found);
-    return found;
+    Scan scan(includeSubFolders, extensionList, goesOn);
+    scan.visit(folder);
+    return scan.found();
 }
 
 }  // namespace zelto

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace zelto {
 
 // The formats ticked for a scan.
@@ -25,11 +27,15 @@ QString GetExtensionList(const ScanFormats& formats);
 // Whether a scan for `extensionList` takes a file of this name.
 bool isScannedName(const QString& fileName, const QString& extensionList);
 
+// Asked now and then, with the number of photos found so far, whether a scan is to go on.
+using ScanGoesOn = std::function<bool(qsizetype found)>;
+
 // The paths found, as `folder` + "/" + the path below it, ordered by Unicode value so that every machine sees
 // the same list: first those in the folder itself, then those of its sub-folders, each folder before the
-// next. Symbolic links to folders are not followed, sub-folders that cannot be read are passed over. Error:
-// ErrorCode::NotFound where the folder itself cannot be listed.
+// next. Symbolic links to folders are not followed, sub-folders that cannot be read are passed over. A scan
+// that is not to go on returns what it has found. Error: ErrorCode::NotFound where the folder itself cannot be
+// listed.
 Result<QStringList> ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
-                                           const QString& extensionList);
+                                           const QString& extensionList, const ScanGoesOn& goesOn = {});
 
 }  // namespace zelto

@@ -101,6 +101,10 @@ Result<void> transferByCopy(MetadataRequest request, ExiftoolPool& pool, std::ch
 
 }  // namespace
 
+bool takesMetadata(PictureFormat format) {
+    return format == PictureFormat::Jpeg || format == PictureFormat::Tiff;
+}
+
 Result<void> CopyExifDataTo(const MetadataRequest& request, ExiftoolPool& pool,
                             std::chrono::milliseconds timeout) {
     MetadataRequest told = request;

@@ -5,6 +5,7 @@
 
 #include "batch/exiftool_pool.h"
 #include "batch/metadata_arguments.h"
+#include "platform/picture_writer.h"
 #include "platform/result.h"
 
 #include <chrono>
@@ -13,6 +14,9 @@ namespace zelto {
 
 // How long exiftool may take for one output.
 inline constexpr std::chrono::milliseconds MetadataTimeout = std::chrono::seconds(60);
+
+// Whether outputs of `format` are given metadata at all.
+bool takesMetadata(PictureFormat format);
 
 // Blocks until the output has its metadata. Where an output replaces the photo it is made from, keep a KeptFile of
 // the photo before writing and name its path as the source. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound

@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <array>
+
 namespace zelto {
 namespace {
 
@@ -19,22 +21,51 @@ QString asFileName(QString name) {
     return name.replace(QLatin1Char('/'), QLatin1Char('_')).replace(QChar(u'\0'), QLatin1Char('_'));
 }
 
-QString filledPattern(const QString& pattern, const QString& originalName, const OutputPlace& place) {
-    const QString number = QString::number(place.row + 1);
-    const QString month = twoDigits(place.today.month());
-    const QString day = twoDigits(place.today.day());
-    const QString year = QString::number(place.today.year());
-    return QString(pattern)
-        .replace(QLatin1String("[O]"), originalName)
-        .replace(QLatin1String("[#]"), number)
-        .replace(QLatin1String("[##]"), AdjustLength(number, 2))
-        .replace(QLatin1String("[###]"), AdjustLength(number, 3))
-        .replace(QLatin1String("[####]"), AdjustLength(number, 4))
-        .replace(QLatin1String("[D]"), month + day + year)
-        .replace(QLatin1String("[DD]"), day + month + year);
+// What a macro stands for in the name of one output.
+struct NameParts {
+    QString original;
+    QString number;
+    QString month;
+    QString day;
+    QString year;
+};
+
+struct NameMacro {
+    QLatin1String token;
+    const char* label;
+    QString (*text)(const NameParts&);
+};
+
+// In the order they are filled in.
+constexpr std::array NameMacros = {
+    NameMacro{QLatin1String("[O]"), "Original name", [](const NameParts& parts) { return parts.original; }},
+    NameMacro{QLatin1String("[#]"), "Number", [](const NameParts& parts) { return parts.number; }},
+    NameMacro{QLatin1String("[##]"), "Number, two digits",
+              [](const NameParts& parts) { return AdjustLength(parts.number, 2); }},
+    NameMacro{QLatin1String("[###]"), "Number, three digits",
+              [](const NameParts& parts) { return AdjustLength(parts.number, 3); }},
+    NameMacro{QLatin1String("[####]"), "Number, four digits",
+              [](const NameParts& parts) { return AdjustLength(parts.number, 4); }},
+    NameMacro{QLatin1String("[D]"), "Date: month, day, year",
+              [](const NameParts& parts) { return parts.month + parts.day + parts.year; }},
+    NameMacro{QLatin1String("[DD]"), "Date: day, month, year",
+              [](const NameParts& parts) { return parts.day + parts.month + parts.year; }},
+};
+
+QString filledPattern(QString pattern, const QString& originalName, const OutputPlace& place) {
+    const NameParts parts{originalName, QString::number(place.row + 1), twoDigits(place.today.month()),
+                          twoDigits(place.today.day()), QString::number(place.today.year())};
+    for (const NameMacro& macro : NameMacros) pattern.replace(macro.token, macro.text(parts));
+    return pattern;
 }
 
 }  // namespace
+
+QList<Macro> renameMacros() {
+    QList<Macro> macros;
+    for (const NameMacro& macro : NameMacros) macros.append({macro.token, QString::fromLatin1(macro.label)});
+    return macros;
+}
 
 QString outputExtension(const QString& sourcePath, const OutputOptions& options) {
     const QString extension = options.OutputFormat == SameAsSourceFormat

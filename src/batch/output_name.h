@@ -5,9 +5,11 @@
 #pragma once
 
 #include "batch/destination_map.h"
+#include "records/macro.h"
 #include "records/output_options.h"
 
 #include <QDate>
+#include <QList>
 #include <QString>
 
 namespace zelto {
@@ -18,6 +20,9 @@ struct OutputPlace {
     qint64 row = 0;  // in the photo list, from 0; unchecked photos count
     QDate today;
 };
+
+// The macros a rename pattern may hold, in the order they are filled in.
+QList<Macro> renameMacros();
 
 // With its dot: the source's own in lower case, or the chosen one as it stands. "." where the source has
 // none.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_size.h"
 
+#include "render/photo_effects.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -64,6 +66,11 @@ QSize outputSize(QSize photo, const OutputOptions& options) {
     if (enlarges && options.DontEnlargeSmallImage && options.ResizeType != resize_type::Percentage)
         return photo;
     return {static_cast<int>(limited(size.width)), static_cast<int>(limited(size.height))};
+}
+
+QSize writtenSize(QSize photo, const OutputOptions& options, const std::optional<PhotoEffects>& effects) {
+    if (options.ResizeImage || !effects) return outputSize(photo, options);
+    return sizeWithEffects(photo, *effects);
 }
 
 }  // namespace zelto

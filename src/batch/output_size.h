@@ -3,8 +3,11 @@
 #pragma once
 
 #include "records/output_options.h"
+#include "records/photo_effects.h"
 
 #include <QSize>
+
+#include <optional>
 
 namespace zelto {
 
@@ -12,5 +15,8 @@ namespace zelto {
 // come out as 0 or less where the options ask for that; sides beyond what QSize holds come out as its largest
 // number.
 QSize outputSize(QSize photo, const OutputOptions& options);
+
+// The size of the written picture: outputSize, but a photo that is not resized grows by its border and shadow.
+QSize writtenSize(QSize photo, const OutputOptions& options, const std::optional<PhotoEffects>& effects);
 
 }  // namespace zelto

@@ -31,10 +31,6 @@ qint64 pixelCount(QSize size) {
     return qint64{size.width()} * size.height();
 }
 
-bool takesMetadata(PictureFormat format) {
-    return format == PictureFormat::Jpeg || format == PictureFormat::Tiff;
-}
-
 std::optional<PictureFormat> formatOf(const QString& output) {
     return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
 }

@@ -8,7 +8,6 @@
 #include "cli/interrupt.h"
 #include "platform/dates.h"
 #include "platform/picture_reader.h"
-#include "render/photo_effects.h"
 
 #include <QSet>
 
@@ -130,10 +129,8 @@ BatchReport dryRun(const BatchPlan& plan) {
         const Result<QSize> size = readPictureSize(photo.source);
         if (!size) {
             photo.error = DamagedPictureMessage;
-        } else if (options.ResizeImage || !plan.stack->Effects) {
-            photo.size = outputSize(*size, options);
         } else {
-            photo.size = sizeWithEffects(*size, *plan.stack->Effects);
+            photo.size = writtenSize(*size, options, plan.stack->Effects);
         }
     }
     return report;

@@ -59,6 +59,10 @@ TEST(DestinationMap, EveryFolderLandsBelowItsTopmostAncestor) {
         }
         const QStringList topFolders = resolveDestinations(destinations, QStringLiteral("/out"));
         EXPECT_EQ(destinations, expected) << row.folders;
+        for (const QString& folder : expected.keys()) {
+            EXPECT_EQ(destinationOf(folder, expected, QStringLiteral("/out")), expected.value(folder))
+                << "one folder alone, of " << row.folders;
+        }
         EXPECT_EQ(topFolders.join(QLatin1Char(' ')), QLatin1String(row.topFolders)) << row.folders;
     }
 }

@@ -69,6 +69,17 @@ TEST_F(FolderScan, AFolderThatCannotBeListedIsAnError) {
     }
 }
 
+TEST_F(FolderScan, IsBrokenOffWhereItIsNotToGoOn) {
+    make({QStringLiteral("a.jpg"), QStringLiteral("one/b.jpg"), QStringLiteral("two/c.jpg"),
+          QStringLiteral("two/three/d.jpg")});
+    for (const qsizetype enough : {1, 2, 3}) {
+        const auto found = ImportImagesFromFolder(folder_.path(), true, GetExtensionList({}),
+                                                  [enough](qsizetype count) { return count < enough; });
+        ASSERT_TRUE(found);
+        EXPECT_EQ(found->size(), enough);
+    }
+}
+
 TEST(ExtensionList, HoldsTheTickedFormatsInOrder) {
     EXPECT_EQ(GetExtensionList({}), QStringLiteral(".jpg;.jpeg;.png;.tiff;.tif;.gif;.bmp;"));
     EXPECT_EQ(GetExtensionList({false, false, false, false, false}), QString());

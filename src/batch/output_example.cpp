@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/output_example.h"
+
+#include "batch/output_size.h"
+#include "batch/path_parts.h"
+
+namespace zelto {
+
+OutputExample outputExample(const OutputPlace& place, QSize photo, const OutputOptions& options,
+                            const std::optional<PhotoEffects>& effects, const FolderDestinations& folders) {
+    const QSize size = photo.isValid() ? writtenSize(photo, options, effects) : QSize();
+    if (options.CombineToSinglePDF && outputExtension(place.sourcePath, options) == QLatin1String(".pdf")) {
+        return {combinedPdfPath(options.OutputPath), size};
+    }
+    FolderDestinations destination;
+    if (options.KeepDirectoryStructure) {
+        const QString source = withoutLastPathComponent(place.sourcePath);
+        destination.insert(source, destinationOf(source, folders, options.OutputPath));
+    }
+    return {outputPath(place, options, destination), size};
+}
+
+}  // namespace zelto
