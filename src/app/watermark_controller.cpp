@@ -327,7 +327,18 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
         if (!read) qCWarning(watermarks, "%s", qUtf8Printable(read.error().message));
     }
     replaceStack(*stack, metadata, tr("Load Setting"));
+    Q_EMIT clearSaveLastWatermark();
     return {};
+}
+
+Result<void> WatermarkController::SaveWatermarkSettings(const QString& path) {
+    const WatermarkStack& stack = document_.state().Stack;
+    if (stack.Watermarks.empty() && !stack.Effects) {
+        return fail(ErrorCode::InvalidValue, tr("There are no watermarks to save."), path);
+    }
+    const Result<void> saved = zelto::SaveWatermarkSettings(stack, path);
+    if (saved) Q_EMIT clearSaveLastWatermark();
+    return saved;
 }
 
 void WatermarkController::selectRow(int row) {

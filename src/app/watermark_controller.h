@@ -102,6 +102,9 @@ class WatermarkController : public QObject {
     // Takes the stack of a setting file, and the copyright data from its file where the setting wants some.
     // Error: as zelto::LoadWatermarkSetting, with the stack as it was.
     Result<void> LoadWatermarkSetting(const QString& path);
+    // Saves the stack as a setting file. A stack that holds nothing is not saved. Error: ErrorCode::CannotWrite,
+    // or ErrorCode::InvalidValue for such a stack.
+    Result<void> SaveWatermarkSettings(const QString& path);
 
     static double DegreesToRadians(double degrees);
 
@@ -109,6 +112,8 @@ class WatermarkController : public QObject {
     void rebuildLayers();
     // The stack is now one that "Last Watermark" does not hold.
     void setSaveLastWatermark();
+    // It is kept as a setting: "Last Watermark" need not hold it.
+    void clearSaveLastWatermark();
 
   private:
     void open(EditorKind kind);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/zelto_controller.h"
 
+#include "app/folder_import.h"
 #include "app/full_screen_view.h"
 #include "app/image_list_controller.h"
+#include "app/my_global_instance.h"
 #include "app/preview/photo_preview.h"
 #include "app/preview/preview_view.h"
 #include "app/watermark_controller.h"
-#include "batch/folder_scan.h"
 #include "platform/preferences.h"
 
 #include <QFileInfo>
@@ -25,7 +26,10 @@ ZeltoController::ZeltoController(ImageListController& photos, WatermarkControlle
       preview_(preview),
       shared_(shared),
       dialogs_(std::move(dialogs)),
-      window_(window) {}
+      window_(window) {
+    connect(&watermarks_, &WatermarkController::clearSaveLastWatermark, this,
+            [this] { shared_.SaveLastWatermark = false; });
+}
 
 void ZeltoController::ZoomIn() {
     view_.ZoomIn();
@@ -60,8 +64,8 @@ void ZeltoController::OpenAddFolderWindow() {
 
 void ZeltoController::ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
                                              const QString& extensionList) {
-    const Result<QStringList> found = zelto::ImportImagesFromFolder(folder, includeSubFolders, extensionList);
-    if (found) photos_.AddImages(*found);
+    auto* import = new FolderImport(folder, includeSubFolders, extensionList, window_, this);
+    connect(import, &FolderImport::found, &photos_, &ImageListController::AddImages);
 }
 
 void ZeltoController::StartWatermarking() {

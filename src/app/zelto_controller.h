@@ -36,6 +36,7 @@ class ZeltoController : public QObject {
 
     void Addimages();
     void OpenAddFolderWindow();
+    // Adds the photos of a folder once they are found; the window goes on meanwhile.
     void ImportImagesFromFolder(const QString& folder, bool includeSubFolders, const QString& extensionList);
     void StartWatermarking();
     void ShowTips();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSize>
 #include <QString>
 #include <QVariant>
 
@@ -33,6 +34,11 @@ inline constexpr Preference<QString> DownloadAddress{QLatin1String("DownloadAddr
 inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
 inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
 inline constexpr Preference<QVariantMap> EditorPlaces{QLatin1String("Window/Editors")};  // geometry by name
+inline constexpr Preference<QString> LastAddedFolder{QLatin1String("AddFolder/Folder")};
+inline constexpr Preference<bool> AddsSubFolders{QLatin1String("AddFolder/SubFolders")};
+inline constexpr Preference<QString> LastSettingsFolder{QLatin1String("Settings/LastFolder")};  // of a copy
+inline constexpr Preference<QSize> SavedSettingsSize{QLatin1String("Settings/Size")};
+inline constexpr Preference<QSize> OutputOptionsSize{QLatin1String("OutputOptions/Size")};
 }  // namespace preference
 
 namespace detail {

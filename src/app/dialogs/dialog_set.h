@@ -4,6 +4,7 @@
 // Main thread only.
 #pragma once
 
+#include "app/dialogs/messages.h"
 #include "records/output_options.h"
 
 #include <QString>
@@ -49,8 +50,5 @@ struct DialogSet {
 
 // The dialogs this program has.
 DialogSet standardDialogs();
-
-// A modal message with an "OK" button: what is the matter, and more about it.
-void showAlert(QWidget* parent, const QString& title, const QString& text);
 
 }  // namespace zelto

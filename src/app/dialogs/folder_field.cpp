@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/folder_field.h"
+
+#include <QCompleter>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace zelto {
+
+FolderField::FolderField(const QString& chooserTitle, QWidget* parent)
+    : QWidget(parent), chooserTitle_(chooserTitle), edit_(new QLineEdit(this)) {
+    auto* completer = new QCompleter(this);
+    auto* folders = new QFileSystemModel(completer);
+    folders->setFilter(QDir::Dirs | QDir::NoDotAndDotDot);
+    folders->setOption(QFileSystemModel::DontWatchForChanges);
+    folders->setRootPath(QString());
+    completer->setModel(folders);
+    edit_->setCompleter(completer);
+    edit_->setAccessibleName(tr("Folder"));
+    setFocusProxy(edit_);
+
+    auto* browse = new QPushButton(tr("&Browse..."), this);
+    browse->setAutoDefault(false);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(edit_, 1);
+    row->addWidget(browse);
+    connect(edit_, &QLineEdit::textChanged, this, &FolderField::changed);
+    connect(browse, &QPushButton::clicked, this, &FolderField::browse);
+}
+
+QString FolderField::path() const {
+    const QString text = edit_->text();
+    if (text.isEmpty()) return text;
+    if (text == QLatin1String("~")) return QDir::homePath();
+    return QDir::home().absoluteFilePath(text.startsWith(QLatin1String("~/")) ? text.mid(2) : text);
+}
+
+void FolderField::setPath(const QString& path) {
+    edit_->setText(path);
+}
+
+void FolderField::browse() {
+    const QString start = QFileInfo(path()).isDir() ? path() : QDir::homePath();
+    const QString folder = QFileDialog::getExistingDirectory(this, chooserTitle_, start);
+    if (folder.isEmpty()) return;
+    setPath(folder);
+    Q_EMIT chosen(folder);
+}
+
+}  // namespace zelto

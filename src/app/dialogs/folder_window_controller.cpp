@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/folder_window_controller.h"
+
+#include "app/dialogs/folder_field.h"
+#include "app/dialogs/messages.h"
+#include "batch/folder_scan.h"
+#include "platform/preferences.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace zelto {
+namespace {
+
+struct FormatBox {
+    const char* text;
+    bool ScanFormats::*ticked;
+};
+constexpr std::array FormatBoxes = {
+    FormatBox{"&JPEG", &ScanFormats::Jpeg}, FormatBox{"&PNG", &ScanFormats::Png},
+    FormatBox{"&TIFF", &ScanFormats::Tiff}, FormatBox{"&GIF", &ScanFormats::Gif},
+    FormatBox{"B&MP", &ScanFormats::Bmp},
+};
+
+}  // namespace
+
+FolderWindowController::FolderWindowController(QWidget* parent)
+    : QDialog(parent),
+      folder_(new FolderField(tr("Folder of Photos"), this)),
+      includeSubFolders_(new QCheckBox(tr("Include &sub-folders"), this)) {
+    setWindowTitle(tr("Add Folder"));
+    auto* form = new QFormLayout;
+    auto* folderLabel = new QLabel(tr("&Folder:"), this);
+    folderLabel->setBuddy(&folder_->edit());
+    form->addRow(folderLabel, folder_);
+    form->addRow(QString(), includeSubFolders_);
+    auto* boxes = new QHBoxLayout;
+    const ScanFormats all;
+    for (const FormatBox& format : FormatBoxes) {
+        auto* box = new QCheckBox(QLatin1String(format.text), this);
+        box->setChecked(all.*format.ticked);
+        if (format.ticked == &ScanFormats::Gif) {
+            box->setToolTip(tr("A folder's GIF photos are passed over; add them one by one."));
+        }
+        boxes->addWidget(box);
+        formats_.push_back(box);
+    }
+    boxes->addStretch(1);
+    form->addRow(tr("Formats:"), boxes);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setText(tr("&Add Photos"));
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addStretch(1);
+    column->addWidget(buttons);
+    setMinimumWidth(480);
+    connect(buttons, &QDialogButtonBox::accepted, this, &FolderWindowController::GetinputandCloseWindow);
+    connect(buttons, &QDialogButtonBox::rejected, this, &FolderWindowController::reject);
+
+    const QString last = storedPreference(preference::LastAddedFolder).value_or(QString());
+    if (QFileInfo(last).isDir()) folder_->setPath(last);
+    folder_->edit().selectAll();
+    includeSubFolders_->setChecked(storedPreference(preference::AddsSubFolders).value_or(false));
+}
+
+void FolderWindowController::GetinputandCloseWindow() {
+    if (GetIputFoldername().isEmpty()) {
+        showAlert(this, QStringLiteral("Input Folder cannot be empty"),
+                  QStringLiteral("Please select the folder from where the Images are to be added"));
+        folder_->setFocus();
+    } else if (GetExtensionList().isEmpty()) {
+        showAlert(this, QStringLiteral("File Extension list cannot be empty"),
+                  QStringLiteral("Please select atleast one Extension to be included"));
+        formats_.front()->setFocus();
+    } else {
+        setPreference(preference::LastAddedFolder, GetIputFoldername());
+        setPreference(preference::AddsSubFolders, CheckToIncludeSubDirectories());
+        accept();
+    }
+}
+
+QString FolderWindowController::GetIputFoldername() const {
+    return folder_->path();
+}
+
+bool FolderWindowController::CheckToIncludeSubDirectories() const {
+    return includeSubFolders_->isChecked();
+}
+
+QString FolderWindowController::GetExtensionList() const {
+    ScanFormats formats;
+    for (std::size_t i = 0; i < formats_.size(); ++i) {
+        formats.*FormatBoxes.at(i).ticked = formats_[i]->isChecked();
+    }
+    return zelto::GetExtensionList(formats);
+}
+
+void FolderWindowController::reject() {
+    folder_->setPath(QString());
+    QDialog::reject();
+}
+
+}  // namespace zelto

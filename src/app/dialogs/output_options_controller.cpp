@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/output_options_controller.h"
+
+#include "app/dialogs/dialog_size.h"
+#include "app/dialogs/example_view.h"
+#include "app/dialogs/folder_field.h"
+#include "app/dialogs/messages.h"
+#include "app/dialogs/output_panel.h"
+#include "app/dialogs/rename_panel.h"
+#include "app/dialogs/resize_field.h"
+#include "app/dialogs/resize_panel.h"
+#include "app/image_list_controller.h"
+#include "app/watermark_controller.h"
+#include "persistence/output_options_check.h"
+#include "platform/application_folders.h"
+#include "platform/file_reference.h"
+#include "platform/picture_reader.h"
+#include "platform/preferences.h"
+
+#include <QDate>
+#include <QDialogButtonBox>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(outputOptions, "zelto.output")
+
+Result<QString> defaultsPath() {
+    return applicationFolder(ZeltoFolder).map([](const QString& folder) {
+        return folder + OutputSettingsFileName;
+    });
+}
+
+// What the dialog starts from where nothing is stored.
+OutputSettings initialSettings() {
+    OutputSettings settings;
+    OutputOptions& options = settings.options;
+    options.OutputFormat = SameAsSourceFormat;
+    options.JPEGQuality = 90;
+    options.RenameFormat = QStringLiteral("[O]");
+    options.AspectRatio = true;
+    options.DontEnlargeSmallImage = true;
+    const QByteArray last = storedPreference(preference::LastOutDirectoryData).value_or(QByteArray());
+    options.OutputPath = resolveFileReference(last).value_or(QString());
+    return settings;
+}
+
+}  // namespace
+
+OutputOptionsController::OutputOptionsController(ImageListController& photos, WatermarkController& watermarks,
+                                                 QWidget* parent)
+    : QDialog(parent),
+      photos_(photos),
+      watermarks_(watermarks),
+      output_(new OutputPanel(this)),
+      rename_(new RenamePanel(this)),
+      resize_(new ResizePanel(this)),
+      example_(new ExampleView(this)) {
+    setWindowTitle(tr("Output Options"));
+    setMinimumWidth(fontMetrics().averageCharWidth() * 92);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    QPushButton* start = buttons->addButton(tr("&Start"), QDialogButtonBox::AcceptRole);
+    start->setDefault(true);
+    QPushButton* keep = buttons->addButton(tr("Set &as Default"), QDialogButtonBox::ResetRole);
+    keep->setAutoDefault(false);
+
+    auto* column = new QVBoxLayout(this);
+    for (QWidget* part : std::initializer_list<QWidget*>{output_, rename_, resize_, example_}) {
+        column->addWidget(part);
+    }
+    column->addStretch(1);
+    column->addWidget(buttons);
+
+    connect(start, &QPushButton::clicked, this, &OutputOptionsController::StartWatermarking);
+    connect(keep, &QPushButton::clicked, this, &OutputOptionsController::SetasDefault);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(&output_->folder(), &FolderField::chosen, this, &OutputOptionsController::rememberFolder);
+    display(initialSettings());
+    LoadSettings();
+    connect(output_, &OutputPanel::changed, this, &OutputOptionsController::follow);
+    connect(rename_, &RenamePanel::changed, this, &OutputOptionsController::follow);
+    connect(resize_, &ResizePanel::changed, this, &OutputOptionsController::follow);
+    rememberSize(*this, preference::OutputOptionsSize);
+}
+
+void OutputOptionsController::setMetadataPresent(bool present) {
+    output_->setMetadataPresent(present);
+}
+
+OutputSettings OutputOptionsController::shownSettings() const {
+    OutputSettings settings;
+    output_->store(settings.options);
+    rename_->store(settings.options);
+    resize_->store(settings);
+    return settings;
+}
+
+void OutputOptionsController::display(const OutputSettings& settings) {
+    output_->load(settings.options);
+    rename_->load(settings.options);
+    resize_->load(settings);
+}
+
+void OutputOptionsController::StartWatermarking() {
+    OutputOptions options = shownSettings().options;
+    // A box that the format hides must not decide about the folders.
+    options.CombineToSinglePDF = output_->combines();
+    if (const auto problem = outputOptionsProblem(options)) {
+        showAlert(this, problem->title, problem->text);
+        OutputOptions unresized = options;
+        unresized.ResizeImage = false;
+        QWidget* culprit = &resize_->longerSide();
+        if (outputOptionsProblem(unresized)) culprit = &output_->folder();
+        culprit->setFocus();
+        return;
+    }
+    rememberFolder(options.OutputPath);
+    options_ = options;
+    accept();
+}
+
+void OutputOptionsController::SetasDefault() {
+    const Result<void> saved = defaultsPath().and_then(
+        [this](const QString& path) { return saveOutputSettings(shownSettings(), path); });
+    const QString title = QStringLiteral("Output Settings");
+    if (saved) {
+        showMessage(this, title, QStringLiteral("Settings have been saved"));
+    } else {
+        qCWarning(outputOptions, "%s", qUtf8Printable(saved.error().message));
+        showAlert(this, title, QStringLiteral("Settings cannot be saved."));
+    }
+}
+
+void OutputOptionsController::LoadSettings() {
+    const Result<OutputSettings> settings = defaultsPath().and_then(
+        [this](const QString& path) { return loadOutputSettings(path, shownSettings()); });
+    if (settings) {
+        display(*settings);
+    } else {
+        qCWarning(outputOptions, "%s", qUtf8Printable(settings.error().message));
+    }
+}
+
+void OutputOptionsController::rememberFolder(const QString& folder) const {
+    setPreference(preference::LastOutDirectory, folder);
+    setPreference(preference::LastOutDirectoryData, fileReference(folder));
+}
+
+void OutputOptionsController::showEvent(QShowEvent* event) {
+    const QString path = photos_.selectedPath();
+    photoSize_ = path.isEmpty() ? QSize() : readPictureSize(path).value_or(QSize());
+    follow();
+    QDialog::showEvent(event);
+}
+
+// Everything that depends on what is chosen.
+void OutputOptionsController::follow() {
+    const OutputOptions options = shownSettings().options;
+    rename_->setEnabled(!output_->combines());
+    if (photos_.selectedRow() < 0) {
+        example_->setExample({});
+        return;
+    }
+    example_->setExample(outputExample({photos_.selectedPath(), photos_.selectedRow(), QDate::currentDate()},
+                                       photoSize_, options, watermarks_.GetEffect(),
+                                       photos_.model().list().InputOutputDictionary()));
+}
+
+}  // namespace zelto

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/output_panel.h"
+
+#include "app/dialogs/folder_field.h"
+#include "batch/metadata_transfer.h"
+#include "platform/file_reference.h"
+#include "platform/picture_writer.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace zelto {
+namespace {
+
+// The formats that photos are written in, each the extension of its files.
+constexpr std::array FormatTitles = {
+    SameAsSourceFormat,   QLatin1String("jpg"), QLatin1String("png"), QLatin1String("tif"),
+    QLatin1String("bmp"), QLatin1String("gif"), QLatin1String("pdf"),
+};
+
+struct MetadataRow {
+    const char* title;
+    std::int64_t tag;
+};
+constexpr std::array MetadataRows = {
+    MetadataRow{"Include All", exif_data::IncludeAll},
+    MetadataRow{"Copyright Only", exif_data::CopyrightOnly},
+    MetadataRow{"Exclude Geolocation", exif_data::ExcludeGeolocation},
+    MetadataRow{"Exclude All", exif_data::ExcludeAll},
+};
+
+// A photo keeps its format where none is chosen, and most photos are JPEG files.
+PictureFormat formatOf(const QString& title) {
+    return pictureFormatForExtension(title).value_or(PictureFormat::Jpeg);
+}
+
+}  // namespace
+
+OutputPanel::OutputPanel(QWidget* parent)
+    : QGroupBox(tr("Output"), parent),
+      folder_(new FolderField(tr("Output Folder"), this)),
+      keepStructure_(new QCheckBox(tr("&Maintain the directory structure"), this)),
+      format_(new QComboBox(this)),
+      qualityLabel_(new QLabel(tr("JPEG &quality:"), this)),
+      quality_(new QSpinBox(this)),
+      combine_(new QCheckBox(tr("&Combine to a single PDF"), this)),
+      metadata_(new QComboBox(this)),
+      noteIcon_(new QLabel(this)),
+      note_(new QLabel(this)) {
+    auto* form = new QFormLayout(this);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    const auto addRow = [&](const QString& text, QWidget* buddy, auto* row) {
+        auto* label = new QLabel(text, this);
+        label->setBuddy(buddy);
+        form->addRow(label, row);
+    };
+    addRow(tr("F&older:"), &folder_->edit(), folder_);
+    form->addRow(QString(), keepStructure_);
+    addRow(tr("&Format:"), format_, makeFormatRow());
+    addRow(tr("Meta&data:"), metadata_, makeMetadataColumn());
+
+    connect(folder_, &FolderField::changed, this, &OutputPanel::changed);
+    connect(format_, &QComboBox::currentIndexChanged, this, &OutputPanel::SetOutputFormat);
+    connect(metadata_, &QComboBox::currentIndexChanged, this, &OutputPanel::showMetadataNote);
+    connect(combine_, &QCheckBox::toggled, this, &OutputPanel::SetOutputFormat);
+    connect(keepStructure_, &QCheckBox::toggled, this, &OutputPanel::changed);
+}
+
+QLayout* OutputPanel::makeFormatRow() {
+    for (const QLatin1String title : FormatTitles) format_->addItem(title);
+    format_->setAccessibleName(tr("Format"));
+    qualityLabel_->setBuddy(quality_);
+    quality_->setRange(0, 100);
+    quality_->setAccessibleName(tr("JPEG quality"));
+    quality_->setToolTip(tr("0 is the smallest file, 100 the best picture"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(format_);
+    row->addSpacing(12);
+    row->addWidget(qualityLabel_);
+    row->addWidget(quality_);
+    row->addWidget(combine_);
+    row->addStretch(1);
+    return row;
+}
+
+QLayout* OutputPanel::makeMetadataColumn() {
+    for (const MetadataRow& item : MetadataRows)
+        metadata_->addItem(QLatin1String(item.title), QVariant::fromValue(qint64{item.tag}));
+    metadata_->setAccessibleName(tr("Metadata"));
+    metadata_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    noteIcon_->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(side, side), devicePixelRatioF()));
+    // The line of the note keeps its place while there is none.
+    note_->setMinimumHeight(side);
+    auto* note = new QHBoxLayout;
+    note->addWidget(noteIcon_);
+    note->addWidget(note_, 1);
+    auto* column = new QVBoxLayout;
+    column->addWidget(metadata_);
+    column->addLayout(note);
+    return column;
+}
+
+bool OutputPanel::combines() const {
+    return combine_->isChecked() && formatOf(format_->currentText()) == PictureFormat::Pdf;
+}
+
+void OutputPanel::SetOutputFormat() {
+    const PictureFormat format = formatOf(format_->currentText());
+    const bool hasQuality = format == PictureFormat::Jpeg;
+    qualityLabel_->setVisible(hasQuality);
+    quality_->setVisible(hasQuality);
+    combine_->setVisible(format == PictureFormat::Pdf);
+    keepStructure_->setEnabled(!combines());
+    metadata_->setEnabled(takesMetadata(format));
+    showMetadataNote();
+}
+
+void OutputPanel::setMetadataPresent(bool present) {
+    isMetadataPresent_ = present;
+    showMetadataNote();
+}
+
+void OutputPanel::showMetadataNote() {
+    const bool hasNone = !takesMetadata(formatOf(format_->currentText()));
+    const bool lacksCopyright =
+        !hasNone && !isMetadataPresent_ && metadata_->currentData().toLongLong() == exif_data::CopyrightOnly;
+    noteIcon_->setVisible(lacksCopyright);
+    if (hasNone) {
+        note_->setText(tr("Files of this format have no metadata."));
+    } else if (lacksCopyright) {
+        note_->setText(tr("You have set no copyright data (Add > Copyright)."));
+    } else {
+        note_->clear();
+    }
+    Q_EMIT changed();
+}
+
+void OutputPanel::load(const OutputOptions& options) {
+    folder_->setPath(options.OutputPath);
+    keepStructure_->setChecked(options.KeepDirectoryStructure);
+    // A format that is not offered leaves the choice as it is.
+    const int format = format_->findText(options.OutputFormat);
+    if (format >= 0) format_->setCurrentIndex(format);
+    quality_->setValue(static_cast<int>(options.JPEGQuality));
+    combine_->setChecked(options.CombineToSinglePDF);
+    metadata_->setCurrentIndex(metadata_->findData(QVariant::fromValue(qint64{options.ExifDataToInclude})));
+    SetOutputFormat();
+}
+
+void OutputPanel::store(OutputOptions& options) const {
+    options.OutputPath = folder_->path();
+    options.OutputFolderData =
+        options.OutputPath.isEmpty() ? QByteArray() : fileReference(options.OutputPath);
+    options.OutputFormat = format_->currentText();
+    options.JPEGQuality = quality_->value();
+    options.CombineToSinglePDF = combine_->isChecked();
+    options.KeepDirectoryStructure = keepStructure_->isChecked();
+    options.ExifDataToInclude = metadata_->currentData().toLongLong();
+}
+
+}  // namespace zelto
