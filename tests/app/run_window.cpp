@@ -18,16 +18,18 @@ constexpr int Patience = 20000;  // milliseconds
 
 class RunWindow::GatedWriter : public OutputWriter {
   public:
-    GatedWriter(Settings settings, std::counting_semaphore<>* gate)
-        : OutputWriter(std::move(settings)), gate_(gate) {}
+    GatedWriter(Settings settings, Gate* gate) : OutputWriter(std::move(settings)), gate_(gate) {}
 
     Result<void> commit(const PhotoTask& task, PreparedPhoto photo) override {
-        if (gate_ != nullptr) gate_->acquire();
+        if (gate_ != nullptr) {
+            ++gate_->arrived;
+            gate_->open.acquire();
+        }
         return OutputWriter::commit(task, std::move(photo));
     }
 
   private:
-    std::counting_semaphore<>* gate_;
+    Gate* gate_;
 };
 
 RunWindow::RunWindow() {
@@ -62,7 +64,7 @@ RunWindow::~RunWindow() {
 }
 
 void RunWindow::destroyRun() {
-    gate_.release(1000);
+    gate_.open.release(1000);
     run_.reset();
 }
 
@@ -90,7 +92,7 @@ void RunWindow::start() {
 void RunWindow::startGated() {
     isGated_ = true;
     start();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->processing().isVisible(); }, Patience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return gate_.arrived > 0; }, Patience));
 }
 
 QString RunWindow::statuses() const {

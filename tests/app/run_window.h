@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <memory>
 #include <semaphore>
 
@@ -28,8 +29,8 @@ class RunWindow : public ::testing::Test {
     void addPhotos(const QString& kinds, QSize size = {60, 40});
 
     void start();       // presses Start
-    void startGated();  // the same, with no photo let through
-    void letThrough(int photos) { gate_.release(photos); }
+    void startGated();  // the same, until the first photo waits to be let through
+    void letThrough(int photos) { gate_.open.release(photos); }
     void destroyRun();  // as at the end of the program
 
     // A letter for each photo: w written, x failed, . not processed.
@@ -58,7 +59,11 @@ class RunWindow : public ::testing::Test {
     class GatedWriter;
 
     const QTemporaryDir folder_;
-    std::counting_semaphore<> gate_{0};
+    struct Gate {
+        std::counting_semaphore<> open{0};
+        std::atomic<int> arrived = 0;
+    };
+    Gate gate_;
     bool isGated_ = false;
     std::unique_ptr<RunController> run_;
 };
