@@ -9,12 +9,16 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
+#include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace zelto {
@@ -24,7 +28,8 @@ constexpr QSize PhotoSize(6000, 4000);
 
 class Window {
   public:
-    explicit Window(int photos) : window_(shared_, standardDialogs(), EditorSet()) {
+    explicit Window(int photos, EditorSet editors = {})
+        : window_(shared_, standardDialogs(), std::move(editors)) {
         window_.resize(1280, 800);
         window_.show();
         const QByteArray bytes = jpegBytes(drawnScene(PhotoSize), {.fullChroma = false});
@@ -138,6 +143,42 @@ BENCHMARK(TypedLetter)
     ->Args({0, 0})
     ->Args({1, 0})
     ->Args({1, 1})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(100);
+
+// The same with the editor: from the key until the screen shows it, the editor itself included.
+void LetterTypedIntoEditor(benchmark::State& state) {
+    Window window(1, standardEditors());
+    if (state.range(0) != 0) window->controller().ActualSize();
+    window.settle();
+    std::vector<double> times;
+    QTimer::singleShot(0, &*window, [&] {
+        QWidget* editor = QApplication::activeModalWidget();
+        auto* text = editor->findChild<QPlainTextEdit*>(QStringLiteral("Text"));
+        Window::waitInBackground(1500);
+        for (auto _ : state) {
+            if (times.size() % 20 == 0) text->clear();
+            window.settle();
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+            QElapsedTimer timer;
+            timer.start();
+            QApplication::sendEvent(text, &key);
+            text->viewport()->repaint();
+            window.settle();
+            times.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+            state.SetIterationTime(times.back());
+        }
+        editor->close();
+    });
+    window->watermarks().OpenTextWatermarkSettings();
+    std::nth_element(times.begin(), times.begin() + 50, times.end());
+    state.counters["median_ms"] = times[50] * 1e3;
+}
+BENCHMARK(LetterTypedIntoEditor)
+    ->ArgName("actualSize")
+    ->Arg(0)
+    ->Arg(1)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Iterations(100);

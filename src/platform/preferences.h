@@ -25,6 +25,7 @@ inline constexpr Preference<bool> FirstRun{QLatin1String("FirstRun")};
 inline constexpr Preference<QString> SettingDirectory{QLatin1String("SettingDirectory")};
 inline constexpr Preference<QString> AutoLoadSetting{QLatin1String("AutoLoadSetting")};  // a setting's name
 inline constexpr Preference<QString> LastImageDirectory{QLatin1String("LastImageDirectory")};
+inline constexpr Preference<QString> LastLogoDirectory{QLatin1String("LastLogoDirectory")};
 inline constexpr Preference<QString> LastOutDirectory{QLatin1String("LastOutDirectory")};
 inline constexpr Preference<QByteArray> LastOutDirectoryData{QLatin1String("LastOutDirectoryData")};
 inline constexpr Preference<qint64> LastAutoNumber{QLatin1String("LastAutoNumber")};

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -18,9 +19,10 @@ template <class Dialog, class Drive>
 std::shared_ptr<bool> whenOpened(Drive drive) {
     auto came = std::make_shared<bool>(false);
     auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, came, drive = std::move(drive)] {
+    const QPointer<QWidget> before = QApplication::activeModalWidget();
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, came, before, drive = std::move(drive)] {
         QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || !window->isVisible()) return;
+        if (window == nullptr || window == before || !window->isVisible()) return;
         timer->stop();
         timer->deleteLater();
         auto* dialog = dynamic_cast<Dialog*>(window);

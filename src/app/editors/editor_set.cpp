@@ -6,11 +6,13 @@
 #include "app/editors/filter_window.h"
 #include "app/editors/qr_code_editor.h"
 #include "app/editors/shape_editor.h"
+#include "app/editors/text/watermark_window_controller.h"
 
 namespace zelto {
 
 EditorSet standardEditors() {
     return {
+        {EditorKind::Image, editLogo},          {EditorKind::Text, editText},
         {EditorKind::Shape, editShape},         {EditorKind::QrCode, editQrCode},
         {EditorKind::Filter, chooseFilter},     {EditorKind::Effects, editEffects},
         {EditorKind::Copyright, editCopyright},

@@ -8,9 +8,12 @@ const QUndoCommand* lastStep(const QUndoStack& history) {
     return history.index() > 0 ? history.command(history.index() - 1) : nullptr;
 }
 
-Watermark startOf(const WatermarkController& controller, std::int32_t type) {
+Watermark startOf(const WatermarkController& controller, std::int32_t type, const WatermarkEdit& complete) {
     const int index = controller.CurrentWatermark();
-    return index < 0 ? WatermarkController::startingWatermark(type) : controller.GetWatermarkAtRow(index);
+    if (index >= 0) return controller.GetWatermarkAtRow(index);
+    Watermark record = WatermarkController::startingWatermark(type);
+    if (complete) complete(record);
+    return record;
 }
 
 }  // namespace
@@ -32,9 +35,10 @@ void EditorSession::revert() {
     }
 }
 
-WatermarkSession::WatermarkSession(const EditorCall& call, std::int32_t type, QObject* parent)
+WatermarkSession::WatermarkSession(const EditorCall& call, std::int32_t type, const WatermarkEdit& complete,
+                                   QObject* parent)
     : EditorSession(call, parent),
-      start_(startOf(call.controller, type)),
+      start_(startOf(call.controller, type, complete)),
       record_(start_),
       isNew_(call.controller.CurrentWatermark() < 0) {}
 

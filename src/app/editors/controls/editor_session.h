@@ -44,7 +44,9 @@ class WatermarkSession : public EditorSession {
     Q_OBJECT
 
   public:
-    WatermarkSession(const EditorCall& call, std::int32_t type, QObject* parent = nullptr);
+    // A new one is what `complete` makes of the list's starting record of `type`.
+    WatermarkSession(const EditorCall& call, std::int32_t type, const WatermarkEdit& complete = {},
+                     QObject* parent = nullptr);
 
     // The record as it is now. A new one is in the list as soon as it holds something.
     Watermark record() const;

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -82,7 +83,7 @@ void MacroController::layOut() {
         found_->setFilterFixedString(part);
         if (!list_->currentIndex().isValid()) list_->setCurrentIndex(found_->index(0, 0));
     });
-    connect(search_, &QLineEdit::returnPressed, this, &MacroController::InsertMacro);
+    search_->installEventFilter(this);
 
     list_->setObjectName(QStringLiteral("macros"));
     list_->setAccessibleName(tr("Macros"));
@@ -93,6 +94,7 @@ void MacroController::layOut() {
     list_->setAlternatingRowColors(true);
     list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list_->header()->setSectionsMovable(false);
+    list_->installEventFilter(this);
     connect(list_, &QTreeView::doubleClicked, this, &MacroController::MacrolistDoubleClicked);
     connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& row) { insertButton_->setEnabled(row.isValid()); });
@@ -113,6 +115,23 @@ void MacroController::layOut() {
     column->addWidget(search_);
     column->addWidget(list_, 1);
     column->addLayout(buttons);
+}
+
+// Enter inserts, and does not reach the button that closes the editor; the arrow keys go from the search to
+// what was found.
+bool MacroController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            InsertMacro();
+            return true;
+        }
+        if (watched == search_ && (key == Qt::Key_Down || key == Qt::Key_Up)) {
+            list_->setFocus();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void MacroController::AddMacroItem(const Macro& macro, const QString& value) {

@@ -44,6 +44,9 @@ class MacroController : public QWidget {
     // Whether the values of the photo are there; they are found out in the background.
     bool isComplete() const { return isComplete_; }
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void layOut();
     void AddMacroItem(const Macro& macro, const QString& value);
