@@ -9,7 +9,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using ::testing::Contains;
-using ::testing::ElementsAre;
 using ::testing::Not;
 
 TEST(CharacterNames, AreSearchedByWordsInAnyOrder) {
@@ -40,15 +39,11 @@ TEST(CharacterNames, BestComeFirst) {
 }
 
 TEST(CharacterNames, ACharacterOrItsCodeFindsIt) {
-    struct Row {
-        QString words;
-        QList<char32_t> found;
-    };
-    const Row rows[] = {{u"→"_s, {U'→'}},       {u" 😀 "_s, {U'😀'}}, {u"u+20ac"_s, {U'€'}},
-                        {u"U+1F600"_s, {U'😀'}}, {u"U+0007"_s, {}},  {u"U+FFFFFFF"_s, {}},
-                        {u"  "_s, {}},          {u"no such"_s, {}}};
-    for (const Row& row : rows)
-        EXPECT_EQ(findCharacters(row.words, 10).characters, row.found) << qPrintable(row.words);
+    const std::pair<QString, QList<char32_t>> rows[] = {
+        {u"→"_s, {U'→'}},  {u" 😀 "_s, {U'😀'}},   {u"u+20ac"_s, {U'€'}}, {u"U+1F600"_s, {U'😀'}},
+        {u"U+0007"_s, {}}, {u"U+FFFFFFF"_s, {}}, {u"  "_s, {}},         {u"no such"_s, {}}};
+    for (const auto& [words, found] : rows)
+        EXPECT_EQ(findCharacters(words, 10).characters, found) << qPrintable(words);
 }
 
 }  // namespace

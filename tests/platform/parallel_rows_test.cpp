@@ -10,20 +10,15 @@
 namespace zelto {
 namespace {
 
-// How often every row was handed out; each row is one thread's alone, so plain counters would show a race.
-std::vector<int> visits(int rows, int width) {
-    std::vector<int> counts(static_cast<std::size_t>(rows), 0);
-    parallelRows(rows, width, [&](int first, int end) {
-        for (int row = first; row < end; ++row) ++counts[static_cast<std::size_t>(row)];
-    });
-    return counts;
-}
-
 TEST(ParallelRows, EveryRowOnce) {
     for (const int rows : {0, 1, 2, 3, 1000, 4001}) {
         for (const int width : {0, 1, 6000, 1 << 20}) {
-            EXPECT_EQ(visits(rows, width), std::vector<int>(static_cast<std::size_t>(rows), 1))
-                << rows << " rows of " << width;
+            // Each row is one thread's alone, so plain counters would show a race.
+            std::vector<int> counts(static_cast<std::size_t>(rows), 0);
+            parallelRows(rows, width, [&](int first, int end) {
+                for (int row = first; row < end; ++row) ++counts[static_cast<std::size_t>(row)];
+            });
+            EXPECT_EQ(counts, std::vector<int>(counts.size(), 1)) << rows << " rows of " << width;
         }
     }
 }
@@ -32,7 +27,7 @@ TEST(ParallelRows, ManyCallersAndCallsFromWithinABand) {
     constexpr int Callers = 8;
     constexpr int Rows = 64;
     std::atomic<int> inner = 0;
-    std::vector<std::thread> callers;
+    std::vector<std::jthread> callers;
     for (int i = 0; i < Callers; ++i) {
         callers.emplace_back([&inner] {
             parallelRows(Rows, 1 << 20, [&inner](int first, int end) {
@@ -42,7 +37,7 @@ TEST(ParallelRows, ManyCallersAndCallsFromWithinABand) {
             });
         });
     }
-    for (std::thread& caller : callers) caller.join();
+    callers.clear();
     EXPECT_EQ(inner, Callers * Rows * 4);
 }
 

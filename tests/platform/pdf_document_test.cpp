@@ -44,26 +44,23 @@ class FullDevice : public QIODevice {
 class PdfTest : public ::testing::Test {
   protected:
     // What a program of poppler says of the document, or makes from it.
-    std::string poppler(const char* program, const QStringList& arguments, const QByteArray& document,
+    std::string poppler(const char* program, const char* arguments, const QByteArray& document,
                         const QStringList& target = {}) {
         const QString path = folder_.filePath(QStringLiteral("document.pdf"));
         EXPECT_TRUE(writeWholeFile(path, document));
-        const ProgramRun run = runProgram(QLatin1String(program), arguments + QStringList(path) + target);
+        const ProgramRun run = runProgram(
+            QLatin1String(program), QString::fromLatin1(arguments).split(u' ') + QStringList(path) + target);
         EXPECT_EQ(run.exitStatus, 0) << program;
         EXPECT_EQ(run.errors, "");
         return run.output.simplified().toStdString();
     }
 
-    std::string facts(const QByteArray& document) {
-        return poppler("pdfinfo", {QStringLiteral("-l"), QStringLiteral("99")}, document);
-    }
+    std::string facts(const QByteArray& document) { return poppler("pdfinfo", "-l 99", document); }
 
     // The only page as it is seen, one pixel a point.
     QImage page(const QByteArray& document) {
-        const QStringList asPicture = {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
-                                       QStringLiteral("-singlefile")};
         const QString target = folder_.filePath(QStringLiteral("page"));
-        poppler("pdftocairo", asPicture, document, {target});
+        poppler("pdftocairo", "-r 72 -png -singlefile", document, {target});
         return QImage(target + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
     }
 
@@ -72,17 +69,16 @@ class PdfTest : public ::testing::Test {
 
 TEST_F(PdfTest, PageIsThePictureOnePointAPixel) {
     for (const QSize size : {QSize(1, 1), QSize(301, 187)}) {
-        QImage withText = drawnScene(size);
-        for (int x = 0; x < size.width(); x += 2) withText.setPixel(x, size.height() / 2, qRgb(255, 0, 0));
-        QImage opaqueWithAlpha = withText.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        for (const QImage& picture : {withText, opaqueWithAlpha, drawnSceneWithAlpha(size)}) {
-            const Result<QByteArray> document =
-                encodePicture(picture, PictureFormat::Pdf, {.jpegQuality = 5});
-            ASSERT_TRUE(document);
-            EXPECT_THAT(facts(*document), HasSubstr("size: " + std::to_string(size.width()) + " x " +
-                                                    std::to_string(size.height()) + " pts"));
+        QImage opaque = drawnScene(size);
+        for (int x = 0; x < size.width(); x += 2) opaque.setPixel(x, size.height() / 2, qRgb(255, 0, 0));
+        for (const QImage& picture : {opaque, opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                                      drawnSceneWithAlpha(size)}) {
+            const QByteArray document =
+                encodePicture(picture, PictureFormat::Pdf, {.jpegQuality = 5}).value();
+            EXPECT_THAT(facts(document), HasSubstr("size: " + std::to_string(size.width()) + " x " +
+                                                   std::to_string(size.height()) + " pts"));
             // No more than JPEG's finest tables leave, however low the quality asked for JPEG files is.
-            EXPECT_LE(largestDifference(page(*document), onWhite(picture)), 24)
+            EXPECT_LE(largestDifference(page(document), onWhite(picture)), 24)
                 << size.width() << ' ' << picture.format();
         }
     }
@@ -110,9 +106,7 @@ TEST_F(PdfTest, PagesFollowEachOtherAtTheirOwnSizesAndAreWrittenOneByOne) {
         before = buffer.size();
     }
     EXPECT_FALSE(encodePdfPage(QImage()));
-    EXPECT_FALSE(encodePdfPage(QImage(70000, 1, QImage::Format_RGB32)));
     ASSERT_TRUE(document.finish());
-    EXPECT_EQ(document.pageCount(), 12);
     const std::string found = facts(buffer.data());
     EXPECT_THAT(found, HasSubstr("Pages: 12"));
     for (int i = 0; i < 12; ++i) {
@@ -124,9 +118,7 @@ TEST_F(PdfTest, PagesFollowEachOtherAtTheirOwnSizesAndAreWrittenOneByOne) {
 TEST_F(PdfTest, SaysWhenItCannotBeWrittenOrHasNoPages) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    const Result<void> empty = PdfDocument(buffer).finish();
-    ASSERT_FALSE(empty);
-    EXPECT_EQ(empty.error().code, ErrorCode::InvalidValue);
+    EXPECT_EQ(PdfDocument(buffer).finish().error().code, ErrorCode::InvalidValue);
 
     const QImage picture = drawnScene({60, 40});
     const qsizetype whole = encodePicture(picture, PictureFormat::Pdf, {}).value().size();

@@ -29,7 +29,6 @@ TEST(PluginDecoder, EveryKindOfPixelArrivesAsTheSameColours) {
              Row{opaque, {"png", "tiff", "bmp", "ppm"}},
              Row{opaque.convertToFormat(QImage::Format_Indexed8), {"png", "tiff", "bmp"}},
              Row{opaque.convertToFormat(QImage::Format_Mono), {"png", "tiff", "bmp"}},
-             Row{opaque.convertToFormat(QImage::Format_MonoLSB).mirrored(), {"png", "tiff"}},
              Row{opaque.convertToFormat(QImage::Format_Grayscale8), {"png", "tiff", "bmp"}},
              Row{opaque.convertToFormat(QImage::Format_Grayscale16), {"png", "tiff"}},
              Row{opaque.convertToFormat(QImage::Format_RGBX64), {"png", "tiff"}},
@@ -52,13 +51,11 @@ TEST(PluginDecoder, EveryKindOfPixelArrivesAsTheSameColours) {
 }
 
 TEST(PluginDecoder, SixteenBitsAreRoundedNotCutOff) {
-    QImage wide(2, 1, QImage::Format_RGBX64);
-    wide.setPixelColor(0, 0, QColor::fromRgba64(QRgba64::fromRgba64(127 * 257 + 130, 0xFFFF, 120, 0xFFFF)));
-    wide.setPixelColor(1, 0, QColor::fromRgba64(QRgba64::fromRgba64(127 * 257 + 126, 0xFF7F, 140, 0xFFFF)));
+    QImage wide(1, 1, QImage::Format_RGBX64);
+    wide.setPixelColor(0, 0, QRgba64::fromRgba64(127 * 257 + 130, 0xFF7F, 120, 0xFFFF));
     for (const char* format : {"png", "tiff"}) {
         const QImage picture = decodePicture(saved(wide, format)).value_or(Picture()).image;
         EXPECT_EQ(picture.pixel(0, 0), qRgb(128, 255, 0)) << format;
-        EXPECT_EQ(picture.pixel(1, 0), qRgb(127, 255, 1)) << format;
     }
 }
 
@@ -79,20 +76,17 @@ TEST(PluginDecoder, ResolutionIsWhatTheFileRecords) {
     struct Row {
         const char* name;
         QByteArray file;
-        double dpiX;
-        double dpiY;
+        double dpiX, dpiY;
     };
     for (const Row& row : {
              Row{"png without", silentPng, 72.0, 72.0},
-             Row{"png, whole inches in metres", pngWith(QByteArray("\0\0\x0B\x13\0\0\x2E\x23\1", 9)), 72.0,
-                 300.0},
+             Row{"png, whole inches", pngWith(QByteArray("\0\0\x0B\x13\0\0\x2E\x23\1", 9)), 72.0, 300.0},
              Row{"png, the screen's 96", pngWith(QByteArray("\0\0\x0E\xC4\0\0\x0E\xC4\1", 9)), 96.0, 96.0},
              Row{"png, proportions only", pngWith(QByteArray("\0\0\x0B\x13\0\0\x2E\x23\0", 9)), 72.0, 72.0},
              Row{"bmp without", silentBmp, 72.0, 72.0},
              Row{"bmp", encoded(PictureFormat::Bmp, 300.0, 150.0), 300.0, 150.0},
              Row{"tiff", encoded(PictureFormat::Tiff, 240.0, 120.5), 240.0, 120.5},
              Row{"gif has none", encoded(PictureFormat::Gif, 300.0, 300.0), 72.0, 72.0},
-             Row{"webp has none", saved(scene, "webp"), 72.0, 72.0},
          }) {
         const Result<Picture> picture = decodePicture(row.file);
         ASSERT_TRUE(picture) << row.name;

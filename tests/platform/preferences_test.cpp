@@ -20,9 +20,7 @@ TEST(Preferences, ComeBackWithTheirTypeFromTheUsersOwnFile) {
     flushPreferences();
 
     QFile file(QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")) + QStringLiteral("/Zelto/Zelto.ini"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray stored = file.readAll();
-    ASSERT_TRUE(stored.contains("ShowTips=false\n")) << stored.toStdString();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll().contains("ShowTips=false\n"));
     EXPECT_EQ(storedPreference(preference::ShowTips), false);
     EXPECT_EQ(storedPreference(preference::LastAutoNumber), qint64{1} << 40);
     EXPECT_EQ(storedPreference(preference::AutoLoadSetting), text);

@@ -15,8 +15,8 @@
 namespace zelto {
 namespace {
 
-constexpr std::uint32_t Width = 70;
-constexpr std::uint32_t Height = 45;
+constexpr int Width = 70;
+constexpr int Height = 45;
 
 struct Layout {
     std::uint16_t photometric = PHOTOMETRIC_SEPARATED;
@@ -28,21 +28,7 @@ struct Layout {
     std::uint16_t compression = COMPRESSION_LZW;
 };
 
-using Sample = std::function<int(std::uint32_t x, std::uint32_t y, int sample)>;  // 0 to 255
-
-// A chunk (strip of ten rows, or tile) of one plane or of all samples.
-QByteArray chunkAt(const Layout& layout, std::uint32_t x0, std::uint32_t y0, std::uint32_t width,
-                   std::uint32_t height, int plane, const Sample& sample) {
-    QByteArray bytes;
-    for (std::uint32_t y = y0; y < y0 + height; ++y) {
-        for (std::uint32_t x = x0; x < x0 + width; ++x) {
-            for (int s = plane < 0 ? 0 : plane; s < (plane < 0 ? layout.samples : plane + 1); ++s) {
-                bytes.append(layout.bits / 8, char(x < Width && y < Height ? sample(x, y, s) : 77));
-            }
-        }
-    }
-    return bytes;
-}
+using Sample = std::function<int(int x, int y, int sample)>;  // 0 to 255
 
 QByteArray tiffBytes(const Layout& layout, const Sample& sample) {
     QTemporaryFile file;
@@ -57,21 +43,24 @@ QByteArray tiffBytes(const Layout& layout, const Sample& sample) {
     TIFFSetField(tiff, TIFFTAG_PLANARCONFIG,
                  layout.separatePlanes ? PLANARCONFIG_SEPARATE : PLANARCONFIG_CONTIG);
     if (layout.extraSample != 0xFFFF) TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &layout.extraSample);
-    const std::uint32_t chunkWidth = layout.tiled ? 32 : Width;
-    const std::uint32_t chunkHeight = layout.tiled ? 16 : 10;
-    if (layout.tiled) {
-        TIFFSetField(tiff, TIFFTAG_TILEWIDTH, chunkWidth);
-        TIFFSetField(tiff, TIFFTAG_TILELENGTH, chunkHeight);
-    } else {
-        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, chunkHeight);
-    }
+    const int width = layout.tiled ? 32 : Width;
+    const int height = layout.tiled ? 16 : 10;
+    TIFFSetField(tiff, layout.tiled ? TIFFTAG_TILEWIDTH : TIFFTAG_ROWSPERSTRIP,
+                 layout.tiled ? width : height);
+    if (layout.tiled) TIFFSetField(tiff, TIFFTAG_TILELENGTH, height);
     std::uint32_t index = 0;
-    for (int plane = layout.separatePlanes ? 0 : -1; plane < (layout.separatePlanes ? layout.samples : 0);
-         ++plane) {
-        for (std::uint32_t y = 0; y < Height; y += chunkHeight) {
-            for (std::uint32_t x = 0; x < Width; x += chunkWidth, ++index) {
-                const std::uint32_t rows = layout.tiled ? chunkHeight : std::min(chunkHeight, Height - y);
-                QByteArray chunk = chunkAt(layout, x, y, chunkWidth, rows, plane, sample);
+    const int planes = layout.separatePlanes ? layout.samples : 1;
+    for (int plane = 0; plane < planes; ++plane) {
+        for (int top = 0; top < Height; top += height) {
+            for (int left = 0; left < Width; left += width, ++index) {
+                QByteArray chunk;  // a strip or tile of one plane or of all samples
+                for (int y = top; y < (layout.tiled ? top + height : std::min(top + height, Height)); ++y) {
+                    for (int x = left; x < left + width; ++x) {
+                        for (int s = plane; s < (layout.separatePlanes ? plane + 1 : layout.samples); ++s)
+                            chunk.append(layout.bits / 8,
+                                         char(x < Width && y < Height ? sample(x, y, s) : 77));
+                    }
+                }
                 const auto write = layout.tiled ? TIFFWriteEncodedTile : TIFFWriteEncodedStrip;
                 EXPECT_EQ(write(tiff, index, chunk.data(), chunk.size()), chunk.size());
             }
@@ -79,14 +68,6 @@ QByteArray tiffBytes(const Layout& layout, const Sample& sample) {
     }
     TIFFClose(tiff);
     return file.readAll();
-}
-
-QImage expectedPicture(QImage::Format format, const std::function<QRgb(int x, int y)>& color) {
-    QImage picture(Width, Height, format);
-    for (int y = 0; y < int(Height); ++y) {
-        for (int x = 0; x < int(Width); ++x) picture.setPixel(x, y, color(x, y));
-    }
-    return picture;
 }
 
 std::vector<Layout> everyArrangement(Layout layout) {
@@ -104,64 +85,49 @@ std::vector<Layout> everyArrangement(Layout layout) {
     return layouts;
 }
 
-std::string nameOf(const Layout& layout) {
-    return std::to_string(layout.bits) + " bits" + (layout.tiled ? ", tiles" : ", strips") +
-           (layout.separatePlanes ? ", planes" : "");
+void expectPicture(const Layout& layout, const Sample& sample, const QImage& expected) {
+    const Result<Picture> picture = decodePicture(tiffBytes(layout, sample));
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->image.format(), expected.format());
+    // One level where sixteen bits or a premultiplied colour had to be rounded.
+    EXPECT_LE(largestDifference(picture->image, expected), expected.hasAlphaChannel() ? 1 : 0)
+        << layout.bits << " bits, tiles " << layout.tiled << ", planes " << layout.separatePlanes;
 }
 
 TEST(TiffDecoder, CmykWithoutAProfileIsMixedFromIdealInks) {
-    const Sample inks = [](std::uint32_t x, std::uint32_t y, int s) {
-        return s == 3 ? int(y) : int(x) * (s + 1);
-    };
-    const QImage expected = expectedPicture(QImage::Format_RGB32, [](int x, int y) {
+    const Sample inks = [](int x, int y, int s) { return s == 3 ? y : x * (s + 1); };
+    const QImage expected = pictureOf({Width, Height}, QImage::Format_RGB32, [](int x, int y) {
         const int light = 255 - y;
         return qRgb((255 - x) * light / 255, (255 - 2 * x) * light / 255, (255 - 3 * x) * light / 255);
     });
-    std::vector<Layout> layouts = everyArrangement({});
-    layouts.push_back({.samples = 5, .extraSample = EXTRASAMPLE_UNSPECIFIED});
-    for (const Layout& layout : layouts) {
-        const Result<Picture> picture = decodePicture(tiffBytes(layout, inks));
-        ASSERT_TRUE(picture) << nameOf(layout);
-        EXPECT_EQ(picture->image.format(), QImage::Format_RGB32);
-        EXPECT_EQ(largestDifference(picture->image, expected), 0) << nameOf(layout);
-    }
+    for (const Layout& layout : everyArrangement({})) expectPicture(layout, inks, expected);
+    expectPicture({.samples = 5, .extraSample = EXTRASAMPLE_UNSPECIFIED}, inks, expected);
 }
 
 TEST(TiffDecoder, GreyKeepsItsAlphaOfEitherKind) {
-    const Sample straight = [](std::uint32_t x, std::uint32_t y, int s) {
-        return s == 0 ? int(x) * 3 : int(y) * 5;
+    const Sample straight = [](int x, int y, int s) { return s == 0 ? x * 3 : y * 5; };
+    const Sample premultiplied = [](int x, int y, int s) {
+        return s == 0 ? (x * 3 * y * 5 + 127) / 255 : y * 5;
     };
-    const Sample premultiplied = [&](std::uint32_t x, std::uint32_t y, int s) {
-        return s == 0 ? (int(x) * 3 * int(y) * 5 + 127) / 255 : int(y) * 5;
-    };
-    const QImage expected = expectedPicture(QImage::Format_ARGB32, [](int x, int y) {
-                                return qRgba(3 * x, 3 * x, 3 * x, 5 * y);
-                            }).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage expected = pictureOf({Width, Height}, QImage::Format_ARGB32_Premultiplied, [](int x, int y) {
+        return qPremultiply(qRgba(3 * x, 3 * x, 3 * x, 5 * y));
+    });
     for (const std::uint16_t kind : {EXTRASAMPLE_UNASSALPHA, EXTRASAMPLE_ASSOCALPHA}) {
         for (const Layout& layout :
-             everyArrangement({.photometric = PHOTOMETRIC_MINISBLACK, .samples = 2, .extraSample = kind})) {
-            const Result<Picture> picture =
-                decodePicture(tiffBytes(layout, kind == EXTRASAMPLE_ASSOCALPHA ? premultiplied : straight));
-            ASSERT_TRUE(picture) << nameOf(layout);
-            EXPECT_LE(largestDifference(picture->image, expected), 1) << nameOf(layout) << ", kind " << kind;
-        }
+             everyArrangement({.photometric = PHOTOMETRIC_MINISBLACK, .samples = 2, .extraSample = kind}))
+            expectPicture(layout, kind == EXTRASAMPLE_ASSOCALPHA ? premultiplied : straight, expected);
     }
 }
 
 TEST(TiffDecoder, DataThatCannotBeUnpackedIsDamaged) {
-    const Sample noise = [](std::uint32_t x, std::uint32_t y, int s) {
-        return int(x * 37 + y * 101 + unsigned(s) * 11) & 0xFF;
-    };
-    for (const std::uint16_t samples : {std::uint16_t{4}, std::uint16_t{2}}) {
-        const bool isCmyk = samples == 4;
-        QByteArray bytes =
-            tiffBytes({.photometric = std::uint16_t(isCmyk ? PHOTOMETRIC_SEPARATED : PHOTOMETRIC_MINISBLACK),
-                       .samples = samples,
-                       .extraSample = std::uint16_t(isCmyk ? 0xFFFF : EXTRASAMPLE_UNASSALPHA)},
-                      noise);
+    const Sample noise = [](int x, int y, int s) { return (x * 37 + y * 101 + s * 11) & 0xFF; };
+    for (const Layout& layout : {Layout{}, Layout{.photometric = PHOTOMETRIC_MINISBLACK,
+                                           .samples = 2,
+                                           .extraSample = EXTRASAMPLE_UNASSALPHA}}) {
+        QByteArray bytes = tiffBytes(layout, noise);
         ASSERT_TRUE(decodePicture(bytes));
         bytes.replace(400, 300, QByteArray(300, '\xFF'));
-        EXPECT_FALSE(decodePicture(bytes)) << samples;
+        EXPECT_FALSE(decodePicture(bytes)) << layout.samples;
     }
 }
 

@@ -27,28 +27,11 @@ QByteArray littleEndian(quint32 value, int count) {
 
 // What a viewer sees of `stored`, by Qt's own mirroring and turning.
 QImage seen(const QImage& stored, int orientation) {
-    const QImage mirrored = stored.mirrored(true, false);
-    const auto turned = [](const QImage& picture, int degrees) {
-        return picture.transformed(QTransform().rotate(degrees));
-    };
-    switch (orientation) {
-        case 2:
-            return mirrored;
-        case 3:
-            return turned(stored, 180);
-        case 4:
-            return turned(mirrored, 180);
-        case 5:
-            return turned(mirrored, 270);
-        case 6:
-            return turned(stored, 90);
-        case 7:
-            return turned(mirrored, 90);
-        case 8:
-            return turned(stored, 270);
-        default:
-            return stored;
-    }
+    // Whether the picture is mirrored first, and by how many degrees it is turned then.
+    static constexpr std::pair<bool, int> Turns[] = {{false, 0},  {true, 0},   {false, 180}, {true, 180},
+                                                     {true, 270}, {false, 90}, {true, 90},   {false, 270}};
+    const auto [isMirrored, degrees] = Turns[orientation - 1];
+    return stored.mirrored(isMirrored, false).transformed(QTransform().rotate(degrees));
 }
 
 QByteArray exifOf(int orientation) {
@@ -91,20 +74,13 @@ QByteArray webpFile(const QImage& picture, int orientation) {
 
 TEST(Upright, EveryOrientationOfEveryFormatIsTurned) {
     const QImage scene = drawnScene(Stored);
-    struct Format {
-        const char* name;
-        QByteArray (*file)(const QImage&, int);
-    };
-    for (const Format& format : {Format{"jpeg", jpegFile}, Format{"png", pngFile}, Format{"tiff", tiffFile},
-                                 Format{"webp", webpFile}}) {
-        const QImage stored = decodePicture(format.file(scene, 1)).value_or(Picture()).image;
-        ASSERT_EQ(stored.size(), Stored) << format.name;
-        ASSERT_LE(largestDifference(stored, scene), 40) << format.name;  // lossy coding of the scene's edges
+    for (const auto& [name, file] : {std::pair{"jpeg", &jpegFile}, std::pair{"png", &pngFile},
+                                     std::pair{"tiff", &tiffFile}, std::pair{"webp", &webpFile}}) {
+        const QImage stored = decodePicture(file(scene, 1)).value_or(Picture()).image;
+        ASSERT_LE(largestDifference(stored, scene), 40) << name;  // lossy coding of the scene's edges
         for (int orientation = 1; orientation <= 8; ++orientation) {
-            const Result<Picture> picture = decodePicture(format.file(scene, orientation));
-            ASSERT_TRUE(picture) << format.name << orientation;
-            EXPECT_EQ(largestDifference(picture->image, seen(stored, orientation)), 0)
-                << format.name << orientation;
+            const QImage picture = decodePicture(file(scene, orientation)).value_or(Picture()).image;
+            EXPECT_EQ(largestDifference(picture, seen(stored, orientation)), 0) << name << orientation;
         }
     }
 }
@@ -115,7 +91,6 @@ TEST(Upright, OrientationsThatDoNotExistLeaveThePictureAsItIs) {
         EXPECT_EQ(uprightSize(Stored, orientation), Stored);
         EXPECT_EQ(largestDifference(uprightPicture(scene, orientation), scene), 0);
     }
-    EXPECT_EQ(decodePicture(jpegFile(scene, 9)).value_or(Picture()).image.size(), Stored);
 }
 
 }  // namespace

@@ -157,6 +157,15 @@ QImage drawnSceneWithAlpha(QSize size) {
     return picture;
 }
 
+QImage pictureOf(QSize size, QImage::Format format, const std::function<QRgb(int x, int y)>& pixel) {
+    QImage picture(size, format);
+    for (int y = 0; y < size.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) row[x] = pixel(x, y);
+    }
+    return picture;
+}
+
 QByteArray exifBytes(const TestJpeg& options) {
     Exiv2::ExifData exif;
     if (options.orientation != 0)

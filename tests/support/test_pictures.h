@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QSize>
 
+#include <functional>
+
 namespace zelto {
 
 // An RGB32 landscape of `size` pixels. No two corners are alike, so a picture turned the wrong way is
@@ -17,6 +19,9 @@ QImage drawnScene(QSize size);
 // The same with alpha (premultiplied ARGB32): clear outside an ellipse, half transparent at its rim, opaque
 // within.
 QImage drawnSceneWithAlpha(QSize size);
+
+// Each pixel's stored value is that of `pixel` at its place, from the top left.
+QImage pictureOf(QSize size, QImage::Format format, const std::function<QRgb(int x, int y)>& pixel);
 
 struct TestJpeg {
     int quality = 90;
