@@ -40,6 +40,23 @@ void setError(Stage& stage) {
         [&stage] { stage.doubleClickPhoto(QStringLiteral("meadow.jpg")); });
 }
 
+void setOutputOptions(Stage& stage) {
+    setWindow(stage);
+    stage.openOutputOptions();
+}
+
+void setTextEditor(Stage& stage) {
+    constexpr int TitleRow = 2;
+    setWindow(stage);
+    stage.openEditor(TitleRow);
+}
+
+void setShapeEditor(Stage& stage) {
+    constexpr int PolygonRow = 2;
+    setFramed(stage);
+    stage.openEditor(PolygonRow);
+}
+
 bool isAtRest(Stage& stage) {
     return stage.isAtRest();
 }
@@ -62,6 +79,11 @@ const std::vector<ScreenshotScene>& screenshotScenes() {
         {"window-empty", Look::Light, 1.0, Shot::Window, [](Stage&) {}, isAtRest},
         {"window-running", Look::Light, 1.0, Shot::Window, setRunning, isRunning},
         {"window-error", Look::Dark, 1.0, Shot::Window, setError, hasDialog},
+        {"output-options", Look::Light, 1.0, Shot::Dialog, setOutputOptions, hasDialog},
+        {"text-editor", Look::Light, 1.0, Shot::Dialog, setTextEditor, hasDialog},
+        {"text-editor-dark", Look::Dark, 2.0, Shot::Dialog, setTextEditor, hasDialog},
+        {"shape-editor", Look::Light, 1.0, Shot::Dialog, setShapeEditor, hasDialog},
+        {"shape-editor-dark", Look::Dark, 2.0, Shot::Dialog, setShapeEditor, hasDialog},
     };
     return scenes;
 }

@@ -2,11 +2,12 @@
 #include "samples/screenshots/stage.h"
 
 #include "batch/path_parts.h"
+#include "platform/preferences.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPainter>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QTimer>
 
 #include <chrono>
@@ -17,7 +18,20 @@ namespace zelto::samples {
 namespace {
 
 // Where the pictures say the photos lie.
-constexpr QLatin1String ShownFolder("/tmp/Pictures/Summer");
+const QDir ShownFolder(QStringLiteral("/tmp/zelto"));
+
+// Buttons of dialogs without the pictures that only show where a desktop has no theme.
+class PlainButtons : public QProxyStyle {
+  public:
+    PlainButtons() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 struct PaletteRow {
     QPalette::ColorRole role;
@@ -26,7 +40,7 @@ struct PaletteRow {
 };
 
 void usePalette(std::initializer_list<PaletteRow> rows) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new PlainButtons);
     QPalette palette;
     for (const PaletteRow& row : rows) {
         palette.setColor(row.role, QColor(row.color));
@@ -80,6 +94,7 @@ void useLightPalette() {
                 {QPalette::Base, 0xFFFFFFFF, 0xFFF8F8F9},
                 {QPalette::AlternateBase, 0xFFF5F5F6, 0xFFF5F5F6},
                 {QPalette::Text, 0xFF1F2328, 0xFF9A9EA4},
+                {QPalette::PlaceholderText, 0xFF8A8F96, 0xFFB9BCC0},
                 {QPalette::Button, 0xFFF3F3F4, 0xFFF3F3F4},
                 {QPalette::ButtonText, 0xFF1F2328, 0xFF9A9EA4},
                 {QPalette::ToolTipBase, 0xFFFFFFFF, 0xFFFFFFFF},
@@ -94,6 +109,7 @@ void useDarkPalette() {
                 {QPalette::Base, 0xFF1F2124, 0xFF26282B},
                 {QPalette::AlternateBase, 0xFF26282B, 0xFF26282B},
                 {QPalette::Text, 0xFFE6E7E9, 0xFF7D8187},
+                {QPalette::PlaceholderText, 0xFF8D9197, 0xFF63666B},
                 {QPalette::Button, 0xFF35383D, 0xFF2E3034},
                 {QPalette::ButtonText, 0xFFE6E7E9, 0xFF7D8187},
                 {QPalette::ToolTipBase, 0xFF35383D, 0xFF35383D},
@@ -106,8 +122,8 @@ Stage::Stage(const QString& samples) : samples_(samples), letThrough_(std::make_
     for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
         qputenv(variable, QFile::encodeName(home_.path()));
     }
-    photos_ = QDir(ShownFolder);
-    photos_.removeRecursively();
+    QDir(ShownFolder).removeRecursively();
+    photos_ = QDir(ShownFolder.filePath(QStringLiteral("Summer")));
     photos_.mkpath(QStringLiteral("."));
     if (!shared_.findSettingDirectory()) qFatal("there is no place for settings");
 
@@ -196,6 +212,14 @@ void Stage::finishRun() {
 void Stage::doubleClickPhoto(const QString& name) {
     selectPhoto(name);
     window_->photos().ImageListDoubleClicked(rowOf(name));
+}
+
+void Stage::openOutputOptions() {
+    const QString shownOutput = ShownFolder.filePath(QStringLiteral("Watermarked"));
+    setPreference(preference::LastOutDirectory, shownOutput);
+    setPreference(preference::LastOutDirectoryData, shownOutput.toUtf8());
+    QDir().mkpath(shownOutput);
+    standardDialogs().outputOptions(window_.get(), window_->photos(), window_->watermarks(), false);
 }
 
 void Stage::when(std::function<bool()> condition, std::function<void()> act) {

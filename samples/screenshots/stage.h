@@ -3,7 +3,9 @@
 // whatever the machine it runs on looks like.
 #pragma once
 
-#include "app/app_delegate.h"
+#include "app/main_window.h"
+#include "app/my_global_instance.h"
+#include "app/run/run_controller.h"
 
 #include <QDir>
 #include <QImage>
@@ -36,6 +38,10 @@ class Stage {
     // Starts a run and answers its summary.
     void finishRun();
     void doubleClickPhoto(const QString& name);
+    // Opens the dialog that a run begins with, and waits for it.
+    void openOutputOptions();
+    // Opens the editor of a row of the watermark list, and waits for it.
+    void openEditor(int row) { window_->watermarks().openEditor(row); }
 
     // Calls `act` as soon as `condition` holds, which may be within the event loop of a dialog.
     static void when(std::function<bool()> condition, std::function<void()> act);
@@ -49,7 +55,6 @@ class Stage {
 
   private:
     int rowOf(const QString& name);
-    void startRun();
 
     const QTemporaryDir home_;
     const QDir samples_;

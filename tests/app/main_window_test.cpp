@@ -7,15 +7,10 @@
 #include "support/test_pictures.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDropEvent>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <QToolButton>
 #include <QWheelEvent>
 
 #include <gmock/gmock.h>
@@ -100,33 +95,6 @@ class MainWindowTest : public ::testing::Test {
     std::vector<int> edited;
 };
 
-TEST_F(MainWindowTest, AtActualSizeThePreviewIsTheWrittenPicture) {
-    addPhotos(1);
-    Watermark turned = plainShape();
-    turned.Position = 5;
-    addWatermark(turned);
-    Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
-    text.Text = QStringLiteral("<<IMGNAME>>");
-    text.FontFamily = QStringLiteral("DejaVu Sans");
-    text.FontSize = 50;
-    text.TextColor = Color::white();
-    text.Rotation = 25;
-    addWatermark(text);
-    window->watermarks().AddFilter(11);
-    QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(view().scale(), 1.0);
-    ASSERT_TRUE(waitForPreview());
-
-    PhotoRequest request = window->preview().finalRequest();
-    Result<PhotoScene> scene = buildPhotoScene(request);
-    ASSERT_TRUE(scene.has_value());
-    const QImage written = MakeWatermarkImage(std::move(*scene), *request.stack);
-    const QRect seen = view().geometry().visibleRegion().rect;
-    const QImage onScreen = view().seenPicture().copy(seen.translated(view().geometry().origin()));
-    EXPECT_EQ(onScreen.convertToFormat(QImage::Format_RGB32),
-              written.copy(seen).convertToFormat(QImage::Format_RGB32));
-}
-
 TEST_F(MainWindowTest, WhatTheScreenShowsIsWhatWasComposed) {
     addPhotos(1);
     view().ActualSize();
@@ -178,25 +146,6 @@ TEST_F(MainWindowTest, AClickOnACheckBoxChecksAndDoesNotSelect) {
     QTest::mouseClick(watermarks.viewport(), Qt::LeftButton, Qt::NoModifier,
                       WatermarkDelegate::checkBoxRect(row).center());
     EXPECT_FALSE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
-}
-
-TEST_F(MainWindowTest, ADoubleClickOnAFailedPhotoTellsWhy) {
-    addPhotos(2);
-    window->photos().model().setOutcome(1, PhotoStatus::Failed, QStringLiteral("The disk is full."));
-    QString title;
-    QString text;
-    QTimer::singleShot(300, window.get(), [&] {
-        auto* alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(alert, nullptr);
-        title = alert->text();
-        text = alert->informativeText();
-        QTest::mouseClick(alert->button(QMessageBox::Ok), Qt::LeftButton);
-    });
-    clickRow(window->photoList(), 1);
-    QTest::mouseDClick(window->photoList().viewport(), Qt::LeftButton, Qt::NoModifier,
-                       rowCentre(window->photoList(), 1));
-    EXPECT_EQ(title, QStringLiteral("Watermark Error"));
-    EXPECT_EQ(text, QStringLiteral("The disk is full."));
 }
 
 TEST_F(MainWindowTest, ADoubleClickOnAWatermarkOpensItsEditor) {
