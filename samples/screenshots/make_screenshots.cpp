@@ -39,12 +39,11 @@ void takeWhenSet(const ScreenshotScene& scene, Stage& stage, const QString& file
 int main(int argc, char** argv) {
     const std::vector<ScreenshotScene>& scenes = screenshotScenes();
     if (argc == 1) {
-        for (const ScreenshotScene& scene : scenes) std::puts(scene.name);
+        for (const ScreenshotScene& scene : scenes) std::puts(scene.name.c_str());
         return 0;
     }
-    const auto scene = std::find_if(scenes.begin(), scenes.end(), [&](const ScreenshotScene& each) {
-        return QLatin1String(each.name) == QLatin1String(argv[1]);
-    });
+    const auto scene = std::find_if(scenes.begin(), scenes.end(),
+                                    [&](const ScreenshotScene& each) { return each.name == argv[1]; });
     if (argc != 4 || scene == scenes.end()) {
         std::fputs("usage: make-screenshots [NAME SAMPLES FILE]\n", stderr);
         return 2;

@@ -45,16 +45,32 @@ void setOutputOptions(Stage& stage) {
     stage.openOutputOptions();
 }
 
-void setTextEditor(Stage& stage) {
-    constexpr int TitleRow = 2;
-    setWindow(stage);
-    stage.openEditor(TitleRow);
-}
+// An editor, and the setting and photo it is shown with. `row` is a row of the watermark list; without one, `open`
+// opens the editor.
+struct EditorScene {
+    const char* name;
+    void (*set)(Stage& stage);
+    int row;
+    void (WatermarkController::*open)() = nullptr;
+};
 
-void setShapeEditor(Stage& stage) {
-    constexpr int PolygonRow = 2;
-    setFramed(stage);
-    stage.openEditor(PolygonRow);
+constexpr EditorScene Editors[] = {
+    {"text", setWindow, 2},
+    {"logo", setWindow, 1},
+    {"qr-code", setWindow, 3},
+    {"shape", setFramed, 2},
+    {"filter", setFramed, -1, &WatermarkController::OpenFilterWindow},
+    {"effects", setFramed, -1, &WatermarkController::OpenEffectsSettings},
+    {"copyright", setWindow, -1, &WatermarkController::OpenMetadataWindow},
+};
+
+void setEditor(Stage& stage, const EditorScene& editor) {
+    editor.set(stage);
+    if (editor.open != nullptr) {
+        (stage.window().watermarks().*editor.open)();
+    } else {
+        stage.openEditor(editor.row);
+    }
 }
 
 bool isAtRest(Stage& stage) {
@@ -70,21 +86,38 @@ bool hasDialog(Stage& /*stage*/) {
     return dialog != nullptr && dialog->isVisible();
 }
 
-}  // namespace
+// Every editor in both palettes, at both sizes of a pixel.
+void addEditors(std::vector<ScreenshotScene>& scenes) {
+    for (const EditorScene& editor : Editors) {
+        for (const Look look : {Look::Light, Look::Dark}) {
+            for (const int percent : {100, 200}) {
+                const std::string name = std::string("editor-") + editor.name +
+                                         (look == Look::Dark ? "-dark-" : "-light-") +
+                                         std::to_string(percent);
+                scenes.push_back({name, look, percent / 100.0, Shot::Dialog,
+                                  [&editor](Stage& stage) { setEditor(stage, editor); }, hasDialog});
+            }
+        }
+    }
+}
 
-const std::vector<ScreenshotScene>& screenshotScenes() {
-    static const std::vector<ScreenshotScene> scenes = {
+std::vector<ScreenshotScene> makeScenes() {
+    std::vector<ScreenshotScene> scenes = {
         {"window", Look::Light, 1.0, Shot::Window, setWindow, isAtRest},
         {"window-dark", Look::Dark, 1.0, Shot::Window, setFramed, isAtRest},
         {"window-empty", Look::Light, 1.0, Shot::Window, [](Stage&) {}, isAtRest},
         {"window-running", Look::Light, 1.0, Shot::Window, setRunning, isRunning},
         {"window-error", Look::Dark, 1.0, Shot::Window, setError, hasDialog},
         {"output-options", Look::Light, 1.0, Shot::Dialog, setOutputOptions, hasDialog},
-        {"text-editor", Look::Light, 1.0, Shot::Dialog, setTextEditor, hasDialog},
-        {"text-editor-dark", Look::Dark, 2.0, Shot::Dialog, setTextEditor, hasDialog},
-        {"shape-editor", Look::Light, 1.0, Shot::Dialog, setShapeEditor, hasDialog},
-        {"shape-editor-dark", Look::Dark, 2.0, Shot::Dialog, setShapeEditor, hasDialog},
     };
+    addEditors(scenes);
+    return scenes;
+}
+
+}  // namespace
+
+const std::vector<ScreenshotScene>& screenshotScenes() {
+    static const std::vector<ScreenshotScene> scenes = makeScenes();
     return scenes;
 }
 

@@ -4,6 +4,8 @@
 
 #include "samples/screenshots/stage.h"
 
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace zelto::samples {
@@ -12,12 +14,12 @@ struct ScreenshotScene {
     enum class Look { Light, Dark };
     enum class Shot { Window, Dialog };  // everything, or only the dialog that was opened last
 
-    const char* name;  // of the picture's file, without extension
+    std::string name;  // of the picture's file, without extension
     Look look;
     double scale;  // device pixels a pixel
     Shot shot;
     // Sets the scene; may open a dialog that blocks.
-    void (*set)(Stage& stage);
+    std::function<void(Stage& stage)> set;
     // Whether the scene is set; asked again and again, within the event loop of a dialog too.
     bool (*isSet)(Stage& stage);
 };
