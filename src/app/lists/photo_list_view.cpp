@@ -49,6 +49,11 @@ QRect PhotoListView::checkBoxRect(int row) const {
     return PhotoDelegate::checkBoxRect(visualRect(model()->index(row, 0)));
 }
 
+// Whatever a row shows, it keeps its height: nothing is laid out anew, as the list view would do for all rows.
+void PhotoListView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
+    QAbstractItemView::dataChanged(first, last, roles);
+}
+
 void PhotoListView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentIndex().isValid()) {
         std::vector<int> rows;

@@ -23,6 +23,8 @@ class PhotoListView : public QListView {
     QRect checkBoxRect(int row) const;
 
   protected:
+    void dataChanged(const QModelIndex& first, const QModelIndex& last,
+                     const QList<int>& roles = {}) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
