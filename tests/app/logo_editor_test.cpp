@@ -3,16 +3,11 @@
 #include "app/editor_window.h"
 #include "app/editors/controls/number_field.h"
 #include "app/editors/text/logo_sample.h"
-#include "support/ink.h"
 
-#include <QAbstractButton>
 #include <QFileDialog>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPushButton>
-#include <QTabWidget>
 
 namespace zelto {
 namespace {
@@ -40,45 +35,41 @@ class LogoEditorTest : public EditorWindowTest {
                 QTest::keyClick(&dialog, Qt::Key_Escape);
                 return;
             }
-            auto& name = control<QLineEdit>(dialog, "fileNameEdit");
+            auto& name = *dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
             name.setText(path);
             QTest::keyClick(&name, Qt::Key_Return);
         });
     }
 
-    // Waits until a new logo's editor has asked for its file.
+    // Opens the editor of a new logo, which asks for its file at once, and has `drive` work in it.
     void addLogo(const QString& path, const std::function<void(QWidget&)>& drive = {}) {
-        const auto chosen = chooseNext(path);
-        QTimer::singleShot(0, window.get(), [&, chosen] {
+        QTimer::singleShot(0, &window, [&] {
             QWidget* editor = QApplication::activeModalWidget();
-            ASSERT_TRUE(
+            const auto chosen = chooseNext(path);
+            EXPECT_TRUE(
                 QTest::qWaitFor([&] { return *chosen && QApplication::activeModalWidget() == editor; }));
             if (drive) drive(*editor);
             editor->close();
         });
-        window->watermarks().OpenImageWatermarkSettings();
-        EXPECT_TRUE(*chosen);
+        window.watermarks().OpenImageWatermarkSettings();
     }
 
-    QColor seenAt(QPoint photoPoint) {
-        const PreviewView& view = window->previewView();
-        return view.seenPicture().pixelColor(view.geometry().toView(photoPoint).toPoint());
-    }
+    QColor seenAt(QPoint photoPoint) { return seen().pixelColor(photoPoint); }
 };
 
 TEST_F(LogoEditorTest, ANewLogoStartsWithItsFile) {
     addLogo({});
-    EXPECT_EQ(count(), 0) << "no file, no watermark";
+    EXPECT_EQ(count(), 0U) << "no file, no watermark";
     const QString path = makeLogo();
     addLogo(path);
-    ASSERT_EQ(count(), 1);
+    ASSERT_EQ(count(), 1U);
     EXPECT_EQ(record().ImagePath, path);
     EXPECT_EQ(QImage::fromData(record().ImageData), QImage(path));
     EXPECT_EQ(QSizeF(record().Width, record().Height), QSizeF(80, 40));
     EXPECT_EQ(record().Transparency, 1.0F);
     EXPECT_TRUE(showsWhatIsWritten());
-    window->document().history().undo();
-    EXPECT_EQ(count(), 0);
+    window.document().history().undo();
+    EXPECT_EQ(count(), 0U);
 }
 
 TEST_F(LogoEditorTest, AFileThatIsNoPictureIsRefusedAndChangesNothing) {
@@ -97,7 +88,7 @@ TEST_F(LogoEditorTest, AFileThatIsNoPictureIsRefusedAndChangesNothing) {
                 alert.close();
             });
         });
-        QTest::mouseClick(&control<QPushButton>(editor, "SelectImage"), Qt::LeftButton);
+        click(editor, "SelectImage");
     });
     EXPECT_TRUE(said.contains(bad)) << qPrintable(said);
     EXPECT_EQ(record(), before);
@@ -110,7 +101,7 @@ TEST_F(LogoEditorTest, AClickOnTheLogoTakesThatVeryColourOut) {
     logo.Position = 1;
     add(logo);
     ASSERT_TRUE(showsWhatIsWritten());
-    const QColor photo = drawnScene({600, 400}).pixelColor(10, 10);
+    const QColor photo(PhotoColor);
     EXPECT_EQ(seenAt({10, 10}), QColor(201, 30, 40));
     editRow(0, [&](QWidget& editor) {
         auto& sample = *editor.findChild<LogoSample*>();
@@ -120,12 +111,12 @@ TEST_F(LogoEditorTest, AClickOnTheLogoTakesThatVeryColourOut) {
         QTest::mouseClick(&sample, Qt::LeftButton, {}, red);
         EXPECT_EQ(record().TransparentColor, Color::black())
             << "a click picks nothing while no colour is taken out";
-        QTest::keyClick(&control<QWidget>(editor, "IsTransparent"), Qt::Key_Space);
+        press(editor, "IsTransparent", Qt::Key_Space);
         QTest::mouseClick(&sample, Qt::LeftButton, {}, red);
         EXPECT_TRUE(showsWhatIsWritten());
         EXPECT_EQ(seenAt({10, 10}), photo);
         EXPECT_EQ(seenAt({70, 10}), QColor(20, 200, 60));
-        QTest::keyClick(&control<QWidget>(editor, "CreateBW"), Qt::Key_Space);
+        press(editor, "CreateBW", Qt::Key_Space);
         EXPECT_TRUE(showsWhatIsWritten());
         const QColor grey = seenAt({70, 10});
         EXPECT_NEAR(grey.red(), grey.green(), 1);
@@ -134,37 +125,32 @@ TEST_F(LogoEditorTest, AClickOnTheLogoTakesThatVeryColourOut) {
 
 TEST_F(LogoEditorTest, SizesAreTypedInEitherKind) {
     addLogo(makeLogo(), [this](QWidget& editor) {
-        const auto& width = control<NumberField>(editor, "AbsWidth");
-        const auto& height = control<NumberField>(editor, "AbsHeight");
-        const auto type = [&](const char* name, const QString& text) {
-            auto& field = control<NumberField>(editor, name);
-            QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(&field, text);
-        };
-        const auto usable = [&](const char* name) { return control<QWidget>(editor, name).isEnabled(); };
+        const auto& width = *editor.findChild<NumberField*>(u"AbsWidth"_s);
+        const auto& height = *editor.findChild<NumberField*>(u"AbsHeight"_s);
+        const auto usable = [&](const char* name) { return control(editor, name).isEnabled(); };
         EXPECT_FALSE(usable("PropSize") || usable("AbsWidth") || usable("Proportional"));
-        QTest::keyClick(&control<QWidget>(editor, "Resize"), Qt::Key_Space);
+        press(editor, "Resize", Qt::Key_Space);
         EXPECT_TRUE(usable("PropSize") && usable("Absolute"));
         EXPECT_FALSE(usable("AbsWidth") || usable("PreserverAspectRatio"));
         EXPECT_EQ(record().ResizeWidth, 0.25F);
-        type("PropSize", u"30"_s);
+        type(editor, "PropSize", u"30"_s);
         EXPECT_EQ(record().ResizeWidth, 0.3F);
         EXPECT_TRUE(showsWhatIsWritten());
 
-        QTest::keyClick(&control<QWidget>(editor, "Absolute"), Qt::Key_Space);
+        press(editor, "Absolute", Qt::Key_Space);
         EXPECT_TRUE(usable("AbsWidth") && !usable("PropSize"));
         EXPECT_EQ(record().ResizeFormat, 2);
         EXPECT_EQ(QSizeF(width.value(), height.value()), QSizeF(80, 40));
-        type("AbsWidth", u"201"_s);
+        type(editor, "AbsWidth", u"201"_s);
         EXPECT_EQ(QSizeF(record().ResizeWidth, record().ResizeHeight), QSizeF(201, 101));
         EXPECT_EQ(height.value(), 101);
-        QTest::keyClick(&control<QWidget>(editor, "PreserverAspectRatio"), Qt::Key_Space);
-        type("AbsHeight", u"9"_s);
+        press(editor, "PreserverAspectRatio", Qt::Key_Space);
+        type(editor, "AbsHeight", u"9"_s);
         EXPECT_EQ(QSizeF(record().ResizeWidth, record().ResizeHeight), QSizeF(201, 9));
         EXPECT_TRUE(showsWhatIsWritten());
 
         const auto chosen = chooseNext(makeLogo({50, 30}));
-        QTest::mouseClick(&control<QPushButton>(editor, "SelectImage"), Qt::LeftButton);
+        click(editor, "SelectImage");
         EXPECT_TRUE(*chosen);
         EXPECT_EQ(QSizeF(width.value(), height.value()), QSizeF(50, 30)) << "another file, its own size";
         EXPECT_TRUE(showsWhatIsWritten());

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QPointer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -19,10 +18,10 @@ template <class Dialog, class Drive>
 std::shared_ptr<bool> whenOpened(Drive drive) {
     auto came = std::make_shared<bool>(false);
     auto* timer = new QTimer(qApp);
-    const QPointer<QWidget> before = QApplication::activeModalWidget();
+    const QWidgetList before = QApplication::topLevelWidgets();
     QObject::connect(timer, &QTimer::timeout, timer, [timer, came, before, drive = std::move(drive)] {
         QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || window == before || !window->isVisible()) return;
+        if (window == nullptr || before.contains(window) || !window->isVisible()) return;
         timer->stop();
         timer->deleteLater();
         auto* dialog = dynamic_cast<Dialog*>(window);

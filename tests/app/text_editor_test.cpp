@@ -2,15 +2,9 @@
 // The text editor, driven with mouse and keys.
 #include "app/editor_window.h"
 #include "app/editors/controls/position_grid.h"
-#include "app/editors/controls/rotation_control.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QInputMethodEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QSlider>
 #include <QTabWidget>
 
 #include <functional>
@@ -33,25 +27,7 @@ Watermark sampleText() {
     return text;
 }
 
-void click(QWidget& editor, const char* name) {
-    auto& button = control<QAbstractButton>(editor, name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, {8, button.height() / 2});
-}
-
-// Types a number into a field as a user does who has gone there with Tab.
-void type(QWidget& field, const QString& text) {
-    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&field, text);
-}
-void type(QWidget& editor, const char* name, const QString& text) {
-    type(control<QWidget>(editor, name), text);
-}
-
-void press(QWidget& editor, const char* name, Qt::Key key) {
-    QTest::keyClick(&control<QWidget>(editor, name), key);
-}
-
-class TextEditorTest : public EditorWindowTest {};
+using TextEditorTest = EditorWindowTest;
 
 TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
     struct Row {
@@ -66,7 +42,7 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
         {"text",
          [](QWidget& e) {
              type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return),
-                 QTest::keyClicks(&control<QWidget>(e, "Text"), u"b"_s);
+                 QTest::keyClicks(&control(e, "Text"), u"b"_s);
          },
          [](Watermark& w) { w.Text = u"a\nb"_s; }},
         {"font",
@@ -103,7 +79,7 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
          [](Watermark& w) { w.UseTransparentColor = true; }, embossed},
         {"transparency", [](QWidget& e) { press(e, "Transparency", Qt::Key_PageUp); },
          [](Watermark& w) { w.Transparency = 0.4F; }},
-        {"rotation", [](QWidget& e) { type(control<QWidget>(e, "Rotation"), u"-30"_s); },
+        {"rotation", [](QWidget& e) { type(e, "Rotation", u"-30"_s); },
          [](Watermark& w) { w.Rotation = -30; }},
         {"cell",
          [](QWidget& e) { QTest::mouseClick(&e.findChild<PositionGrid*>()->cell(5), Qt::LeftButton); },
@@ -124,46 +100,44 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
         add(before);
         editRow(0, [&](QWidget& editor) {
             EXPECT_EQ(record(), before) << "opening changes nothing";
-            for (int page : {2, 0}) control<QTabWidget>(editor, "Pages").setCurrentIndex(page);
+            for (int page : {2, 0}) editor.findChild<QTabWidget*>()->setCurrentIndex(page);
             row.drive(editor);
             EXPECT_EQ(record(), after);
             EXPECT_TRUE(showsWhatIsWritten());
         });
         EXPECT_EQ(record(), after) << "closing keeps it";
-        window->document().history().undo();
+        window.document().history().undo();
         EXPECT_EQ(record(), before);
         EXPECT_TRUE(showsWhatIsWritten());
-        window->watermarks().RemoveAllWatermarks();
+        window.watermarks().RemoveAllWatermarks();
     }
 }
 
 TEST_F(TextEditorTest, FastTypingLosesNothing) {
     QString typed;
     for (int i = 0; i < 40; ++i) typed += u"quick %1, "_s.arg(i);
-    edit([this] { window->watermarks().OpenTextWatermarkSettings(); },
-         [&](QWidget& editor) {
-             EXPECT_EQ(count(), 0) << "a new text is in the list once it says something";
-             QTest::keyClicks(&control<QWidget>(editor, "Text"), typed);
-             EXPECT_EQ(count(), 1);
-             EXPECT_EQ(record().Text, typed);
-             EXPECT_TRUE(showsWhatIsWritten());
-         });
-    EXPECT_EQ(count(), 1);
-    window->document().history().undo();
-    EXPECT_EQ(count(), 0) << "the session is one step";
-    window->document().history().redo();
+    edit(Act::AddText, [&](QWidget& editor) {
+        EXPECT_EQ(count(), 0U) << "a new text is in the list once it says something";
+        QTest::keyClicks(&control(editor, "Text"), typed);
+        EXPECT_EQ(count(), 1U);
+        EXPECT_EQ(record().Text, typed);
+        EXPECT_TRUE(showsWhatIsWritten());
+    });
+    EXPECT_EQ(count(), 1U);
+    window.document().history().undo();
+    EXPECT_EQ(count(), 0U) << "the session is one step";
+    window.document().history().redo();
     EXPECT_EQ(record().Text, typed);
 }
 
 TEST_F(TextEditorTest, KeepsEveryKindOfCharacter) {
     const QString text = u"\u00A9 a\u00A0b \U0001F600 \u0634\u0627\u0637\u0626 <<IMGNAME>>#"_s;
-    edit([this] { window->watermarks().OpenTextWatermarkSettings(); },
-         [&](QWidget& editor) {
-             QInputMethodEvent event;
-             event.setCommitString(text);
-             QApplication::sendEvent(&control<QPlainTextEdit>(editor, "Text"), &event);
-         });
-    ASSERT_EQ(count(), 1);
+    edit(Act::AddText, [&](QWidget& editor) {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(&control(editor, "Text"), &event);
+    });
+    ASSERT_EQ(count(), 1U);
     EXPECT_EQ(record().Text, text);
     editRow(0, [&](QWidget&) { EXPECT_EQ(record().Text, text); });
     EXPECT_EQ(record().Text, text) << "opening the editor again rewrites nothing";
@@ -172,20 +146,17 @@ TEST_F(TextEditorTest, KeepsEveryKindOfCharacter) {
 TEST_F(TextEditorTest, AnEmptiedTextKeepsItsPlaceUntilTheEditorCloses) {
     Watermark other = sampleText();
     other.Text = u"Other"_s;
-    const auto empty = [](QWidget& editor) {
-        QTest::keyClick(&control<QWidget>(editor, "Text"), Qt::Key_A, Qt::ControlModifier);
-        press(editor, "Text", Qt::Key_Delete);
-    };
+    const auto empty = [](QWidget& editor) { type(editor, "Text", {}); };
     add(sampleText());
     add(other);
     editRow(0, [&](QWidget& editor) {
         empty(editor);
-        QTest::keyClicks(&control<QWidget>(editor, "Text"), u"New"_s);
+        QTest::keyClicks(&control(editor, "Text"), u"New"_s);
     });
-    ASSERT_EQ(count(), 2);
+    ASSERT_EQ(count(), 2U);
     EXPECT_EQ(record(0).Text, u"New"_s);
     editRow(0, empty);
-    ASSERT_EQ(count(), 1);
+    ASSERT_EQ(count(), 1U);
     EXPECT_EQ(record(0).Text, u"Other"_s);
 }
 
@@ -214,13 +185,13 @@ TEST_F(TextEditorTest, ControlsThatDoNothingCannotBeUsed) {
         add(text);
         editRow(0, [&](QWidget& editor) {
             for (const QString& name : row.usable) {
-                EXPECT_TRUE(control<QWidget>(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
+                EXPECT_TRUE(control(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
             }
             for (const QString& name : row.notUsable) {
-                EXPECT_FALSE(control<QWidget>(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
+                EXPECT_FALSE(control(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
             }
         });
-        window->watermarks().RemoveAllWatermarks();
+        window.watermarks().RemoveAllWatermarks();
     }
 }
 
@@ -242,10 +213,9 @@ TEST_F(TextEditorTest, AFontThatIsNotInstalledIsNamedAndKept) {
 TEST_F(TextEditorTest, TabFollowsTheEye) {
     add(sampleText());
     editRow(0, [&](QWidget& editor) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
         for (int page = 0; page < 3; ++page) {
-            control<QTabWidget>(editor, "Pages").setCurrentIndex(page);
-            auto& first = control<QWidget>(editor, "Text");
+            editor.findChild<QTabWidget*>()->setCurrentIndex(page);
+            auto& first = control(editor, "Text");
             first.setFocus();
             QPoint last;
             int steps = 0;
