@@ -41,7 +41,11 @@ RunPlan planRun(const ImageListController& photos, const WatermarkDocument& docu
     plan.request.options = options;
     plan.request.folders = photos.model().list().InputOutputDictionary();
     const auto stack = document.snapshot();
-    plan.request.saveLastWatermark = [stack, settingsFolder] { saveLastWatermark(*stack, settingsFolder); };
+    if (!settingsFolder.isEmpty()) {
+        plan.request.saveLastWatermark = [stack, settingsFolder] {
+            saveLastWatermark(*stack, settingsFolder);
+        };
+    }
     plan.request.storeLastAutoNumber = [](qint64 number) {
         setPreference(preference::LastAutoNumber, number);
     };
