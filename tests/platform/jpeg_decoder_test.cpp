@@ -8,20 +8,6 @@
 namespace zelto {
 namespace {
 
-TEST(JpegDecoder, PixelsAreThoseThatWereStored) {
-    const QImage scene = drawnScene({333, 207});
-    const QImage grey = scene.convertToFormat(QImage::Format_Grayscale8).convertToFormat(scene.format());
-    // Lossy coding at quality 100: rounding twice, and halved chroma on sharp edges.
-    for (const auto& [options, expected] : {std::pair{TestJpeg{.quality = 100}, scene},
-                                            {TestJpeg{.quality = 100, .progressive = true}, scene},
-                                            {TestJpeg{.quality = 100, .grey = true}, grey}}) {
-        const Result<Picture> picture = decodePicture(jpegBytes(scene, options));
-        ASSERT_TRUE(picture);
-        EXPECT_EQ(picture->image.format(), QImage::Format_RGB32);
-        EXPECT_LE(largestDifference(picture->image, expected), 4) << options.progressive << options.grey;
-    }
-}
-
 TEST(JpegDecoder, OdditiesThatCostNoPixelAreForgiven) {
     const QByteArray plain = jpegBytes(drawnScene({80, 60}));
     const QImage expected = decodePicture(plain)->image;

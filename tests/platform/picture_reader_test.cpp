@@ -7,7 +7,6 @@
 #include "support/test_pictures.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
 
@@ -97,9 +96,7 @@ TEST(PictureReader, SizesThatTheFileCannotHoldAreRefusedWithoutMemory) {
     const QByteArray gif = encodePicture(scene, PictureFormat::Gif, {}).value();
     const std::vector<File> files = {
         {"jpeg of 65500 x 16000", patched(jpeg, frame, QByteArrayLiteral("\x3E\x80\xFF\xDC"))},
-        {"jpeg of 0 x 64", patched(jpeg, frame, QByteArrayLiteral("\x00\x40\x00\x00"))},
         {"gif canvas of 65535 x 65535", patched(gif, 6, QByteArrayLiteral("\xFF\xFF\xFF\xFF"))},
-        {"gif canvas of 32767 x 32767", patched(gif, 6, QByteArrayLiteral("\xFF\x7F\xFF\x7F"))},
         {"bmp of 30000 x 30000", patched(bmp, 18, QByteArrayLiteral("\x30\x75\x00\x00\x30\x75\x00\x00"))},
         {"bmp of 0 x 64", patched(bmp, 18, QByteArrayLiteral("\x00\x00\x00\x00\x40\x00\x00\x00"))},
         {"bmp of the lowest height", patched(bmp, 22, QByteArrayLiteral("\x00\x00\x00\x80"))},

@@ -50,21 +50,11 @@ std::string tagsOf(const QByteArray& bytes, const char* tags) {
         .toStdString();
 }
 
-TEST(PictureFormatForExtension, KnowsTheFormatsInAnyLetterCaseAndNoOthers) {
-    const std::pair<const char*, std::optional<PictureFormat>> rows[] = {
-        {"jpg", F::Jpeg}, {"JPEG", F::Jpeg}, {"Png", F::Png}, {"tif", F::Tiff}, {"TIFF", F::Tiff},
-        {"bmp", F::Bmp},  {"GIF", F::Gif},   {"pdf", F::Pdf}, {"", {}},         {".jpg", {}},
-        {"jpe", {}},      {"webp", {}},      {"jpg ", {}}};
-    for (const auto& [extension, format] : rows)
-        EXPECT_EQ(pictureFormatForExtension(QString::fromLatin1(extension)), format) << extension;
-}
-
 // Odd widths leave padding in rows and parts of blocks; the tall one takes more than one strip or band.
 TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
     struct Row {
         PictureFormat format;
-        double opaqueError;
-        double alphaError;
+        double opaqueError, alphaError;
         bool keepsAlpha;
     };
     const Row rows[] = {
@@ -90,7 +80,6 @@ TEST(EncodePicture, RecordsSizeResolutionAndCompressionForOtherPrograms) {
     const EncodeOptions options{.jpegQuality = 90, .dpiX = 300, .dpiY = 150};
     const QImage opaque = drawnScene({64, 48});
     const QImage alpha = drawnSceneWithAlpha({64, 48});
-    const auto lowQuality = encoded(opaque, F::Jpeg, {.jpegQuality = 89});
     const char* const resolution = "-ImageSize -XResolution -YResolution -ResolutionUnit";
     const struct {
         QByteArray file;
@@ -105,7 +94,7 @@ TEST(EncodePicture, RecordsSizeResolutionAndCompressionForOtherPrograms) {
         {encoded(alpha, F::Bmp, options), "-ImageSize -PixelsPerMeterX -PixelsPerMeterY", "64x48 11811 5906"},
         {encoded(alpha, F::Gif, options), "-FileType -ImageSize", "GIF 64x48"},
         // Coloured detail is kept whole from quality 90 on.
-        {lowQuality, "-YCbCrSubSampling", "YCbCr4:2:0 (2 2)"},
+        {encoded(opaque, F::Jpeg, {.jpegQuality = 89}), "-YCbCrSubSampling", "YCbCr4:2:0 (2 2)"},
         {encoded(opaque, F::Jpeg, options), "-YCbCrSubSampling", "YCbCr4:4:4 (1 1)"},
     };
     for (const auto& row : rows) EXPECT_EQ(tagsOf(row.file, row.tags), row.values);
@@ -113,7 +102,6 @@ TEST(EncodePicture, RecordsSizeResolutionAndCompressionForOtherPrograms) {
         const Result<Picture> picture = decodePicture(encoded(opaque, format, options));
         EXPECT_TRUE(picture && picture->dpiX == 300.0 && picture->dpiY == 150.0) << static_cast<int>(format);
     }
-    EXPECT_GT(lowQuality.size(), encoded(opaque, F::Jpeg, {.jpegQuality = 50}).size());
 }
 
 TEST(EncodePicture, RefusesWhatAFormatCannotHold) {
@@ -154,11 +142,11 @@ TEST(EncodeGif, KeepsUpTo256ColoursExactlyAndTransparencyAsAMask) {
     int there = 0;
     for (int y = 0; y < 150; ++y) {
         for (int x = 0; x < 200; ++x) {
-            const QRgb wanted = alpha.pixel(x, y);  // straight
+            const QRgb wanted = alpha.pixel(x, y);  // premultiplied
             const QRgb found = result.pixel(x, y);
             ASSERT_EQ(qAlpha(found), qAlpha(wanted) >= 128 ? 255 : 0) << x << ' ' << y;
             if (qAlpha(found) == 0) continue;
-            error += std::abs(qGreen(found) - qGreen(wanted));
+            error += std::abs(qGreen(found) - qGreen(qUnpremultiply(wanted)));
             ++there;
         }
     }

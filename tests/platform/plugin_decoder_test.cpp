@@ -95,16 +95,5 @@ TEST(PluginDecoder, ResolutionIsWhatTheFileRecords) {
     }
 }
 
-TEST(PluginDecoder, TheFirstFrameOfAnAnimationIsThePicture) {
-    const QByteArray gif = encodePicture(drawnScene({48, 32}), PictureFormat::Gif, {}).value();
-    const QImage expected = decodePicture(gif)->image;
-    // A second frame of one pixel, at the corner, with a palette of its own.
-    const QByteArray frame(",\0\0\0\0\1\0\1\0\x80\xFF\0\0\0\0\xFF\2\2\x44\1\0", 21);
-    const Result<Picture> picture = decodePicture(gif.chopped(1) + frame + ';');
-    ASSERT_TRUE(picture);
-    EXPECT_EQ(largestDifference(picture->image, expected), 0);
-    EXPECT_FALSE(decodePicture(gif.chopped(1) + frame));
-}
-
 }  // namespace
 }  // namespace zelto

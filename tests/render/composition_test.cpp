@@ -16,8 +16,7 @@ TEST(Composition, DrawsOnTheScenesOwnPixelsAndOnlyWhatIsEnabled) {
     stack.Watermarks = {textRecord(QStringLiteral("x"), 20), boxRecord(10, 10, 3)};
     QImage photo = plainPhoto({100, 80});
     const uchar* pixels = photo.constBits();
-    QImage picture = composed(stack, std::move(photo));
-    EXPECT_EQ(picture.constBits(), pixels) << "a whole picture was copied";
+    EXPECT_EQ(composed(stack, std::move(photo)).constBits(), pixels) << "a whole picture was copied";
 
     for (Watermark& record : stack.Watermarks) record.IsEnabled = false;
     const PhotoScene scene = sceneOf(stack, plainPhoto({100, 80}));
@@ -35,10 +34,10 @@ TEST(Composition, LayersStartAtThePhotosCornerOrAtTheBorders) {
     effect.RightThickness = 15;
     effect.BottomThickness = 20;
     effect.BorderColor = Color{0, 0, 1, 1};
-    effect.Direction =
-        225;  // the shadow falls left and down: the framed photo moves right and up on its canvas,
+    // The shadow falls left and down: the framed photo moves right and up on its canvas, by 7 each way.
+    effect.Direction = 225;
     effect.BlurRadius = 6;
-    effect.Distance = 8;  // by 7 each way
+    effect.Distance = 8;
     Watermark tiles = logoRecord(plainPhoto({12, 6}, Qt::red));
     tiles.VerticalTiling = true;
     struct Row {

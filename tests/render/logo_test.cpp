@@ -32,7 +32,7 @@ TEST(Logo, SizesByTheRecordsRules) {
              Row{1, 0.25F, 0, "Height", {2000, 1000}, {1000, 250}},
              Row{0, 0.25F, 0, "Longer Side", {1000, 2000}, {2000, 500}},
              Row{0, 0.25F, 0, "Longer Side", {2000, 2000}, {500, 125}},
-             Row{0, 0.25F, 0, "Proportional", {2000, 1000}, {}}, Row{0, 0.0F, 0, "Width", {2000, 1000}, {}},
+             Row{0, 0.25F, 0, "Proportional", {2000, 1000}, {}},
              Row{0, std::nanf(""), 0, "Width", {2000, 1000}, {}},
              Row{0, HUGE_VALF, 0, "Width", {2000, 1000}, {}},
              Row{2, 300, 300, "Width", {2000, 1000}, {300, 300}}, Row{2, 300, -1, "Width", {2000, 1000}, {}},
@@ -66,12 +66,10 @@ TEST(Logo, ComesFromItsBytesFirstAndFromItsPathElse) {
 }
 
 TEST(Logo, LosesItsColorThenItsColorsThenItsOpacity) {
-    QImage picture(3, 1, QImage::Format_ARGB32);
-    picture.setPixel(0, 0, qRgb(255, 255, 255));
-    picture.setPixel(1, 0, qRgb(254, 255, 255));
-    picture.setPixel(2, 0, qRgb(200, 30, 90));
+    const QRgb pixels[] = {qRgb(255, 255, 255), qRgb(254, 255, 255), qRgb(200, 30, 90)};
     LogoCache cache;
-    Watermark record = logoRecord(picture);
+    Watermark record =
+        logoRecord(pictureOf({3, 1}, QImage::Format_ARGB32, [&](int x, int) { return pixels[x]; }));
     record.IsTransparent = true;
     record.TransparentColor = Color::white();
     const QImage open = loadLogo(record, {200, 100}, cache).picture;
@@ -119,13 +117,8 @@ TEST(LogoCache, MakesAPictureOnceForAllThreadsAndKeepsThoseUsedLast) {
     get("b");
     EXPECT_EQ(made, 4) << "b was used longest ago when c came";
     EXPECT_THROW(cache.picture({}, []() -> QImage { throw std::runtime_error("disk"); }), std::runtime_error);
-    EXPECT_EQ(cache.picture({},
-                            [] {
-                                return plainPhoto({3, 4});
-                            })
-                  .size(),
-              QSize(3, 4))
-        << "a failure is not kept";
+    const auto make = [] { return plainPhoto({3, 4}); };
+    EXPECT_EQ(cache.picture({}, make).size(), QSize(3, 4)) << "a failure is not kept";
 }
 
 }  // namespace

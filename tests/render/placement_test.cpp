@@ -68,20 +68,15 @@ TEST(Placement, TilingsFillAColumnARowOrTheAreaInsideThePaddings) {
 }
 
 TEST(Placement, TurnedSizesAreBoundingBoxesExactForQuarterTurns) {
-    struct Row {
-        std::int64_t degrees;
-        double width, height;
-    };
-    const double root = std::sqrt(3.0);
-    for (const Row& row : {Row{0, 200.25, 50.1}, Row{-180, 200.25, 50.1}, Row{540, 200.25, 50.1},
-                           Row{90, 50.1, 200.25}, Row{-810, 50.1, 200.25}}) {
-        const QSizeF turned = rotatedSize({200.25, 50.1}, row.degrees);
-        EXPECT_TRUE(turned.width() == row.width && turned.height() == row.height) << row.degrees;
+    for (const std::int64_t degrees : {0, -180, 540, 90, -810}) {
+        const QSizeF turned = rotatedSize({200.25, 50.1}, degrees);
+        const QSizeF expected = degrees % 180 == 0 ? QSizeF(200.25, 50.1) : QSizeF(50.1, 200.25);
+        EXPECT_TRUE(turned.width() == expected.width() && turned.height() == expected.height()) << degrees;
     }
     for (const std::int64_t degrees : {30, -30, 150, 210, 390}) {
         const QSizeF turned = rotatedSize({200, 100}, degrees);
-        EXPECT_NEAR(turned.width(), 100 * root + 50, 1e-9) << degrees;
-        EXPECT_NEAR(turned.height(), 100 + 50 * root, 1e-9) << degrees;
+        EXPECT_NEAR(turned.width(), 100 * std::sqrt(3.0) + 50, 1e-9) << degrees;
+        EXPECT_NEAR(turned.height(), 100 + 50 * std::sqrt(3.0), 1e-9) << degrees;
     }
 }
 

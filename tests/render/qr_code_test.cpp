@@ -17,17 +17,12 @@ namespace {
 const QString TwentyFive = QStringLiteral("https://example.org/photos");
 
 TEST(QrCode, ReadsBackAsTheText) {
-    const QString texts[] = {QStringLiteral("a"), TwentyFive,
-                             QString::fromUtf8("Grüße 日本 🙂\nline two"), QString(1200, u'x')};
-    const struct {
-        std::optional<Color> background;
-        double side;
-    } looks[] = {{std::nullopt, 450.0}, {Color::white(), 512.7}, {Color{0.9F, 0.9F, 0.2F, 1.0F}, 600.0}};
-    for (const QString& text : texts) {
-        for (const auto& look : looks) {
-            EXPECT_EQ(readQrCodes(qrImageForString(text, look.side, look.background)), QStringList(text))
-                << look.side;
-        }
+    const std::pair<std::optional<Color>, double> looks[] = {
+        {std::nullopt, 450.0}, {Color::white(), 512.7}, {Color{0.9F, 0.9F, 0.2F, 1.0F}, 600.0}};
+    for (const QString& text : {QStringLiteral("a"), TwentyFive,
+                                QStringLiteral("Grüße 日本 🙂\nline two"), QString(1200, u'x')}) {
+        for (const auto& [background, side] : looks)
+            EXPECT_EQ(readQrCodes(qrImageForString(text, side, background)), QStringList(text)) << side;
     }
 }
 
@@ -40,26 +35,21 @@ TEST(QrCode, ModulesAreWholeUnitsCentredInTheSurface) {
     const std::optional<QrSymbol> symbol = encodeQrSymbol(TwentyFive);
     ASSERT_TRUE(symbol);
     ASSERT_EQ(symbol->width, 25);
-    struct {
-        int surface;
-        QRect box;
-    } const rows[] = {
-        {200, {0, 0, 200, 200}}, {210, {5, 5, 200, 200}}, {211, {5, 5, 200, 200}}, {25, {0, 0, 25, 25}}};
-    for (const auto& row : rows) {
-        QImage surface(row.surface, row.surface, QImage::Format_ARGB32_Premultiplied);
+    const std::pair<int, QRect> rows[] = {
+        {200, {0, 0, 200, 200}}, {211, {5, 5, 200, 200}}, {25, {0, 0, 25, 25}}};
+    for (const auto& [side, box] : rows) {
+        QImage surface(side, side, QImage::Format_ARGB32_Premultiplied);
         surface.fill(Qt::transparent);
         QPainter painter(&surface);
-        drawQRCode(*symbol, painter, row.surface);
+        drawQRCode(*symbol, painter, side);
         painter.end();
-        ASSERT_EQ(darkBox(surface), row.box);
-        const int module = row.box.width() / 25;
-        for (int y = 0; y < 25; ++y) {
-            for (int x = 0; x < 25; ++x) {
-                const QRect square(row.box.x() + x * module, row.box.y() + y * module, module, module);
-                const bool dark = (symbol->modules[y * 25 + x] & 1) != 0;
-                ASSERT_EQ(qAlpha(surface.pixel(square.topLeft())), dark ? 255 : 0) << x << "," << y;
-                ASSERT_EQ(qAlpha(surface.pixel(square.bottomRight())), dark ? 255 : 0) << x << "," << y;
-            }
+        ASSERT_EQ(darkBox(surface), box);
+        const int module = box.width() / 25;
+        for (int i = 0; i < 25 * 25; ++i) {
+            const QRect square(box.topLeft() + QPoint(i % 25, i / 25) * module, QSize(module, module));
+            const int alpha = (symbol->modules[i] & 1) != 0 ? 255 : 0;
+            ASSERT_EQ(qAlpha(surface.pixel(square.topLeft())), alpha) << i;
+            ASSERT_EQ(qAlpha(surface.pixel(square.bottomRight())), alpha) << i;
         }
     }
 }
@@ -79,19 +69,17 @@ TEST(QrCode, LeavesATwentiethFreeOnEverySide) {
         const QImage picture = qrImageForString(TwentyFive, row.side, std::nullopt);
         ASSERT_EQ(picture.size(), QSize(row.size, row.size));
         const QRect box = darkBox(picture);
-        EXPECT_LE(std::abs(box.x() - row.box.x()), 1) << row.side << ": " << box.x();
-        EXPECT_LE(std::abs(box.y() - row.box.y()), 1) << row.side << ": " << box.y();
-        EXPECT_LE(std::abs(box.width() - row.box.width()), 1) << row.side << ": " << box.width();
+        EXPECT_NEAR(box.x(), row.box.x(), 1) << row.side;
+        EXPECT_NEAR(box.y(), row.box.y(), 1) << row.side;
+        EXPECT_NEAR(box.width(), row.box.width(), 1) << row.side;
     }
 }
 
 TEST(QrCode, TheBackgroundFillsTheWholeSquareOrStaysClear) {
-    const QImage clear = qrImageForString(TwentyFive, 200.0, std::nullopt);
-    EXPECT_EQ(clear.pixel(0, 0), qRgba(0, 0, 0, 0));
-    EXPECT_EQ(clear.pixel(14, 14), qRgb(0, 0, 0));
+    EXPECT_EQ(qrImageForString(TwentyFive, 200.0, std::nullopt).pixel(0, 0), qRgba(0, 0, 0, 0));
     const QImage yellow = qrImageForString(TwentyFive, 200.0, Color{1.0F, 1.0F, 0.0F, 0.5F});
-    EXPECT_EQ(yellow.pixelColor(0, 0).alpha(), 128);
-    EXPECT_EQ(yellow.pixelColor(199, 199).red(), 255);
+    for (const QPoint corner : {QPoint(0, 0), QPoint(199, 199)})
+        EXPECT_EQ(yellow.pixel(corner), qRgba(128, 128, 0, 128)) << "premultiplied";
     EXPECT_EQ(yellow.pixel(14, 14), qRgb(0, 0, 0));
 }
 
@@ -105,7 +93,6 @@ TEST(QrCode, NothingWhereThereIsNoSymbolOrNoRoom) {
     EXPECT_TRUE(qrImageForString(QString(), 200.0, Color::white()).isNull());
     EXPECT_TRUE(qrImageForString(QString(2954, u'x'), 200.0, Color::white()).isNull());
     EXPECT_FALSE(qrImageForString(QString(2953, u'x'), 200.0, Color::white()).isNull());
-    EXPECT_TRUE(qrImageForString(QString(100'000, u'x'), 200.0, Color::white()).isNull());
     for (const double side : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_TRUE(qrImageForString(TwentyFive, side, Color::white()).isNull()) << side;
     }

@@ -40,7 +40,7 @@ TEST(TextLayout, SizesAndInkGrowInFractionsLineBoxesInWholePixels) {
         for (int y = 0; y < picture.height(); ++y) black += (255 - qRed(picture.pixel(stem, y))) / 255.0;
         EXPECT_NEAR(black, 0.729 * size, 0.3) << size;
     }
-    for (const double size : {0.0, -4.0}) EXPECT_TRUE(measuredText(text, fontOf(size)).isEmpty());
+    EXPECT_TRUE(measuredText(text, fontOf(0.0)).isEmpty());
 }
 
 TEST(TextLayout, AlignsInItsBoxAndWritesLinesDownward) {
@@ -74,9 +74,8 @@ TEST(TextLayout, BoldIsWiderAndLinesReachOverTheWholeText) {
     const QRect under = inkBox(drawn(text, {.font = fontOf(50), .underline = true}, box));
     const QRect through = inkBox(drawn(text, {.font = fontOf(50), .strikethrough = true}, box));
     for (const QRect& ink : {under, through}) {
-        EXPECT_EQ(ink.left(), 10);
+        EXPECT_EQ(ink.topLeft(), QPoint(10, plain.top()));
         EXPECT_NEAR(ink.right() + 1, 10 + width, 1.0);
-        EXPECT_EQ(ink.top(), plain.top());
     }
     EXPECT_TRUE(under.bottom() > plain.bottom() && under.bottom() < plain.bottom() + 6);
     EXPECT_EQ(through.bottom(), plain.bottom());

@@ -62,12 +62,10 @@ TEST(Tiling, PutsSpacingRightOfAndAboveEveryTileInsideThePaddings) {
 }
 
 TEST(Tiling, RowsAndColumnsUseTheirOwnSpacingOnly) {
-    const QImage row = composed(tiled(true, false, 10, 500, 2), plainPhoto({400, 300}));
-    EXPECT_EQ(inkBox(row), QRect(0, 0, 390, 20));
-    EXPECT_EQ(at(row, 45, 290), QColor(Qt::white));
-    const QImage column = composed(tiled(false, true, 500, 10, 6), plainPhoto({400, 300}));
-    EXPECT_EQ(inkBox(column), QRect(360, 10, 40, 290)) << "tiles stand at 0, 30, ... 270";
-    EXPECT_EQ(at(column, 380, 25), QColor(Qt::white));
+    const QImage photo = plainPhoto({400, 300});
+    EXPECT_EQ(inkBox(composed(tiled(true, false, 10, 500, 2), photo)), QRect(0, 0, 390, 20));
+    // Tiles stand at 0, 30, ... 270.
+    EXPECT_EQ(inkBox(composed(tiled(false, true, 500, 10, 6), photo)), QRect(360, 10, 40, 290));
 }
 
 TEST(Tiling, TurnsClockwiseTiledAndSingle) {
@@ -77,14 +75,14 @@ TEST(Tiling, TurnsClockwiseTiledAndSingle) {
         QPoint green;  // where the lower left corner comes to, from the photo's lower left
     };
     for (const Row& row : {Row{90, {0, 60, 20, 40}, {2, 38}}, Row{-270, {0, 60, 20, 40}, {2, 38}},
-                           Row{450, {0, 60, 20, 40}, {2, 38}}, Row{180, {0, 80, 40, 20}, {38, 18}},
-                           Row{45, {0, 57, 43, 43}, {7, 28}}}) {
+                           Row{180, {0, 80, 40, 20}, {38, 18}}, Row{45, {0, 57, 43, 43}, {7, 28}}}) {
         Watermark record = logoRecord(sign());
         record.Rotation = row.degrees;
         const QImage single = composed(record, plainPhoto({200, 100}));
         const int slack = row.degrees % 90 == 0 ? 0 : 1;  // a slanted corner may not reach the last pixel
-        EXPECT_TRUE(row.ink.contains(inkBox(single))) << row.degrees;
-        EXPECT_TRUE(inkBox(single).contains(row.ink.adjusted(slack, slack, -slack, -slack))) << row.degrees;
+        EXPECT_TRUE(row.ink.contains(inkBox(single)) &&
+                    inkBox(single).contains(row.ink.adjusted(slack, slack, -slack, -slack)))
+            << row.degrees;
         EXPECT_EQ(at(single, row.green.x(), row.green.y()), QColor(Qt::green)) << row.degrees;
         record.HorizontalTiling = record.VerticalTiling = true;
         record.HorizontalSpacing = 4;
@@ -104,8 +102,7 @@ TEST(Tiling, TextRepeatsInWholePixelsAndLooksLikeItsSingleCopy) {
         record.HorizontalTiling = record.VerticalTiling = true;
         const QImage picture = composed(record, plainPhoto({600, 400}));
         const QSizeF turned = rotatedSize(makeTextBlock(record, record.Text, {600, 400}).size, rotation);
-        const QSize cell(static_cast<int>(std::ceil(turned.width())),
-                         static_cast<int>(std::ceil(turned.height())));
+        const QSize cell(int(std::ceil(turned.width())), int(std::ceil(turned.height())));
         const QRect corner(QPoint(0, 400 - cell.height()), cell);
         // One level for blending the cell's finished pixels instead of the letters themselves.
         EXPECT_LE(largestDifference(picture.copy(corner), single.copy(corner)), 1) << rotation;

@@ -127,6 +127,26 @@ class JpegCompressor {
     unsigned long length_ = 0;
 };
 
+// The bytes of an EXIF block with these of `options`' values; empty when there are none.
+QByteArray exifBytes(const TestJpeg& options) {
+    Exiv2::ExifData exif;
+    if (options.orientation != 0)
+        exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(options.orientation);
+    if (options.exifDpi != 0) {
+        exif["Exif.Image.XResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.YResolution"] = Exiv2::Rational(options.exifDpi, 1);
+        exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
+    }
+    if (options.dcfAdobeRgb) {
+        exif["Exif.Photo.ColorSpace"] = std::uint16_t{0xFFFF};
+        exif["Exif.Iop.InteroperabilityIndex"] = "R03";
+    }
+    if (exif.empty()) return {};
+    Exiv2::Blob blob;
+    Exiv2::ExifParser::encode(blob, Exiv2::bigEndian, exif);
+    return {reinterpret_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.size())};
+}
+
 }  // namespace
 
 QImage drawnScene(QSize size) {
@@ -164,25 +184,6 @@ QImage pictureOf(QSize size, QImage::Format format, const std::function<QRgb(int
         for (int x = 0; x < size.width(); ++x) row[x] = pixel(x, y);
     }
     return picture;
-}
-
-QByteArray exifBytes(const TestJpeg& options) {
-    Exiv2::ExifData exif;
-    if (options.orientation != 0)
-        exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(options.orientation);
-    if (options.exifDpi != 0) {
-        exif["Exif.Image.XResolution"] = Exiv2::Rational(options.exifDpi, 1);
-        exif["Exif.Image.YResolution"] = Exiv2::Rational(options.exifDpi, 1);
-        exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
-    }
-    if (options.dcfAdobeRgb) {
-        exif["Exif.Photo.ColorSpace"] = std::uint16_t{0xFFFF};
-        exif["Exif.Iop.InteroperabilityIndex"] = "R03";
-    }
-    if (exif.empty()) return {};
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::bigEndian, exif);
-    return {reinterpret_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.size())};
 }
 
 QByteArray jpegBytes(const QImage& picture, const TestJpeg& options) {

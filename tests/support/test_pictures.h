@@ -45,10 +45,6 @@ QByteArray jpegBytes(const QImage& picture, const TestJpeg& options = {});
 QByteArray cmykJpegBytes(const QByteArray& pixels, QSize size, bool adobe, bool ycck,
                          const QByteArray& profile = {});
 
-// The bytes of an EXIF block with these of `options`' values, as they stand in files of every format; empty when
-// there are none.
-QByteArray exifBytes(const TestJpeg& options);
-
 // `png` with one more chunk, behind its header; `type` has four letters.
 QByteArray withPngChunk(QByteArray png, const char* type, const QByteArray& data);
 
