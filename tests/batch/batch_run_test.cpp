@@ -14,6 +14,8 @@
 namespace zelto {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using State = BatchRun::State;
 
 // One letter a photo: g good, d damaged, w cannot be written, p throws when prepared, c throws when
@@ -25,14 +27,8 @@ class ScriptedProcessor : public PhotoProcessor {
 
     qint64 memoryNeeded(const PhotoTask&) override { return 1; }
     Result<PreparedPhoto> prepare(const PhotoTask& task) override {
-        switch (kind(task)) {
-            case 'd':
-                return fail(ErrorCode::Damaged, QStringLiteral("damaged"));
-            case 'p':
-                throw std::runtime_error("prepare");
-            default:
-                break;
-        }
+        if (kind(task) == 'd') return fail(ErrorCode::Damaged, u"damaged"_s);
+        if (kind(task) == 'p') throw std::runtime_error("prepare");
         PreparedPhoto photo;
         if (!pdf_.isNull()) photo.page.emplace();
         if (kind(task) == '9') photo.lastAutoNumber = 99;
@@ -40,7 +36,7 @@ class ScriptedProcessor : public PhotoProcessor {
     }
     Result<void> commit(const PhotoTask& task, PreparedPhoto) override {
         if (kind(task) == 'c') throw std::runtime_error("commit");
-        if (kind(task) == 'w') return fail(ErrorCode::CannotWrite, QStringLiteral("disk full"));
+        if (kind(task) == 'w') return fail(ErrorCode::CannotWrite, u"disk full"_s);
         return {};
     }
     Result<QString> finishCombinedPdf() override {
@@ -59,24 +55,22 @@ class ScriptedProcessor : public PhotoProcessor {
 // Writes down what happens, and at a named event does what the script says.
 class ScriptedObserver : public BatchObserver {
   public:
-    void runStarted(bool resumed) override {
-        note(resumed ? QStringLiteral("resume") : QStringLiteral("start"));
-    }
-    void photoStarted(qint64 row) override { happen(QStringLiteral("begin%1").arg(row)); }
+    void runStarted(bool resumed) override { note(resumed ? u"resume"_s : u"start"_s); }
+    void photoStarted(qint64 row) override { happen(u"begin%1"_s.arg(row)); }
     void photoFinished(const PhotoOutcome& outcome) override {
-        note(QStringLiteral("%1%2").arg(outcome.row).arg(outcome.error));
+        note(u"%1%2"_s.arg(outcome.row).arg(outcome.error));
     }
     void progressed(qint64 done) override {
-        happen(QStringLiteral("progress%1").arg(done));
+        happen(u"progress%1"_s.arg(done));
         lastProgress = done;
     }
-    void successiveFail() override { note(QStringLiteral("ask")); }
-    void combinedPdfFailed(const QString& reason) override { note(QStringLiteral("nopdf:") + reason); }
+    void successiveFail() override { note(u"ask"_s); }
+    void combinedPdfFailed(const QString& reason) override { note(u"nopdf:"_s + reason); }
     void runEnded(const RunReport& report) override {
-        static const QMap<RunEnd, QString> names = {{RunEnd::Finished, QStringLiteral("finished")},
-                                                    {RunEnd::Paused, QStringLiteral("paused")},
-                                                    {RunEnd::Cancelled, QStringLiteral("cancelled")},
-                                                    {RunEnd::Stopped, QStringLiteral("stopped")}};
+        static const QMap<RunEnd, QString> names = {{RunEnd::Finished, u"finished"_s},
+                                                    {RunEnd::Paused, u"paused"_s},
+                                                    {RunEnd::Cancelled, u"cancelled"_s},
+                                                    {RunEnd::Stopped, u"stopped"_s}};
         lastReport = report;
         note(names.value(report.end));
     }
@@ -102,21 +96,23 @@ class BatchRunTest : public ::testing::TestWithParam<int> {
     BatchRequest request(const QString& photos) const {
         BatchRequest request;
         for (qsizetype i = 0; i < photos.size(); ++i) {
-            request.photos.push_back({QStringLiteral("/in/%1.jpg").arg(i), photos[i] != QLatin1Char('-')});
+            request.photos.push_back({u"/in/%1.jpg"_s.arg(i), photos[i] != QLatin1Char('-')});
         }
-        request.options.OutputPath = QStringLiteral("/out");
-        request.options.OutputFormat = QStringLiteral("png");
+        request.options.OutputPath = u"/out"_s;
+        request.options.OutputFormat = u"png"_s;
         request.limits = {GetParam(), 100};
         return request;
     }
-    void start(const QString& photos, const QString& pdf = {}) {
-        ASSERT_TRUE(run.ProcessImaging(request(photos), std::make_unique<ScriptedProcessor>(photos, pdf)));
+    void start(const QString& photos) { start(request(photos), photos); }
+    void start(const BatchRequest& asked, const QString& photos, const QString& pdf = {}) {
+        ASSERT_TRUE(run.ProcessImaging(asked, std::make_unique<ScriptedProcessor>(photos, pdf)));
     }
-    QString played(const QString& photos) {
+    // What happens in a run over these photos, blanks between the events.
+    std::string played(const char* photos) {
         observer.log.clear();
-        start(photos);
+        start(QString::fromLatin1(photos));
         run.wait();
-        return observer.log.join(QLatin1Char(' '));
+        return observer.log.join(u' ').toStdString();
     }
     void at(const char* event, std::function<void()> action) {
         observer.script.insert(QLatin1String(event), std::move(action));
@@ -133,22 +129,21 @@ class BatchRunTest : public ::testing::TestWithParam<int> {
 INSTANTIATE_TEST_SUITE_P(Jobs, BatchRunTest, ::testing::Values(1, 4));
 
 TEST_P(BatchRunTest, WritesEveryCheckedPhotoInOrder) {
-    EXPECT_EQ(played(QStringLiteral("g-gg-")), QStringLiteral("start 0 2 3 finished"));
+    EXPECT_EQ(played("g-gg-"), "start 0 2 3 finished");
     EXPECT_EQ(observer.lastProgress, 5) << "unchecked photos count";
     EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
     EXPECT_EQ(observer.lastReport.OutPutImageList,
-              QStringList({QStringLiteral("/out/0.png"), QStringLiteral("/out/2.png"),
-                           QStringLiteral("/out/3.png")}));
+              QStringList({u"/out/0.png"_s, u"/out/2.png"_s, u"/out/3.png"_s}));
     EXPECT_EQ(run.state(), State::Idle);
 
-    EXPECT_EQ(played(QStringLiteral("---")), QStringLiteral("start finished"));
-    EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
+    EXPECT_EQ(played("---"), "start finished");
     EXPECT_TRUE(observer.lastReport.OutPutImageList.isEmpty());
 }
 
 TEST_P(BatchRunTest, AFailureOfAnyStageIsThatPhotosAlone) {
-    EXPECT_EQ(played(QStringLiteral("gdgwgpgcg")),
-              QStringLiteral("start 0 1damaged 2 3%1 4 5%1 6 7%1 8 finished").arg(WatermarkingFailedMessage));
+    EXPECT_EQ(
+        played("gdgwgpgcg"),
+        u"start 0 1damaged 2 3%1 4 5%1 6 7%1 8 finished"_s.arg(WatermarkingFailedMessage).toStdString());
     EXPECT_EQ(observer.lastReport.message(), FailureSummary);
     EXPECT_EQ(observer.lastReport.OutPutImageList.size(), 5);
 }
@@ -159,18 +154,18 @@ TEST_P(BatchRunTest, AsksOnceAStreakAfterThreeFailuresInARow) {
         at("ask", yes);
         yes();
     });
-    EXPECT_EQ(played(QStringLiteral("ddgddd-ddgdddg")),
-              QStringLiteral("start 0damaged 1damaged 2 3damaged 4damaged 5damaged ask 7damaged 8damaged 9 "
-                             "10damaged 11damaged 12damaged ask 13 finished"));
-    EXPECT_EQ(played(QStringLiteral("gddd")), QStringLiteral("start 0 1damaged 2damaged 3damaged finished"))
+    EXPECT_EQ(played("ddgddd-ddgdddg"),
+              "start 0damaged 1damaged 2 3damaged 4damaged 5damaged ask 7damaged 8damaged 9 "
+              "10damaged 11damaged 12damaged ask 13 finished");
+    EXPECT_EQ(played("gddd"), "start 0 1damaged 2damaged 3damaged finished")
         << "nothing is left to go on with";
 }
 
 TEST_P(BatchRunTest, NoStopsWithoutASummaryAndANewRunMayStart) {
     at("ask", no);
-    EXPECT_EQ(played(QStringLiteral("dddg")), QStringLiteral("start 0damaged 1damaged 2damaged ask stopped"));
+    EXPECT_EQ(played("dddg"), "start 0damaged 1damaged 2damaged ask stopped");
     EXPECT_EQ(run.state(), State::Stopped);
-    EXPECT_EQ(played(QStringLiteral("g")), QStringLiteral("start 0 finished"));
+    EXPECT_EQ(played("g"), "start 0 finished");
 }
 
 TEST_P(BatchRunTest, AResumedRunWritesThePhotoInHandAgainAndForgetsWhatCameBefore) {
@@ -180,11 +175,10 @@ TEST_P(BatchRunTest, AResumedRunWritesThePhotoInHandAgainAndForgetsWhatCameBefor
         EXPECT_EQ(observer.lastProgress, 4);
         pause();
     });
-    EXPECT_EQ(played(QStringLiteral("gdggggggg-")),
-              QStringLiteral("start 0 1damaged 2 3 4 paused resume 4 5 6 7 8 finished"));
+    EXPECT_EQ(played("gdggggggg-"), "start 0 1damaged 2 3 4 paused resume 4 5 6 7 8 finished");
     EXPECT_EQ(observer.lastReport.message(), SuccessSummary);
     EXPECT_EQ(observer.lastReport.OutPutImageList.size(), 5);
-    EXPECT_EQ(observer.lastReport.OutPutImageList.first(), QStringLiteral("/out/4.png"));
+    EXPECT_EQ(observer.lastReport.OutPutImageList.first(), u"/out/4.png"_s);
 }
 
 TEST_P(BatchRunTest, APauseTakenBackBeforeThePhotoEndsChangesNothing) {
@@ -192,114 +186,109 @@ TEST_P(BatchRunTest, APauseTakenBackBeforeThePhotoEndsChangesNothing) {
         pause();
         pause();
     });
-    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 2 finished"));
+    EXPECT_EQ(played("ggg"), "start 0 1 2 finished");
 }
 
 TEST_P(BatchRunTest, APauseWithoutEffectHoldsTheNextRunAfterItsFirstPhoto) {
     at("progress1", pause);
-    EXPECT_EQ(played(QStringLiteral("g--")), QStringLiteral("start 0 finished"));
+    EXPECT_EQ(played("g--"), "start 0 finished");
     EXPECT_TRUE(run.PauseProcessing());
-    EXPECT_EQ(played(QStringLiteral("-gg")), QStringLiteral("start 1 paused"));
+    EXPECT_EQ(played("-gg"), "start 1 paused");
     pause();
     run.wait();
-    EXPECT_EQ(observer.log.mid(3).join(QLatin1Char(' ')), QStringLiteral("resume 1 2 finished"));
+    EXPECT_EQ(observer.log.mid(3).join(u' '), u"resume 1 2 finished"_s);
 }
 
 TEST_P(BatchRunTest, CancelEndsARunAfterThePhotoInHandWhateverItsState) {
     at("begin1", cancel);
-    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 cancelled"));
+    EXPECT_EQ(played("ggg"), "start 0 1 cancelled");
     at("progress2", cancel);
-    EXPECT_EQ(played(QStringLiteral("gg--")), QStringLiteral("start 0 1 cancelled"));
+    EXPECT_EQ(played("gg--"), "start 0 1 cancelled");
     at("ask", cancel);
-    EXPECT_EQ(played(QStringLiteral("dddg")),
-              QStringLiteral("start 0damaged 1damaged 2damaged ask cancelled"));
+    EXPECT_EQ(played("dddg"), "start 0damaged 1damaged 2damaged ask cancelled");
 
     at("begin0", pause);
-    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 paused"));
-    EXPECT_FALSE(run.ProcessImaging(request(QStringLiteral("g")), nullptr)) << "a paused run is not done";
+    EXPECT_EQ(played("ggg"), "start 0 paused");
+    EXPECT_FALSE(run.ProcessImaging(request(u"g"_s), nullptr)) << "a paused run is not done";
     cancel();
     EXPECT_EQ(run.state(), State::Idle);
     pause();  // a pause pressed now is one of the next run's
     pause();
     run.wait();
     EXPECT_EQ(observer.log.size(), 3) << "nothing is left to resume";
-    EXPECT_EQ(played(QStringLiteral("gg")), QStringLiteral("start 0 1 finished"));
+    EXPECT_EQ(played("gg"), "start 0 1 finished");
 }
 
 TEST_P(BatchRunTest, ARunStartedRightAfterACancelFollowsTheCancelledOne) {
     at("begin1", [this] {
         cancel();
-        start(QStringLiteral("gg"));
+        start(u"gg"_s);
     });
-    EXPECT_EQ(played(QStringLiteral("ggg")), QStringLiteral("start 0 1 cancelled start 0 1 finished"));
+    EXPECT_EQ(played("ggg"), "start 0 1 cancelled start 0 1 finished");
 }
 
 TEST_P(BatchRunTest, GoingAwayEndsTheRun) {
     {
         BatchRun doomed(observer);
-        ASSERT_TRUE(
-            doomed.ProcessImaging(request(QStringLiteral("ddddg")),
-                                  std::make_unique<ScriptedProcessor>(QStringLiteral("ddddg"), QString())));
+        ASSERT_TRUE(doomed.ProcessImaging(request(u"ddddg"_s),
+                                          std::make_unique<ScriptedProcessor>(u"ddddg"_s, QString())));
     }
-    EXPECT_EQ(observer.log.last(), QStringLiteral("cancelled"));
+    EXPECT_EQ(observer.log.last(), u"cancelled"_s);
 }
 
 TEST_P(BatchRunTest, TheCombinedPdfIsFinishedOnlyByARunThatFinishes) {
     const auto playedPdf = [this](const QString& photos, const QString& pdf) {
         BatchRequest combined = request(photos);
-        combined.options.OutputFormat = QStringLiteral("pdf");
+        combined.options.OutputFormat = u"pdf"_s;
         combined.options.CombineToSinglePDF = true;
         observer.log.clear();
-        EXPECT_TRUE(
-            run.ProcessImaging(std::move(combined), std::make_unique<ScriptedProcessor>(photos, pdf)));
+        start(combined, photos, pdf);
         run.wait();
         return observer.log.last();
     };
-    EXPECT_EQ(playedPdf(QStringLiteral("gg"), QStringLiteral("/out/a.pdf")), QStringLiteral("finished"));
-    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(QStringLiteral("/out/a.pdf")));
+    EXPECT_EQ(playedPdf(u"gg"_s, u"/out/a.pdf"_s), u"finished"_s);
+    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(u"/out/a.pdf"_s));
     EXPECT_TRUE(observer.lastReport.opensCombinedPdf());
 
-    playedPdf(QStringLiteral("gg"), QStringLiteral("throw"));
-    EXPECT_TRUE(observer.log.contains(QStringLiteral("nopdf:pdf")));
+    playedPdf(u"gg"_s, u"throw"_s);
+    EXPECT_TRUE(observer.log.contains(u"nopdf:pdf"_s));
     EXPECT_TRUE(observer.lastReport.OutPutImageList.isEmpty());
 
     at("begin1", cancel);
-    EXPECT_EQ(playedPdf(QStringLiteral("ggg"), QStringLiteral("/out/a.pdf")), QStringLiteral("cancelled"));
+    EXPECT_EQ(playedPdf(u"ggg"_s, u"/out/a.pdf"_s), u"cancelled"_s);
     EXPECT_TRUE(observer.lastReport.combinedPdf.isEmpty());
 }
 
 TEST_P(BatchRunTest, AKeptStructureListsItsTopFoldersOnEveryStart) {
-    BatchRequest kept = request(QStringLiteral("gg"));
+    BatchRequest kept = request(u"gg"_s);
     kept.options.KeepDirectoryStructure = true;
-    kept.folders = {{QStringLiteral("/in"), {}}, {QStringLiteral("/in/sub"), {}}};
+    kept.folders = {{u"/in"_s, {}}, {u"/in/sub"_s, {}}};
     at("begin0", pause);
     at("paused", pause);
-    ASSERT_TRUE(
-        run.ProcessImaging(kept, std::make_unique<ScriptedProcessor>(QStringLiteral("gg"), QString())));
+    start(kept, u"gg"_s);
     run.wait();
-    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(QStringLiteral("/out/in")));
+    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(u"/out/in"_s));
 }
 
 TEST_P(BatchRunTest, TheStackIsSavedByEveryWorkerAndTheNumberOnceThePhotoIsWritten) {
     int saved = 0;
     std::vector<qint64> numbers;
-    BatchRequest asked = request(QStringLiteral("g9"));
+    BatchRequest asked = request(u"g9"_s);
     asked.saveLastWatermark = [&] {
         ++saved;
         throw std::runtime_error("read-only home");
     };
     asked.storeLastAutoNumber = [&](qint64 number) {
-        EXPECT_FALSE(observer.log.contains(QStringLiteral("1")));
+        EXPECT_FALSE(observer.log.contains(u"1"_s));
         numbers.push_back(number);
     };
     at("begin0", pause);
     at("paused", pause);
-    ASSERT_TRUE(
-        run.ProcessImaging(asked, std::make_unique<ScriptedProcessor>(QStringLiteral("g9"), QString())));
+    start(asked, u"g9"_s);
     run.wait();
     EXPECT_EQ(saved, 2);
     EXPECT_THAT(numbers, ::testing::ElementsAre(99));
-    EXPECT_EQ(observer.log.last(), QStringLiteral("finished"));
+    EXPECT_EQ(observer.log.last(), u"finished"_s);
 }
 
 }  // namespace

@@ -6,11 +6,11 @@
 namespace zelto {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 TEST(DestinationMap, RelativePathsStartWithTheAncestorsOwnName) {
     struct Row {
-        const char* candidate;
-        const char* folder;
-        const char* relative;  // null: no ancestor
+        const char *candidate, *folder, *relative;  // null: no ancestor
     };
     const Row rows[] = {
         {"/p/a", "/p/a/b/c", "a/b/c"}, {"/p", "/p/b", "p/b"},         {"/p/a", "/p/a", nullptr},
@@ -27,22 +27,19 @@ TEST(DestinationMap, RelativePathsStartWithTheAncestorsOwnName) {
 }
 
 TEST(DestinationMap, HasParentStoresOnlyForAFolderOfTheMap) {
-    const FolderDestinations sources = {{QStringLiteral("/p/a"), {}}, {QStringLiteral("/p/a/b"), {}}};
+    const FolderDestinations sources = {{u"/p/a"_s, {}}, {u"/p/a/b"_s, {}}};
     FolderDestinations destinations = sources;
-    EXPECT_TRUE(HasParent(QStringLiteral("/p/a/x"), sources, QStringLiteral("/out"), destinations));
+    EXPECT_TRUE(HasParent(u"/p/a/x"_s, sources, u"/out"_s, destinations));
     EXPECT_EQ(destinations, sources);
-    EXPECT_FALSE(HasParent(QStringLiteral("/p/a"), sources, QStringLiteral("/out"), destinations));
+    EXPECT_FALSE(HasParent(u"/p/a"_s, sources, u"/out"_s, destinations));
     EXPECT_EQ(destinations, sources);
-    EXPECT_TRUE(HasParent(QStringLiteral("/p/a/b"), sources, QStringLiteral("/out"), destinations));
-    EXPECT_EQ(destinations.value(QStringLiteral("/p/a/b")), QStringLiteral("/out/a/b"));
+    EXPECT_TRUE(HasParent(u"/p/a/b"_s, sources, u"/out"_s, destinations));
+    EXPECT_EQ(destinations.value(u"/p/a/b"_s), u"/out/a/b"_s);
 }
 
 TEST(DestinationMap, EveryFolderLandsBelowItsTopmostAncestor) {
-    struct Row {
-        const char* folders;  // folder > destination, separated by blanks
-        const char* topFolders;
-    };
-    const Row rows[] = {
+    // Folder > destination, separated by blanks, and the top folders.
+    const std::pair<const char*, const char*> rows[] = {
         {"/p/a>/out/a /p/a/b/c>/out/a/b/c", "/out/a"},
         {"/p/a/b>/out/b /p/a/c>/out/c", "/out/b /out/c"},
         {"/p/a>/out/a /p/a/b>/out/a/b /p/a/b/c>/out/a/b/c /p/ab>/out/ab", "/out/a /out/ab"},
@@ -50,20 +47,20 @@ TEST(DestinationMap, EveryFolderLandsBelowItsTopmostAncestor) {
         {"/>/out", "/out"},
         {"/p/..>/out/_ /p/../..>/out/_/_", "/out/_"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [folders, top] : rows) {
         FolderDestinations expected;
         FolderDestinations destinations;
-        for (const QString& pair : QString::fromLatin1(row.folders).split(QLatin1Char(' '))) {
-            expected.insert(pair.section(QLatin1Char('>'), 0, 0), pair.section(QLatin1Char('>'), 1));
-            destinations.insert(pair.section(QLatin1Char('>'), 0, 0), QString());
+        for (const QString& pair : QString::fromLatin1(folders).split(u' ')) {
+            expected.insert(pair.section(u'>', 0, 0), pair.section(u'>', 1));
+            destinations.insert(pair.section(u'>', 0, 0), QString());
         }
-        const QStringList topFolders = resolveDestinations(destinations, QStringLiteral("/out"));
-        EXPECT_EQ(destinations, expected) << row.folders;
+        const QStringList topFolders = resolveDestinations(destinations, u"/out"_s);
+        EXPECT_EQ(destinations, expected) << folders;
         for (const QString& folder : expected.keys()) {
-            EXPECT_EQ(destinationOf(folder, expected, QStringLiteral("/out")), expected.value(folder))
-                << "one folder alone, of " << row.folders;
+            EXPECT_EQ(destinationOf(folder, expected, u"/out"_s), expected.value(folder))
+                << "one folder alone, of " << folders;
         }
-        EXPECT_EQ(topFolders.join(QLatin1Char(' ')), QLatin1String(row.topFolders)) << row.folders;
+        EXPECT_EQ(topFolders.join(u' '), QLatin1String(top)) << folders;
     }
 }
 

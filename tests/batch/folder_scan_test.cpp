@@ -10,15 +10,16 @@
 namespace zelto {
 namespace {
 
-// A folder with empty files and, for names that end in '/', folders.
+using namespace Qt::StringLiterals;
+
+// A folder with empty files and, for names that end in '/', folders; "|" stands between the names.
 class FolderScan : public ::testing::Test {
   protected:
-    void make(const QStringList& names) const {
-        for (const QString& name : names) {
+    void make(const QString& names) const {
+        for (const QString& name : names.split(u'|')) {
             const QString path = folder_.filePath(name);
-            QDir().mkpath(name.endsWith(QLatin1Char('/')) ? path : QFileInfo(path).path());
-            if (name.endsWith(QLatin1Char('/'))) continue;
-            ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)) << name.toStdString();
+            QDir().mkpath(QFileInfo(path).path());
+            ASSERT_TRUE(name.endsWith(u'/') || QFile(path).open(QIODevice::WriteOnly)) << name.toStdString();
         }
     }
     QString scanned(bool subFolders, const ScanFormats& formats = {}) const {
@@ -33,34 +34,29 @@ class FolderScan : public ::testing::Test {
 };
 
 TEST_F(FolderScan, TakesNamesByExtensionInOrder) {
-    make({QStringLiteral("c.JPG"), QStringLiteral("b.jpeg"), QStringLiteral("a.gif"), QStringLiteral("b.GIF"),
-          QStringLiteral("e.giff"), QStringLiteral("d.tif"), QStringLiteral("D.Tiff"),
-          QStringLiteral("e.bmp"), QStringLiteral("f.png.txt"), QStringLiteral("jpg"), QStringLiteral("g."),
-          QStringLiteral(".png"), QStringLiteral(".h.png"), QStringLiteral("i.jp"), QStringLiteral("ä b.png"),
-          QStringLiteral("folder.jpg/")});
-    EXPECT_EQ(scanned(false), QStringLiteral(".h.png D.Tiff b.jpeg c.JPG d.tif e.bmp folder.jpg ä b.png"));
+    make(
+        u"c.JPG|b.jpeg|a.gif|b.GIF|e.giff|d.tif|D.Tiff|e.bmp|f.png.txt|jpg|g.|.png|.h.png|i.jp|ä b.png|folder.jpg/"_s);
+    EXPECT_EQ(scanned(false), u".h.png D.Tiff b.jpeg c.JPG d.tif e.bmp folder.jpg ä b.png"_s);
     EXPECT_EQ(scanned(false, {.Jpeg = false, .Png = false, .Tiff = false, .Bmp = false}), QString());
-    EXPECT_EQ(scanned(false, {.Jpeg = false, .Tiff = false}), QStringLiteral(".h.png e.bmp ä b.png"));
+    EXPECT_EQ(scanned(false, {.Jpeg = false, .Tiff = false}), u".h.png e.bmp ä b.png"_s);
 }
 
 TEST_F(FolderScan, WalksSubFoldersOnceAndNeverThroughLinks) {
-    make({QStringLiteral("z.jpg"), QStringLiteral("sub/a.jpg"), QStringLiteral("sub/deep/b.png"),
-          QStringLiteral("Sub2/c.bmp"), QStringLiteral(".hidden/d.tif"), QStringLiteral("x.jpg/e.jpg")});
-    ASSERT_TRUE(QFile::link(folder_.path(), folder_.filePath(QStringLiteral("sub/again"))));
-    EXPECT_EQ(scanned(false), QStringLiteral("x.jpg z.jpg"));
-    EXPECT_EQ(scanned(true),
-              QStringLiteral("x.jpg z.jpg .hidden/d.tif Sub2/c.bmp sub/a.jpg sub/deep/b.png x.jpg/e.jpg"));
+    make(u"z.jpg|sub/a.jpg|sub/deep/b.png|Sub2/c.bmp|.hidden/d.tif|x.jpg/e.jpg"_s);
+    ASSERT_TRUE(QFile::link(folder_.path(), folder_.filePath(u"sub/again"_s)));
+    EXPECT_EQ(scanned(false), u"x.jpg z.jpg"_s);
+    EXPECT_EQ(scanned(true), u"x.jpg z.jpg .hidden/d.tif Sub2/c.bmp sub/a.jpg sub/deep/b.png x.jpg/e.jpg"_s);
 }
 
 TEST_F(FolderScan, KeepsTheFolderAsItWasWritten) {
-    make({QStringLiteral("a.jpg")});
+    make(u"a.jpg"_s);
     const auto found = ImportImagesFromFolder(folder_.path() + QLatin1Char('/'), false, GetExtensionList({}));
     ASSERT_TRUE(found);
-    EXPECT_EQ(*found, QStringList(folder_.path() + QStringLiteral("//a.jpg")));
+    EXPECT_EQ(*found, QStringList(folder_.path() + u"//a.jpg"_s));
 }
 
 TEST_F(FolderScan, AFolderThatCannotBeListedIsAnError) {
-    make({QStringLiteral("a.jpg")});
+    make(u"a.jpg"_s);
     for (const char* name : {"missing", "a.jpg"}) {
         const QString path = folder_.filePath(QLatin1String(name));
         const auto found = ImportImagesFromFolder(path, true, GetExtensionList({}));
@@ -70,8 +66,7 @@ TEST_F(FolderScan, AFolderThatCannotBeListedIsAnError) {
 }
 
 TEST_F(FolderScan, IsBrokenOffWhereItIsNotToGoOn) {
-    make({QStringLiteral("a.jpg"), QStringLiteral("one/b.jpg"), QStringLiteral("two/c.jpg"),
-          QStringLiteral("two/three/d.jpg")});
+    make(u"a.jpg|one/b.jpg|two/c.jpg|two/three/d.jpg"_s);
     for (const qsizetype enough : {1, 2, 3}) {
         const auto found = ImportImagesFromFolder(folder_.path(), true, GetExtensionList({}),
                                                   [enough](qsizetype count) { return count < enough; });
@@ -81,7 +76,7 @@ TEST_F(FolderScan, IsBrokenOffWhereItIsNotToGoOn) {
 }
 
 TEST(ExtensionList, HoldsTheTickedFormatsInOrder) {
-    EXPECT_EQ(GetExtensionList({}), QStringLiteral(".jpg;.jpeg;.png;.tiff;.tif;.gif;.bmp;"));
+    EXPECT_EQ(GetExtensionList({}), u".jpg;.jpeg;.png;.tiff;.tif;.gif;.bmp;"_s);
     EXPECT_EQ(GetExtensionList({false, false, false, false, false}), QString());
 }
 

@@ -7,6 +7,8 @@
 namespace zelto {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using ::testing::ElementsAre;
 
 ImageList listOf(const QStringList& paths) {
@@ -29,31 +31,28 @@ std::vector<bool> checksOf(const ImageList& list) {
 
 TEST(ImageList, KeepsEachExactPathOnceInTheOrderOfAdding) {
     ImageList list;
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/x/b.jpg")));
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/x/a.jpg")));
-    EXPECT_FALSE(list.AddImage(QStringLiteral("/x/b.jpg")));
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/x/A.jpg")));
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/x//a.jpg")));
-    EXPECT_EQ(pathsOf(list), QStringList({QStringLiteral("/x/b.jpg"), QStringLiteral("/x/a.jpg"),
-                                          QStringLiteral("/x/A.jpg"), QStringLiteral("/x//a.jpg")}));
-    EXPECT_FALSE(list.CheckIfImageExists(QStringLiteral("/X/a.jpg")));
+    EXPECT_TRUE(list.AddImage(u"/x/b.jpg"_s));
+    EXPECT_TRUE(list.AddImage(u"/x/a.jpg"_s));
+    EXPECT_FALSE(list.AddImage(u"/x/b.jpg"_s));
+    EXPECT_TRUE(list.AddImage(u"/x/A.jpg"_s));
+    EXPECT_TRUE(list.AddImage(u"/x//a.jpg"_s));
+    EXPECT_EQ(pathsOf(list), QStringList({u"/x/b.jpg"_s, u"/x/a.jpg"_s, u"/x/A.jpg"_s, u"/x//a.jpg"_s}));
+    EXPECT_FALSE(list.CheckIfImageExists(u"/X/a.jpg"_s));
 }
 
 TEST(ImageList, ARemovedPhotoCanBeAddedAgainAndItsFolderStaysKnown) {
-    ImageList list =
-        listOf({QStringLiteral("/x/a.jpg"), QStringLiteral("/y/b.jpg"), QStringLiteral("/x/c.jpg")});
+    ImageList list = listOf({u"/x/a.jpg"_s, u"/y/b.jpg"_s, u"/x/c.jpg"_s});
     EXPECT_EQ(list.RemoveImage(1), std::optional<std::size_t>(1));
     EXPECT_EQ(list.RemoveImage(1), std::optional<std::size_t>(0)) << "the last one: the new last row";
     EXPECT_EQ(list.RemoveImage(0), std::nullopt);
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/y/b.jpg")));
+    EXPECT_TRUE(list.AddImage(u"/y/b.jpg"_s));
     list.RemoveAllImages();
-    EXPECT_TRUE(list.AddImage(QStringLiteral("/x/a.jpg")));
-    EXPECT_EQ(list.InputOutputDictionary().keys(), QStringList({QStringLiteral("/x"), QStringLiteral("/y")}));
+    EXPECT_TRUE(list.AddImage(u"/x/a.jpg"_s));
+    EXPECT_EQ(list.InputOutputDictionary().keys(), QStringList({u"/x"_s, u"/y"_s}));
 }
 
 TEST(ImageList, PhotosTakenOutGoBackToTheirRowsAsTheyWere) {
-    const QStringList all = {QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3"),
-                             QStringLiteral("/4")};
+    const QStringList all = {u"/1"_s, u"/2"_s, u"/3"_s, u"/4"_s};
     for (const std::vector<std::size_t>& rows :
          {std::vector<std::size_t>{}, {0}, {3}, {1, 2}, {0, 2}, {0, 1, 2, 3}}) {
         ImageList list = listOf(all);
@@ -64,12 +63,12 @@ TEST(ImageList, PhotosTakenOutGoBackToTheirRowsAsTheyWere) {
         list.insertImages(taken);
         EXPECT_EQ(pathsOf(list), all);
         EXPECT_THAT(checksOf(list), ElementsAre(true, true, false, true));
-        EXPECT_TRUE(list.CheckIfImageExists(QStringLiteral("/1")));
+        EXPECT_TRUE(list.CheckIfImageExists(u"/1"_s));
     }
 }
 
 TEST(ImageList, ChecksAreSetForAllOrTurnedOver) {
-    ImageList list = listOf({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
+    ImageList list = listOf({u"/1"_s, u"/2"_s, u"/3"_s});
     list.setApplyWatermark(1, false);
     list.ToggleCheck();
     EXPECT_THAT(checksOf(list), ElementsAre(false, true, false));
@@ -80,16 +79,16 @@ TEST(ImageList, ChecksAreSetForAllOrTurnedOver) {
 }
 
 TEST(ImageList, AnErrorTextStaysUntilANewFailureReplacesIt) {
-    ImageList list = listOf({QStringLiteral("/1")});
+    ImageList list = listOf({u"/1"_s});
     const auto& image = list.images().front();
-    list.setOutcome(0, PhotoStatus::Failed, QStringLiteral("first"));
+    list.setOutcome(0, PhotoStatus::Failed, u"first"_s);
     list.markUnprocessed();
     EXPECT_EQ(image.StsImage, statusImage(PhotoStatus::NotProcessed));
     list.setOutcome(0, PhotoStatus::Written, QString());
     EXPECT_EQ(image.StsImage, statusImage(PhotoStatus::Written));
-    EXPECT_EQ(image.ErrorMessage, QStringLiteral("first"));
-    list.setOutcome(0, PhotoStatus::Failed, QStringLiteral("second"));
-    EXPECT_EQ(image.ErrorMessage, QStringLiteral("second"));
+    EXPECT_EQ(image.ErrorMessage, u"first"_s);
+    list.setOutcome(0, PhotoStatus::Failed, u"second"_s);
+    EXPECT_EQ(image.ErrorMessage, u"second"_s);
 }
 
 }  // namespace

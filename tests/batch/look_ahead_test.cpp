@@ -37,9 +37,9 @@ class MeasuredProcessor : public PhotoProcessor {
             atWork_[task.row] = photo(task).bytes;
             qint64 sum = 0;
             for (const auto& [row, bytes] : atWork_) sum += bytes;
-            mostBytes_ = std::max(mostBytes_, sum);
-            mostPhotos_ = std::max(mostPhotos_, atWork_.size());
-            EXPECT_TRUE(photo(task).bytes <= budget || atWork_.size() == 1) << "row " << task.row;
+            mostBytes = std::max(mostBytes, sum);
+            mostPhotos = std::max(mostPhotos, atWork_.size());
+            EXPECT_TRUE(photo(task).bytes <= Budget || atWork_.size() == 1) << "row " << task.row;
         }
         std::this_thread::sleep_for(photo(task).duration);
         const std::lock_guard lock(mutex_);
@@ -56,21 +56,18 @@ class MeasuredProcessor : public PhotoProcessor {
         return [this]() -> std::optional<PhotoTask> {
             if (next_ == photos_.size()) return std::nullopt;
             const Photo& photo = photos_[next_];
-            return PhotoTask{static_cast<qint64>(next_++),
-                             static_cast<qint64>(photos_.size()),
-                             photo.source,
-                             photo.output,
-                             {}};
+            const auto row = static_cast<qint64>(next_++);
+            return PhotoTask{row, static_cast<qint64>(photos_.size()), photo.source, photo.output, {}};
         };
     }
     std::vector<qint64> begun() {
         const std::lock_guard lock(mutex_);
         return begun_;
     }
-    qint64 mostBytes() const { return mostBytes_; }
-    std::size_t mostPhotos() const { return mostPhotos_; }
 
-    qint64 budget = 100;
+    static constexpr qint64 Budget = 100;
+    qint64 mostBytes = 0;
+    std::size_t mostPhotos = 0;
 
   private:
     const Photo& photo(const PhotoTask& task) const { return photos_[static_cast<std::size_t>(task.row)]; }
@@ -80,8 +77,6 @@ class MeasuredProcessor : public PhotoProcessor {
     std::mutex mutex_;
     std::vector<qint64> begun_;
     std::map<qint64, qint64> atWork_;
-    qint64 mostBytes_ = 0;
-    std::size_t mostPhotos_ = 0;
 };
 
 // The rows in the order they were handed out, each with the content that belongs to it.
@@ -106,7 +101,7 @@ TEST(LookAhead, HandsOutInListOrderHoweverLongEachPhotoTakes) {
         MeasuredProcessor processor(photos);
         LookAhead ahead(processor, processor.tasks(), {jobs, 100});
         EXPECT_EQ(takenRows(ahead), order) << jobs << " jobs";
-        EXPECT_LE(processor.mostPhotos(), static_cast<std::size_t>(jobs));
+        EXPECT_LE(processor.mostPhotos, static_cast<std::size_t>(jobs));
     }
 }
 
@@ -116,15 +111,15 @@ TEST(LookAhead, KeepsToTheMemoryBudgetAndWorksOnALargerPhotoAlone) {
     photos[20].bytes = 100;
     photos[21].bytes = -1;  // a photo whose size cannot be told is still prepared
     MeasuredProcessor processor(photos);
-    LookAhead ahead(processor, processor.tasks(), {4, processor.budget});
+    LookAhead ahead(processor, processor.tasks(), {4, MeasuredProcessor::Budget});
     EXPECT_EQ(takenRows(ahead).size(), photos.size());
-    EXPECT_EQ(processor.mostBytes(), 1000);
+    EXPECT_EQ(processor.mostBytes, 1000);
 
     photos[3].bytes = 30;
     MeasuredProcessor evenProcessor(photos);
-    LookAhead evenAhead(evenProcessor, evenProcessor.tasks(), {4, evenProcessor.budget});
+    LookAhead evenAhead(evenProcessor, evenProcessor.tasks(), {4, MeasuredProcessor::Budget});
     EXPECT_EQ(takenRows(evenAhead).size(), photos.size());
-    EXPECT_LE(evenProcessor.mostBytes(), evenProcessor.budget);
+    EXPECT_LE(evenProcessor.mostBytes, MeasuredProcessor::Budget);
 }
 
 TEST(LookAhead, BeginsNoPhotoThatAnEarlierOneStillHasToWrite) {

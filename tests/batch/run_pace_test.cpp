@@ -9,10 +9,8 @@ namespace {
 TEST(RunPace, TellsRateAndTimeLeftOnceThereIsOne) {
     struct Row {
         qint64 photos;
-        int done;
-        int milliseconds;
-        QString rate;
-        QString timeLeft;
+        int done, milliseconds;
+        QString rate, timeLeft;
     };
     const Row rows[] = {
         {10, 0, 5000, {}, {}},

@@ -8,8 +8,12 @@
 #include <QFile>
 #include <QImageReader>
 
+#include <utility>
+
 namespace zelto {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 using Outputs = BatchProgram;
 
@@ -18,23 +22,20 @@ QStringList words(const char* line) {
 }
 
 TEST_F(Outputs, EveryFormatHoldsTheMarkedPhoto) {
-    const QStringList photos = {makePhoto(QStringLiteral("a.JPG")), makePhoto(QStringLiteral("b.png")),
-                                makePhoto(QStringLiteral("c.tif")), makePhoto(QStringLiteral("d.bmp"))};
+    const QStringList photos = {makePhoto(u"a.JPG"_s), makePhoto(u"b.png"_s), makePhoto(u"c.tif"_s),
+                                makePhoto(u"d.bmp"_s)};
     struct Row {
-        const char* format;
-        const char* files;
-        const char* qtFormat;  // of the first file
+        const char *format, *files, *qtFormat;  // the last of the first file
     };
     const Row rows[] = {
         {"same", "a.jpg b.png c.tif d.bmp", "jpeg"}, {"jpg", "a.jpg b.jpg c.jpg d.jpg", "jpeg"},
         {"png", "a.png b.png c.png d.png", "png"},   {"tiff", "a.tiff b.tiff c.tiff d.tiff", "tiff"},
         {"bmp", "a.bmp b.bmp c.bmp d.bmp", "bmp"},   {"gif", "a.gif b.gif c.gif d.gif", "gif"}};
     for (const Row& row : rows) {
-        QDir(path(QStringLiteral("out"))).removeRecursively();
-        EXPECT_EQ(run(QStringList{QStringLiteral("-f"), QLatin1String(row.format)} + photos).exitStatus, 0);
+        QDir(path(u"out"_s)).removeRecursively();
+        EXPECT_EQ(run(QStringList{u"-f"_s, QLatin1String(row.format)} + photos).exitStatus, 0);
         EXPECT_EQ(outputs(), words(row.files)) << row.format;
-        EXPECT_EQ(QImageReader::imageFormat(path(QStringLiteral("out/") + words(row.files).first())),
-                  row.qtFormat);
+        EXPECT_EQ(QImageReader::imageFormat(path(u"out/"_s + words(row.files).first())), row.qtFormat);
         for (const QString& name : outputs()) {
             EXPECT_EQ(output(name).size(), QSize(64, 48)) << name.toStdString();
             EXPECT_TRUE(isMarked(output(name))) << name.toStdString();
@@ -43,12 +44,8 @@ TEST_F(Outputs, EveryFormatHoldsTheMarkedPhoto) {
 }
 
 TEST_F(Outputs, SizeNameAndResolutionAreAsAsked) {
-    const QString photo = path(QStringLiteral("in/beach.jpg"));
-    QImage picture(QSize(400, 300), QImage::Format_RGB32);
-    picture.fill(Qt::lightGray);
-    TestJpeg jpeg;
-    jpeg.jfifDensity = 300;
-    makeFile(QStringLiteral("in/beach.jpg"), jpegBytes(picture, jpeg));
+    const QString photo =
+        makeFile(u"in/beach.jpg"_s, jpegBytes(drawnScene({400, 300}), {.jfifDensity = 300}));
     struct Row {
         const char* arguments;
         const char* file;
@@ -63,7 +60,7 @@ TEST_F(Outputs, SizeNameAndResolutionAreAsAsked) {
         {"-f png --rename [#]ä", "1ä.png", {400, 300}},
     };
     for (const Row& row : rows) {
-        QDir(path(QStringLiteral("out"))).removeRecursively();
+        QDir(path(u"out"_s)).removeRecursively();
         EXPECT_EQ(run(words(row.arguments) + QStringList(photo)).exitStatus, 0) << row.arguments;
         EXPECT_EQ(outputs(), QStringList(QString::fromUtf8(row.file))) << row.arguments;
         const QImage written = output(QString::fromUtf8(row.file));
@@ -73,86 +70,76 @@ TEST_F(Outputs, SizeNameAndResolutionAreAsAsked) {
 }
 
 TEST_F(Outputs, QualityDecidesTheSizeOfTheFile) {
-    const QString photo = path(QStringLiteral("in/scene.jpg"));
-    makeFile(QStringLiteral("in/scene.jpg"), jpegBytes(drawnScene({300, 200})));
+    const QString photo = makeFile(u"in/scene.jpg"_s, jpegBytes(drawnScene({300, 200})));
     qint64 smaller = 0;
-    for (const char* quality : {"10", "50", "90", "100"}) {
-        ASSERT_EQ(run({QStringLiteral("-q"), QLatin1String(quality), photo}).exitStatus, 0);
-        const qint64 size = QFileInfo(path(QStringLiteral("out/scene.jpg"))).size();
-        EXPECT_GT(size, smaller) << quality;
-        smaller = size;
+    for (const char* quality : {"10", "50", "100"}) {
+        ASSERT_EQ(run({u"-q"_s, QLatin1String(quality), photo}).exitStatus, 0);
+        const qint64 size = QFileInfo(path(u"out/scene.jpg"_s)).size();
+        EXPECT_GT(size, std::exchange(smaller, size)) << quality;
     }
 }
 
 TEST_F(Outputs, FoldersAreScannedAndMirrored) {
-    makePhoto(QStringLiteral("a.png"));
-    makePhoto(QStringLiteral("sub/deep/a.png"));
-    makePhoto(QStringLiteral("sub/b.bmp"));
-    QFile(makePhoto(QStringLiteral("d.png"))).rename(path(QStringLiteral("in/d.gif")));
-    const QString in = path(QStringLiteral("in"));
+    makePhoto(u"a.png"_s);
+    makePhoto(u"sub/deep/a.png"_s);
+    makePhoto(u"sub/b.bmp"_s);
+    QFile(makePhoto(u"d.png"_s)).rename(path(u"in/d.gif"_s));
+    const QString in = path(u"in"_s);
 
     EXPECT_EQ(run({in}).exitStatus, 0);
-    EXPECT_EQ(outputs(), QStringList(QStringLiteral("a.png")));
-    EXPECT_EQ(run({QStringLiteral("-r"), QStringLiteral("--keep-structure"), in}).exitStatus, 0);
+    EXPECT_EQ(outputs(), QStringList(u"a.png"_s));
+    EXPECT_EQ(run({u"-r"_s, u"--keep-structure"_s, in}).exitStatus, 0);
     EXPECT_EQ(outputs(), words("a.png in/a.png in/sub/b.bmp in/sub/deep/a.png"));
-    QDir(path(QStringLiteral("out"))).removeRecursively();
-    EXPECT_EQ(
-        run({QStringLiteral("-r"), QStringLiteral("--extensions"), QStringLiteral("bmp,gif"), in}).exitStatus,
-        0);
-    EXPECT_EQ(outputs(), QStringList(QStringLiteral("b.bmp")));
+    QDir(path(u"out"_s)).removeRecursively();
+    EXPECT_EQ(run({u"-r"_s, u"--extensions"_s, u"bmp,gif"_s, in}).exitStatus, 0);
+    EXPECT_EQ(outputs(), QStringList(u"b.bmp"_s));
 }
 
 TEST_F(Outputs, AnOptionsFileIsTheStartingPoint) {
     OutputSettings settings;
-    settings.options.OutputPath = path(QStringLiteral("elsewhere"));
-    settings.options.OutputFormat = QStringLiteral("jpg");
+    settings.options.OutputPath = path(u"elsewhere"_s);
+    settings.options.OutputFormat = u"jpg"_s;
     settings.options.Rename = true;
-    settings.options.RenameFormat = QStringLiteral("[O]-[D]");
+    settings.options.RenameFormat = u"[O]-[D]"_s;
     settings.options.JPEGQuality = 95;
-    const QString file = path(QStringLiteral("OutputSettings.xml"));
+    const QString file = path(u"OutputSettings.xml"_s);
     ASSERT_TRUE(QDir().mkpath(settings.options.OutputPath));
     ASSERT_TRUE(saveOutputSettings(settings, file));
-    const QStringList arguments = {QStringLiteral("-s"), path(QStringLiteral("mark.zcs")),
-                                   QStringLiteral("--options"), file, makePhoto(QStringLiteral("a.png"))};
+    const QStringList arguments = {u"-s"_s, path(u"mark.zcs"_s), u"--options"_s, file, makePhoto(u"a.png"_s)};
     ASSERT_EQ(runBare(arguments).exitStatus, 0);
-    const QString today = QDate::currentDate().toString(QStringLiteral("MMddyyyy"));
-    EXPECT_TRUE(isMarked(QImage(path(QStringLiteral("elsewhere/a-%1.jpg").arg(today)))));
+    const QString today = QDate::currentDate().toString(u"MMddyyyy"_s);
+    EXPECT_TRUE(isMarked(QImage(path(u"elsewhere/a-%1.jpg"_s.arg(today)))));
 
     ASSERT_EQ(run(arguments.mid(2) + words("--rename x -f png")).exitStatus, 0);
-    EXPECT_EQ(outputs(), QStringList(QStringLiteral("x.png")));
+    EXPECT_EQ(outputs(), QStringList(u"x.png"_s));
 }
 
 TEST_F(Outputs, PdfsHaveAPageAPhoto) {
-    const QStringList photos = {makePhoto(QStringLiteral("a.png"), {64, 48}),
-                                makePhoto(QStringLiteral("b.png"), {48, 64}),
-                                makeFile(QStringLiteral("in/c.png"), "no photo")};
+    const QStringList photos = {makePhoto(u"a.png"_s, {64, 48}), makePhoto(u"b.png"_s, {48, 64}),
+                                makeFile(u"in/c.png"_s, "no photo")};
     const auto pages = [&](const QString& name) {
-        const ProgramRun info =
-            runProgram(QStringLiteral("pdfinfo"),
-                       {QStringLiteral("-l"), QStringLiteral("9"), path(QStringLiteral("out/") + name)});
+        const ProgramRun info = runProgram(u"pdfinfo"_s, {u"-l"_s, u"9"_s, path(u"out/"_s + name)});
         QStringList sizes;
         for (const QByteArray& line : info.output.split('\n')) {
-            if (line.startsWith("Page ") && line.contains("size:")) {
-                sizes.append(QString::fromLatin1(line.mid(line.indexOf("size:") + 5)).simplified());
-            }
+            const qsizetype size = line.indexOf("size:");
+            if (line.startsWith("Page ") && size >= 0)
+                sizes.append(QString::fromLatin1(line.mid(size + 5)).simplified());
         }
         return sizes.join(QLatin1Char('|'));
     };
     EXPECT_EQ(run(words("-f pdf") + photos).exitStatus, 1);
     EXPECT_EQ(outputs(), words("a.pdf b.pdf"));
-    EXPECT_EQ(pages(QStringLiteral("b.pdf")), QStringLiteral("48 x 64 pts"));
+    EXPECT_EQ(pages(u"b.pdf"_s), u"48 x 64 pts"_s);
 
-    makeFile(QStringLiteral("out/WatermarkedPhotos.pdf"), "taken");
+    makeFile(u"out/WatermarkedPhotos.pdf"_s, "taken");
     EXPECT_EQ(run(words("-f pdf --combine-pdf -j 2") + photos).exitStatus, 1);
     EXPECT_EQ(outputs(), words("WatermarkedPhotos.pdf WatermarkedPhotos1.pdf a.pdf b.pdf"));
-    EXPECT_EQ(pages(QStringLiteral("WatermarkedPhotos1.pdf")), QStringLiteral("64 x 48 pts|48 x 64 pts"));
-    const ProgramRun drawn =
-        runProgram(QStringLiteral("pdftoppm"),
-                   {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
-                    path(QStringLiteral("out/WatermarkedPhotos1.pdf")), path(QStringLiteral("page"))});
+    EXPECT_EQ(pages(u"WatermarkedPhotos1.pdf"_s), u"64 x 48 pts|48 x 64 pts"_s);
+    const ProgramRun drawn = runProgram(
+        u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, path(u"out/WatermarkedPhotos1.pdf"_s), path(u"page"_s)});
     ASSERT_EQ(drawn.exitStatus, 0);
-    EXPECT_TRUE(isMarked(QImage(path(QStringLiteral("page-1.png")))));
-    EXPECT_TRUE(isMarked(QImage(path(QStringLiteral("page-2.png")))));
+    EXPECT_TRUE(isMarked(QImage(path(u"page-1.png"_s))));
+    EXPECT_TRUE(isMarked(QImage(path(u"page-2.png"_s))));
 }
 
 }  // namespace

@@ -42,8 +42,9 @@ QString summary(const QJsonObject& report) {
 
 TEST_F(Report, DamagedPhotosAmongGoodOnesFailAlone) {
     const QByteArray jpeg = jpegBytes(drawnScene({200, 100}));
+    const QString cut = makeFile(u"in/cut.jpg"_s, jpeg.left(jpeg.size() / 2));
     const QStringList photos = {makePhoto(u"a.png"_s),
-                                makeFile(u"in/cut.jpg"_s, jpeg.left(jpeg.size() / 2)),
+                                cut,
                                 makePhoto(u"b.png"_s, {30, 40}),
                                 makeFile(u"in/empty.png"_s, {}),
                                 makeFile(u"in/text.tif"_s, "no photo"),
@@ -93,13 +94,10 @@ TEST_F(Report, ADryRunTellsWhatARunWouldDoAndWritesNothing) {
     framed.Effects->Distance = 5;
     framed.Effects->Direction = 315;
     ASSERT_TRUE(SaveWatermarkSettings(framed, path(u"framed.zcs"_s)));
-    const QStringList arguments = {u"-s"_s,
-                                   path(u"framed.zcs"_s),
-                                   u"--rename"_s,
-                                   u"[O]_[##]"_s,
-                                   makePhoto(u"a.png"_s),
-                                   makeFile(u"in/b.jpg"_s, "no photo"),
-                                   makePhoto(u"c.bmp"_s, {20, 10})};
+    const QStringList photos = {makePhoto(u"a.png"_s), makeFile(u"in/b.jpg"_s, "no photo"),
+                                makePhoto(u"c.bmp"_s, {20, 10})};
+    const QStringList arguments =
+        QStringList{u"-s"_s, path(u"framed.zcs"_s), u"--rename"_s, u"[O]_[##]"_s} + photos;
     const QJsonObject planned = report(QStringList(u"--dry-run"_s) + arguments, 0);
     EXPECT_FALSE(QFile::exists(path(u"out"_s)));
     EXPECT_EQ(summary(planned), u"0/0/3 through"_s);
@@ -109,9 +107,8 @@ TEST_F(Report, ADryRunTellsWhatARunWouldDoAndWritesNothing) {
     ASSERT_EQ(before.size(), after.size());
     for (qsizetype i = 0; i < after.size(); ++i) {
         EXPECT_EQ(before[i]["status"_L1].toString(), u"not-run"_s);
-        for (const auto& key : {"output"_L1, "width"_L1, "height"_L1, "error"_L1}) {
+        for (const auto& key : {"output"_L1, "width"_L1, "height"_L1, "error"_L1})
             EXPECT_EQ(before[i].toObject()[key], after[i].toObject()[key]) << key.data() << " of photo " << i;
-        }
     }
 
     const ProgramRun text = run(QStringList(u"--dry-run"_s) + arguments);

@@ -26,13 +26,8 @@ TEST_F(Safety, OutputsThatWouldReplaceOriginalsAreRefused) {
     const QString other = makePhoto(u"sub/b.png"_s);
     const QByteArray before = contents(photo);
     ASSERT_TRUE(QFile::link(path(u"in"_s), path(u"alias"_s)));
-    const QString setting = path(u"mark.zcs"_s);
-    struct Row {
-        QStringList arguments;
-        int exitStatus;
-    };
-    const QStringList named = {u"-s"_s, setting, u"-o"_s};
-    const Row rows[] = {
+    const QStringList named = {u"-s"_s, path(u"mark.zcs"_s), u"-o"_s};
+    const std::pair<QStringList, int> rows[] = {
         {named + QStringList{path(u"in"_s), photo}, 2},
         {named + QStringList{path(u"in/sub/.."_s), photo}, 2},
         {named + QStringList{path(u"alias"_s), photo}, 2},
@@ -43,10 +38,10 @@ TEST_F(Safety, OutputsThatWouldReplaceOriginalsAreRefused) {
         {named + QStringList{path(u"in"_s), u"-f"_s, u"jpg"_s, photo}, 0},
         {named + QStringList{path(u"in"_s), u"--shard"_s, u"1/2"_s, photo, other}, 0},
     };
-    for (const Row& row : rows) {
-        const ProgramRun result = runBare(row.arguments);
-        EXPECT_EQ(result.exitStatus, row.exitStatus) << row.arguments.join(u' ').toStdString();
-        EXPECT_EQ(result.errors.contains("--overwrite-originals"), row.exitStatus == 2);
+    for (const auto& [arguments, exitStatus] : rows) {
+        const ProgramRun result = runBare(arguments);
+        EXPECT_EQ(result.exitStatus, exitStatus) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(result.errors.contains("--overwrite-originals"), exitStatus == 2);
         EXPECT_EQ(contents(photo), before);
     }
     EXPECT_EQ(runBare(named + QStringList{path(u"in"_s), u"--overwrite-originals"_s, photo}).exitStatus, 0);
@@ -57,16 +52,9 @@ TEST_F(Safety, AnOutputReadByALaterPhotoIsReadAsItWasWritten) {
     // The second photo is what the first one's output has replaced by then, whatever is prepared ahead.
     const QString first = makePhoto(u"first/a.png"_s, {40, 30});
     const QString second = makePhoto(u"a.png"_s, {80, 60});
-    const QStringList arguments = {u"-s"_s,
-                                   path(u"mark.zcs"_s),
-                                   u"-o"_s,
-                                   path(u"in"_s),
-                                   u"--overwrite-originals"_s,
-                                   u"-j"_s,
-                                   u"4"_s,
-                                   first,
-                                   second};
-    ASSERT_EQ(runBare(arguments).exitStatus, 0);
+    ASSERT_EQ(
+        run({u"-o"_s, path(u"in"_s), u"--overwrite-originals"_s, u"-j"_s, u"4"_s, first, second}).exitStatus,
+        0);
     EXPECT_EQ(QImage(second).size(), QSize(40, 30));
 }
 
