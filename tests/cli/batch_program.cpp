@@ -2,8 +2,8 @@
 #include "cli/batch_program.h"
 
 #include "persistence/setting_file.h"
+#include "support/ink.h"
 
-#include <QColor>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -14,6 +14,7 @@ namespace zelto {
 namespace {
 
 constexpr int MarkSide = 10;
+constexpr QRgb MarkColor = 0xFFFF0000;
 constexpr QRgb PhotoColor = 0xFFD0D0D0;
 
 WatermarkStack markStack() {
@@ -57,8 +58,8 @@ QString BatchProgram::makeFile(const QString& name, const QByteArray& bytes) con
     return file.fileName();
 }
 
-QMap<QString, QByteArray> BatchProgram::filesBelow(const QString& folder) const {
-    QMap<QString, QByteArray> files;
+BatchProgram::Files BatchProgram::filesBelow(const QString& folder) const {
+    Files files;
     const QDir top(path(folder));
     QDirIterator iterator(top.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (iterator.hasNext()) {
@@ -69,24 +70,29 @@ QMap<QString, QByteArray> BatchProgram::filesBelow(const QString& folder) const 
     return files;
 }
 
+std::string BatchProgram::differences(const Files& one, const Files& other) {
+    QStringList names = one.keys() + other.keys();
+    names.removeDuplicates();
+    names.removeIf([&](const QString& name) {
+        return one.contains(name) && other.contains(name) && one[name] == other[name];
+    });
+    return names.join(u' ').toStdString();
+}
+
 ::testing::AssertionResult BatchProgram::isMarked(const QImage& picture) {
     if (picture.isNull()) return ::testing::AssertionFailure() << "no picture";
-    const auto isNear = [&](QPoint point, QColor wanted) {
-        const QColor color = picture.pixelColor(point);
+    const auto isNear = [&](QPoint point, QRgb wanted) {
         // What a JPEG of quality 90 or a palette may do to a plain area.
         constexpr int Tolerance = 12;
-        return qAbs(color.red() - wanted.red()) <= Tolerance &&
-               qAbs(color.green() - wanted.green()) <= Tolerance &&
-               qAbs(color.blue() - wanted.blue()) <= Tolerance;
+        return largestDifference(picture.pixel(point), wanted) <= Tolerance;
     };
     const QPoint corner = picture.rect().bottomRight();
     for (const QPoint& point : {corner - QPoint(2, 2), corner - QPoint(MarkSide - 3, MarkSide - 3)}) {
-        if (!isNear(point, Qt::red)) return ::testing::AssertionFailure() << "no mark at " << point.x();
+        if (!isNear(point, MarkColor)) return ::testing::AssertionFailure() << "no mark at " << point.x();
     }
     for (const QPoint& point :
          {QPoint(2, 2), corner - QPoint(MarkSide + 3, 2), corner - QPoint(2, MarkSide + 3)}) {
-        if (!isNear(point, QColor(PhotoColor)))
-            return ::testing::AssertionFailure() << "a mark at " << point.x();
+        if (!isNear(point, PhotoColor)) return ::testing::AssertionFailure() << "a mark at " << point.x();
     }
     return ::testing::AssertionSuccess();
 }

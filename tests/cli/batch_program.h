@@ -26,7 +26,10 @@ class BatchProgram : public ::testing::Test {
     QString makePhoto(const QString& name, QSize size = {64, 48}) const;
     QString makeFile(const QString& name, const QByteArray& bytes) const;
     // What lies below a folder, hidden files included, by its path in there.
-    QMap<QString, QByteArray> filesBelow(const QString& folder) const;
+    using Files = QMap<QString, QByteArray>;
+    Files filesBelow(const QString& folder) const;
+    // The names of the files that only one of the two has, or that differ.
+    static std::string differences(const Files& one, const Files& other);
     // The files below out/, sorted.
     QStringList outputs() const { return filesBelow(QStringLiteral("out")).keys(); }
     QImage output(const QString& name) const { return QImage(path(QStringLiteral("out/") + name)); }

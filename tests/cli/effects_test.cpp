@@ -3,7 +3,8 @@
 #include "cli/batch_program.h"
 #include "support/ink.h"
 
-#include <QPainter>
+#include <QDir>
+#include <QFileInfo>
 
 namespace zelto {
 namespace {
@@ -12,7 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 constexpr QColor PhotoColor(200, 60, 20);
 constexpr QColor BorderColor(0, 0, 255);
-constexpr QSize PhotoSize(300, 200);
 
 Color recordColor(const QColor& color) {
     return {color.redF(), color.greenF(), color.blueF(), 1.0F};
@@ -54,7 +54,7 @@ class Effects : public BatchProgram {
         effect.ApplyWatermarkOnBorder = watermarksOnBorder;
         return effect;
     }
-    QString plainPhoto(const QString& name, QSize size = PhotoSize) const {
+    QString plainPhoto(const QString& name, QSize size = {300, 200}) const {
         QImage photo(size, QImage::Format_RGB32);
         photo.fill(PhotoColor);
         const QString file = makePhoto(name);
@@ -71,16 +71,6 @@ class Effects : public BatchProgram {
     const ProgramEnvironment home_ = {{u"HOME"_s, path(u"home"_s)}};
 };
 
-::testing::AssertionResult hasColor(const QImage& picture, QPoint at, QColor wanted, int tolerance = 2) {
-    const QColor color = picture.pixelColor(at);
-    const int difference =
-        std::max({std::abs(color.red() - wanted.red()), std::abs(color.green() - wanted.green()),
-                  std::abs(color.blue() - wanted.blue()), std::abs(color.alpha() - wanted.alpha())});
-    if (difference <= tolerance) return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure()
-           << color.name(QColor::HexArgb).toStdString() << " at " << at.x() << ", " << at.y();
-}
-
 TEST_F(Effects, FilterThenFrameThenShapesOnThePhotoOrOnItsBorder) {
     const QString photo = plainPhoto(u"a.png"_s);
     for (const bool onBorder : {false, true}) {
@@ -95,7 +85,6 @@ TEST_F(Effects, FilterThenFrameThenShapesOnThePhotoOrOnItsBorder) {
         ASSERT_EQ(picture.size(), QSize(340 + 7, 260 + 7));
         const QRect framed(0, 0, 340, 260);
         const QRect area = onBorder ? framed : QRect(10, 20, 300, 200);
-        EXPECT_EQ(colorBox(picture, Qt::green), area.intersected(colorBox(picture, Qt::green)));
         EXPECT_EQ(colorBox(picture.copy(framed.adjusted(0, 0, -170, 0)), Qt::green),
                   QRect(area.topLeft(), QSize(20, 40)));
         EXPECT_EQ(colorBox(picture.copy(170, 0, 170, 260), Qt::green).translated(170, 0),
@@ -104,10 +93,9 @@ TEST_F(Effects, FilterThenFrameThenShapesOnThePhotoOrOnItsBorder) {
         const QColor grey = picture.pixelColor(150, 120);
         EXPECT_TRUE(grey.red() == grey.green() && grey.green() == grey.blue() && grey.red() > 20);
         EXPECT_EQ(colorBox(picture, grey, 0), QRect(10, 20, 300, 200)) << "the filter stays within the photo";
-        EXPECT_TRUE(hasColor(picture, {5, 250}, BorderColor));
-        EXPECT_TRUE(hasColor(picture, {343, 0}, Qt::transparent)) << "no shadow above its offset and blur";
-        EXPECT_TRUE(hasColor(picture, {341, 130}, Qt::black, 60));
-        EXPECT_EQ(picture.pixelColor(341, 130).red(), 0);
+        EXPECT_EQ(picture.pixelColor(5, 250), BorderColor);
+        EXPECT_EQ(picture.pixelColor(343, 0).alpha(), 0) << "no shadow above its offset and blur";
+        EXPECT_LE(largestDifference(picture.pixel(341, 130), qRgb(0, 0, 0)), 60);
         EXPECT_GT(picture.pixelColor(341, 130).alpha(), picture.pixelColor(346, 130).alpha());
     }
 }
@@ -136,8 +124,9 @@ TEST_F(Effects, GradientsRunFromEndToEndAndPolygonsHaveTheirCorners) {
         const int cell = row.record.Position - 1;
         const QPoint corner((cell % 3) * 110, (cell / 3) * 110);
         SCOPED_TRACE(cell);
-        for (const auto& [point, color] : row.pixels)
-            EXPECT_TRUE(hasColor(picture, corner + point, color, Slope));
+        for (const auto& [point, color] : row.pixels) {
+            EXPECT_LE(largestDifference(picture.pixel(corner + point), color.rgba()), Slope) << point.x();
+        }
     }
 }
 
@@ -148,7 +137,7 @@ TEST_F(Effects, TheEffectsPicturesOfTheLastPhotoStandInTheHomeFolder) {
     const QString damaged = makeFile(u"in/c.png"_s, "no photo");
     WatermarkStack stack;
     stack.Watermarks = {shape(shape_type::Ellipse, 40, 40, 5)};
-    EXPECT_EQ(written(stack, photo).size(), PhotoSize);
+    EXPECT_EQ(written(stack, photo).size(), QSize(300, 200));
     EXPECT_TRUE(QDir(path(u"home"_s)).isEmpty()) << "without an effect there is nothing to look into";
 
     stack.SelectedFilter = 8;
@@ -159,7 +148,7 @@ TEST_F(Effects, TheEffectsPicturesOfTheLastPhotoStandInTheHomeFolder) {
               QStringList({u"effect.png"_s, u"file.png"_s}));
     const QSize framed(140, 140);
     EXPECT_EQ(diagnostic(u"file.png"_s).size(), framed);
-    EXPECT_TRUE(hasColor(diagnostic(u"file.png"_s), {2, 2}, BorderColor));
+    EXPECT_EQ(diagnostic(u"file.png"_s).pixelColor(2, 2), BorderColor);
     stack.Watermarks.clear();
     EXPECT_EQ(largestDifference(diagnostic(u"effect.png"_s), written(stack, last)), 0);
     EXPECT_EQ(largestDifference(diagnostic(u"file.png"_s), diagnostic(u"effect.png"_s).copy({{}, framed})),

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 
 #include <random>
 
@@ -19,7 +20,6 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 using Endurance = BatchProgram;
-using Files = QMap<QString, QByteArray>;
 
 const ProgramEnvironment NoExiftool = {{u"ZELTO_EXIFTOOL"_s, u"/nowhere"_s}};
 
@@ -77,6 +77,7 @@ TEST_F(Endurance, MixedAndDamagedPhotosComeOutTheSameForAnyNumberOfJobs) {
     stack.Watermarks.emplace_back(watermark_type::Text);
     stack.Watermarks.back().Text = u"<<AUTO:##1+1>> <<IMGNAME>>"_s;
     stack.Watermarks.back().FontSize = 14;
+    stack.Watermarks.back().TextColor = Color::black();
     stack.Watermarks.back().Transparency = 1.0F;
     useSetting(stack);
 
@@ -94,32 +95,27 @@ TEST_F(Endurance, MixedAndDamagedPhotosComeOutTheSameForAnyNumberOfJobs) {
             EXPECT_EQ(photo["source"_L1].toString(), photos[row]);
             EXPECT_EQ(photo["status"_L1].toString(), isDamaged(row) ? u"failed"_s : u"written"_s) << row;
             EXPECT_EQ(photo["error"_L1].toString().isEmpty(), !isDamaged(row)) << row;
-            if (!isDamaged(row))
-                progress += u"[%1/300] %2\n"_s.arg(row + 1).arg(photo["output"_L1].toString()).toUtf8();
+            if (isDamaged(row)) continue;
+            const QString output = photo["output"_L1].toString();
+            progress += u"[%1/300] %2\n"_s.arg(row + 1).arg(output).toUtf8();
+            if (output.contains("/same"_L1)) continue;
+            EXPECT_EQ(QImage(output).size(), QSize(photo["width"_L1].toInt(), photo["height"_L1].toInt()));
         }
         QByteArray told;
         for (const QByteArray& line : result.errors.split('\n')) {
             if (line.startsWith('[')) told += line + '\n';
         }
         EXPECT_EQ(told, progress) << "in list order";
+        EXPECT_FALSE(result.errors.contains("metadata")) << result.errors.toStdString();
         const Files files = filesBelow(u"out"_s);
         if (firstFiles.isEmpty()) {
             firstReport = result.output;
             firstFiles = files;
-            for (const QJsonValue& photo : report) {
-                if (photo["status"_L1].toString() != "written"_L1 ||
-                    photo["output"_L1].toString().contains("/same"_L1))
-                    continue;
-                EXPECT_EQ(QImage(photo["output"_L1].toString()).size(),
-                          QSize(photo["width"_L1].toInt(), photo["height"_L1].toInt()));
-            }
+            EXPECT_GT(QSet<QByteArray>(files.begin(), files.end()).size(), files.size() * 3 / 4)
+                << "only the tiniest have no room for their number";
         }
         EXPECT_EQ(result.output, firstReport) << jobs.toStdString();
-        EXPECT_EQ(files.keys(), firstFiles.keys()) << jobs.toStdString();
-        for (auto file = files.begin(); file != files.end(); ++file) {
-            EXPECT_TRUE(*file == firstFiles[file.key()])
-                << file.key().toStdString() << " with jobs " << jobs.toStdString();
-        }
+        EXPECT_EQ(differences(files, firstFiles), "") << jobs.toStdString();
         QDir(path(u"out"_s)).removeRecursively();
     }
 }
@@ -202,7 +198,7 @@ TEST_F(WholeFiles, AreAllThatAKilledRunLeavesAndAnotherCompletesThem) {
     const QStringList arguments = withSetting(options_ + photos_);
     runAndKill(program(), arguments, 120'000);
     const auto duration = static_cast<int>(clock.elapsed());
-    EXPECT_EQ(filesBelow(u"out"_s), complete_);
+    EXPECT_EQ(differences(filesBelow(u"out"_s), complete_), "");
 
     const unsigned seed = std::random_device()();
     std::mt19937 random(seed);
@@ -218,13 +214,12 @@ TEST_F(WholeFiles, AreAllThatAKilledRunLeavesAndAnotherCompletesThem) {
             // A file that has all its bytes and only waits for its name has one of this kind.
             if (!file.key().startsWith(".zelto-"_L1)) expectWhole(file.key(), *file);
         }
-        ASSERT_EQ(filesBelow(u"in"_s), sources_);
+        ASSERT_EQ(differences(filesBelow(u"in"_s), sources_), "");
     }
     EXPECT_EQ(run(options_ + photos_).exitStatus, 0);
-    const Files files = filesBelow(u"out"_s);
-    for (auto file = complete_.begin(); file != complete_.end(); ++file) {
-        EXPECT_TRUE(files[file.key()] == *file) << file.key().toStdString();
-    }
+    Files files = filesBelow(u"out"_s);
+    files.removeIf([](const auto& file) { return file.key().startsWith(".zelto-"_L1); });
+    EXPECT_EQ(differences(files, complete_), "");
 }
 
 TEST_F(WholeFiles, AreAllThatAFullDiskTakes) {
@@ -244,7 +239,7 @@ TEST_F(WholeFiles, AreAllThatAFullDiskTakes) {
         choose(metadata);
         for (const LittleRoom& row : rows) expectWholeIn(row);
     }
-    EXPECT_EQ(filesBelow(u"in"_s), sources_);
+    EXPECT_EQ(differences(filesBelow(u"in"_s), sources_), "");
 }
 
 }  // namespace
