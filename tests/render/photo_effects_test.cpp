@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 namespace zelto {
@@ -50,14 +51,15 @@ Framed apply(QImage photo, const PhotoEffects& effect, bool final = true) {
 // One axis of the blur, summed up term by term: every value of `line` seen through the weights exp(-i^2 / 2
 // sigma^2), -blur <= i <= blur.
 std::vector<double> blurredLine(const std::vector<double>& line, int blur) {
-    const auto weight = [blur](int i) { return blur == 0 ? 1 : std::exp(-2.0 * i * i / blur / blur); };
-    double sum = 0;
-    for (int i = -blur; i <= blur; ++i) sum += weight(i);
+    std::vector<double> weights;
+    for (int i = -blur; i <= blur; ++i)
+        weights.push_back(blur == 0 ? 1 : std::exp(-2.0 * i * i / blur / blur));
+    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
     const int size = static_cast<int>(line.size());
     std::vector<double> result(line.size(), 0.0);
     for (int at = 0; at < size; ++at) {
         for (int i = std::max(-blur, -at); i <= std::min(blur, size - 1 - at); ++i)
-            result[std::size_t(at)] += line[std::size_t(at + i)] * weight(i) / sum;
+            result[std::size_t(at)] += line[std::size_t(at + i)] * weights[std::size_t(i + blur)] / sum;
     }
     return result;
 }
