@@ -332,6 +332,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     keepPlaces();
+    controller_->keepLastWatermark();
     QMainWindow::closeEvent(event);
 }
 

@@ -332,11 +332,7 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
 }
 
 Result<void> WatermarkController::SaveWatermarkSettings(const QString& path) {
-    const WatermarkStack& stack = document_.state().Stack;
-    if (stack.Watermarks.empty() && !stack.Effects) {
-        return fail(ErrorCode::InvalidValue, tr("There are no watermarks to save."), path);
-    }
-    const Result<void> saved = zelto::SaveWatermarkSettings(stack, path);
+    const Result<void> saved = zelto::SaveWatermarkSettings(document_.state().Stack, path);
     if (saved) Q_EMIT clearSaveLastWatermark();
     return saved;
 }

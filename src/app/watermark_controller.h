@@ -102,8 +102,8 @@ class WatermarkController : public QObject {
     // Takes the stack of a setting file, and the copyright data from its file where the setting wants some.
     // Error: as zelto::LoadWatermarkSetting, with the stack as it was.
     Result<void> LoadWatermarkSetting(const QString& path);
-    // Saves the stack as a setting file. A stack that holds nothing is not saved. Error: ErrorCode::CannotWrite,
-    // or ErrorCode::InvalidValue for such a stack.
+    // Saves the stack as a setting file. One without watermarks and effects writes nothing. Error:
+    // ErrorCode::CannotWrite.
     Result<void> SaveWatermarkSettings(const QString& path);
 
     static double DegreesToRadians(double degrees);

@@ -7,6 +7,7 @@
 #include "app/my_global_instance.h"
 #include "app/preview/photo_preview.h"
 #include "app/preview/preview_view.h"
+#include "app/run/run_plan.h"
 #include "app/watermark_controller.h"
 #include "platform/preferences.h"
 
@@ -27,6 +28,8 @@ ZeltoController::ZeltoController(ImageListController& photos, WatermarkControlle
       shared_(shared),
       dialogs_(std::move(dialogs)),
       window_(window) {
+    connect(&watermarks_, &WatermarkController::setSaveLastWatermark, this,
+            [this] { shared_.SaveLastWatermark = true; });
     connect(&watermarks_, &WatermarkController::clearSaveLastWatermark, this,
             [this] { shared_.SaveLastWatermark = false; });
 }
@@ -66,6 +69,12 @@ void ZeltoController::ImportImagesFromFolder(const QString& folder, bool include
                                              const QString& extensionList) {
     auto* import = new FolderImport(folder, includeSubFolders, extensionList, window_, this);
     connect(import, &FolderImport::found, &photos_, &ImageListController::AddImages);
+}
+
+void ZeltoController::keepLastWatermark() {
+    if (shared_.SettingDirectory.isEmpty() || !shared_.SaveLastWatermark) return;
+    shared_.SaveLastWatermark = false;
+    saveLastWatermark(watermarks_.document().state().Stack, shared_.SettingDirectory);
 }
 
 void ZeltoController::StartWatermarking() {

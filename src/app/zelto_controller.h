@@ -39,6 +39,8 @@ class ZeltoController : public QObject {
     // Adds the photos of a folder once they are found; the window goes on meanwhile.
     void ImportImagesFromFolder(const QString& folder, bool includeSubFolders, const QString& extensionList);
     void StartWatermarking();
+    // Saves a stack that no run and no setting has kept as "Last Watermark".
+    void keepLastWatermark();
     void ShowTips();
     void CheckLatestVersion();
 

@@ -3,6 +3,8 @@
 #include "app/main_window.h"
 
 #include "app/lists/watermark_delegate.h"
+#include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
 #include "render/composition.h"
 #include "support/test_pictures.h"
 
@@ -310,6 +312,21 @@ TEST_F(MainWindowTest, APhotoThatCannotBeReadIsSaidSoAndTheNextOneIsShown) {
     EXPECT_TRUE(view().message().contains(DamagedPictureMessage));
     clickRow(window->photoList(), 1);
     EXPECT_TRUE(waitForPreview());
+}
+
+TEST_F(MainWindowTest, ClosingKeepsAStackThatNothingElseHolds) {
+    ASSERT_TRUE(shared.findSettingDirectory().has_value());
+    const QString kept = shared.SettingDirectory + LastWatermarkSetting + SettingFileExtension;
+    for (const bool isSaved : {true, false}) {
+        QFile::remove(kept);
+        window->show();
+        addWatermark(plainShape());
+        if (isSaved) {
+            ASSERT_TRUE(window->watermarks().SaveWatermarkSettings(folder.filePath(QStringLiteral("a.zcs"))));
+        }
+        window->close();
+        EXPECT_EQ(QFile::exists(kept), !isSaved);
+    }
 }
 
 TEST_F(MainWindowTest, ControlsFollowThePhotosAndTheRun) {

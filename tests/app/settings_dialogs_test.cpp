@@ -75,6 +75,8 @@ TEST_F(SettingsDialogs, SavingAsksBeforeItOverwrites) {
         {"Mine", "third", QMessageBox::Ok, true, "third"},
         {"größe 2", "fourth", QMessageBox::Ok, false, "fourth"},
     };
+    dialogs.saveSettings(nullptr, watermarks);
+    EXPECT_EQ(messages.take().size(), 1) << "there is nothing to save, and no name is asked for";
     QSignalSpy cleared(&watermarks, &WatermarkController::clearSaveLastWatermark);
     for (const Row& row : rows) {
         watermarks.replaceStack(stackOf(QLatin1String(row.text)), {}, {});

@@ -51,12 +51,19 @@ std::optional<SettingsLibrary> userLibrary(QWidget* parent) {
 }
 
 void saveSettings(QWidget* parent, WatermarkController& watermarks) {
+    const WatermarkStack& stack = watermarks.document().state().Stack;
+    if (stack.Watermarks.empty() && !stack.Effects) {
+        showAlert(
+            parent, WatermarkController::tr("Save Setting"),
+            WatermarkController::tr("There is nothing to save yet. Add a watermark or a border first."));
+        return;
+    }
     const auto library = userLibrary(parent);
     if (!library) return;
     SaveSettingsDialog dialog(*library, parent);
     if (dialog.exec() != QDialog::Accepted) return;
     const Result<void> saved = watermarks.SaveWatermarkSettings(dialog.path());
-    if (!saved) showAlert(parent, QFileDialog::tr("Setting Save Error"), saved.error().message);
+    if (!saved) showAlert(parent, WatermarkController::tr("Setting Save Error"), saved.error().message);
 }
 
 void openSettings(QWidget* parent, WatermarkController& watermarks) {

@@ -57,8 +57,8 @@ FolderWindowController::FolderWindowController(QWidget* parent)
     boxes->addStretch(1);
     form->addRow(tr("Formats:"), boxes);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(tr("&Add Photos"));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    buttons->addButton(tr("&Add Photos"), QDialogButtonBox::AcceptRole)->setDefault(true);
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
     column->addStretch(1);

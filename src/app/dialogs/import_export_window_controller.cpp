@@ -64,9 +64,9 @@ ImportExportWindowController::ImportExportWindowController(const SettingsLibrary
     setWindowTitle(texts.title);
     auto* prompt = new QLabel(texts.prompt, this);
     prompt->setBuddy(&folder_->edit());
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    copy_ = buttons->button(QDialogButtonBox::Ok);
-    copy_->setText(texts.button);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    copy_ = buttons->addButton(texts.button, QDialogButtonBox::AcceptRole);
+    copy_->setDefault(true);
     auto* column = new QVBoxLayout(this);
     column->addWidget(prompt);
     column->addWidget(folder_);

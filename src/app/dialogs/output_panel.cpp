@@ -2,6 +2,7 @@
 #include "app/dialogs/output_panel.h"
 
 #include "app/dialogs/folder_field.h"
+#include "app/icons.h"
 #include "batch/metadata_transfer.h"
 #include "platform/file_reference.h"
 #include "platform/picture_writer.h"
@@ -98,8 +99,7 @@ QLayout* OutputPanel::makeMetadataColumn() {
     metadata_->setAccessibleName(tr("Metadata"));
     metadata_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    noteIcon_->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(side, side), devicePixelRatioF()));
+    noteIcon_->setPixmap(colorIcon(QLatin1String("warning")).pixmap(QSize(side, side), devicePixelRatioF()));
     // The line of the note keeps its place while there is none.
     note_->setMinimumHeight(side);
     auto* note = new QHBoxLayout;

@@ -36,8 +36,6 @@ RunParts standardRunParts() {
 RunController::RunController(MainWindow& window, MyGlobalInstance& shared, RunParts parts)
     : window_(window), shared_(shared), parts_(std::move(parts)), run_(feed_) {
     connect(&window_.controller(), &ZeltoController::ProcessImaging, this, &RunController::ProcessImaging);
-    connect(&window_.watermarks(), &WatermarkController::setSaveLastWatermark, this,
-            [this] { shared_.SaveLastWatermark = true; });
     connect(&feed_, &RunFeed::arrived, this, &RunController::follow);
     const ProcessingBar& bar = window_.processing();
     connect(bar.PauseOrResumeProcessing(), &QPushButton::clicked, this,

@@ -17,15 +17,15 @@ namespace {
 
 Q_LOGGING_CATEGORY(runLog, "zelto.run")
 
-void saveLastWatermark(const WatermarkStack& stack, const QString& folder) {
+}  // namespace
+
+void saveLastWatermark(const WatermarkStack& stack, const QString& settingsFolder) {
     const Result<void> saved =
-        SettingsLibrary(folder).path(LastWatermarkSetting).and_then([&](const QString& path) {
+        SettingsLibrary(settingsFolder).path(LastWatermarkSetting).and_then([&](const QString& path) {
             return SaveWatermarkSettings(stack, path);
         });
     if (!saved) qCWarning(runLog, "%s", qUtf8Printable(saved.error().message));
 }
-
-}  // namespace
 
 qint64 RunPlan::photosFrom(qint64 row) const {
     return std::count_if(request.photos.begin() + row, request.photos.end(),
