@@ -43,8 +43,9 @@ void SizeField::changeUnit(bool toRelative) {
     if (toRelative == isRelative) return;
     double length = toRelative ? 0.2 : 200.0;  // where there is no photo to convert by
     if (reference_ > 0.0) {
-        length =
-            toRelative ? number_->value() / reference_ : std::round(number_->value() / 100.0 * reference_);
+        // A share has the six decimals that setting files keep.
+        length = toRelative ? std::round(number_->value() / reference_ * 1e6) / 1e6
+                            : std::round(number_->value() / 100.0 * reference_);
     }
     load(length, toRelative);
     Q_EMIT sizeChosen(length, toRelative);
