@@ -4,6 +4,9 @@
 #include "batch/file_identity.h"
 #include "batch/machine_limits.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -31,6 +34,12 @@ qint64 memoryNeeded(PhotoProcessor& processor, const PhotoTask& task) {
     }
 }
 
+// Has the scheduler prefer other threads to this one for good. Linux counts niceness by thread.
+void giveWay() {
+    constexpr int Niceness = 10;
+    setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), Niceness);
+}
+
 }  // namespace
 
 LookAheadLimits LookAheadLimits::forThisMachine() {
@@ -41,7 +50,10 @@ LookAhead::LookAhead(PhotoProcessor& processor, std::function<std::optional<Phot
                      LookAheadLimits limits)
     : processor_(processor), nextTask_(std::move(nextTask)), limits_(limits) {
     for (int i = 0; i < limits_.jobs; ++i) {
-        threads_.emplace_back([this](std::stop_token stop) { work(std::move(stop)); });
+        threads_.emplace_back([this](std::stop_token stop) {
+            if (limits_.givesWay) giveWay();
+            work(std::move(stop));
+        });
     }
 }
 

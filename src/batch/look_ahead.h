@@ -24,6 +24,7 @@ namespace zelto {
 struct LookAheadLimits {
     int jobs = 1;             // photos prepared at a time
     qint64 memoryBudget = 0;  // bytes
+    bool givesWay = false;    // whether everything else on the machine goes before it: a window stays quick
 
     // One thread a core and a quarter of the available memory.
     static LookAheadLimits forThisMachine();

@@ -38,6 +38,7 @@ RunPlan planRun(const ImageListController& photos, const WatermarkDocument& docu
     for (const Image& photo : photos.images()) {
         plan.request.photos.push_back({photo.ImagePath, photo.ApplyWatermark});
     }
+    plan.request.limits.givesWay = true;
     plan.request.options = options;
     plan.request.folders = photos.model().list().InputOutputDictionary();
     const auto stack = document.snapshot();
