@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reading a 24-megapixel JPEG, beside libjpeg-turbo decoding the same file into one row over and over, which
 // is the least that any reader has to do.
-#include "platform/libjpeg.h"
-#include "platform/picture_reader.h"
+#include "pictures/libjpeg.h"
+#include "pictures/picture_reader.h"
 #include "support/test_pictures.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Encoding a 24-megapixel photo in every format, and as JPEG beside libjpeg-turbo compressing the same pixels with the
 // same settings from the form its own program has them in. The counter says how large the file becomes.
-#include "platform/libjpeg.h"
-#include "platform/picture_writer.h"
+#include "pictures/libjpeg.h"
+#include "pictures/picture_writer.h"
 #include "support/test_pictures.h"
 
 #include <benchmark/benchmark.h>

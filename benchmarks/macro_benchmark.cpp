@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the texts of one photo cost: expanding macros, and reading the metadata some of them print.
 #include "macros/macro_expander.h"
-#include "platform/image_properties.h"
+#include "metadata/image_properties.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the metadata of one photo cost: each choice of what to include, with the program kept running, beside a
 // program started for each photo.
-#include "batch/metadata_transfer.h"
+#include "metadata/metadata_transfer.h"
 #include "platform/whole_file.h"
 #include "support/test_pictures.h"
 

@@ -3,7 +3,7 @@
 // zone plate and on a scene, what they leave of detail that the new size cannot hold, how far they overshoot
 // beside an edge, and their time on a 24-megapixel photo. docs/resampling.md holds the table and what was
 // made of it.
-#include "platform/resample.h"
+#include "pictures/resample.h"
 #include "support/test_pictures.h"
 
 #include <benchmark/benchmark.h>

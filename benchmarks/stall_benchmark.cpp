@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How long the window hangs at most while it has much to do: "longest_stall_ms" is the longest time in which its event
 // loop did not turn.
-#include "app/main_window.h"
+#include "app/dialogs/standard_dialogs.h"
 #include "app/run/run_controller.h"
+#include "app/window/main_window.h"
 #include "support/stall_watchdog.h"
 #include "support/test_pictures.h"
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How long the window keeps a user waiting, from what he does until the screen has been painted. Photos are JPEG
 // files of 24 megapixels, seen as a whole in a window of 1280 x 800.
-#include "app/main_window.h"
-#include "platform/picture_reader.h"
+#include "app/dialogs/standard_dialogs.h"
+#include "app/editors/standard_editors.h"
+#include "app/window/main_window.h"
+#include "pictures/picture_reader.h"
 #include "support/test_pictures.h"
 
 #include <QApplication>

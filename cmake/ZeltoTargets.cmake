@@ -34,12 +34,10 @@ function(zelto_add_program name)
   target_link_libraries(${name} PRIVATE zelto_build_options ${ARGN})
 endfunction()
 
-# zelto_add_tests(NAME LIBRARY...): the test program zelto_NAME_tests of this folder, each test known to CTest.
+# zelto_add_tests(NAME LIBRARY...): the test program zelto_NAME_tests of this folder and those in it, each test known
+# to CTest.
 function(zelto_add_tests name)
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
-  if(NOT sources)
-    return()
-  endif()
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp)
   add_executable(zelto_${name}_tests ${sources})
   target_link_libraries(zelto_${name}_tests PRIVATE zelto_build_options zelto_test_support ${ARGN})
   gtest_discover_tests(zelto_${name}_tests TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60

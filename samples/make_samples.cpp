@@ -2,7 +2,7 @@
 // Makes the sample photos, the sample logo and the sample settings anew: make-samples FOLDER, where FOLDER is
 // this one. Needs exiftool for the camera tags. Not part of the ordinary build.
 #include "persistence/setting_file.h"
-#include "platform/picture_writer.h"
+#include "pictures/picture_writer.h"
 #include "platform/whole_file.h"
 #include "sample_settings.h"
 #include "scenes.h"

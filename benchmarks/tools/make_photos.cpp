@@ -3,7 +3,7 @@
 // of the samples, painted once at the wanted size; each photo is one of them mirrored or turned upside down
 // and with its own sensor noise, so that no two files are alike and all are as hard to encode as camera
 // files.
-#include "platform/picture_writer.h"
+#include "pictures/picture_writer.h"
 #include "platform/whole_file.h"
 #include "samples/scenes.h"
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "samples/screenshots/stage.h"
 
-#include "batch/path_parts.h"
+#include "app/dialogs/standard_dialogs.h"
+#include "app/editors/standard_editors.h"
+#include "platform/path_parts.h"
 #include "platform/preferences.h"
 
 #include <QApplication>

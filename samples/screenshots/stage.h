@@ -3,9 +3,9 @@
 // whatever the machine it runs on looks like.
 #pragma once
 
-#include "app/main_window.h"
-#include "app/my_global_instance.h"
+#include "app/common/my_global_instance.h"
 #include "app/run/run_controller.h"
+#include "app/window/main_window.h"
 
 #include <QDir>
 #include <QImage>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/batch_request.h"
 
-#include "batch/file_identity.h"
 #include "batch/output_name.h"
+#include "platform/file_identity.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/look_ahead.h"
 
-#include "batch/file_identity.h"
-#include "batch/machine_limits.h"
+#include "platform/file_identity.h"
+#include "platform/machine_limits.h"
 
 #include <sys/resource.h>
 #include <unistd.h>

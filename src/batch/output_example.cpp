@@ -2,7 +2,7 @@
 #include "batch/output_example.h"
 
 #include "batch/output_size.h"
-#include "batch/path_parts.h"
+#include "platform/path_parts.h"
 
 namespace zelto {
 

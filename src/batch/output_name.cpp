@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_name.h"
 
-#include "batch/path_parts.h"
 #include "macros/auto_number.h"
+#include "platform/path_parts.h"
 
 #include <QFileInfo>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_writer.h"
 
-#include "batch/file_identity.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
-#include "batch/path_parts.h"
-#include "platform/picture_reader.h"
-#include "platform/picture_writer.h"
-#include "platform/resample.h"
+#include "pictures/picture_reader.h"
+#include "pictures/picture_writer.h"
+#include "pictures/resample.h"
+#include "platform/file_identity.h"
+#include "platform/path_parts.h"
 #include "platform/whole_file.h"
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"

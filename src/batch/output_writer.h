@@ -4,11 +4,11 @@
 // effect leaves that step's two pictures of the last photo in the user's home folder as well.
 #pragma once
 
-#include "batch/exiftool_pool.h"
-#include "batch/kept_file.h"
-#include "batch/metadata_queue.h"
-#include "batch/metadata_transfer.h"
 #include "batch/photo_processor.h"
+#include "metadata/exiftool_pool.h"
+#include "metadata/metadata_queue.h"
+#include "metadata/metadata_transfer.h"
+#include "platform/kept_file.h"
 #include "records/copyright_metadata.h"
 #include "records/output_options.h"
 #include "records/watermark_stack.h"

@@ -4,7 +4,7 @@
 // watermarked photos.
 #pragma once
 
-#include "platform/pdf_document.h"
+#include "pictures/pdf_document.h"
 #include "platform/result.h"
 
 #include <QByteArray>

@@ -6,8 +6,8 @@
 #include "batch/output_size.h"
 #include "batch/output_writer.h"
 #include "cli/interrupt.h"
+#include "pictures/picture_reader.h"
 #include "platform/dates.h"
-#include "platform/picture_reader.h"
 
 #include <QSet>
 

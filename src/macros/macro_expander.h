@@ -3,7 +3,7 @@
 #pragma once
 
 #include "macros/auto_number.h"
-#include "platform/image_properties.h"
+#include "metadata/image_properties.h"
 
 #include <QDateTime>
 #include <QLocale>

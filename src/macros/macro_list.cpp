@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/macro_list.h"
 
-#include "platform/windows1252.h"
+#include "metadata/windows1252.h"
 
 #include <algorithm>
 #include <iterator>

@@ -3,7 +3,7 @@
 // editor's. Any thread.
 #pragma once
 
-#include "platform/image_properties.h"
+#include "metadata/image_properties.h"
 #include "records/macro.h"
 
 #include <QList>

@@ -2,7 +2,7 @@
 #include "macros/metadata_value.h"
 
 #include "macros/text_numbers.h"
-#include "platform/image_properties.h"
+#include "metadata/image_properties.h"
 
 namespace zelto {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "macros/macro_expander.h"
 #include "macros/macro_list.h"
+#include "pictures/picture_reader.h"
 #include "platform/dates.h"
-#include "platform/picture_reader.h"
 
 #include <memory>
 

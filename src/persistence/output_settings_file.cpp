@@ -2,8 +2,8 @@
 #include "persistence/output_settings_file.h"
 
 #include "persistence/xml_document.h"
+#include "pictures/picture_writer.h"
 #include "platform/file_reference.h"
-#include "platform/picture_writer.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <optional>
@@ -15,6 +16,8 @@
 
 namespace zelto {
 namespace {
+
+Q_LOGGING_CATEGORY(settingsLog, "zelto.settings")
 
 bool hasSettingExtension(const QString& fileName) {
     return fileName.size() > SettingFileExtension.size() &&
@@ -137,6 +140,14 @@ Result<qsizetype> SettingsLibrary::importFrom(const QString& folder) const {
 
 Result<qsizetype> SettingsLibrary::exportTo(const QString& folder) const {
     return copySettings(folder_, folder);
+}
+
+void saveLastWatermark(const WatermarkStack& stack, const QString& settingsFolder) {
+    const Result<void> saved =
+        SettingsLibrary(settingsFolder).path(LastWatermarkSetting).and_then([&](const QString& path) {
+            return SaveWatermarkSettings(stack, path);
+        });
+    if (!saved) qCWarning(settingsLog, "%s", qUtf8Printable(saved.error().message));
 }
 
 }  // namespace zelto

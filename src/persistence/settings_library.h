@@ -11,6 +11,8 @@
 
 namespace zelto {
 
+struct WatermarkStack;
+
 // The setting every run keeps its stack under.
 inline constexpr QLatin1String LastWatermarkSetting("Last Watermark");
 
@@ -43,5 +45,9 @@ class SettingsLibrary {
   private:
     QString folder_;
 };
+
+// Saves `stack` as the setting "Last Watermark" in the folder `settingsFolder`. A failure is logged: nothing that
+// asks for it can do anything about it.
+void saveLastWatermark(const WatermarkStack& stack, const QString& settingsFolder);
 
 }  // namespace zelto

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/blurred_alpha.h"
 
-#include "platform/parallel_rows.h"
-#include "platform/weighted_sums.h"
+#include "pictures/parallel_rows.h"
+#include "pictures/weighted_sums.h"
 
 #include <algorithm>
 #include <cmath>

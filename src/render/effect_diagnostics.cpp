@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/effect_diagnostics.h"
 
-#include "platform/picture_writer.h"
+#include "pictures/picture_writer.h"
 #include "platform/whole_file.h"
 #include "render/photo_effects.h"
 

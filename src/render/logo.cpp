@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/logo.h"
 
-#include "platform/picture_additions.h"
-#include "platform/picture_reader.h"
-#include "platform/resample.h"
+#include "pictures/picture_additions.h"
+#include "pictures/picture_reader.h"
+#include "pictures/resample.h"
 #include "render/opacity.h"
 #include "render/photo_filters.h"
 

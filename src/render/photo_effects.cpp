@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_effects.h"
 
-#include "platform/parallel_rows.h"
-#include "platform/picture_reader.h"
+#include "pictures/parallel_rows.h"
+#include "pictures/picture_reader.h"
 #include "render/photo_shadow.h"
 #include "render/qt_color.h"
 #include "render/source_over.h"

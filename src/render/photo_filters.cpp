@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_filters.h"
 
-#include "platform/image_filters.h"
+#include "pictures/image_filters.h"
 
 #include <algorithm>
 #include <vector>

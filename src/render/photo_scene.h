@@ -4,8 +4,8 @@
 // is written. A scene is built from values alone, on any thread.
 #pragma once
 
-#include "platform/image_properties.h"
-#include "platform/picture_reader.h"
+#include "metadata/image_properties.h"
+#include "pictures/picture_reader.h"
 #include "platform/result.h"
 #include "records/watermark_stack.h"
 #include "render/logo_cache.h"

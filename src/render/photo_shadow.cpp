@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_shadow.h"
 
-#include "platform/parallel_rows.h"
+#include "pictures/parallel_rows.h"
 #include "render/blurred_alpha.h"
 #include "render/qt_color.h"
 #include "render/source_over.h"

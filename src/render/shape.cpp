@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/shape.h"
 
-#include "platform/picture_reader.h"
+#include "pictures/picture_reader.h"
 #include "render/lengths.h"
 #include "render/qt_color.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/text_block.h"
 
-#include "platform/picture_additions.h"
+#include "pictures/picture_additions.h"
 #include "render/opacity.h"
 #include "render/photo_shadow.h"
 #include "render/qt_color.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/tiling.h"
 
-#include "platform/picture_additions.h"
+#include "pictures/picture_additions.h"
 #include "render/lengths.h"
 #include "render/placement.h"
 #include "render/text_block.h"

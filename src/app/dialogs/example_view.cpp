@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/example_view.h"
 
-#include "batch/path_parts.h"
+#include "platform/path_parts.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/existing_settings_window_controller.h"
 
-#include "app/dialogs/dialog_size.h"
-#include "app/dialogs/messages.h"
+#include "app/common/messages.h"
+#include "app/common/remembered_dialog.h"
 #include "app/dialogs/setting_summary.h"
 #include "persistence/setting_file.h"
 #include "platform/preferences.h"

@@ -3,7 +3,7 @@
 // thread only.
 #pragma once
 
-#include "app/preview/newest_worker.h"
+#include "app/common/newest_worker.h"
 #include "persistence/settings_library.h"
 
 #include <QDialog>

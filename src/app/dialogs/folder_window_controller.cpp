@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/folder_window_controller.h"
 
+#include "app/common/messages.h"
 #include "app/dialogs/folder_field.h"
-#include "app/dialogs/messages.h"
 #include "batch/folder_scan.h"
 #include "platform/preferences.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/import_export_window_controller.h"
 
+#include "app/common/messages.h"
 #include "app/dialogs/folder_field.h"
-#include "app/dialogs/messages.h"
 #include "platform/preferences.h"
 
 #include <QDialogButtonBox>

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/output_options_controller.h"
 
-#include "app/dialogs/dialog_size.h"
+#include "app/common/messages.h"
+#include "app/common/remembered_dialog.h"
 #include "app/dialogs/example_view.h"
 #include "app/dialogs/folder_field.h"
-#include "app/dialogs/messages.h"
 #include "app/dialogs/output_panel.h"
 #include "app/dialogs/rename_panel.h"
 #include "app/dialogs/resize_field.h"
 #include "app/dialogs/resize_panel.h"
-#include "app/image_list_controller.h"
-#include "app/watermark_controller.h"
+#include "app/photos/image_list_controller.h"
+#include "app/watermarks/watermark_controller.h"
 #include "persistence/output_options_check.h"
+#include "pictures/picture_reader.h"
 #include "platform/application_folders.h"
 #include "platform/file_reference.h"
-#include "platform/picture_reader.h"
 #include "platform/preferences.h"
 
 #include <QDate>

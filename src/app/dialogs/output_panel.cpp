@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/output_panel.h"
 
+#include "app/common/icons.h"
 #include "app/dialogs/folder_field.h"
-#include "app/icons.h"
-#include "batch/metadata_transfer.h"
+#include "metadata/metadata_transfer.h"
+#include "pictures/picture_writer.h"
 #include "platform/file_reference.h"
-#include "platform/picture_writer.h"
 
 #include <QCheckBox>
 #include <QComboBox>

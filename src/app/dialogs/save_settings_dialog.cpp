@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/save_settings_dialog.h"
 
-#include "app/dialogs/messages.h"
+#include "app/common/messages.h"
 
 #include <QCompleter>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/setting_summary.h"
 
-#include "app/lists/watermark_list_model.h"
-#include "batch/path_parts.h"
+#include "app/watermarks/watermark_list_model.h"
+#include "platform/path_parts.h"
 #include "render/photo_filters.h"
 
 #include <QCoreApplication>

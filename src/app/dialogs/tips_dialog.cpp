@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/tips_dialog.h"
 
-#include "app/icons.h"
-#include "app/my_global_instance.h"
+#include "app/common/icons.h"
+#include "app/common/my_global_instance.h"
 #include "platform/preferences.h"
 
 #include <QCheckBox>

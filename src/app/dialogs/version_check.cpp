@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/version_check.h"
 
-#include "app/message_sheet.h"
+#include "app/common/messages.h"
 #include "platform/preferences.h"
 
 #include <QDesktopServices>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/copyright_editor.h"
 
-#include "app/dialogs/dialog_set.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "app/editors/controls/record_binder.h"
-#include "app/watermark_controller.h"
+#include "app/watermarks/watermark_controller.h"
+#include "app/window/dialog_set.h"
 #include "persistence/copyright_file.h"
 
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 // the next time. Main thread only.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 namespace zelto {
 

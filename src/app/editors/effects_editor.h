@@ -2,7 +2,7 @@
 // The editor for the border and the shadow of the photos. Main thread only.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 namespace zelto {
 

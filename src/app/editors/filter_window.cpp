@@ -2,8 +2,8 @@
 #include "app/editors/filter_window.h"
 
 #include "app/editors/controls/editor_dialog.h"
-#include "platform/picture_reader.h"
-#include "platform/resample.h"
+#include "pictures/picture_reader.h"
+#include "pictures/resample.h"
 #include "render/photo_filters.h"
 
 #include <QCoreApplication>

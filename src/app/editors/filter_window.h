@@ -2,7 +2,7 @@
 // The window to choose a photo filter in: the selected photo in every one of them. Main thread only.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 namespace zelto {
 

@@ -3,7 +3,7 @@
 // warns while a code could not be read. Main thread only.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 namespace zelto {
 

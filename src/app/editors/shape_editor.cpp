@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/shape_editor.h"
 
+#include "app/common/icons.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "app/editors/controls/photo_reference.h"
 #include "app/editors/controls/position_group.h"
@@ -9,7 +10,6 @@
 #include "app/editors/controls/size_field.h"
 #include "app/editors/controls/tile_button.h"
 #include "app/editors/controls/transparency_slider.h"
-#include "app/icons.h"
 #include "render/shape.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 // only.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 namespace zelto {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/halved_picture.h"
 
-#include "platform/parallel_rows.h"
+#include "pictures/parallel_rows.h"
 
 #include <algorithm>
 #include <array>

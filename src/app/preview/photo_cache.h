@@ -4,7 +4,7 @@
 // threads ask for is made once; a file that has changed on disk is read again. Any thread.
 #pragma once
 
-#include "platform/picture_reader.h"
+#include "pictures/picture_reader.h"
 #include "render/photo_scene.h"
 
 #include <QDateTime>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/photo_preview.h"
 
-#include "app/image_list_controller.h"
+#include "app/photos/image_list_controller.h"
 #include "app/preview/region_composer.h"
-#include "app/watermark_controller.h"
+#include "app/watermarks/watermark_controller.h"
 #include "platform/dates.h"
 #include "render/effect_diagnostics.h"
 

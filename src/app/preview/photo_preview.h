@@ -6,7 +6,7 @@
 
 #include "app/preview/preview_view.h"
 #include "app/preview/scene_builder.h"
-#include "app/watermark_document.h"
+#include "app/watermarks/watermark_document.h"
 
 #include <QObject>
 #include <QRectF>

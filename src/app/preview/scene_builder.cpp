@@ -2,7 +2,7 @@
 #include "app/preview/scene_builder.h"
 
 #include "app/preview/region_composer.h"
-#include "platform/picture_additions.h"
+#include "pictures/picture_additions.h"
 
 #include <algorithm>
 #include <utility>

@@ -5,7 +5,7 @@
 // layers it concerns and composes the pixels they touch. To be used from the main thread.
 #pragma once
 
-#include "app/preview/newest_worker.h"
+#include "app/common/newest_worker.h"
 #include "app/preview/photo_cache.h"
 #include "app/preview/view_geometry.h"
 #include "render/photo_scene.h"

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window program: zelto [--setting NAME_OR_FILE] [PHOTO_OR_FOLDER...]
-#include "app/app_delegate.h"
-#include "app/icons.h"
+#include "app/common/icons.h"
+#include "app/dialogs/standard_dialogs.h"
+#include "app/editors/standard_editors.h"
+#include "app/program/app_delegate.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

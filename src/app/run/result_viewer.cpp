@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/run/result_viewer.h"
 
-#include "batch/path_parts.h"
+#include "platform/path_parts.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/run/run_controller.h"
 
-#include "app/main_window.h"
-#include "app/message_sheet.h"
-#include "app/my_global_instance.h"
-#include "batch/path_parts.h"
+#include "app/common/messages.h"
+#include "app/common/my_global_instance.h"
+#include "app/window/main_window.h"
+#include "platform/path_parts.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

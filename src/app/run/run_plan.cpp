@@ -1,32 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/run/run_plan.h"
 
-#include "app/image_list_controller.h"
-#include "app/watermark_document.h"
-#include "persistence/setting_file.h"
+#include "app/photos/image_list_controller.h"
+#include "app/watermarks/watermark_document.h"
 #include "persistence/settings_library.h"
 #include "platform/dates.h"
 #include "platform/preferences.h"
 
-#include <QLoggingCategory>
-
 #include <algorithm>
 
 namespace zelto {
-namespace {
-
-Q_LOGGING_CATEGORY(runLog, "zelto.run")
-
-}  // namespace
-
-void saveLastWatermark(const WatermarkStack& stack, const QString& settingsFolder) {
-    const Result<void> saved =
-        SettingsLibrary(settingsFolder).path(LastWatermarkSetting).and_then([&](const QString& path) {
-            return SaveWatermarkSettings(stack, path);
-        });
-    if (!saved) qCWarning(runLog, "%s", qUtf8Printable(saved.error().message));
-}
-
 qint64 RunPlan::photosFrom(qint64 row) const {
     return std::count_if(request.photos.begin() + row, request.photos.end(),
                          [](const BatchPhoto& photo) { return photo.checked; });

@@ -21,9 +21,6 @@ struct RunPlan {
     qint64 photosFrom(qint64 row) const;
 };
 
-// Saves `stack` as the setting "Last Watermark". Any thread.
-void saveLastWatermark(const WatermarkStack& stack, const QString& settingsFolder);
-
 // A run keeps the stack as the setting "Last Watermark" in `settingsFolder`, where there is one, and the last photo's
 // running number among the preferences. Main thread.
 RunPlan planRun(const ImageListController& photos, const WatermarkDocument& document,

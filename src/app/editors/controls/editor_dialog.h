@@ -4,8 +4,8 @@
 // thread only.
 #pragma once
 
+#include "app/common/remembered_dialog.h"
 #include "app/editors/controls/editor_session.h"
-#include "app/editors/controls/remembered_dialog.h"
 
 #include <QFormLayout>
 #include <QPushButton>

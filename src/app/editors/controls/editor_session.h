@@ -5,8 +5,8 @@
 #pragma once
 
 #include "app/editors/controls/watermark_edit.h"
-#include "app/editors/editor_set.h"
-#include "app/watermark_controller.h"
+#include "app/watermarks/editor_set.h"
+#include "app/watermarks/watermark_controller.h"
 
 #include <QObject>
 #include <QString>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/photo_reference.h"
 
-#include "app/watermark_controller.h"
-#include "platform/picture_reader.h"
+#include "app/watermarks/watermark_controller.h"
+#include "pictures/picture_reader.h"
 
 namespace zelto {
 

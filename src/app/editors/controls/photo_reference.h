@@ -2,7 +2,7 @@
 // The area that shares of "the photo" refer to. Main thread only; reads the header of the photo's file.
 #pragma once
 
-#include "app/editors/editor_set.h"
+#include "app/watermarks/editor_set.h"
 
 #include <QSizeF>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/position_grid.h"
 
+#include "app/common/icons.h"
 #include "app/editors/controls/tile_button.h"
-#include "app/icons.h"
 
 #include <QGridLayout>
 #include <QPainter>

@@ -3,7 +3,7 @@
 // Main thread only.
 #pragma once
 
-#include "app/preview/newest_worker.h"
+#include "app/common/newest_worker.h"
 #include "platform/character_names.h"
 
 #include <QDialog>

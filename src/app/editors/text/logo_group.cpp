@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/logo_group.h"
 
-#include "app/dialogs/dialog_set.h"
 #include "app/editors/controls/editor_dialog.h"
-#include "platform/picture_reader.h"
+#include "app/window/dialog_set.h"
+#include "pictures/picture_reader.h"
 #include "platform/preferences.h"
 
 #include <QDir>

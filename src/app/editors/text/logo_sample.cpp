@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/logo_sample.h"
 
-#include "platform/picture_reader.h"
+#include "pictures/picture_reader.h"
 #include "render/qt_color.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/text_style_group.h"
 
+#include "app/common/icons.h"
 #include "app/editors/controls/editor_dialog.h"
-#include "app/icons.h"
 
 #include <QFontInfo>
 #include <QHBoxLayout>

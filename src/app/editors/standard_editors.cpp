@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/standard_editors.h"
+
+#include "app/editors/copyright_editor.h"
+#include "app/editors/effects_editor.h"
+#include "app/editors/filter_window.h"
+#include "app/editors/qr_code_editor.h"
+#include "app/editors/shape_editor.h"
+#include "app/editors/text/watermark_window_controller.h"
+
+namespace zelto {
+
+EditorSet standardEditors() {
+    return {
+        {EditorKind::Image, editLogo},          {EditorKind::Text, editText},
+        {EditorKind::Shape, editShape},         {EditorKind::QrCode, editQrCode},
+        {EditorKind::Filter, chooseFilter},     {EditorKind::Effects, editEffects},
+        {EditorKind::Copyright, editCopyright},
+    };
+}
+
+}  // namespace zelto

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What can be done to the photo list: adding, removing, checking and selecting photos, each an undo step, and
+// telling whoever shows the selected photo that it must be shown anew. The rules of the list itself are the
+// batch folder's, its looks are the view's. Main thread only.
+#pragma once
+
+#include "app/photos/photo_list_model.h"
+
+#include <QItemSelectionModel>
+#include <QObject>
+#include <QStringList>
+#include <QUndoStack>
+#include <QUrl>
+
+#include <functional>
+#include <vector>
+
+namespace zelto {
+
+class ImageListController : public QObject {
+    Q_OBJECT
+
+  public:
+    // The changes of the list become steps of `history`, which outlives the controller.
+    explicit ImageListController(QUndoStack& history, QObject* parent = nullptr);
+
+    PhotoListModel& model() { return model_; }
+    const PhotoListModel& model() const { return model_; }
+    // Which rows are selected; the current one is the photo on the preview.
+    QItemSelectionModel& selection() { return selection_; }
+
+    const std::vector<Image>& images() const { return model_.images(); }
+    int count() const { return model_.rowCount(); }
+    int selectedRow() const;  // -1 for none
+    QString selectedPath() const;
+
+    // Adds the photo unless it is in the list already.
+    void AddImage(const QString& path);
+    // The same for many, as one step.
+    void AddImages(const QStringList& paths);
+    bool CheckIfImageExists(const QString& path) const { return model_.list().CheckIfImageExists(path); }
+    void addImagesFromUrls(const QList<QUrl>& urls);
+
+    void CheckAllImages();
+    void UncheckAllImages();
+    void ToggleCheck();
+    void setApplyWatermark(const std::vector<int>& rows, bool apply);
+
+    void RemoveSelectedImage();
+    void RemoveImage(int row);
+    void RemoveAllImages();
+
+    // Selects the row whose number `row` spells, alone.
+    void ChangeImage(const QString& row);
+    // Has the selected photo shown anew.
+    void SelectImage();
+    // Tells what went wrong with the photo of a row, if anything did.
+    void ImageListDoubleClicked(int row);
+
+  Q_SIGNALS:
+    // The photo of `row` is to be shown, though it may be the one that is on show; -1 for none.
+    void selectImage(int row);
+    // The user is to be told something.
+    void alert(const QString& title, const QString& text);
+    // Photos came or went: what the window offers may have to change.
+    void EnableDisableWatermarkControls();
+
+  private:
+    void setChecks(const QString& name, const std::function<bool(int row, bool checked)>& check);
+    void removeRows(const QString& name, std::vector<int> rows);
+    void insertPhotos(const ImageList::Placed& photos);
+    void takePhotos(const std::vector<std::size_t>& rows);
+    void selectRow(int row);
+
+    QUndoStack& history_;
+    PhotoListModel model_;
+    QItemSelectionModel selection_;
+};
+
+}  // namespace zelto

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/photos/photo_delegate.h"
+
+#include "app/common/check_mark.h"
+#include "app/common/icons.h"
+#include "app/photos/photo_list_model.h"
+#include "app/photos/thumbnail_loader.h"
+#include "platform/path_parts.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+constexpr int Margin = 8;
+constexpr int StatusSide = 18;
+
+// The parts of a row, from left to right.
+struct RowPlaces {
+    QRect check;
+    QRect thumbnail;
+    QRect name;
+    QRect folder;
+    QRect status;
+};
+
+RowPlaces placesIn(const QRect& row, const QFontMetrics& metrics) {
+    RowPlaces at;
+    const auto middle = [&row](int left, QSize size) {
+        return QRect(QPoint(left, row.top() + (row.height() - size.height()) / 2), size);
+    };
+    at.check = middle(row.left() + Margin, {CheckBoxSide, CheckBoxSide});
+    at.thumbnail = middle(at.check.right() + 1 + Margin, PhotoDelegate::ThumbnailSize);
+    at.status = middle(row.right() - Margin - StatusSide, {StatusSide, StatusSide});
+    const int left = at.thumbnail.right() + 1 + Margin;
+    const int width = at.status.left() - Margin - left;
+    const int lines = 2 * metrics.height();
+    at.name = QRect(left, row.top() + (row.height() - lines) / 2, width, metrics.height());
+    at.folder = at.name.translated(0, metrics.height());
+    return at;
+}
+
+}  // namespace
+
+PhotoDelegate::PhotoDelegate(const ThumbnailLoader& thumbnails,
+                             std::function<void(const QModelIndex&)> toggled, QObject* parent)
+    : QStyledItemDelegate(parent),
+      thumbnails_(thumbnails),
+      toggled_(std::move(toggled)),
+      pictureIcon_(lineIcon(QLatin1String("image"))),
+      brokenIcon_(lineIcon(QLatin1String("broken"))),
+      writtenIcon_(colorIcon(QLatin1String("written"))),
+      failedIcon_(colorIcon(QLatin1String("failed"))) {}
+
+QSize PhotoDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {
+    return {200, std::max(ThumbnailSize.height() + Margin, 2 * option.fontMetrics.height() + Margin)};
+}
+
+QRect PhotoDelegate::checkBoxRect(const QRect& row) {
+    return placesIn(row, QFontMetrics(QFont())).check;
+}
+
+void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
+                          const QModelIndex& index) const {
+    QStyleOptionViewItem option = given;
+    option.index = index;
+    const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();
+    const RowPlaces at = placesIn(option.rect, option.fontMetrics);
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
+
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const bool isChecked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    paintCheckBox(*painter, at.check, isChecked, isSelected, option.palette);
+
+    const QString path = index.data(PhotoListModel::PathRole).toString();
+    paintThumbnail(*painter, at.thumbnail, path);
+
+    const QPalette::ColorGroup group =
+        option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    QColor color = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+    painter->setPen(color);
+    painter->drawText(
+        at.name, Qt::AlignLeft | Qt::AlignVCenter,
+        option.fontMetrics.elidedText(lastPathComponent(path), Qt::ElideMiddle, at.name.width()));
+    color.setAlphaF(0.65F);
+    painter->setPen(color);
+    painter->drawText(
+        at.folder, Qt::AlignLeft | Qt::AlignVCenter,
+        option.fontMetrics.elidedText(withoutLastPathComponent(path), Qt::ElideMiddle, at.folder.width()));
+
+    switch (static_cast<PhotoStatus>(index.data(PhotoListModel::StatusRole).toInt())) {
+        case PhotoStatus::Written:
+            writtenIcon_.paint(painter, at.status);
+            break;
+        case PhotoStatus::Failed:
+            failedIcon_.paint(painter, at.status);
+            break;
+        case PhotoStatus::NotProcessed:
+            break;
+    }
+}
+
+void PhotoDelegate::paintThumbnail(QPainter& painter, const QRect& place, const QString& path) const {
+    const QImage picture = thumbnails_.thumbnail(path);
+    if (picture.isNull()) {
+        const QRect icon(place.center() - QPoint(11, 11), QSize(24, 24));
+        (thumbnails_.isBroken(path) ? brokenIcon_ : pictureIcon_)
+            .paint(&painter, icon, Qt::AlignCenter, QIcon::Disabled);
+        return;
+    }
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QSizeF size = QSizeF(picture.size()) / ratio;
+    const QPointF corner = QRectF(place).center() - QPointF(size.width(), size.height()) / 2.0;
+    painter.drawImage(QRectF(corner, size), picture);
+}
+
+bool PhotoDelegate::editorEvent(QEvent* event, QAbstractItemModel* /*model*/,
+                                const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const auto type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease &&
+        type != QEvent::MouseButtonDblClick) {
+        return false;
+    }
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const QRect box = checkBoxRect(option.rect);
+    if (mouse->button() != Qt::LeftButton ||
+        !box.adjusted(-Margin, -Margin, Margin / 2, Margin).contains(mouse->pos())) {
+        return false;
+    }
+    if (type == QEvent::MouseButtonRelease) toggled_(index);
+    return true;
+}
+
+}  // namespace zelto

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/photos/photo_list_model.h"
+
+#include "platform/path_parts.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zelto {
+namespace {
+
+struct StatusWord {
+    PhotoStatus status;
+    const char* word;
+};
+constexpr std::array StatusWords = {
+    StatusWord{PhotoStatus::NotProcessed, QT_TRANSLATE_NOOP("PhotoListModel", "not processed")},
+    StatusWord{PhotoStatus::Written, QT_TRANSLATE_NOOP("PhotoListModel", "written")},
+    StatusWord{PhotoStatus::Failed, QT_TRANSLATE_NOOP("PhotoListModel", "failed")},
+};
+
+PhotoStatus statusOf(const Image& photo) {
+    for (const StatusWord& each : StatusWords) {
+        if (statusImage(each.status).cacheKey() == photo.StsImage.cacheKey()) return each.status;
+    }
+    return PhotoStatus::NotProcessed;
+}
+
+QString spoken(const Image& photo) {
+    const char* status = StatusWords.at(static_cast<std::size_t>(statusOf(photo))).word;
+    return PhotoListModel::tr("%1, %2, %3")
+        .arg(lastPathComponent(photo.ImagePath),
+             photo.ApplyWatermark ? PhotoListModel::tr("checked") : PhotoListModel::tr("not checked"),
+             PhotoListModel::tr(status));
+}
+
+// Whether the rows follow each other without a gap, as one range a view can be told of.
+bool areOneRange(const std::vector<std::size_t>& rows) {
+    return rows.back() - rows.front() + 1 == rows.size();
+}
+
+}  // namespace
+
+int PhotoListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(images().size());
+}
+
+QVariant PhotoListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Image& photo = images()[static_cast<std::size_t>(index.row())];
+    switch (role) {
+        case Qt::DisplayRole:
+            return lastPathComponent(photo.ImagePath);
+        case Qt::ToolTipRole:
+            return photo.ErrorMessage.isEmpty() ? photo.ImagePath
+                                                : photo.ImagePath + QLatin1Char('\n') + photo.ErrorMessage;
+        case Qt::CheckStateRole:
+            return photo.ApplyWatermark ? Qt::Checked : Qt::Unchecked;
+        case Qt::AccessibleTextRole:
+            return spoken(photo);
+        case PathRole:
+            return photo.ImagePath;
+        case StatusRole:
+            return static_cast<int>(statusOf(photo));
+        case ErrorRole:
+            return photo.ErrorMessage;
+        default:
+            return {};
+    }
+}
+
+void PhotoListModel::insert(const ImageList::Placed& photos) {
+    if (photos.rows.empty()) return;
+    if (areOneRange(photos.rows)) {
+        beginInsertRows({}, static_cast<int>(photos.rows.front()), static_cast<int>(photos.rows.back()));
+        list_.insertImages(photos);
+        endInsertRows();
+    } else {
+        beginResetModel();
+        list_.insertImages(photos);
+        endResetModel();
+    }
+}
+
+ImageList::Placed PhotoListModel::take(const std::vector<std::size_t>& rows) {
+    if (rows.empty()) return {};
+    ImageList::Placed taken;
+    if (areOneRange(rows)) {
+        beginRemoveRows({}, static_cast<int>(rows.front()), static_cast<int>(rows.back()));
+        taken = list_.takeImages(rows);
+        endRemoveRows();
+    } else {
+        beginResetModel();
+        taken = list_.takeImages(rows);
+        endResetModel();
+    }
+    return taken;
+}
+
+std::vector<bool> PhotoListModel::checks() const {
+    std::vector<bool> checks;
+    checks.reserve(images().size());
+    for (const Image& photo : images()) checks.push_back(photo.ApplyWatermark);
+    return checks;
+}
+
+void PhotoListModel::setChecks(const std::vector<bool>& checks) {
+    for (std::size_t row = 0; row < checks.size(); ++row) list_.setApplyWatermark(row, checks[row]);
+    announceAll();
+}
+
+void PhotoListModel::markUnprocessed() {
+    list_.markUnprocessed();
+    announceAll();
+}
+
+void PhotoListModel::setOutcome(int row, PhotoStatus status, const QString& errorMessage) {
+    setOutcomes({{row, status, errorMessage}});
+}
+
+// Views are told once, of all rows between the first and the last.
+void PhotoListModel::setOutcomes(const std::vector<RowOutcome>& outcomes) {
+    if (outcomes.empty()) return;
+    for (const RowOutcome& each : outcomes) {
+        list_.setOutcome(static_cast<std::size_t>(each.row), each.status, each.errorMessage);
+    }
+    const auto [first, last] =
+        std::minmax_element(outcomes.begin(), outcomes.end(),
+                            [](const RowOutcome& a, const RowOutcome& b) { return a.row < b.row; });
+    Q_EMIT dataChanged(index(first->row), index(last->row));
+}
+
+void PhotoListModel::announceAll() {
+    if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+}  // namespace zelto

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/photos/photo_list_view.h"
+
+#include "app/photos/image_list_controller.h"
+#include "app/photos/photo_delegate.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+constexpr int SettleMilliseconds = 40;
+constexpr int RowsAhead = 6;  // whose thumbnails are made before they are seen
+
+}  // namespace
+
+PhotoListView::PhotoListView(ImageListController& photos, QWidget* parent)
+    : QListView(parent), photos_(photos) {
+    setModel(&photos_.model());
+    setSelectionModel(&photos_.selection());
+    setUniformItemSizes(true);
+    setSelectionMode(ExtendedSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+    setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Photos"));
+    setItemDelegate(new PhotoDelegate(
+        thumbnails_,
+        [this](const QModelIndex& index) {
+            photos_.setApplyWatermark({index.row()}, index.data(Qt::CheckStateRole).toInt() != Qt::Checked);
+        },
+        this));
+    connect(this, &QListView::doubleClicked, &photos_,
+            [this](const QModelIndex& index) { photos_.ImageListDoubleClicked(index.row()); });
+    settled_.setSingleShot(true);
+    settled_.setInterval(SettleMilliseconds);
+    connect(&settled_, &QTimer::timeout, this, &PhotoListView::wantVisible);
+    connect(&thumbnails_, &ThumbnailLoader::made, viewport(), qOverload<>(&QWidget::update));
+    connect(model(), &QAbstractItemModel::rowsInserted, &settled_, qOverload<>(&QTimer::start));
+    connect(model(), &QAbstractItemModel::rowsRemoved, &settled_, qOverload<>(&QTimer::start));
+    connect(model(), &QAbstractItemModel::modelReset, &settled_, qOverload<>(&QTimer::start));
+}
+
+QRect PhotoListView::checkBoxRect(int row) const {
+    return PhotoDelegate::checkBoxRect(visualRect(model()->index(row, 0)));
+}
+
+// Whatever a row shows, it keeps its height: nothing is laid out anew, as the list view would do for all rows.
+void PhotoListView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
+    QAbstractItemView::dataChanged(first, last, roles);
+}
+
+void PhotoListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentIndex().isValid()) {
+        std::vector<int> rows;
+        for (const QModelIndex& index : selectedIndexes()) rows.push_back(index.row());
+        photos_.setApplyWatermark(rows, currentIndex().data(Qt::CheckStateRole).toInt() != Qt::Checked);
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void PhotoListView::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    settled_.start();
+}
+
+void PhotoListView::scrollContentsBy(int dx, int dy) {
+    QListView::scrollContentsBy(dx, dy);
+    settled_.start();
+}
+
+void PhotoListView::showEvent(QShowEvent* event) {
+    QListView::showEvent(event);
+    settled_.start();
+}
+
+void PhotoListView::wantVisible() {
+    const int last = model()->rowCount() - 1;
+    if (last < 0 || !isVisible()) {
+        return;
+    }
+    const int height = std::max(1, sizeHintForRow(0));
+    const int first = verticalScrollBar()->value() / height;
+    const int end = (verticalScrollBar()->value() + viewport()->height()) / height;
+    QStringList paths;
+    const auto add = [&](int row) {
+        if (row >= 0 && row <= last)
+            paths.append(model()->index(row, 0).data(PhotoListModel::PathRole).toString());
+    };
+    for (int row = first; row <= end; ++row) add(row);
+    for (int more = 1; more <= RowsAhead; ++more) {
+        add(end + more);
+        add(first - more);
+    }
+    const QSizeF size = QSizeF(PhotoDelegate::ThumbnailSize) * devicePixelRatioF();
+    thumbnails_.want(paths, size.toSize());
+}
+
+}  // namespace zelto

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The photo list on the screen: one row a photo with its check box, thumbnail, name, folder and the outcome
+// of the last run. Rows are painted, not widgets, and of one height, so that the list is as quick with a
+// hundred thousand photos as with ten. Main thread only.
+#pragma once
+
+#include "app/photos/thumbnail_loader.h"
+
+#include <QListView>
+#include <QTimer>
+
+namespace zelto {
+
+class ImageListController;
+
+class PhotoListView : public QListView {
+    Q_OBJECT
+
+  public:
+    explicit PhotoListView(ImageListController& photos, QWidget* parent = nullptr);
+
+    // Where the check box of a row is, in viewport coordinates.
+    QRect checkBoxRect(int row) const;
+
+  protected:
+    void dataChanged(const QModelIndex& first, const QModelIndex& last,
+                     const QList<int>& roles = {}) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void wantVisible();
+
+    ImageListController& photos_;
+    ThumbnailLoader thumbnails_;
+    QTimer settled_;  // runs while the list is being scrolled
+};
+
+}  // namespace zelto

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/watermarks/watermark_document.h"
+
+#include "app/common/change_value.h"
+
+#include <utility>
+
+namespace zelto {
+namespace {
+
+// Undo steps kept. A step holds a whole state, but texts, logos and icons in it are shared with its
+// neighbours.
+constexpr int HistoryLimit = 500;
+
+}  // namespace
+
+StackChange changeBetween(const StackState& before, const StackState& after) {
+    StackChange change;
+    const auto& old = before.Stack.Watermarks;
+    const auto& now = after.Stack.Watermarks;
+    change.list = old.size() != now.size();
+    for (std::size_t i = 0; !change.list && i < now.size(); ++i) {
+        if (!(old[i] == now[i])) change.records.push_back(static_cast<int>(i));
+    }
+    change.filter = before.Stack.SelectedFilter != after.Stack.SelectedFilter ||
+                    before.SelectedFilter != after.SelectedFilter;
+    change.effects = before.Stack.Effects != after.Stack.Effects;
+    change.metadata = before.Metadata != after.Metadata || before.Stack.Metadata != after.Stack.Metadata;
+    return change;
+}
+
+WatermarkDocument::WatermarkDocument(QObject* parent) : QObject(parent) {
+    history_.setUndoLimit(HistoryLimit);
+}
+
+std::shared_ptr<const WatermarkStack> WatermarkDocument::snapshot() const {
+    if (!snapshot_) snapshot_ = std::make_shared<const WatermarkStack>(state_.Stack);
+    return snapshot_;
+}
+
+bool WatermarkDocument::change(const QString& name, const Mutate& mutate, const QString& mergeKey) {
+    StackState next = state_;
+    mutate(next);
+    next.Stack.Metadata = next.Metadata && next.Metadata->Enabled;
+    if (next == state_) return false;
+    history_.push(new ChangeValue<StackState>(
+        name, [this](const StackState& state) { apply(state); }, state_, std::move(next), mergeKey));
+    return true;
+}
+
+void WatermarkDocument::amendRecord(int index, const std::function<void(Watermark&)>& amend) {
+    if (!contains(index)) return;
+    Watermark& record = state_.Stack.Watermarks[static_cast<std::size_t>(index)];
+    Watermark amended = record;
+    amend(amended);
+    if (amended == record) return;
+    record = std::move(amended);
+    StackChange change;
+    change.records.push_back(index);
+    announce(change);
+}
+
+void WatermarkDocument::restart(StackState state) {
+    apply(state);
+    currentWatermark_ = NoWatermark;
+    history_.clear();
+}
+
+void WatermarkDocument::apply(const StackState& state) {
+    StackChange change = changeBetween(state_, state);
+    if (change == StackChange{}) return;
+    state_ = state;
+    if (!contains(currentWatermark_)) currentWatermark_ = NoWatermark;
+    announce(change);
+}
+
+void WatermarkDocument::announce(const StackChange& change) {
+    snapshot_.reset();
+    Q_EMIT changed(change);
+}
+
+}  // namespace zelto

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The rows of the watermark list: the photo filter when there is one, the copyright data when there is some,
+// then the watermarks in drawing order. It shows the document and changes nothing: a click on a check box is
+// handed on. Main thread only.
+#pragma once
+
+#include "app/watermarks/watermark_document.h"
+
+#include <QAbstractListModel>
+#include <QString>
+
+#include <functional>
+
+namespace zelto {
+
+// The label of a watermark in the list.
+QString watermarkLabel(const Watermark& watermark);
+
+class WatermarkListModel : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    enum class RowKind { Filter, Metadata, Watermark };
+
+    // Called with the row and the state its check box is to have.
+    using Checked = std::function<void(int row, bool on)>;
+
+    WatermarkListModel(WatermarkDocument& document, Checked checked, QObject* parent = nullptr);
+
+    RowKind kindOf(int row) const;
+    // The watermark of a row; negative for the filter and metadata rows.
+    int watermarkOf(int row) const { return row - extraRows(); }
+    int rowOf(int watermark) const { return watermark + extraRows(); }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  private:
+    bool hasFilterRow() const { return document_.state().SelectedFilter != 0; }
+    bool hasMetadataRow() const { return document_.state().Metadata.has_value(); }
+    int extraRows() const { return (hasFilterRow() ? 1 : 0) + (hasMetadataRow() ? 1 : 0); }
+    QString label(int row) const;
+    QImage drawing(int row) const;
+    bool isOn(int row) const;
+    void follow(const StackChange& change);
+
+    WatermarkDocument& document_;
+    Checked checked_;
+    int shownRows_ = 0;
+};
+
+}  // namespace zelto

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/main_view.h"
+
+#include "platform/path_parts.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QMimeData>
+#include <QPainter>
+#include <QSet>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+// Lies over everything while files are dragged over the window.
+class DropFrame : public QWidget {
+  public:
+    explicit DropFrame(QWidget* parent) : QWidget(parent) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr int Width = 10;
+        QPainter painter(this);
+        painter.setPen(
+            QPen(palette().color(QPalette::Highlight), Width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect());
+    }
+};
+
+// Whether the name is that of a picture the program can open.
+bool hasPictureName(const QString& path) {
+    static const QSet<QString> extensions = [] {
+        QSet<QString> known;
+        for (const QByteArray& format : QImageReader::supportedImageFormats())
+            known.insert(QString::fromLatin1(format));
+        return known;
+    }();
+    return extensions.contains(pathExtension(lastPathComponent(path)).toLower());
+}
+
+bool isPhoto(const QUrl& url) {
+    return url.isLocalFile() && hasPictureName(url.toLocalFile()) && !QFileInfo(url.toLocalFile()).isDir();
+}
+
+}  // namespace
+
+MainView::MainView(QWidget* parent) : QWidget(parent), frame_(new DropFrame(this)) {}
+
+bool MainView::draggingEntered(const QMimeData& dragged) {
+    const QList<QUrl> urls = dragged.urls();
+    setReceivingDrag(std::any_of(urls.begin(), urls.end(), isPhoto));
+    return isReceivingDrag_;
+}
+
+void MainView::draggingExited() {
+    setReceivingDrag(false);
+}
+
+bool MainView::performDragOperation(const QMimeData& dragged) {
+    setReceivingDrag(false);
+    QList<QUrl> photos;
+    for (const QUrl& url : dragged.urls()) {
+        if (isPhoto(url)) photos.append(url);
+    }
+    if (photos.isEmpty()) return false;
+    add_(photos);
+    return true;
+}
+
+void MainView::setReceivingDrag(bool receiving) {
+    isReceivingDrag_ = receiving;
+    frame_->setGeometry(rect());
+    frame_->raise();
+    frame_->setVisible(receiving);
+}
+
+void MainView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    frame_->setGeometry(rect());
+}
+
+}  // namespace zelto

@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/main_window.h"
+
+#include "app/common/icons.h"
+#include "app/window/empty_state.h"
+#include "platform/preferences.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+constexpr QSize StartSize(1280, 800);
+
+QWidget* makeSpacer(QWidget* parent) {
+    auto* spacer = new QWidget(parent);
+    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    return spacer;
+}
+
+// The one button that stands out.
+void takeAccent(QPushButton& button) {
+    QPalette palette = button.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        // Styles lighten a button's colour; darkened, its text stays readable.
+        palette.setColor(group, QPalette::Button, palette.color(QPalette::Highlight).darker(120));
+        palette.setColor(group, QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+    }
+    button.setPalette(palette);
+}
+
+QString photoCount(int count) {
+    return count == 1 ? MainWindow::tr("1 photo") : MainWindow::tr("%1 photos").arg(count);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet editors)
+    : photos_(document_.history()),
+      watermarks_(new WatermarkController(document_, photos_, std::move(editors), this)),
+      actions_(new WindowActions(this)),
+      previewView_(new PreviewView(this)),
+      preview_(new PhotoPreview(photos_, *watermarks_, *previewView_, this)),
+      controller_(new ZeltoController(photos_, *watermarks_, *previewView_, *preview_, shared,
+                                      std::move(dialogs), this)),
+      mainView_(new MainView(this)),
+      photoList_(new PhotoListView(photos_, this)),
+      watermarkPanel_(new WatermarkPanel(*watermarks_, *actions_, this)),
+      processing_(new ProcessingBar(this)),
+      columns_(new QSplitter(this)),
+      middle_(new QStackedWidget(this)),
+      start_(new QPushButton(this)),
+      photoCount_(new QLabel(this)),
+      zoom_(new QLabel(this)),
+      undo_(document_.history().createUndoAction(this, tr("&Undo"))),
+      redo_(document_.history().createRedoAction(this, tr("&Redo"))) {
+    setWindowTitle(QStringLiteral("Zelto"));
+    setWindowIcon(applicationIcon());
+    setAcceptDrops(true);
+    mainView_->setDelegate([this](const QList<QUrl>& urls) { photos_.addImagesFromUrls(urls); });
+    connectActions();
+    connectDialogs();
+    actions_->fill(*menuBar(), undo_, redo_);
+    makeToolBar();
+    layOut();
+    restorePlaces();
+
+    connect(&photos_, &ImageListController::EnableDisableWatermarkControls, this,
+            &MainWindow::EnableDisableWatermarkControls);
+    connect(&photos_, &ImageListController::alert, this,
+            [this](const QString& title, const QString& text) { showAlert(this, title, text); });
+    connect(&photos_.model(), &QAbstractItemModel::dataChanged, this, &MainWindow::showStatus);
+    connect(&document_, &WatermarkDocument::changed, this, &MainWindow::EnableDisableWatermarkControls);
+    connect(&document_.history(), &QUndoStack::indexChanged, this,
+            &MainWindow::EnableDisableWatermarkControls);
+    connect(previewView_, &PreviewView::scaleChanged, this, &MainWindow::showStatus);
+    connect(preview_, &PhotoPreview::shown, this, &MainWindow::showStatus);
+    EnableDisableWatermarkControls();
+}
+
+MainWindow::~MainWindow() {
+    document_.history().disconnect(this);
+    // Whatever refers to the document and the photo list goes before them.
+    delete takeCentralWidget();
+    delete controller_;
+    delete preview_;
+    delete watermarks_;
+}
+
+// ---- building
+
+void MainWindow::connectActions() {
+    const auto on = [this](Act act, auto* object, auto member) {
+        actions_->connectTo(act, [object, member] { (object->*member)(); });
+    };
+    on(Act::AddPhotos, controller_, &ZeltoController::Addimages);
+    on(Act::RemovePhoto, &photos_, &ImageListController::RemoveSelectedImage);
+    on(Act::RemoveAllPhotos, &photos_, &ImageListController::RemoveAllImages);
+    on(Act::CheckAll, &photos_, &ImageListController::CheckAllImages);
+    on(Act::UncheckAll, &photos_, &ImageListController::UncheckAllImages);
+    on(Act::ToggleCheck, &photos_, &ImageListController::ToggleCheck);
+    on(Act::MoveUp, watermarks_, &WatermarkController::MoveWatermarkUp);
+    on(Act::MoveDown, watermarks_, &WatermarkController::MoveWatermarkDown);
+    on(Act::RemoveWatermark, watermarks_, &WatermarkController::RemoveSelectedWatermarks);
+    on(Act::RemoveAllWatermarks, watermarks_, &WatermarkController::RemoveAllWatermarks);
+    on(Act::ZoomIn, controller_, &ZeltoController::ZoomIn);
+    on(Act::ZoomOut, controller_, &ZeltoController::ZoomOut);
+    on(Act::FitToScreen, controller_, &ZeltoController::FittoScreen);
+    on(Act::ActualSize, controller_, &ZeltoController::ActualSize);
+    on(Act::FullScreen, controller_, &ZeltoController::ShowFullScreenImage);
+    on(Act::Quit, static_cast<QWidget*>(this), &QWidget::close);
+    actions_->connectTo(Act::EditWatermark,
+                        [this] { watermarks_->openEditor(watermarks_->selection().currentIndex().row()); });
+    actions_->connectTo(Act::About, [this] {
+        QMessageBox::about(
+            this, tr("About Zelto"),
+            tr("<h3>Zelto %1</h3><p>Watermarks for batches of photos.</p>"
+               "<p>Free software under the GNU General Public License, version 3 or later.</p>")
+                .arg(QStringLiteral(ZELTO_VERSION)));
+    });
+
+    struct Opener {
+        Act act;
+        EditorKind kind;
+        void (WatermarkController::*open)();
+    };
+    constexpr Opener Openers[] = {
+        {Act::AddImage, EditorKind::Image, &WatermarkController::OpenImageWatermarkSettings},
+        {Act::AddText, EditorKind::Text, &WatermarkController::OpenTextWatermarkSettings},
+        {Act::AddShape, EditorKind::Shape, &WatermarkController::OpenShapeWatermarkSettings},
+        {Act::AddQrCode, EditorKind::QrCode, &WatermarkController::AddQrCode},
+        {Act::AddFilter, EditorKind::Filter, &WatermarkController::OpenFilterWindow},
+        {Act::AddEffects, EditorKind::Effects, &WatermarkController::OpenEffectsSettings},
+        {Act::AddCopyright, EditorKind::Copyright, &WatermarkController::OpenMetadataWindow},
+    };
+    for (const Opener& opener : Openers) {
+        if (watermarks_->canOpen(opener.kind)) on(opener.act, watermarks_, opener.open);
+    }
+
+    photoList_->addAction((*actions_)[Act::RemovePhoto]);
+    undo_->setShortcut(QKeySequence::Undo);
+    undo_->setIcon(lineIcon(QLatin1String("undo")));
+    redo_->setShortcut(QKeySequence::Redo);
+    redo_->setIcon(lineIcon(QLatin1String("redo")));
+}
+
+// What there is a dialog for can be done.
+void MainWindow::connectDialogs() {
+    const DialogSet& dialogs = controller_->dialogs();
+    if (dialogs.chooseFolder) {
+        actions_->connectTo(Act::AddFolder, [this] { controller_->OpenAddFolderWindow(); });
+    }
+    if (dialogs.outputOptions) actions_->connectTo(Act::Start, [this] { controller_->StartWatermarking(); });
+    if (dialogs.tips) actions_->connectTo(Act::Tips, [this] { controller_->ShowTips(); });
+    if (dialogs.versionCheck) {
+        actions_->connectTo(Act::VersionCheck, [this] { controller_->CheckLatestVersion(); });
+    }
+    struct LibraryRow {
+        Act act;
+        const std::function<void(QWidget*, WatermarkController&)>& dialog;
+    };
+    for (const LibraryRow& row : {LibraryRow{Act::SaveSettings, dialogs.saveSettings},
+                                  LibraryRow{Act::OpenSettings, dialogs.openSettings}}) {
+        if (row.dialog)
+            actions_->connectTo(row.act, [this, &dialog = row.dialog] { dialog(this, *watermarks_); });
+    }
+    if (dialogs.importSettings) {
+        actions_->connectTo(Act::ImportSettings, [this, &dialogs] { dialogs.importSettings(this); });
+    }
+    if (dialogs.exportSettings) {
+        actions_->connectTo(Act::ExportSettings, [this, &dialogs] { dialogs.exportSettings(this); });
+    }
+}
+
+void MainWindow::makeToolBar() {
+    QToolBar* bar = addToolBar(tr("Toolbar"));
+    bar->setObjectName(QStringLiteral("Toolbar"));
+    bar->setMovable(false);
+    bar->setIconSize({22, 22});
+    const auto add = [&](std::initializer_list<Act> acts) {
+        for (const Act act : acts) bar->addAction((*actions_)[act]);
+    };
+    add({Act::AddPhotos, Act::AddFolder, Act::RemovePhoto});
+    bar->addSeparator();
+    bar->addActions({undo_, redo_});
+    bar->addSeparator();
+    add({Act::OpenSettings, Act::SaveSettings});
+    bar->addWidget(makeSpacer(bar));
+    add({Act::ZoomOut, Act::ZoomIn, Act::FitToScreen, Act::ActualSize, Act::FullScreen});
+    bar->addWidget(makeSpacer(bar));
+
+    const QAction* start = (*actions_)[Act::Start];
+    start_->setObjectName(QStringLiteral("StartWatermark"));
+    start_->setText(tr("Start"));
+    start_->setIcon(accentIcon(QLatin1String("start")));
+    takeAccent(*start_);
+    start_->setToolTip(start->toolTip());
+    start_->setAccessibleName(tr("Start Watermarking"));
+    QFont bold = start_->font();
+    bold.setBold(true);
+    start_->setFont(bold);
+    start_->setIconSize({18, 18});
+    start_->setMinimumSize(110, 34);
+    connect(start_, &QPushButton::clicked, start, &QAction::trigger);
+    const auto follow = [this, start] { start_->setEnabled(start->isEnabled()); };
+    connect(start, &QAction::changed, start_, follow);
+    follow();
+    bar->addWidget(start_);
+}
+
+void MainWindow::layOut() {
+    auto* photoColumn = new QWidget(this);
+    auto* photoRows = new QVBoxLayout(photoColumn);
+    photoRows->setContentsMargins(0, 0, 0, 0);
+    photoRows->setSpacing(0);
+    photoRows->addWidget(makeHeading(tr("Photos"), photoColumn));
+    photoRows->addWidget(photoList_);
+
+    middle_->addWidget(new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], middle_));
+    middle_->addWidget(previewView_);
+
+    columns_->addWidget(photoColumn);
+    columns_->addWidget(middle_);
+    columns_->addWidget(watermarkPanel_);
+    columns_->setStretchFactor(1, 1);
+    columns_->setChildrenCollapsible(false);
+    columns_->setHandleWidth(1);
+    columns_->setSizes({290, 720, 270});
+
+    auto* rows = new QVBoxLayout(mainView_);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(columns_, 1);
+    rows->addWidget(processing_);
+    setCentralWidget(mainView_);
+    statusBar()->addWidget(photoCount_, 1);
+    statusBar()->addPermanentWidget(zoom_);
+}
+
+// ---- state
+
+void MainWindow::EnableDisableWatermarkControls() {
+    const bool hasPhotos = photos_.count() > 0;
+    actions_->update(
+        {.hasPhotos = hasPhotos, .hasRows = watermarks_->model().rowCount() > 0, .isRunning = isRunning_});
+    middle_->setCurrentIndex(hasPhotos ? 1 : 0);
+    photoList_->setEnabled(!isRunning_);
+    watermarkPanel_->setEnabled(!isRunning_);
+    previewView_->setEnabled(!isRunning_);
+    undo_->setEnabled(!isRunning_ && document_.history().canUndo());
+    redo_->setEnabled(!isRunning_ && document_.history().canRedo());
+    showStatus();
+}
+
+void MainWindow::EnableControls() {
+    isRunning_ = false;
+    EnableDisableWatermarkControls();
+}
+
+void MainWindow::DisableControls() {
+    isRunning_ = true;
+    EnableDisableWatermarkControls();
+}
+
+void MainWindow::ShowProcessingControls() {
+    processing_->show();
+}
+
+void MainWindow::HideProcessingControls() {
+    processing_->hide();
+}
+
+void MainWindow::showStatus() {
+    const auto checked = std::count_if(photos_.images().begin(), photos_.images().end(),
+                                       [](const Image& photo) { return photo.ApplyWatermark; });
+    const int count = photos_.count();
+    photoCount_->setText(count == 0
+                             ? tr("No photos")
+                             : photoCount(count) + QStringLiteral(" · ") + tr("%1 checked").arg(checked));
+    const auto& shown = previewView_->shown();
+    const QString times = QStringLiteral(" × ");
+    zoom_->setText(shown ? QString::number(shown->scene.photoSize.width()) + times +
+                               QString::number(shown->scene.photoSize.height()) + QStringLiteral(" · ") +
+                               tr("%1 %").arg(std::lround(previewView_->scale() * 100.0))
+                         : QString());
+}
+
+void MainWindow::restorePlaces() {
+    resize(StartSize);
+    if (const auto geometry = storedPreference(preference::WindowGeometry)) restoreGeometry(*geometry);
+    if (const auto columns = storedPreference(preference::WindowColumns)) columns_->restoreState(*columns);
+}
+
+void MainWindow::keepPlaces() const {
+    setPreference(preference::WindowGeometry, saveGeometry());
+    setPreference(preference::WindowColumns, columns_->saveState());
+}
+
+// ---- events
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!isRunning_ && mainView_->draggingEntered(*event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    mainView_->draggingExited();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    if (mainView_->performDragOperation(*event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (mayClose_ && !mayClose_()) {
+        event->ignore();
+        return;
+    }
+    keepPlaces();
+    controller_->keepLastWatermark();
+    QMainWindow::closeEvent(event);
+}
+
+}  // namespace zelto

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window: the photo list on the left, the preview in the middle, the watermark list on the right,
+// one toolbar, and the menus. It owns the document, the controllers and the views, connects them, and decides
+// what can be done when. Main thread only.
+#pragma once
+
+#include "app/common/my_global_instance.h"
+#include "app/photos/image_list_controller.h"
+#include "app/photos/photo_list_view.h"
+#include "app/preview/photo_preview.h"
+#include "app/preview/preview_view.h"
+#include "app/watermarks/editor_set.h"
+#include "app/watermarks/watermark_controller.h"
+#include "app/watermarks/watermark_document.h"
+#include "app/window/dialog_set.h"
+#include "app/window/main_view.h"
+#include "app/window/processing_bar.h"
+#include "app/window/watermark_panel.h"
+#include "app/window/window_actions.h"
+#include "app/window/zelto_controller.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QPushButton;
+class QSplitter;
+class QStackedWidget;
+
+namespace zelto {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // `shared` outlives the window.
+    MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet editors);
+    ~MainWindow() override;
+
+    WatermarkDocument& document() { return document_; }
+    ImageListController& photos() { return photos_; }
+    WatermarkController& watermarks() { return *watermarks_; }
+    ZeltoController& controller() { return *controller_; }
+    PhotoPreview& preview() { return *preview_; }
+    PreviewView& previewView() { return *previewView_; }
+    PhotoListView& photoList() { return *photoList_; }
+    QListView& watermarkList() { return watermarkPanel_->list(); }
+    MainView& mainView() { return *mainView_; }
+    WindowActions& actions() { return *actions_; }
+    ProcessingBar& processing() { return *processing_; }
+
+    // What a run does to the controls: those that change anything are off while it is under way.
+    void EnableControls();
+    void DisableControls();
+    void ShowProcessingControls();
+    void HideProcessingControls();
+    // Asks `mayClose` before the window closes; no means that it stays.
+    void setCloseQuestion(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
+
+    // Switches controls by whether there are photos, rows and a run.
+    void EnableDisableWatermarkControls();
+
+  protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void layOut();
+    void makeToolBar();
+    void connectActions();
+    void connectDialogs();
+    void showStatus();
+    void restorePlaces();
+    void keepPlaces() const;
+
+    WatermarkDocument document_;
+    ImageListController photos_;
+    WatermarkController* watermarks_;
+    WindowActions* actions_;
+    PreviewView* previewView_;
+    PhotoPreview* preview_;
+    ZeltoController* controller_;
+    MainView* mainView_;
+    PhotoListView* photoList_;
+    WatermarkPanel* watermarkPanel_;
+    ProcessingBar* processing_;
+    QSplitter* columns_;
+    QStackedWidget* middle_;
+    QPushButton* start_;
+    QLabel* photoCount_;
+    QLabel* zoom_;
+    QAction* undo_;
+    QAction* redo_;
+    std::function<bool()> mayClose_;
+    bool isRunning_ = false;
+};
+
+}  // namespace zelto

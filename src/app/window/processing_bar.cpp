@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/processing_bar.h"
+
+#include "app/common/icons.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QStyle>
+
+namespace zelto {
+
+// A line of text that takes the room it is given and shows what fits into it, whole in its tool tip.
+class ElidedLabel : public QWidget {
+  public:
+    explicit ElidedLabel(QWidget* parent) : QWidget(parent) {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+    void setText(const QString& text) {
+        text_ = text;
+        setToolTip(text);
+        setAccessibleName(text);
+        update();
+    }
+    QSize sizeHint() const override { return {200, fontMetrics().height()}; }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                              fontMetrics().elidedText(text_, Qt::ElideMiddle, width()), foregroundRole());
+    }
+
+  private:
+    QString text_;
+};
+
+ProcessingBar::ProcessingBar(QWidget* parent)
+    : QWidget(parent),
+      photo_(new ElidedLabel(this)),
+      progress_(new QProgressBar(this)),
+      pace_(new QLabel(this)),
+      pause_(new QPushButton(this)),
+      cancel_(new QPushButton(lineIcon(QLatin1String("stop")), tr("Cancel"), this)) {
+    progress_->setAccessibleName(tr("Progress"));
+    progress_->setFormat(tr("%v of %m"));
+    // Its words change while it runs; the buttons beside it are not to move.
+    pace_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1 photos/s, %2 left").arg(888).arg(88888)));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(10, 6, 10, 6);
+    row->addWidget(photo_, 1);
+    row->addWidget(progress_, 2);
+    row->addWidget(pace_);
+    row->addWidget(pause_);
+    row->addWidget(cancel_);
+    setPaused(false);
+    hide();
+}
+
+void ProcessingBar::begin(int rows) {
+    progress_->setRange(0, rows);
+    setProgress(0);
+    setPhoto({});
+    setPace({});
+}
+
+void ProcessingBar::setProgress(int done) {
+    progress_->setValue(done);
+}
+
+void ProcessingBar::setPhoto(const QString& name) {
+    photo_->setText(name);
+}
+
+void ProcessingBar::setPace(const QString& pace) {
+    pace_->setText(pace);
+}
+
+void ProcessingBar::setPaused(bool paused) {
+    pause_->setText(paused ? tr("Resume") : tr("Pause"));
+    pause_->setIcon(lineIcon(paused ? QLatin1String("start") : QLatin1String("pause")));
+}
+
+}  // namespace zelto

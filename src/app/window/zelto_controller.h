@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The actions of the main window that belong neither to the photo list nor to the watermark list: looking at
+// the preview, adding files and folders, starting a run, tips and the version check. Thin: it opens the
+// dialogs it was given and hands on what they return. Main thread only.
+#pragma once
+
+#include "app/window/dialog_set.h"
+
+#include <QObject>
+#include <QWidget>
+
+namespace zelto {
+
+class ImageListController;
+class MyGlobalInstance;
+class PhotoPreview;
+class PreviewView;
+class WatermarkController;
+
+class ZeltoController : public QObject {
+    Q_OBJECT
+
+  public:
+    // What the program shares and the dialogs it has; `window` is the parent of the dialogs. All outlive the
+    // controller.
+    ZeltoController(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
+                    PhotoPreview& preview, MyGlobalInstance& shared, DialogSet dialogs, QWidget* window);
+
+    const DialogSet& dialogs() const { return dialogs_; }
+
+    void ZoomIn();
+    void ZoomOut();
+    void FittoScreen();
+    void ActualSize();
+    void ShowFullScreenImage();
+
+    void Addimages();
+    void OpenAddFolderWindow();
+    // Adds the photos of a folder once they are found; the window goes on meanwhile.
+    void ImportImagesFromFolder(const QString& folder, bool includeSubFolders, const QString& extensionList);
+    void StartWatermarking();
+    // Saves a stack that no run and no setting has kept as "Last Watermark".
+    void keepLastWatermark();
+    void ShowTips();
+    void CheckLatestVersion();
+
+  Q_SIGNALS:
+    // The user has confirmed the options of a run: it is to begin.
+    void ProcessImaging(const zelto::OutputOptions& options);
+
+  private:
+    ImageListController& photos_;
+    WatermarkController& watermarks_;
+    PreviewView& view_;
+    PhotoPreview& preview_;
+    MyGlobalInstance& shared_;
+    DialogSet dialogs_;
+    QWidget* window_;
+};
+
+}  // namespace zelto

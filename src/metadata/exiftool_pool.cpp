@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "metadata/exiftool_pool.h"
+
+#include "platform/application_folders.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <utility>
+
+namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(exiftoolLog, "zelto.exiftool")
+
+}  // namespace
+
+QString exiftoolProgram() {
+    const QString named = qEnvironmentVariable("ZELTO_EXIFTOOL");
+    return named.isEmpty() ? resourceFolder() + QStringLiteral("/Exif/exiftool") : named;
+}
+
+ExiftoolPool::ExiftoolPool(int processes, QString program)
+    : program_(std::move(program)), free_(static_cast<std::size_t>(std::max(processes, 1))) {}
+
+ExiftoolPool::~ExiftoolPool() {
+    for (const auto& process : free_) {
+        if (process) process->finish();
+    }
+}
+
+std::unique_ptr<ExiftoolProcess> ExiftoolPool::take() {
+    std::unique_lock lock(mutex_);
+    freed_.wait(lock, [this] { return !free_.empty(); });
+    auto process = std::move(free_.back());
+    free_.pop_back();
+    return process;
+}
+
+void ExiftoolPool::giveBack(std::unique_ptr<ExiftoolProcess> process) {
+    const std::lock_guard lock(mutex_);
+    // Running ones last: they are taken first, so that no more are started than are needed.
+    free_.insert(process ? free_.end() : free_.begin(), std::move(process));
+    freed_.notify_one();
+}
+
+tl::unexpected<Error> ExiftoolPool::failed(const QString& what) const {
+    return fail(ErrorCode::ProgramFailed, QStringLiteral("\"%1\" %2.").arg(program_, what), program_);
+}
+
+void ExiftoolPool::warmUp() {
+    if (!QFileInfo(program_).isExecutable()) return;
+    auto process = take();
+    if (!process) process = ExiftoolProcess::start(program_).value_or(nullptr);
+    giveBack(std::move(process));
+}
+
+Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::milliseconds timeout) {
+    if (!QFileInfo(program_).isExecutable()) {
+        std::call_once(missingIsLogged_, [this] {
+            qCWarning(exiftoolLog, "exiftool is missing (\"%s\"): outputs are written without metadata.",
+                      qUtf8Printable(program_));
+        });
+        return failed(QStringLiteral("is missing"));
+    }
+    const int number = [this] {
+        const std::lock_guard lock(mutex_);
+        return ++lastNumber_;
+    }();
+    const Result<QByteArray> command = exiftoolCommand(arguments, number);
+    if (!command) return tl::unexpected(command.error());
+
+    auto process = take();
+    Result<QString> result = failed(QStringLiteral("ended while it was needed"));
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        if (!process) {
+            Result<std::unique_ptr<ExiftoolProcess>> started = ExiftoolProcess::start(program_);
+            if (!started) {
+                result = tl::unexpected(started.error());
+                break;
+            }
+            process = *std::move(started);
+        }
+        const auto answer = process->run(*command, number, std::chrono::steady_clock::now() + timeout);
+        if (answer) {
+            result = QString::fromUtf8(*answer);
+            break;
+        }
+        process->kill();
+        process.reset();
+        if (answer.error() == ExiftoolProcess::Failure::TimedOut) {
+            result = failed(QStringLiteral("did not answer in time"));
+            break;
+        }
+    }
+    giveBack(std::move(process));
+    return result;
+}
+
+}  // namespace zelto

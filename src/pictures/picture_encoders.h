@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The encoder of each file format, one a file. encodePicture() chooses among them after it has checked what
+// they all rely on: a picture of pixels, RGB32 or premultiplied ARGB32, within the format's limits. They read
+// it row by row, so that no second whole picture is ever made. Errors: ErrorCode::CannotWrite with the
+// library's own words. Any thread.
+#pragma once
+
+#include "pictures/picture_writer.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <new>
+
+namespace zelto {
+
+Result<QByteArray> encodeJpeg(const QImage& picture, const EncodeOptions& options);
+// The colours alone, as if the picture were opaque, for a format that keeps its transparency elsewhere.
+Result<QByteArray> encodeJpegColours(const QImage& picture, int quality);
+Result<QByteArray> encodePng(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeTiff(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeBmp(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeGif(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodePdf(const QImage& picture, const EncodeOptions& options);
+
+// For the callbacks that libraries hand their bytes to: false where memory does not suffice, since no exception may
+// pass through a library written in C.
+inline bool appendBytes(QByteArray& bytes, const void* data, qsizetype size) noexcept {
+    try {
+        bytes.append(static_cast<const char*>(data), size);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+}  // namespace zelto

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/machine_limits.h"
+
+#include "platform/path_parts.h"
+
+#include <QFile>
+
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Where the groups of a line of a membership file lie, and the file in each that holds its limit.
+struct Hierarchy {
+    QString root;
+    QString group;
+    QString limitFile;
+};
+
+// "0::/group" in version 2, "4:cpu,memory:/group" in version 1.
+std::optional<Hierarchy> memoryHierarchy(const QByteArray& line, const QString& mountPoint) {
+    const QList<QByteArray> parts = line.trimmed().split(':');
+    if (parts.size() < 3) return std::nullopt;
+    const QString group = QFile::decodeName(parts.mid(2).join(':'));
+    if (parts[1].isEmpty()) return Hierarchy{mountPoint, group, QStringLiteral("memory.max")};
+    if (!parts[1].split(',').contains("memory")) return std::nullopt;
+    return Hierarchy{joinedPath(mountPoint, QStringLiteral("memory")), group,
+                     QStringLiteral("memory.limit_in_bytes")};
+}
+
+}  // namespace
+
+std::optional<qint64> controlGroupMemoryLimit(const QByteArray& membership, const QString& mountPoint) {
+    std::optional<qint64> smallest;
+    for (const QByteArray& line : membership.split('\n')) {
+        const std::optional<Hierarchy> hierarchy = memoryHierarchy(line, mountPoint);
+        if (!hierarchy) continue;
+        QString group = hierarchy->group;
+        while (true) {
+            bool isNumber = false;
+            const QString file = joinedPath(joinedPath(hierarchy->root, group), hierarchy->limitFile);
+            const qint64 limit = contents(file).trimmed().toLongLong(&isNumber);
+            if (isNumber && limit > 0) smallest = std::min(limit, smallest.value_or(limit));
+            if (group.isEmpty() || group == QLatin1String("/")) break;
+            group = withoutLastPathComponent(group);
+        }
+    }
+    return smallest;
+}
+
+qint64 availableMemory() {
+    const qint64 machine = qint64{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
+    const auto limit = controlGroupMemoryLimit(contents(QStringLiteral("/proc/self/cgroup")),
+                                               QStringLiteral("/sys/fs/cgroup"));
+    return std::min(machine, limit.value_or(machine));
+}
+
+}  // namespace zelto

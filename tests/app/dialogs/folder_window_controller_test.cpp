@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/folder_window_controller.h"
+
+#include "app/dialogs/standard_dialogs.h"
+#include "app/photos/folder_import.h"
+#include "app/window/main_window.h"
+#include "platform/preferences.h"
+#include "support/dialogs.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(AddFolderDialog, AsksForAFolderAndAFormat) {
+    removePreference(preference::LastAddedFolder);
+    struct Row {
+        const char* folder;
+        const char* unticked;
+        const char* message;  // none where the folder is taken
+        const char* extensions;
+    };
+    const Row rows[] = {
+        {"", "",
+         "Input Folder cannot be empty|Please select the folder from where the Images are to be added|OK",
+         ""},
+        {"/p", "JPEG PNG TIFF GIF BMP",
+         "File Extension list cannot be empty|Please select atleast one Extension to be included|OK", ""},
+        {"/p", "", nullptr, ".jpg;.jpeg;.png;.tiff;.tif;.gif;.bmp;"},
+        {"/p", "JPEG TIFF GIF", nullptr, ".png;.bmp;"},
+    };
+    AnsweredMessages messages;
+    for (const Row& row : rows) {
+        FolderWindowController dialog;
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        control<QLineEdit>(dialog, "Folder").setText(QLatin1String(row.folder));
+        for (const QByteArray& format : QByteArray(row.unticked).split(' ')) {
+            if (!format.isEmpty()) click(dialog, format.constData());
+        }
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        EXPECT_EQ(messages.take().join(u' '), QLatin1String(row.message));
+        EXPECT_EQ(dialog.isVisible(), row.message != nullptr);
+        EXPECT_TRUE(row.message != nullptr || dialog.GetExtensionList() == QLatin1String(row.extensions));
+        if (dialog.isVisible()) QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_EQ(dialog.GetIputFoldername(), QLatin1String(row.message == nullptr ? row.folder : ""));
+    }
+}
+
+class AddFolder : public ::testing::Test {
+  protected:
+    AddFolder() {
+        for (const QString& name : {u"b.jpg"_s, u"a.png"_s, u"c.gif"_s, u"sub/d.tif"_s, u"sub/e.txt"_s}) {
+            QDir().mkpath(QFileInfo(folder.filePath(name)).path());
+            EXPECT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
+        }
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(AddFolder, TheWindowAddsWhatTheFolderHolds) {
+    MyGlobalInstance shared;
+    MainWindow window(shared, standardDialogs(), {});
+    window.show();
+    for (const bool withSubFolders : {false, true}) {
+        onModal<FolderWindowController>([&](FolderWindowController& dialog) {
+            if (withSubFolders) {
+                EXPECT_EQ(dialog.GetIputFoldername(), folder.path()) << "where photos were last added from";
+                click(dialog, "Include sub-folders");
+            } else {
+                control<QLineEdit>(dialog, "Folder").setText(folder.path());
+            }
+            click(dialog, "Add Photos");
+        });
+        window.actions()[Act::AddFolder]->trigger();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.photos().count() == (withSubFolders ? 3 : 2); }));
+    }
+    QStringList names;
+    for (const Image& photo : window.photos().images())
+        names.append(QDir(folder.path()).relativeFilePath(photo.ImagePath));
+    EXPECT_EQ(names, QStringList({u"a.png"_s, u"b.jpg"_s, u"sub/d.tif"_s}));
+}
+
+TEST_F(AddFolder, AScanThatIsBrokenOffAddsNothing) {
+    for (const bool breaksOff : {false, true}) {
+        QWidget window;
+        auto* import = new FolderImport(folder.path(), true, u".jpg;"_s, &window, nullptr);
+        QSignalSpy found(import, &FolderImport::found);
+        QSignalSpy ended(import, &QObject::destroyed);
+        if (breaksOff) window.findChild<QProgressDialog*>()->cancel();
+        ASSERT_TRUE(ended.wait());
+        EXPECT_EQ(found.count(), breaksOff ? 0 : 1);
+    }
+}
+
+}  // namespace
+}  // namespace zelto

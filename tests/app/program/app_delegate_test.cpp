@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/program/app_delegate.h"
+
+#include "app/dialogs/standard_dialogs.h"
+#include "persistence/setting_file.h"
+#include "platform/application_folders.h"
+#include "platform/preferences.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+using ::testing::ElementsAre;
+
+WatermarkStack stackOf(const QString& text) {
+    WatermarkStack stack;
+    Watermark watermark(watermark_type::Text);
+    watermark.Text = text;
+    stack.Watermarks.push_back(watermark);
+    return stack;
+}
+
+// Starts the program with a tips dialog that notes when it was shown.
+class StartUp : public ::testing::Test {
+  protected:
+    StartUp() {
+        settings = applicationFolder(SettingsFolder).value_or(QString());
+        dialogs = standardDialogs();
+        dialogs.tips = [this](QWidget* parent, MyGlobalInstance& shared) {
+            ++tipsShown;
+            tipSeen = shared.GetCurrentTip(shared.CurrentTip);
+            wasVisible = parent->isVisible();
+            rowsThen = delegate->window().document().count();
+        };
+    }
+
+    void start(const StartRequest& request = {}) {
+        delegate = std::make_unique<AppDelegate>(dialogs, EditorSet());
+        delegate->start(request);
+    }
+
+    void save(const QString& name, const WatermarkStack& stack) {
+        ASSERT_TRUE(SaveWatermarkSettings(stack, settings + name + SettingFileExtension).has_value());
+    }
+
+    QStringList texts() {
+        QStringList texts;
+        for (const Watermark& watermark : delegate->window().document().watermarks())
+            texts.append(watermark.Text);
+        return texts;
+    }
+
+    QString settings;
+    DialogSet dialogs;
+    std::unique_ptr<AppDelegate> delegate;
+    int tipsShown = 0;
+    QString tipSeen;
+    bool wasVisible = false;
+    int rowsThen = -1;
+};
+
+TEST_F(StartUp, TheFirstStartMakesTheSettingsFolderAndShowsTips) {
+    ASSERT_TRUE(QDir(settings).removeRecursively());
+    start();
+    EXPECT_TRUE(delegate->CurrentInstance().FirstRun);
+    EXPECT_TRUE(QFileInfo(settings).isDir());
+    EXPECT_EQ(storedPreference(preference::SettingDirectory), settings);
+    EXPECT_EQ(storedPreference(preference::FirstRun), false);
+    EXPECT_EQ(tipsShown, 1);
+    EXPECT_FALSE(tipSeen.isEmpty());
+    EXPECT_TRUE(wasVisible);
+    setPreference(preference::ShowTips, false);
+    start();
+    EXPECT_FALSE(delegate->CurrentInstance().FirstRun);
+    EXPECT_EQ(tipsShown, 1);
+}
+
+TEST_F(StartUp, TheAutoloadSettingIsLoadedAfterTheTipsAndCannotBeUndone) {
+    save(QStringLiteral("Mine"), stackOf(QStringLiteral("hello")));
+    setPreference(preference::AutoLoadSetting, QStringLiteral("Mine"));
+    start();
+    EXPECT_EQ(rowsThen, 0);
+    EXPECT_THAT(texts(), ElementsAre(QStringLiteral("hello")));
+    EXPECT_EQ(delegate->window().watermarks().CurrentWatermark(), -1);
+    EXPECT_FALSE(delegate->window().document().history().canUndo());
+}
+
+TEST_F(StartUp, AnAutoloadThatIsNoFileIsPassedOver) {
+    setPreference(preference::AutoLoadSetting, QStringLiteral("Gone"));
+    start();
+    EXPECT_TRUE(texts().isEmpty());
+    ASSERT_TRUE(QDir().mkpath(settings + QStringLiteral("Folder") + SettingFileExtension));
+    setPreference(preference::AutoLoadSetting, QStringLiteral("Folder"));
+    start();
+    EXPECT_TRUE(texts().isEmpty());
+}
+
+TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
+    save(QStringLiteral("Mine"), stackOf(QStringLiteral("by name")));
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("other.zcs"));
+    ASSERT_TRUE(SaveWatermarkSettings(stackOf(QStringLiteral("by path")), file).has_value());
+    for (const char* name : {"b.jpg", "a.png", "note.txt"}) {
+        QFile photo(folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(photo.open(QFile::WriteOnly));
+    }
+    start({QStringLiteral("Mine"), {}});
+    EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by name")));
+    start({file, {folder.path(), QStringLiteral("/elsewhere/c.bmp")}});
+    EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
+    QStringList photos;
+    for (const Image& photo : delegate->window().photos().images()) photos.append(photo.ImagePath);
+    EXPECT_THAT(photos,
+                ElementsAre(folder.filePath(QStringLiteral("a.png")),
+                            folder.filePath(QStringLiteral("b.jpg")), QStringLiteral("/elsewhere/c.bmp")));
+}
+
+TEST_F(StartUp, ASettingWithCopyrightTakesItFromItsFile) {
+    WatermarkStack stack = stackOf(QStringLiteral("a"));
+    stack.Metadata = true;
+    save(QStringLiteral("Mine"), stack);
+    setPreference(preference::AutoLoadSetting, QStringLiteral("Mine"));
+    start();
+    ASSERT_TRUE(delegate->window().watermarks().Metadata().has_value());
+    EXPECT_TRUE(delegate->window().document().state().Stack.Metadata);
+    EXPECT_EQ(delegate->window().watermarks().model().rowCount(), 2);
+}
+
+TEST(Tips, EachIsDrawnByItsPlaceAndTheLastIsFollowedByTheFirst) {
+    MyGlobalInstance shared;
+    shared.ReadTips(
+        "<Tips><Tip ID=\"0\"><Text>zero</Text></Tip><Tip ID=\"1\">one</Tip><Tip ID=\"2\">two</Tip></Tips>");
+    EXPECT_EQ(shared.Nums.size(), 3);
+    quint32 drawn = 7;
+    shared.GetShuffledArray(3, [&] { return drawn++; });
+    // 7 mod 3, 1 + 8 mod 2, 2 + 9 mod 1: a tip may come twice and another not at all.
+    EXPECT_THAT(shared.Nums.values(),
+                ElementsAre(QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2")));
+    EXPECT_EQ(shared.GetCurrentTip(0), QStringLiteral("one"));
+    EXPECT_EQ(shared.nextTip(), QStringLiteral("one"));
+    EXPECT_EQ(shared.nextTip(), QStringLiteral("two"));
+    EXPECT_EQ(shared.nextTip(), QStringLiteral("one"));
+    EXPECT_EQ(shared.CurrentTip, 0);
+    shared.ReadTips("<Tips><Tip ID=\"0\">cut sho");
+    EXPECT_TRUE(shared.Tips.isEmpty());
+    EXPECT_TRUE(shared.Nums.isEmpty());
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/run/run_controller.h"
+
+#include "app/run/run_window.h"
+#include "persistence/setting_file.h"
+#include "pictures/picture_reader.h"
+#include "platform/preferences.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::ElementsAre;
+
+constexpr auto Succeeded = "Watermark process completed successfully";
+constexpr auto Failed =
+    "Watermark process completed but some Photos produced Error\n"
+    "Double Click the Image Entry to know the problem";
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
+    struct Row {
+        const char* what;
+        QString photos;
+        std::function<void(OutputOptions&)> choose;
+        QString statuses;
+        const char* summary;
+        QString opened;
+        QStringList revealed;
+    };
+    const Row rows[] = {
+        {"one is not checked",
+         u"gug"_s,
+         [](auto&) {},
+         u"w.w"_s,
+         Succeeded,
+         {},
+         {u"photo0.png"_s, u"photo2.png"_s}},
+        {"one cannot be read", u"gb"_s, [](auto&) {}, u"wx"_s, Failed, {}, {u"photo0.png"_s}},
+        {"none is checked", u"uu"_s, [](auto&) {}, u".."_s, Succeeded, {}, {}},
+        {"one document",
+         u"gg"_s,
+         [](OutputOptions& o) {
+             o.OutputFormat = u"pdf"_s;
+             o.CombineToSinglePDF = true;
+         },
+         u"ww"_s,
+         Succeeded,
+         u"WatermarkedPhotos.pdf"_s,
+         {}},
+        {"folders kept",
+         u"gg"_s,
+         [](OutputOptions& o) { o.KeepDirectoryStructure = true; },
+         u"ww"_s,
+         Succeeded,
+         {},
+         {u"in"_s}},
+    };
+    const OutputOptions plain = options;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        window->photos().RemoveAllImages();
+        addPhotos(row.photos);
+        options = plain;
+        row.choose(options);
+        opened.clear();
+        revealed.clear();
+        start();
+        EXPECT_EQ(summary(), QLatin1String(row.summary));
+        EXPECT_EQ(statuses(), row.statuses);
+        const auto below = [&](const QString& name) { return options.OutputPath + u'/' + name; };
+        EXPECT_EQ(opened, row.opened.isEmpty() ? QString() : below(row.opened));
+        QStringList expected;
+        for (const QString& name : row.revealed) expected.append(below(name));
+        EXPECT_EQ(revealed, expected);
+        EXPECT_TRUE(isEnabled(Act::Start));
+        EXPECT_FALSE(window->processing().isVisible());
+    }
+}
+
+TEST_F(RunWindow, AFailedRowTellsWhyWhenItIsDoubleClicked) {
+    addPhotos(u"gb"_s);
+    start();
+    summary();
+    QString text;
+    QTimer::singleShot(100, window.get(), [&] {
+        text = message()->informativeText();
+        answer(u"OK"_s);
+    });
+    PhotoListView& list = window->photoList();
+    const QPoint row = list.visualRect(list.model()->index(1, 0)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(text, QString(DamagedPictureMessage));
+}
+
+TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
+    addPhotos(u"gggg"_s);
+    startGated();
+    EXPECT_FALSE(isEnabled(Act::AddPhotos));
+    EXPECT_FALSE(window->photoList().isEnabled());
+    QPushButton* pause = window->processing().PauseOrResumeProcessing();
+    EXPECT_EQ(pause->text(), u"Pause"_s);
+    QTest::mouseClick(pause, Qt::LeftButton);
+    EXPECT_EQ(pause->text(), u"Resume"_s);
+    letThrough(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return pace() == u"Paused"_s; }, 10000));
+    EXPECT_EQ(statuses(), u"w..."_s);
+
+    ASSERT_TRUE(QFile::remove(options.OutputPath + u"/photo0.png"_s));
+    QTest::mouseClick(pause, Qt::LeftButton);
+    EXPECT_EQ(pause->text(), u"Pause"_s);
+    letThrough(2);
+    EXPECT_TRUE(waitFor(u"ww.."_s));
+    EXPECT_THAT(outputs(), ElementsAre(u"photo0.png"_s, u"photo1.png"_s))
+        << "the paused one is written again";
+
+    QTest::mouseClick(window->processing().CancelProcessing(), Qt::LeftButton);
+    EXPECT_FALSE(window->processing().isVisible());
+    EXPECT_TRUE(isEnabled(Act::AddPhotos));
+    letThrough(2);
+    EXPECT_TRUE(waitFor(u"www."_s)) << "the photo in hand is finished";
+
+    start();
+    letThrough(4);
+    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_EQ(statuses(), u"wwww"_s);
+    EXPECT_EQ(revealed.size(), 4);
+}
+
+TEST_F(RunWindow, ThreeFailuresInARowAskWhetherToGoOn) {
+    for (const bool goesOn : {true, false}) {
+        window->photos().RemoveAllImages();
+        addPhotos(u"bbbbg"_s);
+        start();
+        const QMessageBox* question = message();
+        EXPECT_EQ(question->text(), u"Successive Fail"_s);
+        EXPECT_EQ(question->informativeText(),
+                  u"3 Photos in a row failed to save, Would you like to  continue watermarking?\n"
+                  "We recommend stopping the process and run as administrator.\n"
+                  "Select No to stop watermarking."_s);
+        EXPECT_THAT(buttons(*question), ::testing::UnorderedElementsAre(u"OK"_s, u"No"_s));
+        EXPECT_EQ(statuses(), u"xxx.."_s);
+        answer(goesOn ? u"OK"_s : u"No"_s);
+        if (goesOn) {
+            EXPECT_EQ(summary(), QLatin1String(Failed));
+            EXPECT_EQ(statuses(), u"xxxxw"_s);
+            continue;
+        }
+        EXPECT_TRUE(QTest::qWaitFor([this] { return isEnabled(Act::Start); }, 10000));
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no summary";
+        EXPECT_TRUE(window->processing().isVisible());
+        QTest::mouseClick(window->processing().CancelProcessing(), Qt::LeftButton);
+        EXPECT_FALSE(window->processing().isVisible());
+        EXPECT_EQ(statuses(), u"xxx.."_s);
+    }
+}
+
+TEST_F(RunWindow, ClosingDuringARunAsksAndFinishesThePhotoInHand) {
+    addPhotos(u"ggg"_s);
+    startGated();
+    window->close();
+    QTest::keyClick(message(), Qt::Key_Escape);
+    EXPECT_TRUE(window->isVisible()) << "the safe answer goes on";
+    EXPECT_FALSE(isEnabled(Act::Start));
+    window->close();
+    answer(u"Stop and Quit"_s);
+    EXPECT_FALSE(window->isVisible());
+    destroyRun();
+    EXPECT_THAT(outputs(), ElementsAre(u"photo0.png"_s));
+}
+
+TEST_F(RunWindow, PhotosOfTheListAreOnlyReplacedWhenToldSo) {
+    addPhotos(u"gg"_s);
+    Watermark mark(watermark_type::Shape);
+    mark.SolidColor = Color::black();
+    mark.Width = mark.Height = 20.0F;
+    mark.Transparency = 1.0F;
+    window->watermarks().ReflectWatermark(mark, true);
+    const QString source = path(u"in/photo0.png"_s);
+    const QByteArray original = contentOf(source);
+    const QString elsewhere = options.OutputPath;
+    options.OutputPath = path(u"in"_s);
+
+    start();
+    EXPECT_EQ(message()->text(), u"2 Photos Would Be Replaced"_s);
+    QTest::keyClick(message(), Qt::Key_Return);
+    EXPECT_TRUE(isEnabled(Act::Start)) << "the safe answer does nothing";
+    EXPECT_FALSE(window->processing().isVisible());
+
+    start();
+    options.OutputPath = elsewhere;
+    answer(u"Choose Another Folder"_s);
+    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(contentOf(source), original);
+
+    options.OutputPath = path(u"in"_s);
+    start();
+    answer(u"Replace"_s);
+    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_NE(contentOf(source), original);
+}
+
+TEST_F(RunWindow, KeepsTheStackAndTheLastNumber) {
+    addPhotos(u"ggg"_s);
+    Watermark number(watermark_type::Text);
+    number.Text = u"<<AUTO:#5+2>>"_s;
+    number.FontSize = 12;
+    number.Transparency = 1.0F;
+    window->watermarks().ReflectWatermark(number, true);
+    EXPECT_TRUE(shared.SaveLastWatermark);
+    start();
+    summary();
+    EXPECT_EQ(storedPreference(preference::LastAutoNumber), 9);
+    EXPECT_FALSE(shared.SaveLastWatermark);
+    const Result<WatermarkStack> kept =
+        LoadWatermarkSetting(shared.SettingDirectory + u"Last Watermark.zcs"_s);
+    ASSERT_TRUE(kept.has_value());
+    ASSERT_EQ(kept->Watermarks.size(), 1U);
+    EXPECT_EQ(kept->Watermarks[0].Text, number.Text);
+}
+
+}  // namespace
+}  // namespace zelto

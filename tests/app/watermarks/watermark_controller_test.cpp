@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/watermarks/watermark_controller.h"
+
+#include "app/photos/image_list_controller.h"
+
+#include <QWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+using ::testing::ElementsAre;
+
+Watermark text(const QString& content) {
+    Watermark watermark = WatermarkController::startingWatermark(watermark_type::Text);
+    watermark.Text = content;
+    return watermark;
+}
+
+class WatermarkControllerTest : public ::testing::Test {
+  protected:
+    WatermarkControllerTest() {
+        EditorSet editors;
+        for (const EditorKind kind : {EditorKind::Image, EditorKind::Text, EditorKind::Shape,
+                                      EditorKind::QrCode, EditorKind::Filter, EditorKind::Copyright}) {
+            editors[kind] = [this, kind](const EditorCall& call) {
+                opened.emplace_back(kind, call.controller.CurrentWatermark());
+                if (edit) edit(call.controller);
+            };
+        }
+        watermarks = std::make_unique<WatermarkController>(document, photos, std::move(editors), &window);
+    }
+
+    void add(const Watermark& watermark) {
+        watermarks->resetCurrentWatermarkIndex();
+        watermarks->ReflectWatermark(watermark, true);
+    }
+
+    // What the rows of the list show, checked ones with a "+".
+    QStringList rows() const {
+        QStringList rows;
+        for (int row = 0; row < watermarks->model().rowCount(); ++row) {
+            const QModelIndex index = watermarks->model().index(row);
+            const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+            rows.append((isOn ? QStringLiteral("+") : QStringLiteral("-")) + index.data().toString());
+        }
+        return rows;
+    }
+
+    void select(int row) {
+        watermarks->selection().setCurrentIndex(watermarks->model().index(row),
+                                                QItemSelectionModel::ClearAndSelect);
+    }
+
+    QUndoStack& history() { return document.history(); }
+
+    WatermarkDocument document;
+    QUndoStack photoHistory;
+    ImageListController photos{photoHistory};
+    QWidget window;
+    std::unique_ptr<WatermarkController> watermarks;
+    std::vector<std::pair<EditorKind, int>> opened;
+    std::function<void(WatermarkController&)> edit;
+};
+
+TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
+    Watermark logo(watermark_type::Image);
+    logo.ImagePath = QStringLiteral("/logos/mine.png");
+    add(logo);
+    add(text(QStringLiteral("two\nlines")));
+    for (const std::int32_t shape : {1, 2, 3, 4, 9}) {
+        Watermark watermark(watermark_type::Shape);
+        watermark.ShapeType = shape;
+        add(watermark);
+    }
+    watermarks->AddFilter(8);
+    CopyRightMetaData copyright;
+    watermarks->SetMetadata(copyright);
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Paris"), QStringLiteral("-Copyright"),
+                                   QStringLiteral("+/logos/mine.png"), QStringLiteral("+two lines"),
+                                   QStringLiteral("+Shape - Rectangle"), QStringLiteral("+Shape - Ellipse"),
+                                   QStringLiteral("+Shape - Polygon"), QStringLiteral("+Shape - Line"),
+                                   QStringLiteral("+Shape - ")}));
+}
+
+TEST_F(WatermarkControllerTest, ChecksSwitchTheFilterTheCopyrightAndTheWatermarks) {
+    add(text(QStringLiteral("a")));
+    watermarks->AddFilter(3);
+    CopyRightMetaData copyright;
+    copyright.Enabled = true;
+    watermarks->SetMetadata(copyright);
+    for (int row = 0; row < 3; ++row) watermarks->EnableDisableWatermark(row);
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("-Filter - Earth"), QStringLiteral("-Copyright"),
+                                   QStringLiteral("-a")}));
+    EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
+    EXPECT_FALSE(document.state().Stack.Metadata);
+    EXPECT_FALSE(watermarks->GetWatermarkAtRow(0).IsEnabled);
+    EXPECT_EQ(history().undoText(), QStringLiteral("Switch Watermark Off"));
+    for (int row = 0; row < 3; ++row) watermarks->EnableDisableWatermark(row);
+    EXPECT_EQ(document.state().Stack.SelectedFilter, 3);
+    EXPECT_TRUE(document.state().Stack.Metadata);
+}
+
+TEST_F(WatermarkControllerTest, RemovingARowTakesAwayWhatItShows) {
+    add(text(QStringLiteral("a")));
+    add(text(QStringLiteral("b")));
+    watermarks->AddFilter(3);
+    watermarks->SetMetadata(CopyRightMetaData());
+    watermarks->RemoveWatermark(2);
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Earth"), QStringLiteral("-Copyright"),
+                                   QStringLiteral("+b")}));
+    watermarks->RemoveWatermark(1);
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Earth"), QStringLiteral("+b")}));
+    watermarks->RemoveWatermark(0);
+    EXPECT_EQ(rows(), QStringList(QStringLiteral("+b")));
+    EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
+    for (int row : {-1, 1}) watermarks->RemoveWatermark(row);
+    EXPECT_EQ(rows().size(), 1);
+    for (int step = 0; step < 3; ++step) history().undo();
+    EXPECT_EQ(rows().size(), 4);
+}
+
+TEST_F(WatermarkControllerTest, RemoveAllKeepsOnlyTheFrame) {
+    add(text(QStringLiteral("a")));
+    watermarks->AddFilter(3);
+    watermarks->SetMetadata(CopyRightMetaData());
+    watermarks->AddEffects(PhotoEffects());
+    watermarks->RemoveAllWatermarks();
+    EXPECT_TRUE(rows().isEmpty());
+    EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
+    EXPECT_TRUE(watermarks->GetEffect().has_value());
+    history().undo();
+    EXPECT_EQ(rows().size(), 3);
+}
+
+TEST_F(WatermarkControllerTest, MovingExchangesNeighboursAndKeepsTheSelection) {
+    for (const char* each : {"a", "b", "c"}) add(text(QLatin1String(each)));
+    watermarks->AddFilter(1);
+    const auto order = [this] { return rows().mid(1).join(QString()).remove(QLatin1Char('+')); };
+    select(1);
+    watermarks->MoveWatermarkUp();
+    EXPECT_EQ(order(), QStringLiteral("abc")) << "the first does not go up";
+    watermarks->MoveWatermarkDown();
+    EXPECT_EQ(order(), QStringLiteral("bac"));
+    watermarks->MoveWatermarkDown();
+    EXPECT_EQ(order(), QStringLiteral("bca"));
+    EXPECT_EQ(watermarks->watermarkRowIndexAfterRemovingFilterAndMetadata(), 2);
+    watermarks->MoveWatermarkDown();
+    EXPECT_EQ(order(), QStringLiteral("bca")) << "the last does not go down";
+    select(0);
+    watermarks->MoveWatermarkUp();
+    watermarks->MoveWatermarkDown();
+    EXPECT_EQ(order(), QStringLiteral("bca")) << "a filter row does not move";
+    EXPECT_EQ(history().undoText(), QStringLiteral("Move Watermark"));
+    history().undo();
+    EXPECT_EQ(order(), QStringLiteral("bac"));
+}
+
+TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {
+    for (const std::int32_t type : {0, 1, 2, 3}) {
+        Watermark watermark(type);
+        if (type == watermark_type::QrCode) watermark.Text = QStringLiteral("code");
+        add(watermark);
+    }
+    watermarks->AddFilter(1);
+    watermarks->SetMetadata(CopyRightMetaData());
+    for (int row = 0; row < 6; ++row) watermarks->WatermarkListDoubleClicked(row);
+    EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Filter, -1), std::pair(EditorKind::Copyright, -1),
+                                    std::pair(EditorKind::Image, 0), std::pair(EditorKind::Text, 1),
+                                    std::pair(EditorKind::Shape, 2), std::pair(EditorKind::QrCode, 3)));
+    opened.clear();
+    watermarks->OpenTextWatermarkSettings();
+    EXPECT_FALSE(watermarks->canOpen(EditorKind::Effects));
+    watermarks->OpenEffectsSettings();
+    EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Text, -1)));
+}
+
+TEST_F(WatermarkControllerTest, TypingANewTextIsOneStepThatAddsIt) {
+    const QString step = QStringLiteral("Text");
+    edit = [&](WatermarkController& controller) {
+        for (const char* typed : {"", "H", "Hi"})
+            controller.ReflectWatermark(text(QLatin1String(typed)), true, step);
+    };
+    watermarks->OpenTextWatermarkSettings();
+    EXPECT_EQ(rows(), QStringList(QStringLiteral("+Hi")));
+    EXPECT_EQ(history().count(), 1);
+    EXPECT_EQ(history().undoText(), QStringLiteral("Add Text"));
+
+    edit = [&](WatermarkController& controller) {
+        controller.ReflectWatermark(text(QStringLiteral("Hi!")), true, step);
+    };
+    watermarks->openEditor(0);
+    EXPECT_EQ(history().count(), 2) << "another opening of the editor is another step";
+    EXPECT_EQ(history().undoText(), QStringLiteral("Edit Text"));
+}
+
+TEST_F(WatermarkControllerTest, AnEditedTextThatBecomesEmptyIsRemovedAndAnAbsentOneIsNot) {
+    add(text(QStringLiteral("a")));
+    edit = [](WatermarkController& controller) {
+        controller.ReflectWatermark(text(QLatin1String("")), true);
+    };
+    watermarks->openEditor(0);
+    EXPECT_TRUE(rows().isEmpty());
+    add(text(QString()));
+    EXPECT_EQ(rows().size(), 1);
+    add(text(QLatin1String("")));
+    EXPECT_EQ(rows().size(), 1) << "a new one that is empty is not added";
+}
+
+TEST_F(WatermarkControllerTest, ChoosingNoFilterChangesNothing) {
+    watermarks->AddFilter(5);
+    watermarks->AddFilter(0);
+    EXPECT_EQ(rows(), QStringList(QStringLiteral("+Filter - Lumina")));
+}
+
+TEST_F(WatermarkControllerTest, PlacingByHandIsCustomPositionAndStepsOfOneNudgeMerge) {
+    add(text(QStringLiteral("a")));
+    watermarks->placeWatermark(0, {40, 50});
+    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).Position, CustomPosition);
+    for (int step = 1; step <= 3; ++step)
+        watermarks->placeWatermark(0, {40 + step, 50}, QStringLiteral("nudge"));
+    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).CustomPositionLeft, 43);
+    history().undo();
+    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).CustomPositionLeft, 40);
+    history().undo();
+    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).Position, 1);
+}
+
+}  // namespace
+}  // namespace zelto

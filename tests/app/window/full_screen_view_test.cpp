@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/full_screen_view.h"
+
+#include "app/run/run_window.h"
+#include "render/composition.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+namespace zelto {
+namespace {
+
+TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
+    addPhotos(QStringLiteral("g"));
+    Watermark mark(watermark_type::Shape);
+    mark.SolidColor = Color::black();
+    mark.Width = mark.Height = 20.0F;
+    mark.Transparency = 1.0F;
+    window->watermarks().ReflectWatermark(mark, true);
+    for (const bool byKey : {true, false}) {
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(window.get(), Qt::Key_F11);
+        QPointer<FullScreenView> view;
+        for (QWidget* each : QApplication::topLevelWidgets()) {
+            if (auto* found = qobject_cast<FullScreenView*>(each)) view = found;
+        }
+        ASSERT_TRUE(view);
+        EXPECT_TRUE(view->isFullScreen());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !view->picture().isNull(); }, 10000));
+        const PhotoRequest request = window->preview().finalRequest();
+        EXPECT_EQ(view->picture(), MakeWatermarkImage(*buildPhotoScene(request), *request.stack));
+        if (byKey) {
+            QTest::keyClick(view, Qt::Key_A);
+        } else {
+            QTest::mouseClick(view->findChild<QToolButton*>(QStringLiteral("ExitFullScreen")),
+                              Qt::LeftButton);
+        }
+        EXPECT_TRUE(QTest::qWaitFor([&] { return view.isNull(); }, 10000));
+    }
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,360 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real window, driven with mouse and keys.
+#include "app/window/main_window.h"
+
+#include "app/dialogs/standard_dialogs.h"
+#include "app/watermarks/watermark_delegate.h"
+#include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
+#include "render/composition.h"
+#include "support/test_pictures.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace zelto {
+namespace {
+
+constexpr QSize PhotoSize(600, 400);
+
+Watermark plainShape() {
+    Watermark shape(watermark_type::Shape);
+    shape.SolidColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+    shape.Width = 120.0F;
+    shape.Height = 80.0F;
+    shape.Transparency = 1.0F;
+    return shape;
+}
+
+class MainWindowTest : public ::testing::Test {
+  protected:
+    MainWindowTest() {
+        EditorSet editors;
+        for (const EditorKind kind : {EditorKind::Text, EditorKind::Shape}) {
+            editors[kind] = [this](const EditorCall& call) {
+                edited.push_back(call.controller.CurrentWatermark());
+            };
+        }
+        window = std::make_unique<MainWindow>(shared, standardDialogs(), std::move(editors));
+        window->resize(1200, 800);
+        window->show();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    // Photos of one size, each with a corner of its own brightness.
+    QStringList makePhotos(int count) {
+        QStringList paths;
+        for (int i = 0; i < count; ++i) {
+            QImage picture = drawnScene(PhotoSize);
+            for (int y = 0; y < 50; ++y) {
+                for (int x = 0; x < 50; ++x) picture.setPixel(x, y, qRgb(20 * i, 0, 255));
+            }
+            paths.append(folder.filePath(QStringLiteral("photo%1.png").arg(i)));
+            picture.save(paths.last());
+        }
+        return paths;
+    }
+
+    void addPhotos(int count) { window->photos().AddImages(makePhotos(count)); }
+
+    void addWatermark(const Watermark& watermark) {
+        window->watermarks().resetCurrentWatermarkIndex();
+        window->watermarks().ReflectWatermark(watermark, true);
+    }
+
+    PreviewView& view() { return window->previewView(); }
+
+    // Whether the preview has come to show the selected photo with the stack as it is.
+    bool isShown() {
+        const auto& shown = view().shown();
+        return shown && shown->path == window->photos().selectedPath() && window->preview().isSettled();
+    }
+    bool waitForPreview() {
+        return QTest::qWaitFor([this] { return isShown(); }, 10000);
+    }
+
+    QPoint inView(QPointF picturePoint) { return view().geometry().toView(picturePoint).toPoint(); }
+
+    QPoint rowCentre(QAbstractItemView& list, int row) {
+        return list.visualRect(list.model()->index(row, 0)).center();
+    }
+    void clickRow(QAbstractItemView& list, int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, keys, rowCentre(list, row));
+    }
+
+    QTemporaryDir folder;
+    MyGlobalInstance shared;
+    std::unique_ptr<MainWindow> window;
+    std::vector<int> edited;
+};
+
+TEST_F(MainWindowTest, WhatTheScreenShowsIsWhatWasComposed) {
+    addPhotos(1);
+    view().ActualSize();
+    ASSERT_TRUE(waitForPreview());
+    const QImage grabbed = view().viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRect place = view().geometry().visibleRegion().rect.translated(view().geometry().origin());
+    EXPECT_EQ(grabbed.copy(place), view().seenPicture().copy(place).convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(MainWindowTest, ClickingAPhotoShowsItAndItsNeighbours) {
+    addPhotos(3);
+    ASSERT_TRUE(waitForPreview());
+    for (const int row : {2, 1, 0}) {
+        clickRow(window->photoList(), row);
+        ASSERT_TRUE(waitForPreview()) << row;
+        const QPoint corner = inView({25, 25});
+        EXPECT_NEAR(view().seenPicture().pixelColor(corner).red(), 20 * row, 2) << row;
+    }
+}
+
+TEST_F(MainWindowTest, KeysRemoveCheckAndSelectPhotos) {
+    addPhotos(4);
+    PhotoListView& list = window->photoList();
+    clickRow(list, 1);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_FALSE(window->photos().images()[1].ApplyWatermark);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(window->photos().count(), 3);
+    EXPECT_EQ(window->photos().selectedRow(), 1);
+    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_THAT(window->photos().model().checks(), ::testing::Each(false));
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(window->photos().count(), 0);
+    EXPECT_FALSE(view().isVisible()) << "an empty list says what to do";
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window->photos().count(), 3);
+}
+
+TEST_F(MainWindowTest, AClickOnACheckBoxChecksAndDoesNotSelect) {
+    addPhotos(2);
+    PhotoListView& list = window->photoList();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.checkBoxRect(1).center());
+    EXPECT_FALSE(window->photos().images()[1].ApplyWatermark);
+    addWatermark(plainShape());
+    QListView& watermarks = window->watermarkList();
+    const QRect row = watermarks.visualRect(watermarks.model()->index(0, 0));
+    QTest::mouseClick(watermarks.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      WatermarkDelegate::checkBoxRect(row).center());
+    EXPECT_FALSE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
+}
+
+TEST_F(MainWindowTest, ADoubleClickOnAWatermarkOpensItsEditor) {
+    addPhotos(1);
+    addWatermark(plainShape());
+    addWatermark(plainShape());
+    QListView& list = window->watermarkList();
+    clickRow(list, 1);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, rowCentre(list, 1));
+    EXPECT_THAT(edited, ::testing::ElementsAre(1));
+}
+
+TEST_F(MainWindowTest, FilesAreDroppedAnywhereAndFramedMeanwhile) {
+    QStringList paths = makePhotos(2);
+    const QString note = folder.filePath(QStringLiteral("note.txt"));
+    QFile(note).open(QFile::WriteOnly);
+    const QString pictures = folder.filePath(QStringLiteral("folder.png"));
+    ASSERT_TRUE(QDir().mkpath(pictures));
+    const auto drop = [&](const QStringList& dropped) {
+        QMimeData mime;
+        QList<QUrl> urls;
+        for (const QString& path : dropped) urls.append(QUrl::fromLocalFile(path));
+        mime.setUrls(urls);
+        const QPoint at(60, 200);
+        QDragEnterEvent enter(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        const bool isFramed = window->mainView().isReceivingDrag();
+        EXPECT_EQ(isFramed, enter.isAccepted());
+        if (!isFramed) return false;
+        const QImage frame = window->mainView().grab().toImage();
+        EXPECT_EQ(frame.pixelColor(3, 300), window->palette().color(QPalette::Highlight));
+        QDropEvent released(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &released);
+        EXPECT_FALSE(window->mainView().isReceivingDrag());
+        return true;
+    };
+    EXPECT_FALSE(drop({note}));
+    EXPECT_FALSE(drop({pictures})) << "a folder, whatever its name";
+    EXPECT_TRUE(drop({note, paths[1], pictures, paths[0]}));
+    ASSERT_EQ(window->photos().count(), 2);
+    EXPECT_EQ(window->photos().images()[0].ImagePath, paths[1]);
+    EXPECT_EQ(window->photos().selectedRow(), 0);
+}
+
+TEST_F(MainWindowTest, TheWheelZoomsAboutThePointer) {
+    addPhotos(1);
+    ASSERT_TRUE(waitForPreview());
+    const QPointF pointer(300, 250);
+    const auto turn = [&](int notches) {
+        QWheelEvent wheel(pointer, view().viewport()->mapToGlobal(pointer), {}, {0, 120 * notches},
+                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view().viewport(), &wheel);
+    };
+    view().ActualSize();
+    turn(9);  // far enough for the photo to fill the view
+    EXPECT_NEAR(view().scale(), std::pow(1.1, 9), 1e-9);
+    const QPointF held = view().geometry().toPicture(pointer);
+    turn(2);
+    turn(-1);
+    EXPECT_NEAR(view().scale(), std::pow(1.1, 11) * 0.9, 1e-9);
+    EXPECT_NEAR(view().geometry().toView(held).x(), pointer.x(), 1.0);
+    EXPECT_NEAR(view().geometry().toView(held).y(), pointer.y(), 1.0);
+}
+
+TEST_F(MainWindowTest, TheZoomCommandsFollowTheirSteps) {
+    addPhotos(1);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_TRUE(view().FitToScreen());
+    view().ActualSize();
+    QTest::keyClick(window.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view().scale(), 1.1);
+    QTest::keyClick(window.get(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view().scale(), 1.1 - 0.11);
+    EXPECT_FALSE(view().FitToScreen());
+    QTest::keyClick(window.get(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_TRUE(view().FitToScreen());
+    EXPECT_EQ(view().geometry().scaledSize().boundedTo(view().geometry().viewport),
+              view().geometry().scaledSize());
+}
+
+class LayerDragging : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        addPhotos(1);
+        addWatermark(plainShape());
+        view().ActualSize();
+        ASSERT_TRUE(waitForPreview());
+    }
+
+    const Watermark& shape() { return window->watermarks().GetWatermarkAtRow(0); }
+
+    void press(QPointF from, QPointF to) {
+        QTest::mousePress(view().viewport(), Qt::LeftButton, {}, inView(from));
+        for (const double part : {0.3, 0.7, 1.0}) move(from + (to - from) * part);
+    }
+    void move(QPointF to) {
+        const QPointF at = inView(to);
+        QMouseEvent event(QEvent::MouseMove, at, view().viewport()->mapToGlobal(at), Qt::NoButton,
+                          Qt::LeftButton, Qt::AltModifier);
+        QApplication::sendEvent(view().viewport(), &event);
+    }
+    void release(QPointF to) { QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, inView(to)); }
+
+    // Whether the shape is seen at a point of the photo.
+    bool isRed(QPointF point) { return view().seenPicture().pixelColor(inView(point)) == QColor(255, 0, 0); }
+};
+
+TEST_F(LayerDragging, ADragPlacesTheLayerInOneStep) {
+    const int steps = window->document().history().count();
+    press({60, 40}, {260, 140});
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return isRed({260, 140}) && !isRed({60, 40});
+        },
+        5000))
+        << "seen while dragged";
+    EXPECT_EQ(shape().Position, 1) << "nothing is changed before it is let go";
+    release({260, 140});
+    EXPECT_EQ(shape().Position, CustomPosition);
+    EXPECT_EQ(shape().CustomPositionLeft, 200);
+    EXPECT_EQ(shape().CustomPositionTop, 100);
+    EXPECT_EQ(window->document().history().count(), steps + 1);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_TRUE(isRed({202, 102}));
+    EXPECT_FALSE(isRed({198, 98}));
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_TRUE(isRed({5, 5}));
+}
+
+TEST_F(LayerDragging, EscapeLeavesEverythingAsItWas) {
+    const int steps = window->document().history().count();
+    press({60, 40}, {260, 140});
+    QTest::keyClick(&view(), Qt::Key_Escape);
+    release({260, 140});
+    EXPECT_EQ(shape().Position, 1);
+    EXPECT_EQ(window->document().history().count(), steps);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_TRUE(isRed({60, 40}));
+    EXPECT_FALSE(isRed({260, 140}));
+}
+
+TEST_F(LayerDragging, TheArrowKeysMoveTheSelectedLayer) {
+    const int steps = window->document().history().count();
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, inView({60, 40}));
+    for (int i = 0; i < 3; ++i) QTest::keyClick(&view(), Qt::Key_Right);
+    QTest::keyClick(&view(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(shape().CustomPositionLeft, 3);
+    EXPECT_EQ(shape().CustomPositionTop, 10);
+    EXPECT_EQ(window->document().history().count(), steps + 1);
+}
+
+TEST_F(MainWindowTest, APhotoThatCannotBeReadIsSaidSoAndTheNextOneIsShown) {
+    QStringList paths = makePhotos(1);
+    const QString broken = folder.filePath(QStringLiteral("broken.jpg"));
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("no picture");
+    file.close();
+    window->photos().AddImages({broken, paths[0]});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().message().isEmpty(); }, 5000));
+    EXPECT_TRUE(view().message().contains(DamagedPictureMessage));
+    clickRow(window->photoList(), 1);
+    EXPECT_TRUE(waitForPreview());
+}
+
+TEST_F(MainWindowTest, ClosingKeepsAStackThatNothingElseHolds) {
+    ASSERT_TRUE(shared.findSettingDirectory().has_value());
+    const QString kept = shared.SettingDirectory + LastWatermarkSetting + SettingFileExtension;
+    for (const bool isSaved : {true, false}) {
+        QFile::remove(kept);
+        window->show();
+        addWatermark(plainShape());
+        if (isSaved) {
+            ASSERT_TRUE(window->watermarks().SaveWatermarkSettings(folder.filePath(QStringLiteral("a.zcs"))));
+        }
+        window->close();
+        EXPECT_EQ(QFile::exists(kept), !isSaved);
+    }
+}
+
+TEST_F(MainWindowTest, ControlsFollowThePhotosAndTheRun) {
+    const auto enabled = [this](Act act) { return window->actions()[act]->isEnabled(); };
+    EXPECT_FALSE(enabled(Act::ZoomIn));
+    EXPECT_FALSE(enabled(Act::AddText));
+    EXPECT_TRUE(enabled(Act::AddPhotos));
+    addPhotos(1);
+    addWatermark(plainShape());
+    EXPECT_TRUE(enabled(Act::ZoomIn));
+    EXPECT_TRUE(enabled(Act::AddText));
+    EXPECT_TRUE(enabled(Act::MoveUp));
+    EXPECT_FALSE(enabled(Act::AddQrCode)) << "there is no editor for it here";
+    window->DisableControls();
+    window->ShowProcessingControls();
+    for (const Act act :
+         {Act::AddPhotos, Act::RemovePhoto, Act::AddText, Act::MoveUp, Act::ZoomIn, Act::FullScreen}) {
+        EXPECT_FALSE(enabled(act));
+    }
+    EXPECT_FALSE(window->photoList().isEnabled());
+    EXPECT_TRUE(window->processing().CancelProcessing()->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window->document().count(), 1) << "nothing is undone during a run";
+    window->EnableControls();
+    EXPECT_TRUE(enabled(Act::AddPhotos));
+    EXPECT_TRUE(window->photoList().isEnabled());
+}
+
+}  // namespace
+}  // namespace zelto

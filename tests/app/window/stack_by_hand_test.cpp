@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Everything a setting can hold, put together in the editors, kept, and taken up again.
+#include "app/editors/editor_test.h"
+#include "persistence/setting_file.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabWidget>
+
+namespace zelto {
+namespace {
+
+class StackByHand : public EditorTest {
+  protected:
+    // To the page of the position, where an editor has pages.
+    static void turnToPlace(QWidget& editor) {
+        auto* pages = editor.findChild<QTabWidget*>(QStringLiteral("Pages"));
+        if (pages != nullptr) pages->setCurrentIndex(pages->count() - 1);
+    }
+
+    // The editor of a new logo begins with asking for the file.
+    template <class Drive>
+    void addLogo(const Drive& drive) {
+        const QString file = folder.filePath(QStringLiteral("logo.png"));
+        QImage logo(40, 20, QImage::Format_RGB32);
+        logo.fill(Qt::cyan);
+        ASSERT_TRUE(logo.save(file));
+        bool isChosen = false;
+        QTimer watch;
+        watch.callOnTimeout([&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (auto* files = qobject_cast<QFileDialog*>(dialog); files != nullptr && !isChosen) {
+                isChosen = true;
+                auto* name = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                name->setText(file);
+                QTest::keyClick(name, Qt::Key_Return);
+            } else if (dialog != nullptr && files == nullptr && isChosen) {
+                watch.stop();
+                drive(*dialog);
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            }
+        });
+        watch.start(5);
+        window.actions()[Act::AddImage]->trigger();
+        EXPECT_TRUE(isChosen);
+    }
+
+    void compose() {
+        addLogo([](QDialog& editor) {
+            click(editor, "CreateBW");
+            click(editor, "IsTransparent");
+            pickColor(editor, "TransparentColor", QColor(1, 2, 3));
+            press(editor, "Transparency", Qt::Key_Home);
+            turnToPlace(editor);
+            click(editor, "HorizontalTiling");
+            type(editor, "HorizontalSpacing", QStringLiteral("12"));
+            click(editor, "VerticalTiling");
+            type(editor, "VerticalSpacing", QStringLiteral("9"));
+        });
+        edit(Act::AddText, [](QDialog& editor) {
+            type(editor, "Text", QStringLiteral("<<IMGNAME>> & more"));
+            click(editor, "FontBold");
+            click(editor, "FontStrikethrough");
+            pickColor(editor, "TextColor", QColor(200, 10, 20, 128));
+            click(editor, "Shadow");
+            turnToPlace(editor);
+            type(editor, "Rotation", QStringLiteral("-30"));
+            click(editor, "Cell8");
+            type(editor, "PaddingBottom", QStringLiteral("17"));
+        });
+        edit(Act::AddShape, [](QDialog& editor) {
+            click(editor, "Polygon");
+            type(editor, "Sides", QStringLiteral("7"));
+            choose(editor, "Width", 1);
+            click(editor, "Gradient");
+            pickColor(editor, "SecondColor", Qt::magenta);
+            choose(editor, "GradeintType", 3);
+            click(editor, "CustomPosition");
+            type(editor, "CustomPositionLeft", QStringLiteral("33"));
+        });
+        edit(Act::AddQrCode, [](QDialog& editor) {
+            type(editor, "Text", QStringLiteral("https://example.com/<<AUTONUMBER>>"));
+            choose(editor, "Size", 0);
+            type(editor, "Size", QStringLiteral("120"));
+            click(editor, "Cell3");
+        });
+        edit(Act::AddFilter, [](QDialog& editor) { press(editor, "Filters", Qt::Key_End); });
+        edit(Act::AddEffects, [](QDialog& editor) {
+            type(editor, "LeftThickness", QStringLiteral("21"));
+            pickColor(editor, "BorderColor", QColor(12, 34, 56));
+            click(editor, "ShadowTop");
+            click(editor, "ShadowLeft");
+            type(editor, "BlurRadius", QStringLiteral("6"));
+        });
+        edit(
+            Act::AddCopyright,
+            [](QDialog& editor) {
+                type(editor, "CopyrightText", QStringLiteral("\u00a9 someone"));
+                choose(editor, "CopyrightTextStatus", 1);
+            },
+            Qt::Key_Return);
+    }
+
+    const StackState& state() { return window.document().state(); }
+};
+
+TEST_F(StackByHand, IsKeptReadBackAndEditedAgainWithoutLoss) {
+    compose();
+    ASSERT_TRUE(waitForPreview());
+    const StackState composed = state();
+    ASSERT_EQ(composed.Stack.Watermarks.size(), 4U);
+    EXPECT_EQ(composed.Stack.SelectedFilter, 13);
+    EXPECT_EQ(composed.Stack.Effects->Direction, 315);
+    EXPECT_TRUE(composed.Stack.Metadata);
+    const QImage photo = seen();
+
+    const QString file = folder.filePath(QStringLiteral("by-hand.zcs"));
+    ASSERT_TRUE(SaveWatermarkSettings(composed.Stack, file).has_value());
+    window.watermarks().RemoveAllWatermarks();
+    window.watermarks().AddEffects(std::nullopt);
+    ASSERT_TRUE(window.watermarks().LoadWatermarkSetting(file).has_value());
+    EXPECT_TRUE(state() == composed);
+    EXPECT_TRUE(seen() == photo);
+
+    // Every editor looked into once more, then one thing changed in each.
+    const int rows = window.watermarks().model().rowCount();
+    ASSERT_EQ(rows, 6);
+    for (int row = 0; row < rows; ++row) {
+        window.watermarks().selection().setCurrentIndex(window.watermarks().model().index(row),
+                                                        QItemSelectionModel::ClearAndSelect);
+        edit(Act::EditWatermark, [](QDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); });
+    }
+    edit(Act::AddEffects, [](QDialog&) {});
+    EXPECT_TRUE(state() == composed);
+
+    struct Change {
+        int row;
+        const char* control;
+        std::int64_t Watermark::*field;
+        std::int64_t value;
+    };
+    StackState expected = composed;
+    for (const Change& change :
+         {Change{2, "PaddingTop", &Watermark::PaddingTop, 5}, Change{3, "Rotation", &Watermark::Rotation, 45},
+          Change{4, "Sides", &Watermark::Sides, 9}, Change{5, "PaddingRight", &Watermark::PaddingRight, 8}}) {
+        window.watermarks().selectWatermark(change.row - 2);
+        edit(Act::EditWatermark, [&change](QDialog& editor) {
+            turnToPlace(editor);
+            type(editor, change.control, QString::number(change.value));
+        });
+        expected.Stack.Watermarks[static_cast<std::size_t>(change.row - 2)].*change.field = change.value;
+        EXPECT_TRUE(state() == expected) << change.control;
+    }
+}
+
+}  // namespace
+}  // namespace zelto

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures/picture_reader.h"
+
+#include "pictures/picture_writer.h"
+#include "platform/whole_file.h"
+#include "support/ink.h"
+#include "support/test_pictures.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <random>
+
+namespace zelto {
+namespace {
+
+QByteArray written(const QImage& picture, const char* format, int compression = 0) {
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setCompression(compression);
+    EXPECT_TRUE(writer.write(picture)) << format;
+    return buffer.data();
+}
+
+struct File {
+    const char* name;
+    QByteArray bytes;
+    qsizetype idleBytes = 0;  // at its end, without which every pixel is still certain
+};
+
+// One complete file of each kind that is read, all of the same small scene.
+std::vector<File> oneOfEachFormat() {
+    const QImage scene = drawnScene({120, 90});
+    constexpr int Lzw = 1;
+    return {{"jpeg", jpegBytes(scene)},
+            {"progressive jpeg", jpegBytes(scene, {.progressive = true})},
+            {"png", written(scene, "png"), 4},  // the check sum of its empty last chunk
+            {"tiff", written(scene, "tiff")},
+            {"tiff with lzw", written(scene, "tiff", Lzw)},
+            {"tiff with palette", written(scene.convertToFormat(QImage::Format_Indexed8), "tiff")},
+            {"gif", encodePicture(scene, PictureFormat::Gif, {}).value()},
+            {"bmp", written(scene, "bmp")},
+            {"bmp with palette", written(scene.convertToFormat(QImage::Format_Indexed8), "bmp")},
+            {"webp", written(scene, "webp")},
+            {"ppm", written(scene, "ppm")}};
+}
+
+TEST(PictureReader, AFileCutShortAnywhereIsDamaged) {
+    for (const File& file : oneOfEachFormat()) {
+        const Result<Picture> whole = decodePicture(file.bytes);
+        ASSERT_TRUE(whole) << file.name;
+        EXPECT_EQ(whole->image.size(), QSize(120, 90)) << file.name;
+        const qsizetype end = file.bytes.size() - file.idleBytes;
+        const qsizetype step = std::max<qsizetype>(end / 40, 1);
+        for (qsizetype length = 0; length < end; length += length + 30 < end && length > 40 ? step : 1) {
+            const Result<Picture> cut = decodePicture(file.bytes.first(length));
+            ASSERT_FALSE(cut) << file.name << " of " << file.bytes.size() << " bytes cut to " << length;
+            EXPECT_EQ(cut.error().message, QString(DamagedPictureMessage));
+        }
+    }
+}
+
+// Faults of any kind may or may not be noticed, but what is returned is always a picture of the promised kind.
+TEST(PictureReader, RandomFaultsNeverYieldAnythingButPicturesOrErrors) {
+    std::minstd_rand random(20);
+    for (const File& file : oneOfEachFormat()) {
+        for (int round = 0; round < 60; ++round) {
+            QByteArray bytes = file.bytes;
+            const auto reach =
+                static_cast<unsigned>(round % 2 == 0 ? bytes.size() : std::min<qsizetype>(bytes.size(), 64));
+            for (int fault = 0; fault <= round % 5; ++fault)
+                bytes[random() % reach] = static_cast<char>(random());
+            const Result<Picture> picture = decodePicture(bytes);
+            const QImage::Format format = picture ? picture->image.format() : QImage::Format_RGB32;
+            EXPECT_TRUE(picture || picture.error().code == ErrorCode::Damaged) << file.name;
+            EXPECT_TRUE(format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied)
+                << file.name << " " << format;
+        }
+    }
+}
+
+// Overwrites bytes of a small file so that its header promises a picture of gigabytes, or of nothing at all.
+QByteArray patched(QByteArray bytes, qsizetype at, const QByteArray& with) {
+    return bytes.replace(at, with.size(), with);
+}
+
+TEST(PictureReader, SizesThatTheFileCannotHoldAreRefusedWithoutMemory) {
+    const QImage scene = drawnScene({64, 64});
+    const QByteArray jpeg = jpegBytes(scene);
+    const qsizetype frame = jpeg.indexOf(QByteArrayLiteral("\xFF\xC0")) + 5;
+    const QByteArray bmp = written(scene, "bmp");
+    const QByteArray gif = encodePicture(scene, PictureFormat::Gif, {}).value();
+    const std::vector<File> files = {
+        {"jpeg of 65500 x 16000", patched(jpeg, frame, QByteArrayLiteral("\x3E\x80\xFF\xDC"))},
+        {"gif canvas of 65535 x 65535", patched(gif, 6, QByteArrayLiteral("\xFF\xFF\xFF\xFF"))},
+        {"bmp of 30000 x 30000", patched(bmp, 18, QByteArrayLiteral("\x30\x75\x00\x00\x30\x75\x00\x00"))},
+        {"bmp of 0 x 64", patched(bmp, 18, QByteArrayLiteral("\x00\x00\x00\x00\x40\x00\x00\x00"))},
+        {"bmp of the lowest height", patched(bmp, 22, QByteArrayLiteral("\x00\x00\x00\x80"))},
+        {"ppm of a gigapixel", "P6 32000 32000 255\n" + QByteArray(1000, 'x')}};
+    rusage before{};
+    getrusage(RUSAGE_SELF, &before);
+    for (const File& file : files) {
+        const Result<Picture> picture = decodePicture(file.bytes);
+        ASSERT_FALSE(picture) << file.name;
+        EXPECT_EQ(picture.error().code, ErrorCode::Damaged) << file.name;
+    }
+    rusage after{};
+    getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 200 * 1024) << "KiB";
+}
+
+TEST(PictureReader, TellsAMissingFileFromOneThatCannotBeRead) {
+    const QTemporaryDir folder;
+    const QString empty = folder.filePath(QStringLiteral("empty.jpg"));
+    ASSERT_TRUE(writeWholeFile(empty, {}));
+    const QString missing = folder.filePath(QStringLiteral("missing.jpg"));
+    EXPECT_EQ(readPicture(missing).error().code, ErrorCode::NotFound);
+    EXPECT_EQ(readPictureSize(missing).error().code, ErrorCode::NotFound);
+    for (const QString& path : {folder.path(), empty, QStringLiteral("/dev/zero")}) {
+        const Result<Picture> picture = readPicture(path);
+        ASSERT_FALSE(picture);
+        EXPECT_EQ(picture.error().code, ErrorCode::Damaged);
+        EXPECT_EQ(picture.error().path, path);
+        EXPECT_EQ(readPictureSize(path).error().code, ErrorCode::Damaged);
+    }
+}
+
+TEST(PictureReader, SizeIsThatOfTheUprightPictureWhateverTheFileIsCalled) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("photo.gif"));
+    std::vector<File> files = oneOfEachFormat();
+    files.push_back({"turned", jpegBytes(drawnScene({90, 120}), {.orientation = 6})});
+    for (const File& file : files) {
+        ASSERT_TRUE(writeWholeFile(path, file.bytes));
+        EXPECT_EQ(readPictureSize(path).value_or(QSize()), QSize(120, 90)) << file.name;
+        const QImage read = readPicture(path).value_or(Picture()).image;
+        EXPECT_EQ(largestDifference(read, decodePicture(file.bytes)->image), 0) << file.name;
+    }
+}
+
+}  // namespace
+}  // namespace zelto
