@@ -64,7 +64,7 @@ QStringList forbiddenIncludes(const QString& room, const QString& text) {
     static const QRegularExpression widgets(QStringLiteral(
         "^(QtWidgets/"
         ".*|Q(Application|Widget|Dialog|MainWindow|MessageBox|Table.*|Tree.*|List(View|Widget)|Label|"
-        "LineEdit|PushButton|.*Layout|Action))$"));
+        "LineEdit|PushButton|(Box|HBox|VBox|Grid|Form)Layout|Action))$"));
     QStringList found;
     for (auto match = include.globalMatch(text); match.hasNext();) {
         const auto line = match.next();
