@@ -4,10 +4,14 @@
 // the run.
 #pragma once
 
+#include "batch/photo_warning.h"
+
 #include <QLatin1String>
 #include <QSize>
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 namespace zelto {
 
@@ -34,6 +38,7 @@ struct PhotoOutcome {
     QSize size;      // pixels written
     QString error;   // for the user; empty for a success
     QString reason;  // what lies behind `error`, for a log; may be empty
+    std::vector<PhotoWarning> warnings;
 
     bool succeeded() const { return error.isEmpty(); }
 };

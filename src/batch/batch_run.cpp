@@ -115,10 +115,11 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     observer_.photoStarted(static_cast<qint64>(row));
     std::optional<LookAhead::Ready> ready = ahead.take();
     const PhotoTask& task = ready->task;
-    PhotoOutcome outcome{task.row, task.source, {}, {}, {}, {}};
+    PhotoOutcome outcome{task.row, task.source, {}, {}, {}, {}, {}};
     Result<void> written;
     if (ready->photo) {
         outcome.size = ready->photo->size;
+        outcome.warnings = std::move(ready->photo->warnings);
         outcome.output = ready->photo->page ? QString() : task.output;
         const std::optional<qint64> lastAutoNumber = ready->photo->lastAutoNumber;
         try {

@@ -4,6 +4,7 @@
 // watermarked photos.
 #pragma once
 
+#include "batch/photo_warning.h"
 #include "pictures/pdf_document.h"
 #include "platform/result.h"
 
@@ -13,6 +14,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace zelto {
 
@@ -32,6 +34,7 @@ struct PreparedPhoto {
     QByteArray file;                       // the complete file, or
     std::optional<PdfPage> page;           // a page of the combined PDF
     std::optional<qint64> lastAutoNumber;  // the running number to remember once the photo is committed
+    std::vector<PhotoWarning> warnings;
 
     qint64 bytes() const { return file.size() + (page ? page->bytes() : 0); }
 };

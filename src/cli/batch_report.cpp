@@ -24,6 +24,16 @@ QLatin1String statusWord(PhotoReport::Status status) {
     return "not-run"_L1;
 }
 
+QJsonArray warningList(const PhotoReport& photo) {
+    QJsonArray list;
+    for (const PhotoWarning& warning : photo.warnings) {
+        list.append(QJsonObject{{"watermark"_L1, static_cast<qint64>(warning.watermark)},
+                                {"kind"_L1, warning.kind},
+                                {"text"_L1, warning.text}});
+    }
+    return list;
+}
+
 QJsonObject photoObject(const PhotoReport& photo) {
     return {{"index"_L1, photo.index},
             {"source"_L1, photo.source},
@@ -31,7 +41,8 @@ QJsonObject photoObject(const PhotoReport& photo) {
             {"output"_L1, photo.output},
             {"width"_L1, photo.size.width()},
             {"height"_L1, photo.size.height()},
-            {"error"_L1, photo.error}};
+            {"error"_L1, photo.error},
+            {"warnings"_L1, warningList(photo)}};
 }
 
 }  // namespace
@@ -39,6 +50,11 @@ QJsonObject photoObject(const PhotoReport& photo) {
 qint64 BatchReport::count(PhotoReport::Status status) const {
     return std::count_if(photos.begin(), photos.end(),
                          [&](const PhotoReport& photo) { return photo.status == status; });
+}
+
+qint64 BatchReport::warned() const {
+    return std::count_if(photos.begin(), photos.end(),
+                         [](const PhotoReport& photo) { return !photo.warnings.empty(); });
 }
 
 int BatchReport::exitStatus() const {
@@ -75,6 +91,7 @@ QByteArray toJson(const BatchReport& report) {
                                  {"failed"_L1, report.count(PhotoReport::Status::Failed)},
                                  {"notRun"_L1, report.count(PhotoReport::Status::NotRun)},
                                  {"stopped"_L1, report.stopped},
+                                 {"warned"_L1, report.warned()},
                                  {"message"_L1, report.message}};
     return QJsonDocument(
                {{"version"_L1, 1},
@@ -92,6 +109,9 @@ QString toText(const BatchReport& report) {
     }
     if (const qint64 notRun = report.count(PhotoReport::Status::NotRun); notRun > 0) {
         counts.append(QStringLiteral("%1 not run").arg(notRun));
+    }
+    if (const qint64 warned = report.warned(); warned > 0) {
+        counts.append(QStringLiteral("%1 with a warning").arg(warned));
     }
     // The second line of a message speaks of a window.
     QString text = report.message.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n') +

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batch/batch_request.h"
+#include "batch/photo_warning.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -28,6 +29,7 @@ struct PhotoReport {
     Status status = Status::NotRun;
     QSize size = QSize(0, 0);  // pixels written, or to be written
     QString error;
+    std::vector<PhotoWarning> warnings;
 };
 
 struct BatchReport {
@@ -39,6 +41,7 @@ struct BatchReport {
     QString error;  // why nothing could be run at all
 
     qint64 count(PhotoReport::Status status) const;
+    qint64 warned() const;  // photos with at least one warning
     int exitStatus() const;
 };
 

@@ -46,6 +46,10 @@ class ReportingObserver : public BatchObserver {
 
 void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
     PhotoReport& photo = photoAt(report_, outcome.row);
+    photo.warnings = outcome.warnings;
+    for (const PhotoWarning& warning : outcome.warnings) {
+        console_.note(outcome.source + QStringLiteral(": ") + warning.text);
+    }
     if (outcome.succeeded()) {
         photo.status = PhotoReport::Status::Written;
         photo.size = outcome.size;
