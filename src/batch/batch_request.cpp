@@ -4,8 +4,6 @@
 #include "batch/output_name.h"
 #include "platform/file_identity.h"
 
-#include <QSet>
-
 namespace zelto {
 
 RunDestinations runDestinations(const BatchRequest& request) {
@@ -27,7 +25,7 @@ PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinat
 
 QStringList replacedPhotos(const BatchRequest& request, const QDateTime& now) {
     const RunDestinations destinations = runDestinations(request);
-    QSet<QString> outputs;
+    FileSet outputs;
     for (std::size_t row = 0; row < request.photos.size(); ++row) {
         if (!request.photos[row].checked) continue;
         outputs.insert(fileIdentity(photoTask(request, destinations, row, now).output));

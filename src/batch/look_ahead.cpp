@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/look_ahead.h"
 
-#include "platform/file_identity.h"
 #include "platform/machine_limits.h"
 
 #include <sys/resource.h>
@@ -97,8 +96,8 @@ LookAhead::Slot* LookAhead::admit(std::stop_token stop) {
     if (stop.stop_requested()) return nullptr;
     std::optional<PhotoTask> task = nextTask_();
     const qint64 bytes = task ? memoryNeeded(processor_, *task) : 0;
-    const QString sourceFile = task ? fileIdentity(task->source) : QString();
-    const QString outputFile = task ? fileIdentity(task->output) : QString();
+    const FileIdentity sourceFile = task ? fileIdentity(task->source) : FileIdentity();
+    const FileIdentity outputFile = task ? fileIdentity(task->output) : FileIdentity();
 
     std::unique_lock lock(mutex_);
     if (!task) {
@@ -112,12 +111,12 @@ LookAhead::Slot* LookAhead::admit(std::stop_token stop) {
     return &inFlight_.emplace_back(Slot{std::move(*task), outputFile, bytes, std::nullopt});
 }
 
-bool LookAhead::hasRoomFor(qint64 bytes, const QString& sourceFile) const {
+bool LookAhead::hasRoomFor(qint64 bytes, const FileIdentity& sourceFile) const {
     if (inFlight_.empty()) return true;
     if (inFlight_.size() >= static_cast<std::size_t>(limits_.jobs) * PhotosInFlightPerJob) return false;
     if (bytesInFlight_ + bytes > limits_.memoryBudget) return false;
     return std::none_of(inFlight_.begin(), inFlight_.end(),
-                        [&](const Slot& slot) { return slot.outputFile == sourceFile; });
+                        [&](const Slot& slot) { return isSameFile(slot.outputFile, sourceFile); });
 }
 
 }  // namespace zelto

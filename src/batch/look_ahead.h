@@ -7,8 +7,7 @@
 #pragma once
 
 #include "batch/photo_processor.h"
-
-#include <QString>
+#include "platform/file_identity.h"
 
 #include <condition_variable>
 #include <deque>
@@ -52,14 +51,14 @@ class LookAhead {
   private:
     struct Slot {
         PhotoTask task;
-        QString outputFile;
+        FileIdentity outputFile;
         qint64 bytes = 0;  // needed while it is prepared, held from then on
         std::optional<Result<PreparedPhoto>> result;
     };
 
     void work(std::stop_token stop);
     Slot* admit(std::stop_token stop);
-    bool hasRoomFor(qint64 bytes, const QString& sourceFile) const;
+    bool hasRoomFor(qint64 bytes, const FileIdentity& sourceFile) const;
 
     PhotoProcessor& processor_;
     const std::function<std::optional<PhotoTask>()> nextTask_;

@@ -137,7 +137,7 @@ Result<void> OutputWriter::writeFile(const PhotoTask& task, const PreparedPhoto&
     const std::optional<PictureFormat> format = formatOf(task.output);
     const bool getsMetadata = format && takesMetadata(*format);
     std::optional<KeptFile> replacedSource;
-    if (getsMetadata && fileIdentity(task.source) == fileIdentity(task.output)) {
+    if (getsMetadata && isSameFile(fileIdentity(task.source), fileIdentity(task.output))) {
         Result<KeptFile> kept = KeptFile::keep(task.source);
         if (!kept) return tl::unexpected(std::move(kept.error()));
         replacedSource = *std::move(kept);

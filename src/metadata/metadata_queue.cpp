@@ -34,7 +34,9 @@ MetadataQueue::~MetadataQueue() {
 }
 
 void MetadataQueue::add(MetadataRequest request, std::optional<KeptFile> keptSource) {
-    QSet<QString> files = {fileIdentity(request.output), fileIdentity(request.source)};
+    FileSet files;
+    files.insert(fileIdentity(request.output));
+    files.insert(fileIdentity(request.source));
     if (keptSource) request.source = keptSource->path();
     std::unique_lock lock(mutex_);
     // Requests may hold files open, so they must not pile up.
@@ -50,7 +52,7 @@ void MetadataQueue::add(MetadataRequest request, std::optional<KeptFile> keptSou
 void MetadataQueue::waitFor(const QString& path) {
     std::unique_lock lock(mutex_);
     if (entries_.empty()) return;
-    const QString file = fileIdentity(path);
+    const FileIdentity file = fileIdentity(path);
     changed_.wait(lock, [&] {
         return std::none_of(entries_.begin(), entries_.end(),
                             [&](const Entry& entry) { return entry.files.contains(file); });

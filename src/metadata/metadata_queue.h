@@ -4,10 +4,10 @@
 #pragma once
 
 #include "metadata/metadata_arguments.h"
+#include "platform/file_identity.h"
 #include "platform/kept_file.h"
 #include "platform/result.h"
 
-#include <QSet>
 #include <QString>
 
 #include <condition_variable>
@@ -44,7 +44,7 @@ class MetadataQueue {
     struct Entry {
         MetadataRequest request;
         std::optional<KeptFile> keptSource;
-        QSet<QString> files;  // by their identity
+        FileSet files;
         bool begun = false;
     };
 

@@ -3,15 +3,125 @@
 
 #include "platform/path_parts.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QHash>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <mutex>
+#include <optional>
 
 namespace zelto {
+namespace {
 
-QString fileIdentity(const QString& path) {
-    const QFileInfo info(path);
-    if (const QString identity = info.canonicalFilePath(); !identity.isEmpty()) return identity;
-    const QString folder = QFileInfo(info.path()).canonicalFilePath();
-    return folder.isEmpty() ? path : joinedPath(folder, info.fileName());
+std::optional<struct stat> statusOf(const QString& path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+QByteArray key(const struct stat& status) {
+    return QByteArray::number(static_cast<qulonglong>(status.st_dev)) + ':' +
+           QByteArray::number(static_cast<qulonglong>(status.st_ino));
+}
+
+// Every name that any file system takes for the same, and a few more: to be too careful costs a question or a wait,
+// not a photo.
+QString folded(const QString& name) {
+    return name.normalized(QString::NormalizationForm_KD)
+        .toCaseFolded()
+        .normalized(QString::NormalizationForm_KC);
+}
+
+QByteArray inOtherCase(QByteArray name) {
+    for (char& c : name) {
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 'a' + 'A');
+        } else if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
+    }
+    return name;
+}
+
+QList<QByteArray> namesIn(const QByteArray& folder) {
+    QList<QByteArray> names;
+    DIR* const entries = ::opendir(folder.constData());
+    if (entries == nullptr) return names;
+    while (const dirent* entry = ::readdir(entries)) names.append(entry->d_name);
+    ::closedir(entries);
+    return names;
+}
+
+// Whether `name`, which the folder does not list, is found in it all the same. Inodes are no help: some file systems
+// give each spelling a number of its own.
+bool isFound(const QByteArray& folder, const QByteArray& name) {
+    struct stat status {};
+    return ::lstat((folder + '/' + name).constData(), &status) == 0;
+}
+
+// By a file created for a moment. In a folder that takes none no output can take another's place either.
+bool createdNameIgnoresCase(const QByteArray& folder) {
+    QByteArray path = folder + "/.zelto-case-XXXXXX";
+    const int file = ::mkostemp(path.data(), O_CLOEXEC);
+    if (file < 0) return false;
+    const bool ignores = isFound(folder, inOtherCase(path.sliced(folder.size() + 1)));
+    ::close(file);
+    ::unlink(path.constData());
+    return ignores;
+}
+
+bool looksUpInAnyCase(const QByteArray& folder) {
+    const QList<QByteArray> names = namesIn(folder);
+    for (const QByteArray& name : names) {
+        const QByteArray other = inOtherCase(name);
+        if (other != name && !names.contains(other)) return isFound(folder, other);
+    }
+    return createdNameIgnoresCase(folder);
+}
+
+bool ignoresCase(const QString& folder, const QByteArray& folderKey) {
+    static std::mutex mutex;
+    static QHash<QByteArray, bool> known;
+    const std::lock_guard lock(mutex);
+    const auto answer = known.constFind(folderKey);
+    if (answer != known.constEnd()) return *answer;
+    return *known.insert(folderKey, looksUpInAnyCase(QFile::encodeName(folder)));
+}
+
+}  // namespace
+
+FileIdentity fileIdentity(const QString& path) {
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    QString folder = withoutLastPathComponent(absolute);
+    QString name = lastPathComponent(absolute);
+    std::optional<struct stat> parent = statusOf(folder);
+    while (!parent && folder.size() > 1) {
+        name = joinedPath(lastPathComponent(folder), name);
+        folder = withoutLastPathComponent(folder);
+        parent = statusOf(folder);
+    }
+    const QByteArray folderKey = parent ? key(*parent) : QByteArray();
+    if (parent && ignoresCase(folder, folderKey)) name = folded(name);
+    const std::optional<struct stat> file = statusOf(absolute);
+    return {folderKey + '/' + QFile::encodeName(name), file ? key(*file) : QByteArray()};
+}
+
+bool isSameFile(const FileIdentity& one, const FileIdentity& other) {
+    return one.place == other.place || (!one.file.isEmpty() && one.file == other.file);
+}
+
+void FileSet::insert(const FileIdentity& identity) {
+    keys_.insert(identity.place);
+    if (!identity.file.isEmpty()) keys_.insert(identity.file);
+}
+
+bool FileSet::contains(const FileIdentity& identity) const {
+    return keys_.contains(identity.place) || (!identity.file.isEmpty() && keys_.contains(identity.file));
 }
 
 }  // namespace zelto
