@@ -23,13 +23,10 @@ TEST(GenerateAutoMacro, FillsTheStartNumberUpToItsDigits) {
     for (const auto& [fields, expected] : rows) EXPECT_EQ(GenerateAutoMacro(fields), expected);
 }
 
-TEST(AutoNumberField, HoldsNumbersFromOne) {
+TEST(GenerateAutoMacro, TakesNumbersFromOneAndGoesOnAfterTheLast) {
     for (const QString& typed : {u"0"_s, u"-3"_s, u""_s, u"abc"_s})
         EXPECT_EQ(autoNumberField(typed), u"1"_s) << typed.toStdString();
     EXPECT_EQ(autoNumberField(u"007"_s), u"007"_s);
-}
-
-TEST(ContinueLastNumber, GoesOnAfterTheLastOrStartsAnew) {
     EXPECT_EQ(ContinueLastNumber(true, 0), u"1"_s);
     EXPECT_EQ(ContinueLastNumber(false, 57), u"1"_s);
     EXPECT_EQ(ContinueLastNumber(true, std::numeric_limits<qint64>::max()), u"9223372036854775807"_s);

@@ -66,9 +66,7 @@ TEST(MacroList, AsksForADateFormatWhereADateIsChosen) {
 
 TEST(MacroList, OffersUsefulSpecialCharacters) {
     const QStringList characters = specialCharacters();
-    EXPECT_EQ(characters.value(0), u"€"_s);
-    EXPECT_EQ(characters.value(0x99 - 128), u"™"_s);
-    EXPECT_EQ(characters.value(0xFF - 128), u"ÿ"_s);
+    EXPECT_EQ(characters.value(0) + characters.value(0x99 - 128) + characters.value(0xFF - 128), u"€™ÿ"_s);
     EXPECT_EQ(QSet<QString>(characters.begin(), characters.end()).size(), 128);
     for (const QString& character : characters)
         EXPECT_NE(character.front().category(), QChar::Other_Control) << characters.indexOf(character) + 128;
