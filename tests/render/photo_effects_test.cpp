@@ -48,57 +48,42 @@ Framed apply(QImage photo, const PhotoEffects& effect, bool final = true) {
     return result;
 }
 
-// One axis of the blur, summed up term by term: every value of `line` seen through the weights exp(-i^2 / 2
-// sigma^2), -blur <= i <= blur.
-std::vector<double> blurredLine(const std::vector<double>& line, int blur) {
-    std::vector<double> weights;
-    for (int i = -blur; i <= blur; ++i)
-        weights.push_back(blur == 0 ? 1 : std::exp(-2.0 * i * i / blur / blur));
-    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
-    const int size = static_cast<int>(line.size());
-    std::vector<double> result(line.size(), 0.0);
-    for (int at = 0; at < size; ++at) {
-        for (int i = std::max(-blur, -at); i <= std::min(blur, size - 1 - at); ++i)
-            result[std::size_t(at)] += line[std::size_t(at + i)] * weights[std::size_t(i + blur)] / sum;
+// What a blurred line holds at one place: every value seen through the weights exp(-i^2 / 2 sigma^2), sigma half
+// the blur, -blur <= i <= blur.
+double blurredAt(int at, const std::vector<double>& line, int blur) {
+    double sum = 0;
+    double weights = 0;
+    for (int i = -blur; i <= blur; ++i) {
+        const double weight = blur == 0 ? 1 : std::exp(-2.0 * i * i / blur / blur);
+        weights += weight;
+        if (at + i >= 0 && at + i < int(line.size())) sum += weight * line[std::size_t(at + i)];
     }
-    return result;
+    return sum / weights;
 }
 
-// `framed` with its shadow, as slow and obvious as can be. `place` and `offset` count from the canvas's lower
-// left.
+// `framed`, whose rows all have the alphas of the first, with its shadow. `place` and `offset` count from the
+// canvas's lower left.
 QImage slowShadow(QImage framed, QSize canvas, QPoint place, QPoint offset, int blur, const Color& color) {
     framed = storedValues(framed);
-    const int margin = blur + std::max(std::abs(offset.x()), std::abs(offset.y()));
-    const int left = margin + place.x();
-    const int top = margin + canvas.height() - place.y() - framed.height();
-    const auto lineOf = [margin](int size) {
-        return std::vector<double>(std::size_t(size + 2 * margin), 0.0);
-    };
-    std::vector<std::vector<double>> rows(lineOf(canvas.height()).size(), lineOf(canvas.width()));
-    for (int y = 0; y < framed.height(); ++y) {
-        std::vector<double>& row = rows[std::size_t(top - offset.y() + y)];
-        for (int x = 0; x < framed.width(); ++x)
-            row[std::size_t(left + offset.x() + x)] = qAlpha(framed.pixel(x, y));
-        row = blurredLine(row, blur);
-    }
-    QImage result(canvas, QImage::Format_ARGB32_Premultiplied);
-    for (int x = 0; x < canvas.width(); ++x) {
-        std::vector<double> column;
-        for (const std::vector<double>& row : rows) column.push_back(row[std::size_t(x + margin)]);
-        const std::vector<double> down = blurredLine(column, blur);
-        for (int y = 0; y < canvas.height(); ++y) {
-            const double tint = down[std::size_t(y + margin)] * double(color.Alpha);
-            const QPoint in(x + margin - left, y + margin - top);
-            const QRgb over = framed.rect().contains(in) ? framed.pixel(in) : 0;
-            const auto part = [&](int own, float component) {
-                return qRound(own + double(component) * tint * (255 - qAlpha(over)) / 255.0);
-            };
-            reinterpret_cast<QRgb*>(result.scanLine(y))[x] =
-                qRgba(part(qRed(over), color.Red), part(qGreen(over), color.Green),
-                      part(qBlue(over), color.Blue), part(qAlpha(over), 1.0F));
-        }
-    }
-    return result;
+    const QPoint corner(place.x(), canvas.height() - place.y() - framed.height());
+    std::vector<double> alphas;
+    for (int x = 0; x < framed.width(); ++x) alphas.push_back(qAlpha(framed.pixel(x, 0)));
+    const std::vector<double> ones(std::size_t(framed.height()), 1.0);
+    std::vector<double> across;
+    std::vector<double> down;
+    for (int x = 0; x < canvas.width(); ++x)
+        across.push_back(blurredAt(x - corner.x() - offset.x(), alphas, blur));
+    for (int y = 0; y < canvas.height(); ++y)
+        down.push_back(blurredAt(y - corner.y() + offset.y(), ones, blur));
+    return pictureOf(canvas, QImage::Format_ARGB32_Premultiplied, [&](int x, int y) {
+        const QPoint in = QPoint(x, y) - corner;
+        const QRgb over = framed.rect().contains(in) ? framed.pixel(in) : 0;
+        const double shade = across[std::size_t(x)] * down[std::size_t(y)] * double(color.Alpha) *
+                             (255 - qAlpha(over)) / 255.0;
+        const auto part = [&](int own, float component) { return qRound(own + double(component) * shade); };
+        return qRgba(part(qRed(over), color.Red), part(qGreen(over), color.Green),
+                     part(qBlue(over), color.Blue), part(qAlpha(over), 1.0F));
+    });
 }
 
 // Of the premultiplied values.
@@ -182,7 +167,11 @@ TEST(PhotoEffects, TheShadowIsAGaussianOfTheAlphaAtEveryBlur) {
             effect.Distance = 9;
             effect.Direction = 225;
             effect.ShadowColor = Color{0.2F, 0.9F, 0.4F, 0.75F};
-            const QImage photo = seeThrough ? drawnSceneWithAlpha({130, 90}) : drawnScene({130, 90});
+            const QImage photo = pictureOf(
+                {130, 90}, seeThrough ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32,
+                [&](int x, int y) {
+                    return qPremultiply(qRgba(2 * x, 2 * y, 90, seeThrough ? 40 + x * x % 200 : 255));
+                });
             const int k = (blur + 9) / 2;
             const QImage expected =
                 slowShadow(photo, photo.size() + QSize(k, k), {k, k}, {-k, -k}, blur, *effect.ShadowColor);
