@@ -20,52 +20,6 @@
 namespace zelto {
 namespace {
 
-void paintLandscape(QPainter& painter, double w, double h) {
-    QLinearGradient sky(0, 0, w, h * 0.6);
-    sky.setColorAt(0.0, QColor(40, 90, 170));
-    sky.setColorAt(0.6, QColor(140, 180, 225));
-    sky.setColorAt(1.0, QColor(250, 215, 170));
-    painter.fillRect(QRectF(0, 0, w, h), sky);
-
-    QRadialGradient sun(QPointF(w * 0.75, h * 0.22), std::min(w, h) * 0.25);
-    sun.setColorAt(0.0, QColor(255, 255, 235));
-    sun.setColorAt(0.25, QColor(255, 240, 180, 200));
-    sun.setColorAt(1.0, QColor(255, 220, 150, 0));
-    painter.fillRect(QRectF(0, 0, w, h), sun);
-
-    const QColor hillColors[] = {QColor(95, 125, 150), QColor(60, 105, 75), QColor(38, 70, 35)};
-    for (int hill = 0; hill < 3; ++hill) {
-        QPainterPath path(QPointF(0, h));
-        for (int step = 0; step <= 64; ++step) {
-            const double t = step / 64.0;
-            const double wave = std::sin(t * (5.0 + 3.0 * hill) + hill * 1.7) * (0.09 - 0.02 * hill);
-            path.lineTo(w * t, h * (0.5 + 0.14 * hill - wave - 0.03 * std::sin(t * 31.0)));
-        }
-        path.lineTo(w, h);
-        painter.fillPath(path, hillColors[hill]);
-    }
-}
-
-void paintDetail(QPainter& painter, double w, double h) {
-    const QRectF house(w * 0.12, h * 0.55, w * 0.2, h * 0.22);
-    painter.fillRect(house, QColor(190, 60, 45));
-    painter.setBrush(QColor(70, 50, 50));
-    painter.setPen(Qt::NoPen);
-    const QPointF roof[] = {house.topLeft(), QPointF(house.center().x(), h * 0.45), house.topRight()};
-    painter.drawPolygon(roof, 3);
-    painter.fillRect(QRectF(w * 0.16, h * 0.61, w * 0.04, h * 0.06), QColor(250, 245, 200));
-
-    painter.setPen(QPen(QColor(235, 230, 220), std::max(1.0, w / 800.0)));
-    for (int post = 0; post < 40; ++post) {
-        const double x = w * (0.4 + post * 0.015);
-        painter.drawLine(QPointF(x, h * 0.8), QPointF(x + w * 0.004, h * 0.93));
-    }
-    painter.setPen(QPen(QColor(20, 25, 30), std::max(0.5, w / 2500.0)));
-    for (int wire = 0; wire < 4; ++wire) {
-        painter.drawLine(QPointF(0, h * (0.1 + 0.02 * wire)), QPointF(w, h * (0.3 + 0.01 * wire)));
-    }
-}
-
 // Grain, so that no area is flat: the same pattern for the same place, on every machine.
 void addGrain(QImage& picture) {
     for (int y = 0; y < picture.height(); ++y) {
@@ -151,12 +105,24 @@ QByteArray exifBytes(const TestJpeg& options) {
 
 QImage drawnScene(QSize size) {
     QImage picture(size, QImage::Format_RGB32);
-    {
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintLandscape(painter, size.width(), size.height());
-        paintDetail(painter, size.width(), size.height());
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size.width(), size.height());
+    QLinearGradient sky(0, 0, 1, 0.6);
+    sky.setColorAt(0.0, QColor(40, 90, 170));
+    sky.setColorAt(1.0, QColor(250, 215, 170));
+    painter.fillRect(QRectF(0, 0, 1, 1), sky);
+    for (int hill = 0; hill < 3; ++hill) {
+        QPainterPath path(QPointF(0, 1));
+        for (double t = 0; t <= 1; t += 1 / 64.0)
+            path.lineTo(t, 0.5 + 0.14 * hill - 0.07 * std::sin(t * (5 + 3 * hill) + 1.7 * hill));
+        path.lineTo(1, 1);
+        painter.fillPath(path, QColor(95 - 28 * hill, 125 - 27 * hill, 150 - 55 * hill));
     }
+    painter.fillRect(QRectF(0.12, 0.55, 0.2, 0.22), QColor(190, 60, 45));  // a house and its fence
+    painter.setPen(QPen(QColor(235, 230, 220), 1 / 800.0));
+    for (double x = 0.4; x < 0.99; x += 0.015) painter.drawLine(QPointF(x, 0.8), QPointF(x + 0.004, 0.93));
+    painter.end();
     addGrain(picture);
     return picture;
 }
