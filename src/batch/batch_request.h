@@ -5,6 +5,7 @@
 
 #include "batch/destination_map.h"
 #include "batch/look_ahead.h"
+#include "batch/output_plan.h"
 #include "batch/photo_processor.h"
 #include "records/output_options.h"
 
@@ -13,6 +14,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace zelto {
@@ -21,6 +23,8 @@ namespace zelto {
 struct BatchPhoto {
     QString path;
     bool checked = true;  // the others are passed over, but count as rows
+    bool isElsewhere =
+        false;  // written by another run of the same list, so that its name is taken all the same
 };
 
 // It never changes while a run lasts.
@@ -28,6 +32,8 @@ struct BatchRequest {
     std::vector<BatchPhoto> photos;
     OutputOptions options;
     FolderDestinations folders;  // the source folders of the list, for a kept structure
+    NameRules names;
+    std::shared_ptr<const OutputPlan> plan;  // planOutputs() of all this; a run that has none makes it first
     LookAheadLimits limits = LookAheadLimits::forThisMachine();
     // Called on the run's thread, where set: to keep the stack as "Last Watermark" whenever a worker starts, and the
     // running number of the last photo once that is written.
@@ -42,11 +48,14 @@ struct RunDestinations {
 };
 RunDestinations runDestinations(const BatchRequest& request);
 
-// The task of the photo at `row`, with dates as of `now`.
-PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinations, std::size_t row,
-                    const QDateTime& now);
+// The task of the photo at `row`, whose output is planned as `output`, with dates as of `now`.
+PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinations,
+                    const PlannedOutput& output, std::size_t row, const QDateTime& now);
 
-// The photos of the list that a run would replace with an output, each once, in list order. Looks at the disk.
-QStringList replacedPhotos(const BatchRequest& request, const QDateTime& now);
+// What becomes of every output by the rules of the request. Names are given out over the whole list, in list order;
+// a photo that fails later keeps its name. A number is free when no photo of the list has the name it makes; files
+// that stand there count where the rule for them is to number. Paths are compared as the file system does. Pages of a
+// combined PDF have no names of their own. Looks at the disk, a few times a photo.
+OutputPlan planOutputs(const BatchRequest& request, const QDateTime& now);
 
 }  // namespace zelto

@@ -2,9 +2,11 @@
 #include "batch/batch_run.h"
 
 #include "batch/look_ahead.h"
+#include "batch/output_name.h"
 
 #include <QDateTime>
 #include <QLoggingCategory>
+#include <QSet>
 
 #include <exception>
 #include <utility>
@@ -38,6 +40,7 @@ struct BatchRun::Job {
     BatchRequest request;
     std::unique_ptr<PhotoProcessor> processor;
     std::size_t NextImageNumberForProcessing = 0;
+    QSet<std::size_t> writtenNames;  // by the first photo that has the name
 };
 
 // One worker: from a start or a resume to the next pause or the end.
@@ -49,9 +52,15 @@ class BatchRun::Worker {
     void StartOrContinueWatermarking(bool resumed);
 
   private:
+    const PlannedOutput& planned(std::size_t row) const { return request_.plan->outputs[row]; }
+    bool isWritten(std::size_t row) const {
+        return request_.photos[row].checked && planned(row).fate == PlannedOutput::Fate::Write;
+    }
     std::optional<PhotoTask> nextTask();
     RunEnd processPhotos();
     void UpdateImage(std::size_t row, LookAhead& ahead);
+    void refuse(std::size_t row);
+    bool replacesAnEarlierOutput(std::size_t row) const;
     void recordOutcome(PhotoOutcome outcome);
     std::optional<RunEnd> askWhetherToGoOn();
     std::optional<RunEnd> interruption();
@@ -74,6 +83,10 @@ class BatchRun::Worker {
 void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
     observer_.runStarted(resumed);
     if (request_.saveLastWatermark) attempt("saving the last watermark", request_.saveLastWatermark);
+    if (!request_.plan) {
+        job_.request.plan =
+            std::make_shared<const OutputPlan>(planOutputs(request_, QDateTime::currentDateTime()));
+    }
     destinations_ = runDestinations(request_);
     report_.OutPutImageList = destinations_.topFolders;
     nextToPrepare_ = job_.NextImageNumberForProcessing;
@@ -86,8 +99,8 @@ void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
 std::optional<PhotoTask> BatchRun::Worker::nextTask() {
     while (nextToPrepare_ < request_.photos.size()) {
         const std::size_t row = nextToPrepare_++;
-        if (!request_.photos[row].checked) continue;
-        return photoTask(request_, destinations_, row, QDateTime::currentDateTime());
+        if (!isWritten(row)) continue;
+        return photoTask(request_, destinations_, planned(row), row, QDateTime::currentDateTime());
     }
     return std::nullopt;
 }
@@ -100,8 +113,10 @@ RunEnd BatchRun::Worker::processPhotos() {
             if (const auto how = askWhetherToGoOn()) return *how;
         }
         if (stop_.stop_requested()) return RunEnd::Cancelled;
-        if (request_.photos[i].checked) {
-            UpdateImage(i, ahead);
+        const bool isRefused = request_.photos[i].checked && planned(i).fate == PlannedOutput::Fate::Fail;
+        if (isRefused) refuse(i);
+        if (isWritten(i)) UpdateImage(i, ahead);
+        if (isRefused || isWritten(i)) {
             if (const auto how = interruption()) return *how;
         }
         job_.NextImageNumberForProcessing = i + 1;
@@ -135,7 +150,10 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     }
     ready.reset();
     ahead.release();
-    if (!written) {
+    if (written) {
+        if (replacesAnEarlierOutput(row)) outcome.warnings.push_back(sameNameWarning());
+        job_.writtenNames.insert(planned(row).sharesNameOf.value_or(row));
+    } else {
         const Error& error = written.error();
         outcome.error = error.code == ErrorCode::Damaged ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;
@@ -143,12 +161,24 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     recordOutcome(std::move(outcome));
 }
 
+// A photo whose output is not to be written, by the rules for names.
+void BatchRun::Worker::refuse(std::size_t row) {
+    const auto place = static_cast<qint64>(row);
+    observer_.photoStarted(place);
+    recordOutcome({place, request_.photos[row].path, {}, {}, planned(row).reason, {}, {}});
+}
+
+bool BatchRun::Worker::replacesAnEarlierOutput(std::size_t row) const {
+    const std::optional<std::size_t> first = planned(row).sharesNameOf;
+    return first && (request_.photos[*first].isElsewhere || job_.writtenNames.contains(*first));
+}
+
 void BatchRun::Worker::recordOutcome(PhotoOutcome outcome) {
     const OutputOptions& options = request_.options;
     asked_ = false;
     if (outcome.succeeded()) {
         SuccessiveFail_ = 0;
-        if (!options.CombineToSinglePDF && !options.KeepDirectoryStructure) {
+        if (!combinesIntoOnePdf(options) && !options.KeepDirectoryStructure) {
             report_.OutPutImageList.append(outcome.output);
         }
     } else {
@@ -223,7 +253,7 @@ BatchRun::~BatchRun() {
 bool BatchRun::ProcessImaging(BatchRequest request, std::unique_ptr<PhotoProcessor> processor) {
     const std::lock_guard lock(mutex_);
     if (state_ != State::Idle && state_ != State::Stopped) return false;
-    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor)});
+    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor), 0, {}});
     launch(false);
     return true;
 }

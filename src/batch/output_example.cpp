@@ -9,7 +9,7 @@ namespace zelto {
 OutputExample outputExample(const OutputPlace& place, QSize photo, const OutputOptions& options,
                             const std::optional<PhotoEffects>& effects, const FolderDestinations& folders) {
     const QSize size = photo.isValid() ? writtenSize(photo, options, effects) : QSize();
-    if (options.CombineToSinglePDF && outputExtension(place.sourcePath, options) == QLatin1String(".pdf")) {
+    if (combinesIntoOnePdf(options)) {
         return {combinedPdfPath(options.OutputPath), size};
     }
     FolderDestinations destination;

@@ -67,6 +67,11 @@ QList<Macro> renameMacros() {
     return macros;
 }
 
+bool combinesIntoOnePdf(const OutputOptions& options) {
+    return options.CombineToSinglePDF &&
+           options.OutputFormat.compare(QLatin1String("pdf"), Qt::CaseInsensitive) == 0;
+}
+
 QString outputExtension(const QString& sourcePath, const OutputOptions& options) {
     const QString extension = options.OutputFormat == SameAsSourceFormat
                                   ? pathExtension(lastPathComponent(sourcePath)).toLower()
@@ -76,10 +81,11 @@ QString outputExtension(const QString& sourcePath, const OutputOptions& options)
 
 QString outputName(const OutputPlace& place, const OutputOptions& options) {
     const QString originalName = withoutPathExtension(lastPathComponent(place.sourcePath));
-    if (!options.Rename) return originalName;
+    QString name;
+    if (options.Rename) name = asFileName(filledPattern(options.RenameFormat.trimmed(), originalName, place));
     // An empty name would give every photo the same hidden file.
-    const QString name = asFileName(filledPattern(options.RenameFormat.trimmed(), originalName, place));
-    return name.isEmpty() ? originalName : name;
+    if (name.isEmpty()) name = originalName;
+    return place.number == 0 ? name : name + QString::number(place.number);
 }
 
 QString outputFolder(const QString& sourcePath, const OutputOptions& options,
@@ -95,13 +101,17 @@ QString outputPath(const OutputPlace& place, const OutputOptions& options,
                       outputName(place, options) + outputExtension(place.sourcePath, options));
 }
 
+bool isTaken(const QString& path) {
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
 QString combinedPdfPath(const QString& folder) {
     QString number;
     for (int k = 1;; ++k) {
         const QString path =
             joinedPath(folder, QLatin1String("WatermarkedPhotos") + number + QLatin1String(".pdf"));
-        const QFileInfo info(path);
-        if (!info.exists() && !info.isSymLink()) return path;
+        if (!isTaken(path)) return path;
         number = QString::number(k);
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the output of a photo goes: its name, extension and folder. Nothing is created or looked up on disk,
-// except by combinedPdfPath; an existing file of the same name is meant to be replaced. Whatever a pattern or
-// a path holds, no output leads out of the output folder. Any thread.
+// Where the output of a photo goes: its name, extension and folder. Nothing is created, and only the functions that
+// say so look at the disk; whether a name is still free is output_plan.h's. Whatever a pattern or a path holds, no
+// output leads out of the output folder. Any thread.
 #pragma once
 
 #include "batch/destination_map.h"
@@ -19,16 +19,21 @@ struct OutputPlace {
     QString sourcePath;
     qint64 row = 0;  // in the photo list, from 0; unchecked photos count
     QDate today;
+    qint64 number = 0;  // appended to the name to keep it apart from another's; 0 for none
 };
 
 // The macros a rename pattern may hold, in the order they are filled in.
 QList<Macro> renameMacros();
 
+// Whether all photos become pages of one PDF. Every other format hides the box that asks for it, so it counts with
+// that format only.
+bool combinesIntoOnePdf(const OutputOptions& options);
+
 // With its dot: the source's own in lower case, or the chosen one as it stands. "." where the source has
 // none.
 QString outputExtension(const QString& sourcePath, const OutputOptions& options);
 
-// The file name without its extension: the source's, or the rename pattern filled in.
+// The file name without its extension: the source's or the rename pattern filled in, then the number.
 QString outputName(const OutputPlace& place, const OutputOptions& options);
 
 // The folder the output of a photo goes to, by the resolved `destinations` where the structure is kept.
@@ -39,7 +44,10 @@ QString outputFolder(const QString& sourcePath, const OutputOptions& options,
 QString outputPath(const OutputPlace& place, const OutputOptions& options,
                    const FolderDestinations& destinations);
 
-// The first of WatermarkedPhotos.pdf, WatermarkedPhotos1.pdf, WatermarkedPhotos2.pdf, ... that `folder` does
+// Whether something has this path already, be it a folder or a link that leads nowhere. Looks at the disk.
+bool isTaken(const QString& path);
+
+// Looks at the disk: the first of WatermarkedPhotos.pdf, WatermarkedPhotos1.pdf, WatermarkedPhotos2.pdf, ... that `folder` does
 // not hold.
 QString combinedPdfPath(const QString& folder);
 

@@ -35,10 +35,6 @@ std::optional<PictureFormat> formatOf(const QString& output) {
     return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
 }
 
-bool isPageOfCombinedPdf(PictureFormat format, const OutputOptions& options) {
-    return format == PictureFormat::Pdf && options.CombineToSinglePDF;
-}
-
 }  // namespace
 
 struct OutputWriter::CombinedPdf {
@@ -107,7 +103,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
     if (options.ResizeImage) picture = resizedImage(picture, size);
     photo.size = picture.size();
-    if (isPageOfCombinedPdf(*format, options)) {
+    if (combinesIntoOnePdf(options)) {
         Result<PdfPage> page = encodePdfPage(picture);
         if (!page) return tl::unexpected(std::move(page.error()));
         photo.page = std::move(*page);

@@ -2,6 +2,7 @@
 #include "cli/batch_plan.h"
 
 #include "batch/image_list.h"
+#include "batch/output_name.h"
 #include "persistence/copyright_file.h"
 #include "persistence/output_settings_file.h"
 #include "persistence/setting_file.h"
@@ -94,8 +95,14 @@ Result<OutputOptions> outputOptions(const CommandLine& line) {
             QStringLiteral("“%1” names no output folder; name one with --output").arg(line.optionsFile));
     }
     options->OutputPath = absolutePath(options->OutputPath);
-    if (line.combinePdf && options->OutputFormat != QLatin1String("pdf")) {
+    if (line.combinePdf && !combinesIntoOnePdf(*options)) {
         return fail(ErrorCode::InvalidValue, QStringLiteral("--combine-pdf needs --format pdf"));
+    }
+    if (combinesIntoOnePdf(*options) && !line.shard.isWhole()) {
+        return fail(
+            ErrorCode::InvalidValue,
+            QStringLiteral("a combined PDF is one document, which --shard cannot divide; leave one of "
+                           "them out"));
     }
     return options;
 }
@@ -148,7 +155,7 @@ Result<ImageList> photoList(const CommandLine& line) {
 }
 
 Result<void> refuseToReplaceOriginals(const BatchRequest& request) {
-    const QStringList replaced = replacedPhotos(request, QDateTime::currentDateTime());
+    const QStringList& replaced = request.plan->replacedPhotos;
     if (replaced.isEmpty()) return {};
     return fail(
         ErrorCode::InvalidValue,
@@ -178,8 +185,12 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
     plan.request.folders = list->InputOutputDictionary();
     for (const Image& image : list->images()) {
         const auto row = static_cast<qint64>(plan.request.photos.size());
-        plan.request.photos.push_back({image.ImagePath, line.shard.contains(row)});
+        const bool isOurs = line.shard.contains(row);
+        plan.request.photos.push_back({image.ImagePath, isOurs, !isOurs});
     }
+    plan.request.names = line.names;
+    plan.request.plan =
+        std::make_shared<const OutputPlan>(planOutputs(plan.request, QDateTime::currentDateTime()));
     if (line.jobs) plan.request.limits.jobs = *line.jobs;
     plan.request.limits.jobs = static_cast<int>(std::min<std::size_t>(
         static_cast<std::size_t>(plan.request.limits.jobs), plan.request.photos.size()));

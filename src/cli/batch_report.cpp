@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/batch_report.h"
 
+#include "batch/output_name.h"
+#include "cli/printable.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -66,15 +69,17 @@ int BatchReport::exitStatus() const {
 BatchReport plannedReport(const BatchRequest& request) {
     const RunDestinations destinations = runDestinations(request);
     const QDateTime now = QDateTime::currentDateTime();
-    const bool combined = request.options.CombineToSinglePDF && request.options.OutputFormat == "pdf"_L1;
+    const bool combined = combinesIntoOnePdf(request.options);
     BatchReport report;
     for (std::size_t row = 0; row < request.photos.size(); ++row) {
         if (!request.photos[row].checked) continue;
-        const PhotoTask task = photoTask(request, destinations, row, now);
+        const PlannedOutput& planned = request.plan->outputs[row];
+        const PhotoTask task = photoTask(request, destinations, planned, row, now);
         PhotoReport& photo = report.photos.emplace_back();
         photo.index = task.row;
         photo.source = task.source;
         if (!combined) photo.output = task.output;
+        photo.error = planned.reason;
     }
     return report;
 }
@@ -93,13 +98,13 @@ QByteArray toJson(const BatchReport& report) {
                                  {"stopped"_L1, report.stopped},
                                  {"warned"_L1, report.warned()},
                                  {"message"_L1, report.message}};
-    return QJsonDocument(
-               {{"version"_L1, 1},
-                {"photos"_L1, photos},
-                {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
-                {"summary"_L1, summary},
-                {"error"_L1, report.error}})
-        .toJson();
+    return printableJson(
+        QJsonDocument({{"version"_L1, 1},
+                       {"photos"_L1, photos},
+                       {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
+                       {"summary"_L1, summary},
+                       {"error"_L1, report.error}})
+            .toJson());
 }
 
 QString toText(const BatchReport& report) {
@@ -116,7 +121,7 @@ QString toText(const BatchReport& report) {
     // The second line of a message speaks of a window.
     QString text = report.message.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n') +
                    counts.join(QStringLiteral(", ")) + QLatin1Char('\n');
-    if (!report.combinedPdf.isEmpty()) text += report.combinedPdf + QLatin1Char('\n');
+    if (!report.combinedPdf.isEmpty()) text += printable(report.combinedPdf) + QLatin1Char('\n');
     return text;
 }
 

@@ -45,8 +45,8 @@ struct BatchReport {
     int exitStatus() const;
 };
 
-// The report before anything has run: every checked photo, with the path it is to get. Pages of a combined PDF
-// have none yet.
+// The report before anything has run: every checked photo with the path it is to get, or why it gets none. Pages of
+// a combined PDF have no path yet. `request` has its plan.
 BatchReport plannedReport(const BatchRequest& request);
 
 // The photo at `row` of the whole list, which must be one of the report's.

@@ -6,10 +6,9 @@
 #include "batch/output_size.h"
 #include "batch/output_writer.h"
 #include "cli/interrupt.h"
+#include "cli/printable.h"
 #include "pictures/picture_reader.h"
 #include "platform/dates.h"
-
-#include <QSet>
 
 #include <memory>
 
@@ -20,24 +19,37 @@ constexpr QLatin1String StoppedMessage(
     "Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on.");
 constexpr QLatin1String InterruptedMessage("Interrupted.");
 constexpr QLatin1String DryRunMessage("Dry run: nothing was written.");
+constexpr QLatin1String UnfinishedPdfMessage("The combined PDF was not finished.");
+
+void tellWarnings(const PhotoReport& photo, Console& console) {
+    for (const PhotoWarning& warning : photo.warnings)
+        console.note(photo.source + QStringLiteral(": ") + warning.text);
+}
 
 // Keeps the report up to date and shows the progress.
 class ReportingObserver : public BatchObserver {
   public:
-    ReportingObserver(BatchReport& report, Console& console, bool continueAfterFailures)
-        : report_(report), console_(console), continueAfterFailures_(continueAfterFailures) {}
+    ReportingObserver(const BatchRequest& request, BatchReport& report, Console& console,
+                      bool continueAfterFailures)
+        : request_(request),
+          report_(report),
+          console_(console),
+          continueAfterFailures_(continueAfterFailures) {}
 
     void answerThrough(BatchRun& run) { run_ = &run; }
 
     void runStarted(bool) override {}
     void photoStarted(qint64) override {}
     void photoFinished(const PhotoOutcome& outcome) override;
-    void progressed(qint64) override {}
+    void progressed(qint64 done) override;
     void successiveFail() override { run_->answerSuccessiveFail(continueAfterFailures_); }
     void combinedPdfFailed(const QString& reason) override;
     void runEnded(const RunReport& report) override;
 
   private:
+    void throwAwayPages();
+
+    const BatchRequest& request_;
     BatchReport& report_;
     Console& console_;
     const bool continueAfterFailures_;
@@ -47,9 +59,7 @@ class ReportingObserver : public BatchObserver {
 void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
     PhotoReport& photo = photoAt(report_, outcome.row);
     photo.warnings = outcome.warnings;
-    for (const PhotoWarning& warning : outcome.warnings) {
-        console_.note(outcome.source + QStringLiteral(": ") + warning.text);
-    }
+    tellWarnings(photo, console_);
     if (outcome.succeeded()) {
         photo.status = PhotoReport::Status::Written;
         photo.size = outcome.size;
@@ -65,6 +75,16 @@ void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
     console_.advance({});
 }
 
+// Photos that the rules for names leave out have their turn like all others.
+void ReportingObserver::progressed(qint64 done) {
+    const auto row = static_cast<std::size_t>(done - 1);
+    const bool isSkipped =
+        request_.photos[row].checked && request_.plan->outputs[row].fate == PlannedOutput::Fate::Skip;
+    if (!isSkipped) return;
+    console_.note(request_.photos[row].path + QStringLiteral(": ") + request_.plan->outputs[row].reason);
+    console_.advance({});
+}
+
 // Its pages were good, but none of them has reached the disk.
 void ReportingObserver::combinedPdfFailed(const QString& reason) {
     console_.problem(QStringLiteral("the combined PDF could not be written: ") + reason);
@@ -76,8 +96,19 @@ void ReportingObserver::combinedPdfFailed(const QString& reason) {
     }
 }
 
+// The pages of a document that was not finished are gone with it.
+void ReportingObserver::throwAwayPages() {
+    for (PhotoReport& photo : report_.photos) {
+        if (photo.status != PhotoReport::Status::Written) continue;
+        photo.status = PhotoReport::Status::NotRun;
+        photo.size = QSize(0, 0);
+        photo.error = UnfinishedPdfMessage;
+    }
+}
+
 void ReportingObserver::runEnded(const RunReport& report) {
     report_.combinedPdf = report.combinedPdf;
+    if (report.end != RunEnd::Finished && combinesIntoOnePdf(request_.options)) throwAwayPages();
     for (PhotoReport& photo : report_.photos) {
         if (photo.output.isEmpty() && photo.status == PhotoReport::Status::Written)
             photo.output = report.combinedPdf;
@@ -89,31 +120,14 @@ void ReportingObserver::runEnded(const RunReport& report) {
                                             : report.message();
 }
 
-// Photos of the same name from different folders are easily overlooked.
-void tellOfSharedNames(const BatchReport& report, Console& console) {
-    QSet<QString> outputs;
-    qint64 replaced = 0;
-    for (const PhotoReport& photo : report.photos) {
-        if (photo.output.isEmpty()) continue;
-        if (outputs.contains(photo.output)) ++replaced;
-        outputs.insert(photo.output);
-    }
-    if (replaced == 0) return;
-    console.note(QStringLiteral(
-                     "outputs replaced by that of a later photo of the same name: %1 (--keep-structure or a "
-                     "number in --rename keeps them apart)")
-                     .arg(replaced));
-}
-
 }  // namespace
 
 BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& console) {
     BatchReport report = plannedReport(plan.request);
-    ReportingObserver observer(report, console, line.continueAfterFailures);
+    ReportingObserver observer(plan.request, report, console, line.continueAfterFailures);
     BatchRun run(observer);
     observer.answerThrough(run);
     const InterruptWatch watch([&] { run.CancelProcessingAction(); });
-    tellOfSharedNames(report, console);
     console.begin(static_cast<qint64>(report.photos.size()));
     run.ProcessImaging(plan.request, std::make_unique<OutputWriter>(OutputWriter::Settings{
                                          plan.request.options, plan.stack, userDateLocale(), plan.copyright,
@@ -123,13 +137,18 @@ BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& co
     return report;
 }
 
-BatchReport dryRun(const BatchPlan& plan) {
+BatchReport dryRun(const BatchPlan& plan, Console& console) {
     BatchReport report = plannedReport(plan.request);
     report.message = DryRunMessage;
     const OutputOptions& options = plan.request.options;
     const QString combinedPdf = combinedPdfPath(options.OutputPath);
     for (PhotoReport& photo : report.photos) {
         if (photo.output.isEmpty()) photo.output = combinedPdf;
+        const PlannedOutput& planned = plan.request.plan->outputs[static_cast<std::size_t>(photo.index)];
+        if (planned.sharesNameOf && planned.fate == PlannedOutput::Fate::Write) {
+            photo.warnings.push_back(sameNameWarning());
+            tellWarnings(photo, console);
+        }
         const Result<QSize> size = readPictureSize(photo.source);
         if (!size) {
             photo.error = DamagedPictureMessage;
@@ -146,8 +165,8 @@ QString dryRunText(const BatchReport& report) {
         const QString size = photo.error.isEmpty()
                                  ? QStringLiteral("%1x%2").arg(photo.size.width()).arg(photo.size.height())
                                  : photo.error;
-        text +=
-            photo.source + QLatin1Char('\t') + photo.output + QLatin1Char('\t') + size + QLatin1Char('\n');
+        text += QStringList{printable(photo.source), printable(photo.output), size}.join(QLatin1Char('\t')) +
+                QLatin1Char('\n');
     }
     return text;
 }

@@ -12,7 +12,7 @@ namespace zelto {
 BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& console);
 
 // Where each photo would go, and how large it would become.
-BatchReport dryRun(const BatchPlan& plan);
+BatchReport dryRun(const BatchPlan& plan, Console& console);
 
 // A dry run as lines of source, output and size, with tabs between them.
 QString dryRunText(const BatchReport& report);

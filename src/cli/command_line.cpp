@@ -135,6 +135,15 @@ Complaint applyRepeatedFailure(CommandLine& line, const QString& value) {
     return choose<bool>(answers, value, line.continueAfterFailures);
 }
 
+template <auto Rule>
+Complaint applyNameRule(CommandLine& line, const QString& value) {
+    static constexpr std::array<Choice<NameRule>, 4> rules = {{{"replace", NameRule::Replace},
+                                                               {"number", NameRule::Number},
+                                                               {"skip", NameRule::Skip},
+                                                               {"fail", NameRule::Fail}}};
+    return choose<NameRule>(rules, value, line.names.*Rule);
+}
+
 // A text that must not be empty.
 template <auto Field>
 Complaint text(CommandLine& line, const QString& value) {
@@ -199,6 +208,14 @@ const std::array Options = {
            applyShard},
     Option{nullptr, "on-repeated-failure", "WHAT",
            "stop or continue after 3 failures in a row (default: stop)", applyRepeatedFailure},
+    Option{
+        nullptr, "same-name", "WHAT",
+        "photos of the run with the same output: replace (with a\nwarning), number, skip or fail (default: "
+        "replace)",
+        applyNameRule<&NameRules::sameName>},
+    Option{nullptr, "existing", "WHAT",
+           "outputs that stand there before the run: replace, number,\nskip or fail (default: replace)",
+           applyNameRule<&NameRules::existing>},
     Option{nullptr, "overwrite-originals", nullptr, "allow outputs that replace photos of the list",
            turn<&CommandLine::overwriteOriginals>},
     Option{nullptr, "dry-run", nullptr, "print what would be written, and write nothing",
@@ -231,10 +248,6 @@ Complaint contradiction(const CommandLine& line) {
     if (line.inputs.isEmpty()) return QStringLiteral("name the photos or folders to watermark");
     if (line.output.isEmpty() && line.optionsFile.isEmpty()) {
         return QStringLiteral("name the output folder with --output");
-    }
-    if (line.combinePdf && !line.shard.isWhole()) {
-        return QStringLiteral(
-            "--combine-pdf makes one document, which --shard cannot divide; leave one of them out");
     }
     return {};
 }

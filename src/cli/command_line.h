@@ -4,6 +4,7 @@
 #pragma once
 
 #include "batch/folder_scan.h"
+#include "batch/output_plan.h"
 #include "cli/shard.h"
 #include "platform/result.h"
 #include "records/output_options.h"
@@ -47,6 +48,7 @@ struct CommandLine {
     std::optional<int> jobs;
     Shard shard;
     bool continueAfterFailures = false;
+    NameRules names;
     bool overwriteOriginals = false;
     bool dryRun = false;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/console.h"
 
+#include "cli/printable.h"
+
 #include <QByteArray>
 
 #include <sys/ioctl.h>
@@ -51,7 +53,7 @@ void Console::advance(const QString& line) {
     if (bar_) {
         if (pace_.done() == pace_.total() || Clock::now() - drawn_ >= RedrawInterval) drawBar();
     } else if (!quiet_ && !line.isEmpty()) {
-        print(QStringLiteral("[%1/%2] %3\n").arg(pace_.done()).arg(pace_.total()).arg(line));
+        print(QStringLiteral("[%1/%2] %3\n").arg(pace_.done()).arg(pace_.total()).arg(printable(line)));
     }
 }
 
@@ -59,7 +61,7 @@ void Console::problem(const QString& text) {
     const std::lock_guard lock(mutex_);
     clearBar();
     print((color_ ? QStringLiteral("\x1b[1;31mzelto-batch:\x1b[0m ") : QStringLiteral("zelto-batch: ")) +
-          text + QLatin1Char('\n'));
+          printable(text) + QLatin1Char('\n'));
     if (bar_ && pace_.total() > 0) drawBar();
 }
 
@@ -67,7 +69,7 @@ void Console::note(const QString& text) {
     if (quiet_) return;
     const std::lock_guard lock(mutex_);
     clearBar();
-    print(QStringLiteral("zelto-batch: ") + text + QLatin1Char('\n'));
+    print(QStringLiteral("zelto-batch: ") + printable(text) + QLatin1Char('\n'));
     if (bar_ && pace_.total() > 0) drawBar();
 }
 

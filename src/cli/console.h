@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What zelto-batch shows while it works: on a terminal a bar that stays on one line, elsewhere a line a photo.
-// Everything here goes to standard error. Any thread.
+// Everything here goes to standard error, with control characters escaped. Any thread.
 #pragma once
 
 #include "batch/run_pace.h"

@@ -55,7 +55,7 @@ BatchReport unusable(const Error& error) {
 BatchReport work(const CommandLine& line, Console& console) {
     const Result<BatchPlan> plan = planBatch(line);
     if (!plan) return unusable(plan.error());
-    if (line.dryRun) return dryRun(*plan);
+    if (line.dryRun) return dryRun(*plan, console);
     if (const Result<void> made = makeOutputFolder(*plan); !made) return unusable(made.error());
     return runBatch(*plan, line, console);
 }
@@ -76,7 +76,8 @@ int show(const BatchReport& report, const CommandLine& line, Console& console) {
 
 int usageError(const Error& error, bool json) {
     Console console({});
-    console.problem(error.message + QStringLiteral("\nTry 'zelto-batch --help'."));
+    console.problem(error.message);
+    console.note(QStringLiteral("try 'zelto-batch --help'"));
     if (json) printResult(toJson(unusable(error)));
     return exit_status::CannotBeUsed;
 }

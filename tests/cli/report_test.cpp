@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace zelto {
 namespace {
@@ -126,6 +127,54 @@ TEST_F(Report, PagesOfACombinedPdfHaveItsPath) {
     const QJsonObject report = this->report(arguments, 0);
     EXPECT_EQ(report["combinedPdf"_L1].toString(), pdf);
     EXPECT_EQ(report["photos"_L1][1]["output"_L1].toString(), pdf);
+}
+
+TEST_F(Report, OutputsOfOneNameAreToldAndKeptApartAsAsked) {
+    const QString in = path(u"in"_s);
+    const QStringList photos = {makePhoto(u"1/a.png"_s, {30, 20}), makePhoto(u"2/a.png"_s, {40, 20}),
+                                makeFile(u"in/3/a.png"_s, "no photo"), makePhoto(u"4/a.png"_s, {50, 20})};
+    const auto kinds = [](const QJsonObject& report) {
+        QString told;
+        for (const QJsonValue& photo : report["photos"_L1].toArray())
+            told += photo["warnings"_L1][0]["kind"_L1].toString() + u'.';
+        return told;
+    };
+    const QJsonObject replaced = report(photos, 1);
+    EXPECT_EQ(kinds(replaced), u".same-name..same-name."_s);
+    EXPECT_EQ(replaced["summary"_L1]["warned"_L1].toInt(), 2);
+    EXPECT_EQ(output(u"a.png"_s).width(), 50);
+
+    const QStringList numbered = QStringList{u"--same-name"_s, u"number"_s} + photos;
+    const QJsonObject planned = report(QStringList(u"--dry-run"_s) + numbered, 0);
+    const QJsonObject written = report(numbered, 1);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(planned["photos"_L1][i]["output"_L1], written["photos"_L1][i]["output"_L1]);
+    EXPECT_EQ(kinds(written), u"...."_s);
+    EXPECT_EQ(output(u"a1.png"_s).width(), 40);
+    EXPECT_EQ(output(u"a3.png"_s).width(), 50) << "a photo that fails keeps its name";
+
+    const QStringList careful = QStringList{u"--same-name"_s, u"fail"_s, u"--existing"_s, u"skip"_s} + photos;
+    const QJsonObject refused = report(careful, 1);
+    EXPECT_EQ(summary(refused), u"0/3/1 through"_s) << "left out: a.png exists already";
+    EXPECT_NE(refused["photos"_L1][0]["error"_L1].toString(), QString());
+    EXPECT_EQ(outputs(), QStringList({u"a.png"_s, u"a1.png"_s, u"a3.png"_s}));
+    // In place, but under other names: nothing is replaced, so nothing is refused.
+    EXPECT_EQ(run({u"-o"_s, path(u"in/1"_s), u"--existing"_s, u"number"_s, photos.first()}).exitStatus, 0);
+    EXPECT_EQ(filesBelow(u"in/1"_s).keys(), QStringList({u"a.png"_s, u"a1.png"_s}));
+}
+
+TEST_F(Report, WhatIsPrintedCannotDriveATerminalAndJsonStaysExact) {
+    const QString name = u"in/a\x1b[2J\n\x7f\u009b\u2028\u202e.png"_s;
+    const QString photo = path(name);
+    ASSERT_TRUE(QFile::copy(makePhoto(u"b.png"_s), photo));
+    const QByteArray shown = R"(a\u001B[2J\u000A\u007F\u009B\u2028\u202E.png)";
+    const ProgramRun good = run({photo});
+    EXPECT_EQ(good.errors, "[1/1] " + path(u"out/"_s).toUtf8() + shown + '\n');
+    EXPECT_TRUE(run({u"--dry-run"_s, photo}).output.startsWith(path(u"in/"_s).toUtf8() + shown + '\t'));
+    EXPECT_TRUE(run({path(u"none\n"_s)}).errors.contains(R"(none\u000A)"));
+    const ProgramRun json = run({u"--json"_s, photo});
+    EXPECT_TRUE(json.output.contains(R"([2J\n\u007F\u009B)")) << json.output.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(json.output)["photos"_L1][0]["source"_L1].toString(), photo);
 }
 
 TEST_F(Report, AJsonReportTellsWhyNothingWasRun) {

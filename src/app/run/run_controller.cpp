@@ -63,7 +63,7 @@ void RunController::ProcessImaging(const OutputOptions& options) {
     // Looking for every photo on the disk takes a while.
     const QPointer<RunController> self(this);
     QThreadPool::globalInstance()->start([self, plan] {
-        const QStringList replaced = replacedPhotos(plan->request, QDateTime::currentDateTime());
+        const QStringList replaced = planOutputs(plan->request, QDateTime::currentDateTime()).replacedPhotos;
         QMetaObject::invokeMethod(
             QCoreApplication::instance(),
             [self, plan, replaced] {

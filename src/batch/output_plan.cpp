@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/output_plan.h"
+
+#include "batch/batch_request.h"
+#include "batch/output_name.h"
+#include "platform/file_identity.h"
+#include "platform/path_parts.h"
+
+#include <QHash>
+#include <QSet>
+
+namespace zelto {
+namespace {
+
+// Gives out the outputs photo by photo, in list order.
+class Planner {
+  public:
+    Planner(const BatchRequest& request, const QDateTime& now)
+        : request_(request), now_(now), destinations_(runDestinations(request)) {
+        plan_.outputs.resize(request.photos.size());
+    }
+
+    OutputPlan plan() {
+        unruled_.resize(request_.photos.size());
+        for (std::size_t row = 0; row < request_.photos.size(); ++row) {
+            if (!isNamed(row)) continue;
+            unruled_[row] = fileIdentity(path(row));
+            wanted_.insert(name(row));
+        }
+        for (std::size_t row = 0; row < request_.photos.size(); ++row) {
+            if (isNamed(row)) decide(row);
+        }
+        for (const BatchPhoto& photo : request_.photos) {
+            if (written_.contains(fileIdentity(photo.path))) plan_.replacedPhotos.append(photo.path);
+        }
+        plan_.files = writtenNames_.size();
+        return std::move(plan_);
+    }
+
+  private:
+    bool isNamed(std::size_t row) const {
+        return request_.photos[row].checked || request_.photos[row].isElsewhere;
+    }
+
+    const QByteArray& name(std::size_t row) const { return unruled_[row].place; }
+
+    QString path(std::size_t row) const {
+        return photoTask(request_, destinations_, plan_.outputs[row], row, now_).output;
+    }
+
+    void decide(std::size_t row) {
+        PlannedOutput& output = plan_.outputs[row];
+        const auto first = firstWith_.constFind(name(row));
+        if (first == firstWith_.cend()) {
+            firstWith_.insert(name(row), row);
+        } else {
+            share(row, *first);
+        }
+        if (output.fate == PlannedOutput::Fate::Write && !output.sharesNameOf) meetExisting(row);
+        if (output.fate != PlannedOutput::Fate::Write || !request_.photos[row].checked) return;
+        ++plan_.photos;
+        const FileIdentity written = output.number == 0 ? unruled_[row] : fileIdentity(path(row));
+        written_.insert(written);
+        writtenNames_.insert(written.place);
+    }
+
+    void share(std::size_t row, std::size_t first) {
+        PlannedOutput& output = plan_.outputs[row];
+        if (!toldAsShared_.contains(name(row))) plan_.sharedNames.append(path(row));
+        toldAsShared_.insert(name(row));
+        switch (request_.names.sameName) {
+            case NameRule::Replace:
+                // Whatever became of the first one's name holds for this one.
+                output = plan_.outputs[first];
+                output.sharesNameOf = first;
+                break;
+            case NameRule::Number:
+                number(row);
+                break;
+            case NameRule::Skip:
+            case NameRule::Fail:
+                refuse(output, request_.names.sameName,
+                       QStringLiteral("an earlier photo of the run has the output “%1”").arg(path(row)));
+                break;
+        }
+    }
+
+    void meetExisting(std::size_t row) {
+        const QString wanted = path(row);
+        if (!isTaken(wanted)) return;
+        if (request_.photos[row].checked) plan_.existing.append(wanted);
+        switch (request_.names.existing) {
+            case NameRule::Replace:
+                break;
+            case NameRule::Number:
+                number(row);
+                break;
+            case NameRule::Skip:
+            case NameRule::Fail:
+                refuse(plan_.outputs[row], request_.names.existing,
+                       QStringLiteral("“%1” exists already").arg(wanted));
+                break;
+        }
+    }
+
+    static void refuse(PlannedOutput& output, NameRule rule, const QString& reason) {
+        const bool skips = rule == NameRule::Skip;
+        output.fate = skips ? PlannedOutput::Fate::Skip : PlannedOutput::Fate::Fail;
+        output.reason =
+            (skips ? QStringLiteral("Left out: %1.") : QStringLiteral("Not written: %1.")).arg(reason);
+    }
+
+    // Takes the first number that is free. No number below the last one tried for a name ever becomes free.
+    void number(std::size_t row) {
+        const bool avoidsFiles = request_.names.existing == NameRule::Number;
+        qint64& number = numbers_[name(row)];
+        QByteArray numbered;
+        QString candidate;
+        do {
+            plan_.outputs[row].number = ++number;
+            candidate = path(row);
+            numbered = fileIdentity(candidate).place;
+        } while (wanted_.contains(numbered) || given_.contains(numbered) ||
+                 (avoidsFiles && isTaken(candidate)));
+        given_.insert(numbered);
+    }
+
+    const BatchRequest& request_;
+    const QDateTime now_;
+    const RunDestinations destinations_;
+    OutputPlan plan_;
+    std::vector<FileIdentity> unruled_;  // of each photo's output, as it would be without the rules
+    FileSet written_;                    // by this run
+    // Names are places of files: two spellings of one path are one name.
+    QSet<QByteArray> wanted_;  // those without the rules
+    QSet<QByteArray> given_;   // those with a number
+    QSet<QByteArray> writtenNames_;
+    QSet<QByteArray> toldAsShared_;
+    QHash<QByteArray, std::size_t> firstWith_;  // the first photo that wants a name
+    QHash<QByteArray, qint64> numbers_;         // the last number tried for a name
+};
+
+}  // namespace
+
+PhotoWarning sameNameWarning() {
+    return {-1, QStringLiteral("same-name"),
+            QStringLiteral("The output takes the place of an earlier photo's of the same name.")};
+}
+
+OutputPlan planOutputs(const BatchRequest& request, const QDateTime& now) {
+    if (combinesIntoOnePdf(request.options)) {
+        OutputPlan plan;
+        plan.outputs.resize(request.photos.size());
+        return plan;
+    }
+    return Planner(request, now).plan();
+}
+
+}  // namespace zelto
