@@ -93,18 +93,6 @@ TEST(ResizedImage, LeavesNoRingsOfWhatTheNewSizeCannotHold) {
     EXPECT_LT(std::sqrt(squares / count), 2.0);
 }
 
-TEST(ResizedImage, EdgesStayInPlaceAndHaveFaintHalosOnly) {
-    const QImage edge = grey({128, 6}, [](double x, double) { return x < 64 ? 64.0 : 192.0; });
-    for (const int newWidth : {32, 61, 64, 99, 127, 256, 500}) {
-        const QImage result = resizedImage(edge, {newWidth, 6});
-        for (int x = 0; x < newWidth; ++x) {
-            const int level = qGreen(result.pixel(x, 3));
-            EXPECT_NEAR(level, 128, 64 + 15) << newWidth;
-            EXPECT_NEAR(level + qGreen(result.pixel(newWidth - 1 - x, 3)), 256, 1) << newWidth << " at " << x;
-        }
-    }
-}
-
 TEST(ResizedImage, TransparencyNeitherDarkensNorColoursAnEdge) {
     const QImage picture = pictureOf({90, 90}, QImage::Format_ARGB32_Premultiplied, [](int x, int y) {
         if (!QRect(20, 20, 50, 50).contains(x, y)) return 0U;
