@@ -181,19 +181,16 @@ TEST_P(BatchRunTest, AResumedRunWritesThePhotoInHandAgainAndForgetsWhatCameBefor
     EXPECT_EQ(observer.lastReport.OutPutImageList.first(), u"/out/4.png"_s);
 }
 
-TEST_P(BatchRunTest, APauseTakenBackBeforeThePhotoEndsChangesNothing) {
+TEST_P(BatchRunTest, APauseCountsOnlyAfterTheNextPhoto) {
     at("begin1", [this] {
         pause();
         pause();
     });
-    EXPECT_EQ(played("ggg"), "start 0 1 2 finished");
-}
-
-TEST_P(BatchRunTest, APauseWithoutEffectHoldsTheNextRunAfterItsFirstPhoto) {
+    EXPECT_EQ(played("ggg"), "start 0 1 2 finished") << "taken back before the photo ended";
     at("progress1", pause);
     EXPECT_EQ(played("g--"), "start 0 finished");
     EXPECT_TRUE(run.PauseProcessing());
-    EXPECT_EQ(played("-gg"), "start 1 paused");
+    EXPECT_EQ(played("-gg"), "start 1 paused") << "without effect it holds the next run";
     pause();
     run.wait();
     EXPECT_EQ(observer.log.mid(3).join(u' '), u"resume 1 2 finished"_s);

@@ -41,14 +41,12 @@ constexpr std::int64_t Percent = resize_type::Percentage;
 constexpr std::int64_t Pixels = resize_type::Pixels;
 constexpr std::int64_t Longer = resize_type::LongerSide;
 
-TEST(OutputSize, IsThePhotosOwnWhenResizingIsOff) {
-    expectSizes({{{4000, 3000}, Percent, 50, 50, Off | NoEnlarge, {4000, 3000}}});
-}
-
 TEST(OutputSize, TakesEachSidesOwnPercentage) {
     expectSizes({{{4000, 3000}, Percent, 50, 25, None, {2000, 750}},
                  {{333, 7}, Percent, 50, 50, Keep, {166, 3}},
                  {{640, 480}, Percent, 200, 200, NoEnlarge, {1280, 960}},
+                 {{4000, 3000}, Percent, 50, 50, Off | NoEnlarge, {4000, 3000}},
+                 {{4000, 3000}, 3, 800, 600, NoEnlarge, {0, 0}},  // an unknown way
                  {{99, 99}, Percent, 1, 0, None, {0, 0}},
                  {{30000, 9}, Percent, Huge, 100, None, {2147483647, 9}}});
 }
@@ -66,7 +64,7 @@ TEST(OutputSize, FitsThePixelsAskedFor) {
                  {{4000, 3000}, Pixels, 0, 601, Keep, {801, 601}},
                  {{4000, 3000}, Pixels, 0, 0, Keep, {0, 0}},
                  {{640, 480}, Pixels, 800, 100, NoEnlarge, {640, 480}},
-                 {{640, 480}, Pixels, 640, 480, NoEnlarge, {640, 480}}});
+                 {{4000, 3000}, Pixels, 800, 600, NoEnlarge, {800, 600}}});
 }
 
 TEST(OutputSize, SetsTheLongerSide) {
@@ -78,10 +76,6 @@ TEST(OutputSize, SetsTheLongerSide) {
                  {{640, 480}, Longer, 1000, 0, Keep | NoEnlarge, {640, 480}},
                  {{640, 480}, Longer, 1000, 0, Keep, {1000, 750}},
                  {{10000, 10}, Longer, 100, 0, Keep, {100, 0}}});
-}
-
-TEST(OutputSize, OfAnUnknownWayIsNothing) {
-    expectSizes({{{4000, 3000}, 3, 800, 600, NoEnlarge, {0, 0}}});
 }
 
 }  // namespace

@@ -22,7 +22,6 @@ TEST(FormatDate, PrintsEveryPatternAndLosesNothing) {
         {u"yyyy-MM-dd HH:mm:ss"_s, u"2024-12-30 15:04:05"_s},
         {u"EEEE, dd MMMM yyyy"_s, u"Monday, 30 December 2024"_s},
         {u"yyyyyyyy MMMMMM"_s, u"00002024 000012"_s},
-        {u""_s, u""_s},
         // Letters that are no field, and fields that print nothing at such a length.
         {u"dd T RRR"_s, u"30 T RRR"_s},
         {u"OO VVVVV dd"_s, u"OO VVVVV 30"_s},
@@ -35,6 +34,11 @@ TEST(FormatDate, PrintsEveryPatternAndLosesNothing) {
     for (const auto& [pattern, expected] : rows)
         EXPECT_EQ(formatDate(Moment, pattern, American), expected) << pattern.left(40).toStdString();
     EXPECT_EQ(formatDate({}, u"yyyy", American), QString());
+    // On the moment's own clock.
+    EXPECT_EQ(formatDate(Moment.toOffsetFromUtc(-9 * 3600 - 1800), u"dd HH:mm Z"_s, American),
+              u"30 05:34 -0930"_s);
+    EXPECT_EQ(formatDate(Moment.toTimeZone(QTimeZone("Pacific/Auckland")), u"dd HH:mm Z"_s, American),
+              u"31 04:04 +1300"_s);
 }
 
 TEST(FormatDate, WritesAsTheLocaleDoesInTheGregorianCalendar) {
@@ -55,25 +59,14 @@ TEST(FormatDate, WritesAsTheLocaleDoesInTheGregorianCalendar) {
     }
 }
 
-TEST(FormatDate, KeepsTheMomentsOwnClock) {
-    const QString pattern = u"yyyy-MM-dd HH:mm:ss Z"_s;
-    EXPECT_EQ(formatDate(Moment.toOffsetFromUtc(-9 * 3600 - 1800), pattern, American),
-              u"2024-12-30 05:34:05 -0930"_s);
-    const QTimeZone auckland("Pacific/Auckland");
-    EXPECT_EQ(formatDate(Moment.toTimeZone(auckland), pattern, American), u"2024-12-31 04:04:05 +1300"_s);
-}
-
 TEST(ParsePhotoDateTime, ReadsWhatCamerasWrite) {
     const std::pair<QString, QString> rows[] = {
         {u"2014:05:03 09:41:07"_s, u"2014-05-03 09:41:07"_s},
-        {u"2014:05:03 00:00:00"_s, u"2014-05-03 00:00:00"_s},
         {u"2014:05:03 23:59:59"_s, u"2014-05-03 23:59:59"_s},
         // The twelve-hour field reads noon as hour 0.
         {u"2014:05:03 12:30:00"_s, u"2014-05-03 00:30:00"_s},
         {u"2015:02:29 18:00:00"_s, {}},
         {u"2014:05:03 24:00:00"_s, {}},
-        {u"0000:00:00 00:00:00"_s, {}},
-        {u"2014-05-03 10:00:00"_s, {}},
         {u"2014:05:03 10:00:00+02:00"_s, {}},
         {u"2014:05:03"_s, {}},
         {u"٢٠١٤:٠٥:٠٣ ١٣:٤١:٠٧"_s, {}},
