@@ -18,8 +18,6 @@
 namespace zelto {
 namespace {
 
-constexpr int DefaultJpegQuality = 90;
-
 QString absolutePath(const QString& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
@@ -51,10 +49,12 @@ Result<std::shared_ptr<const WatermarkStack>> loadStack(const QString& setting) 
 }
 
 Result<OutputOptions> startingOptions(const CommandLine& line) {
-    OutputSettings settings;
-    settings.options.OutputFormat = SameAsSourceFormat;
-    settings.options.JPEGQuality = DefaultJpegQuality;
-    if (line.optionsFile.isEmpty()) return settings.options;
+    OutputSettings settings = startingOutputSettings();
+    if (line.optionsFile.isEmpty()) {
+        // What the dialog ticks for its user has options of its own here.
+        settings.options.AspectRatio = settings.options.DontEnlargeSmallImage = false;
+        return settings.options;
+    }
     if (!QFileInfo(line.optionsFile).isFile()) {
         return fail(ErrorCode::NotFound,
                     QStringLiteral("there is no options file “%1”").arg(line.optionsFile), line.optionsFile);
@@ -110,22 +110,15 @@ Result<OutputOptions> outputOptions(const CommandLine& line) {
 // The copyright data of the file that was named, or of the user's own where the setting asks for it.
 Result<std::optional<CopyRightMetaData>> copyrightData(const CommandLine& line, const WatermarkStack& stack) {
     const bool named = !line.copyrightFile.isEmpty();
+    if (named && !QFileInfo(line.copyrightFile).isFile()) {
+        return fail(ErrorCode::NotFound,
+                    QStringLiteral("there is no copyright file “%1”").arg(line.copyrightFile),
+                    line.copyrightFile);
+    }
     if (!named && !stack.Metadata) return std::nullopt;
-    QString path = line.copyrightFile;
-    if (!named) {
-        const Result<QString> own = copyrightFilePath();
-        if (!own) return std::nullopt;
-        path = *own;
-    }
-    if (!QFileInfo(path).isFile()) {
-        if (!named) return std::nullopt;
-        return fail(ErrorCode::NotFound, QStringLiteral("there is no copyright file “%1”").arg(path), path);
-    }
-    CopyRightMetaData metadata;
-    return LoadMetadata(metadata, path).map([&] {
-        metadata.Enabled = metadata.Enabled || named;
-        return std::optional(metadata);
-    });
+    const Result<QString> path = named ? line.copyrightFile : copyrightFilePath();
+    if (!path) return std::nullopt;
+    return copyrightToUse(*path).map([](const CopyRightMetaData& read) { return std::optional(read); });
 }
 
 Result<ImageList> photoList(const CommandLine& line) {

@@ -1,40 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/copyright_file.h"
 
-#include "persistence/xml_document.h"
+#include "persistence/xml_fields.h"
 #include "platform/application_folders.h"
 #include "platform/whole_file.h"
-
-#include <array>
 
 namespace zelto {
 namespace {
 
-constexpr QLatin1String RootName("Copyright");
-constexpr QLatin1String EnabledName("Enabled");
+using namespace Qt::Literals::StringLiterals;
+using zelto::toText;
 
-struct TextField {
-    QLatin1String name;
-    QString CopyRightMetaData::*text;
+constexpr auto RootName = "Copyright"_L1;
+// A switch that only the text "False" turns off, so that the "0" this program writes reads back as switched on.
+template <class Bool>
+struct OnUnlessFalse {
+    Bool& value;
 };
 
-// The texts, in the order of their elements.
-constexpr std::array<TextField, 14> TextFields = {{
-    {QLatin1String("CopyrightText"), &CopyRightMetaData::CopyrightText},
-    {QLatin1String("CopyrightTextStatus"), &CopyRightMetaData::CopyrightTextStatus},
-    {QLatin1String("CopyrightURL"), &CopyRightMetaData::CopyrightURL},
-    {QLatin1String("Creator"), &CopyRightMetaData::Creator},
-    {QLatin1String("CreatorAddress"), &CopyRightMetaData::CreatorAddress},
-    {QLatin1String("CreatorCity"), &CopyRightMetaData::CreatorCity},
-    {QLatin1String("CreatorCountry"), &CopyRightMetaData::CreatorCountry},
-    {QLatin1String("CreatorJobTitle"), &CopyRightMetaData::CreatorJobTitle},
-    {QLatin1String("CreatorMail"), &CopyRightMetaData::CreatorMail},
-    {QLatin1String("CreatorPhone"), &CopyRightMetaData::CreatorPhone},
-    {QLatin1String("CreatorPostalCode"), &CopyRightMetaData::CreatorPostalCode},
-    {QLatin1String("CreatorState"), &CopyRightMetaData::CreatorState},
-    {QLatin1String("CreatorWebsite"), &CopyRightMetaData::CreatorWebsite},
-    {QLatin1String("RightsUsageTerms"), &CopyRightMetaData::RightsUsageTerms},
-}};
+template <class Bool>
+QString toText(const OnUnlessFalse<Bool>& on) {
+    return toText(on.value);
+}
+void fromText(const QString& text, OnUnlessFalse<bool> on) {
+    on.value = text != QLatin1String("False");
+}
+
+template <class Io, class M>
+void copyrightFields(Io& io, M& m) {
+    io.field("CopyrightText"_L1, m.CopyrightText);
+    io.field("CopyrightTextStatus"_L1, m.CopyrightTextStatus);
+    io.field("CopyrightURL"_L1, m.CopyrightURL);
+    io.field("Creator"_L1, m.Creator);
+    io.field("CreatorAddress"_L1, m.CreatorAddress);
+    io.field("CreatorCity"_L1, m.CreatorCity);
+    io.field("CreatorCountry"_L1, m.CreatorCountry);
+    io.field("CreatorJobTitle"_L1, m.CreatorJobTitle);
+    io.field("CreatorMail"_L1, m.CreatorMail);
+    io.field("CreatorPhone"_L1, m.CreatorPhone);
+    io.field("CreatorPostalCode"_L1, m.CreatorPostalCode);
+    io.field("CreatorState"_L1, m.CreatorState);
+    io.field("CreatorWebsite"_L1, m.CreatorWebsite);
+    io.field("RightsUsageTerms"_L1, m.RightsUsageTerms);
+    io.field("Enabled"_L1, OnUnlessFalse{m.Enabled});
+}
 
 }  // namespace
 
@@ -46,10 +55,8 @@ Result<QString> copyrightFilePath() {
 
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path) {
     return writeWholeFile(path, writeXml(RootName, [&metadata](QXmlStreamWriter& writer) {
-                              for (const TextField& field : TextFields) {
-                                  writeXmlElement(writer, field.name, metadata.*field.text);
-                              }
-                              writeXmlElement(writer, EnabledName, QString::number(int{metadata.Enabled}));
+                              FieldWriter fields(writer);
+                              copyrightFields(fields, metadata);
                           }));
 }
 
@@ -60,13 +67,15 @@ Result<void> LoadMetadata(CopyRightMetaData& metadata, const QString& path) {
         if (root.error().code == ErrorCode::NotFound) return {};
         return tl::unexpected(root.error());
     }
-    for (const XmlElement& element : root->children) {
-        if (element.name == EnabledName) metadata.Enabled = element.text != QLatin1String("False");
-        for (const TextField& field : TextFields) {
-            if (element.name == field.name) metadata.*field.text = element.text;
-        }
-    }
+    FieldReader fields(*root);
+    copyrightFields(fields, metadata);
     return {};
+}
+
+Result<CopyRightMetaData> copyrightToUse(const QString& path) {
+    CopyRightMetaData metadata;
+    metadata.Enabled = true;
+    return LoadMetadata(metadata, path).map([&metadata] { return metadata; });
 }
 
 }  // namespace zelto

@@ -16,9 +16,14 @@ Result<QString> copyrightFilePath();
 
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path);
 
-// Fills `metadata` from the file at `path`; leaves it as it is where there is no such file. Error:
-// ErrorCode::InvalidFile, with `metadata` untouched. A file written with Enabled off reads back switched on:
-// only the text "False" switches off.
+// Fills `metadata` from the file at `path` and leaves fields alone that the file does not have, all of them where there
+// is no such file. Error: ErrorCode::InvalidFile, with `metadata` untouched. A file written with Enabled off reads back
+// switched on: only the text "False" switches off.
 Result<void> LoadMetadata(CopyRightMetaData& metadata, const QString& path);
+
+// The record that a run with copyright data works with: that of the file at `path`, switched on unless the file says
+// otherwise, and without texts where there is no such file. A record that is switched off is not used. Error:
+// ErrorCode::InvalidFile.
+Result<CopyRightMetaData> copyrightToUse(const QString& path);
 
 }  // namespace zelto

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/output_settings_file.h"
 
-#include "persistence/xml_document.h"
+#include "persistence/xml_fields.h"
 #include "pictures/picture_writer.h"
 #include "platform/file_reference.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace zelto {
@@ -20,87 +19,125 @@ constexpr auto RootName = "OutputSettings"_L1;
 // More pixels or per cent than any picture can have; products with it must not overflow.
 constexpr qint64 MaximumSize = 1'000'000'000;
 
-QString number(qint64 value) {
-    return QString::number(value);
-}
+// --- Forms of a value that its type alone does not tell.
 
-// The text of a size field; an empty field is 0.
-QString sizeField(qint64 value) {
-    return value == 0 ? QString() : number(value);
-}
+// From 0 to 100.
+template <class Number>
+struct Quality {
+    Number& value;
+};
 
-qint64 size(const QString& text) {
+// A size in pixels; an empty field is 0.
+template <class Number>
+struct Size {
+    Number& value;
+};
+
+// Negative ones count as 100.
+template <class Number>
+struct Percentage {
+    Number& value;
+};
+
+// A number from 0 to `last`; any other is passed over.
+template <class Number>
+struct Choice {
+    Number& value;
+    qint64 last;
+};
+
+// A format that can be written, in any letter case; any other is passed over.
+template <class Text>
+struct FormatName {
+    Text& value;
+};
+
+// A reference to the output folder, whose path takes the place of the stored one while it leads somewhere.
+template <class Options>
+struct FolderReference {
+    Options& options;
+};
+
+qint64 limitedSize(const QString& text) {
     return std::clamp<qint64>(toInteger(text, 0), 0, MaximumSize);
 }
 
-qint64 percentage(const QString& text) {
+template <class Number>
+QString toText(const Quality<Number>& quality) {
+    return QString::number(quality.value);
+}
+void fromText(const QString& text, Quality<std::int64_t> quality) {
+    quality.value = std::min<qint64>(limitedSize(text), 100);
+}
+
+template <class Number>
+QString toText(const Size<Number>& size) {
+    return size.value == 0 ? QString() : QString::number(size.value);
+}
+void fromText(const QString& text, Size<std::int64_t> size) {
+    size.value = limitedSize(text);
+}
+
+template <class Number>
+QString toText(const Percentage<Number>& percentage) {
+    return QString::number(percentage.value);
+}
+void fromText(const QString& text, Percentage<std::int64_t> percentage) {
     const qint64 value = toInteger(text, 0);
-    return value < 0 ? 100 : std::min(value, MaximumSize);
+    percentage.value = value < 0 ? 100 : std::min(value, MaximumSize);
 }
 
-// Sets `field` only to a value from 0 to `last`.
-void choose(std::int64_t& field, const QString& text, qint64 last) {
+template <class Number>
+QString toText(const Choice<Number>& choice) {
+    return QString::number(choice.value);
+}
+void fromText(const QString& text, Choice<std::int64_t> choice) {
     const qint64 value = toInteger(text, -1);
-    if (value >= 0 && value <= last) field = value;
+    if (value >= 0 && value <= choice.last) choice.value = value;
 }
 
-void readOutputFormat(OutputSettings& s, const QString& text) {
-    if (text == SameAsSourceFormat || pictureFormatForExtension(text)) s.options.OutputFormat = text;
+template <class Text>
+QString toText(const FormatName<Text>& format) {
+    return format.value;
+}
+void fromText(const QString& text, FormatName<QString> format) {
+    if (text == SameAsSourceFormat) format.value = text;
+    if (pictureFormatForExtension(text)) format.value = text.toLower();
 }
 
-void readFolderReference(OutputSettings& s, const QString& text) {
+template <class Options>
+QString toText(const FolderReference<Options>& folder) {
+    return QString::fromLatin1(folder.options.OutputFolderData.toBase64());
+}
+void fromText(const QString& text, FolderReference<OutputOptions> folder) {
     const QByteArray reference = QByteArray::fromBase64(text.toLatin1());
     if (reference.isEmpty()) return;
-    s.options.OutputFolderData = reference;
-    if (const auto path = resolveFileReference(reference)) s.options.OutputPath = *path;
+    folder.options.OutputFolderData = reference;
+    if (const auto path = resolveFileReference(reference)) folder.options.OutputPath = *path;
 }
 
-struct Field {
-    QLatin1String name;
-    QString (*write)(const OutputSettings&);
-    void (*read)(OutputSettings&, const QString&);  // null for what is never read back
-};
-
-using S = OutputSettings;
-using T = QString;
-
-template <bool OutputOptions::*Switch>
-constexpr Field switchField(QLatin1String name) {
-    return {name, [](const S& s) { return number(int{s.options.*Switch}); },
-            [](S& s, const T& text) { s.options.*Switch = toBool(text, s.options.*Switch); }};
+template <class Io, class S>
+void settingsFields(Io& io, S& s) {
+    auto& options = s.options;
+    io.field("SavePath"_L1, options.OutputPath);
+    io.field("OutputFolderData"_L1, FolderReference{options});
+    io.field("OutputFormat"_L1, FormatName{options.OutputFormat});
+    io.field("JpegQuality"_L1, Quality{options.JPEGQuality});
+    io.field("Rename"_L1, options.Rename);
+    io.field("RenameFormat"_L1, options.RenameFormat);
+    io.field("Resize"_L1, options.ResizeImage);
+    io.field("PreserveAspect"_L1, options.AspectRatio);
+    io.field("ResizeMode"_L1, Choice{options.ResizeType, resize_type::LongerSide});
+    io.field("PercentageW"_L1, Percentage{s.percentageWidth});
+    io.field("PercentageH"_L1, Percentage{s.percentageHeight});
+    io.field("AbsoluteW"_L1, Size{s.absoluteWidth});
+    io.unread("AbsoluteH"_L1, Size{s.absoluteHeight});
+    io.field("LongestSide"_L1, Size{options.LongestsideSize});
+    io.field("ExifDataToInclude"_L1, Choice{options.ExifDataToInclude, exif_data::ExcludeAll});
+    io.field("DontEnlarge"_L1, options.DontEnlargeSmallImage);
+    io.field("CombineToSinglePDF"_L1, options.CombineToSinglePDF);
+    io.field("MaintainDirectoryStructure"_L1, options.KeepDirectoryStructure);
 }
-
-// In the order of the elements. A reference that leads somewhere comes after the path it overrides.
-constexpr std::array<Field, 18> Fields = {{
-    {"SavePath"_L1, [](const S& s) { return s.options.OutputPath; },
-     [](S& s, const T& text) { s.options.OutputPath = text; }},
-    {"OutputFolderData"_L1, [](const S& s) { return T::fromLatin1(s.options.OutputFolderData.toBase64()); },
-     readFolderReference},
-    {"OutputFormat"_L1, [](const S& s) { return s.options.OutputFormat; }, readOutputFormat},
-    {"JpegQuality"_L1, [](const S& s) { return number(s.options.JPEGQuality); },
-     [](S& s, const T& text) { s.options.JPEGQuality = std::min<qint64>(size(text), 100); }},
-    switchField<&OutputOptions::Rename>("Rename"_L1),
-    {"RenameFormat"_L1, [](const S& s) { return s.options.RenameFormat; },
-     [](S& s, const T& text) { s.options.RenameFormat = text; }},
-    switchField<&OutputOptions::ResizeImage>("Resize"_L1),
-    switchField<&OutputOptions::AspectRatio>("PreserveAspect"_L1),
-    {"ResizeMode"_L1, [](const S& s) { return number(s.options.ResizeType); },
-     [](S& s, const T& text) { choose(s.options.ResizeType, text, resize_type::LongerSide); }},
-    {"PercentageW"_L1, [](const S& s) { return number(s.percentageWidth); },
-     [](S& s, const T& text) { s.percentageWidth = percentage(text); }},
-    {"PercentageH"_L1, [](const S& s) { return number(s.percentageHeight); },
-     [](S& s, const T& text) { s.percentageHeight = percentage(text); }},
-    {"AbsoluteW"_L1, [](const S& s) { return sizeField(s.absoluteWidth); },
-     [](S& s, const T& text) { s.absoluteWidth = size(text); }},
-    {"AbsoluteH"_L1, [](const S& s) { return sizeField(s.absoluteHeight); }, nullptr},
-    {"LongestSide"_L1, [](const S& s) { return sizeField(s.options.LongestsideSize); },
-     [](S& s, const T& text) { s.options.LongestsideSize = size(text); }},
-    {"ExifDataToInclude"_L1, [](const S& s) { return number(s.options.ExifDataToInclude); },
-     [](S& s, const T& text) { choose(s.options.ExifDataToInclude, text, exif_data::ExcludeAll); }},
-    switchField<&OutputOptions::DontEnlargeSmallImage>("DontEnlarge"_L1),
-    switchField<&OutputOptions::CombineToSinglePDF>("CombineToSinglePDF"_L1),
-    switchField<&OutputOptions::KeepDirectoryStructure>("MaintainDirectoryStructure"_L1),
-}};
 
 // The size fields that the options' width and height belong to; null for a way of resizing that has none.
 struct SizeFields {
@@ -111,9 +148,9 @@ struct SizeFields {
 SizeFields chosenFields(const OutputSettings& settings) {
     switch (settings.options.ResizeType) {
         case resize_type::Percentage:
-            return {&S::percentageWidth, &S::percentageHeight};
+            return {&OutputSettings::percentageWidth, &OutputSettings::percentageHeight};
         case resize_type::Pixels:
-            return {&S::absoluteWidth, &S::absoluteHeight};
+            return {&OutputSettings::absoluteWidth, &OutputSettings::absoluteHeight};
         default:
             return {};
     }
@@ -135,13 +172,25 @@ void setOptionsFromFields(OutputSettings& settings) {
 
 }  // namespace
 
+OutputSettings startingOutputSettings() {
+    OutputSettings settings;
+    OutputOptions& options = settings.options;
+    options.OutputFormat = SameAsSourceFormat;
+    options.JPEGQuality = 90;
+    options.RenameFormat = QStringLiteral("[O]");
+    options.ResizeWidth = settings.percentageWidth;
+    options.ResizeHeight = settings.percentageHeight;
+    options.AspectRatio = true;
+    options.DontEnlargeSmallImage = true;
+    return settings;
+}
+
 Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path) {
     OutputSettings written = settings;
     setFieldsFromOptions(written);
     return writeWholeFile(path, writeXml(RootName, [&written](QXmlStreamWriter& writer) {
-                              for (const Field& field : Fields) {
-                                  writeXmlElement(writer, field.name, field.write(written));
-                              }
+                              FieldWriter fields(writer);
+                              settingsFields(fields, std::as_const(written));
                           }));
 }
 
@@ -153,11 +202,8 @@ Result<OutputSettings> loadOutputSettings(const QString& path, OutputSettings in
         return tl::unexpected(root.error());
     }
     setFieldsFromOptions(initial);
-    for (const XmlElement& element : root->children) {
-        const auto* const field = std::find_if(Fields.begin(), Fields.end(),
-                                               [&element](const Field& f) { return element.name == f.name; });
-        if (field != Fields.end() && field->read != nullptr) field->read(initial, element.text);
-    }
+    FieldReader fields(*root);
+    settingsFields(fields, initial);
     setOptionsFromFields(initial);
     return initial;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// "OutputSettings.xml", the user's default output options. It keeps the texts of the dialog's fields, so that
-// both ways of resizing come back as they were typed. Any thread.
+// "OutputSettings.xml", the user's default output options: what the dialog before a run starts from, and the runner
+// with --options. It keeps the texts of the dialog's fields, so that both ways of resizing come back as they were
+// typed. Any thread.
 #pragma once
 
 #include "platform/result.h"
@@ -24,6 +25,10 @@ struct OutputSettings {
     std::int64_t absoluteWidth = 0;   // pixels; 0 for an empty field
     std::int64_t absoluteHeight = 0;  // written, but never read back
 };
+
+// What both programs start from where nothing is stored: same format, quality 90, 100 per cent, proportions kept and
+// small photos not enlarged once resizing is switched on.
+OutputSettings startingOutputSettings();
 
 Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path);
 

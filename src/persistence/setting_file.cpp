@@ -1,28 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/setting_file.h"
 
-#include "persistence/color_text.h"
-#include "persistence/xml_document.h"
+#include "persistence/xml_fields.h"
 #include "platform/whole_file.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <limits>
 
 namespace zelto {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using zelto::fromText;
+using zelto::toText;
 
-// Lengths beyond this (in pixels, degrees, sides) make no sense on any photo, and sums of them must not
-// overflow.
-constexpr qint64 MaximumLength = 1'000'000'000;
-
-// --- Forms of a value that its type alone does not tell. Each holds a reference to the record's field;
-// --- reading and writing are the overloads of fromText() and toText() below.
+// --- Forms of a value that its type alone does not tell.
 
 // A text whose "#" is stored as "&hash;". So a text that holds "&hash;" itself reads back with "#" there.
 template <class Text>
@@ -50,67 +44,6 @@ template <class Bool>
 struct Negated {
     Bool& value;
 };
-
-// --- Text of each kind of value. A text that cannot be read leaves the field as it was constructed.
-
-QString toText(bool value) {
-    return value ? u"1"_s : u"0"_s;
-}
-QString toText(std::int32_t value) {
-    return QString::number(value);
-}
-QString toText(std::int64_t value) {
-    return QString::number(value);
-}
-QString toText(std::uint64_t value) {
-    return QString::number(value);
-}
-QString toText(float value) {
-    return QString::number(static_cast<double>(value), 'f', 6);
-}
-QString toText(const QString& value) {
-    return value;
-}
-QString toText(const QByteArray& value) {
-    return QString::fromLatin1(value.toBase64());
-}
-QString toText(const std::optional<Color>& value) {
-    return value ? exactColorText(*value) : QString();
-}
-
-void fromText(const QString& text, bool& value) {
-    value = toBool(text, value);
-}
-void fromText(const QString& text, std::int32_t& value) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    value =
-        static_cast<std::int32_t>(std::clamp<qint64>(toInteger(text, value), Limits::min(), Limits::max()));
-}
-void fromText(const QString& text, std::int64_t& value) {
-    value = std::clamp<qint64>(toInteger(text, value), -MaximumLength, MaximumLength);
-}
-void fromText(const QString& text, std::uint64_t& value) {
-    const qint64 number = toInteger(text, static_cast<qint64>(value));
-    if (number >= 0) value = static_cast<std::uint64_t>(number);
-}
-void fromText(const QString& text, float& value) {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    if (std::isnan(number) || (!isNumber && !std::isinf(number))) return;
-    constexpr auto Limit = static_cast<double>(MaximumLength);
-    value = static_cast<float>(std::clamp(number, -Limit, Limit));
-}
-void fromText(const QString& text, QString& value) {
-    value = text;
-}
-void fromText(const QString& text, QByteArray& value) {
-    value = QByteArray::fromBase64(text.toLatin1());
-}
-void fromText(const QString& text, std::optional<Color>& value) {
-    const QString color = text.trimmed();
-    value.reset();  // an empty text is how the absence of a colour is stored
-    if (!color.isEmpty()) value = colorFromString(color).value_or(colorWithCSS(color));
-}
 
 template <class Text>
 QString toText(const HashText<Text>& value) {
@@ -148,71 +81,6 @@ void fromText(const QString& text, Fraction<float> value) {
 void fromText(const QString& text, Negated<bool> value) {
     value.value = !toBool(text, !value.value);
 }
-
-// --- The two who walk the fields: field(name, value) is one element, group(name, fields) one that holds
-// --- others, older(name, value) an element that only older files have; it is named before the one that took
-// --- its place.
-
-class FieldWriter {
-  public:
-    explicit FieldWriter(QXmlStreamWriter& writer) : writer_(writer) {}
-
-    template <class Value>
-    void field(QLatin1String name, const Value& value) {
-        writeXmlElement(writer_, name, toText(value));
-    }
-
-    template <class Value>
-    void older(QLatin1String, const Value&) {}
-
-    template <class Fields>
-    void group(QLatin1String name, const Fields& fields) {
-        writer_.writeStartElement(name);
-        fields();
-        writer_.writeEndElement();
-    }
-
-  private:
-    QXmlStreamWriter& writer_;
-};
-
-class FieldReader {
-  public:
-    explicit FieldReader(const XmlElement& element) : element_(&element), taken_(element.children.size()) {}
-
-    // The value is that of the first element of the name that no earlier call has taken.
-    template <class Value>
-    void field(QLatin1String name, Value&& value) {
-        if (const XmlElement* element = take(name)) fromText(element->text, std::forward<Value>(value));
-    }
-
-    template <class Value>
-    void older(QLatin1String name, Value&& value) {
-        field(name, std::forward<Value>(value));
-    }
-
-    template <class Fields>
-    void group(QLatin1String name, const Fields& fields) {
-        const XmlElement* const element = take(name);
-        if (element == nullptr) return;
-        const FieldReader outer = std::exchange(*this, FieldReader(*element));
-        fields();
-        *this = outer;
-    }
-
-  private:
-    const XmlElement* take(QLatin1String name) {
-        for (std::size_t i = 0; i < taken_.size(); ++i) {
-            if (taken_[i] || element_->children[i].name != name) continue;
-            taken_[i] = true;
-            return &element_->children[i];
-        }
-        return nullptr;
-    }
-
-    const XmlElement* element_;
-    std::vector<bool> taken_;
-};
 
 // --- The fields, in the order of their elements. `W` and `E` are const for the writer.
 

@@ -16,10 +16,12 @@ namespace {
 constexpr qint64 MaximumElements = 200'000;
 constexpr int MaximumDepth = 32;
 
-// The parser compares each attribute of a tag with each: a tag of a megabyte would keep it busy for an hour.
+// The parser compares every attribute of a tag with every other, so its time grows with the square of their number.
 constexpr qsizetype MaximumTagSize = 16384;
 
-constexpr QLatin1String ReferenceStart("&#x");
+constexpr QLatin1String EscapedAttribute("Escaped");
+constexpr QChar EscapeMark(u'\\');
+constexpr qsizetype EscapeDigits = 4;
 
 bool isPartOfAPair(const QString& text, qsizetype at) {
     return (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) ||
@@ -33,45 +35,41 @@ bool fitsXml(const QString& text, qsizetype at) {
     return c < 0xFFFE;
 }
 
-// The character a reference at `at` stands for, and its length; length 0 where there is none. "&" is the one
-// character that XML could write and that has a reference all the same.
-struct Reference {
-    QChar character;
-    qsizetype length = 0;
-};
-
-Reference referenceAt(const QString& text, qsizetype at) {
-    if (!QStringView(text).sliced(at).startsWith(ReferenceStart)) return {};
-    const qsizetype start = at + ReferenceStart.size();
-    const qsizetype end = text.indexOf(u';', start);
-    if (end <= start || end - start > 4) return {};
-    bool isNumber = false;
-    const ushort code = QStringView(text).mid(start, end - start).toUShort(&isNumber, 16);
-    if (!isNumber || (code != u'&' && fitsXml(QString(QChar(code)), 0))) return {};
-    return {QChar(code), end + 1 - at};
+bool fitsXml(const QString& text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (!fitsXml(text, i)) return false;
+    }
+    return true;
 }
 
-QString withReferences(const QString& text) {
+QString escaped(const QString& text) {
     QString result;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool asIs = fitsXml(text, i) && (text[i] != u'&' || referenceAt(text, i).length == 0);
-        if (asIs) {
+        if (text[i] == EscapeMark) {
+            result.append(EscapeMark).append(EscapeMark);
+        } else if (fitsXml(text, i)) {
             result.append(text[i]);
         } else {
-            result.append(ReferenceStart + QString::number(text[i].unicode(), 16).toUpper() + u';');
+            result.append(EscapeMark + u'x');
+            result.append(
+                QString::number(text[i].unicode(), 16).toUpper().rightJustified(EscapeDigits, u'0'));
         }
     }
     return result;
 }
 
-QString withoutReferences(const QString& text) {
-    qsizetype next = text.indexOf(ReferenceStart);
-    if (next < 0) return text;
+QString unescaped(const QString& text) {
     QString result;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const Reference reference = referenceAt(text, i);
-        result.append(reference.length > 0 ? reference.character : text[i]);
-        if (reference.length > 0) i += reference.length - 1;
+        if (text[i] != EscapeMark || i + 1 == text.size()) {
+            result.append(text[i]);
+            continue;
+        }
+        bool isNumber = false;
+        const ushort code = QStringView(text).mid(i + 2, EscapeDigits).toUShort(&isNumber, 16);
+        const bool isCode = text[i + 1] == u'x' && isNumber;
+        result.append(isCode ? QChar(code) : text[i + 1]);
+        i += isCode ? 1 + EscapeDigits : 1;
     }
     return result;
 }
@@ -97,7 +95,7 @@ class TreeBuilder {
                 close();
                 break;
             case QXmlStreamReader::Characters:
-                if (!open_.empty()) open_.back().text.append(reader.text());
+                if (!open_.empty()) open_.back().element.text.append(reader.text());
                 break;
             default:
                 break;
@@ -111,23 +109,30 @@ class TreeBuilder {
     QString open(const QXmlStreamReader& reader) {
         if (++elements_ > MaximumElements) return QStringLiteral("the file holds too many elements");
         if (open_.size() >= MaximumDepth) return QStringLiteral("the elements are nested too deeply");
-        open_.push_back({reader.name().toString(),
-                         typeAttribute(reader.attributes()),
-                         QString(),
-                         reader.lineNumber(),
-                         {}});
+        const QXmlStreamAttributes attributes = reader.attributes();
+        open_.push_back({{reader.name().toString(),
+                          typeAttribute(attributes),
+                          QLatin1String(""),
+                          reader.lineNumber(),
+                          {}},
+                         attributes.hasAttribute(EscapedAttribute)});
         return {};
     }
 
     void close() {
-        XmlElement closed = std::move(open_.back());
+        OpenElement closed = std::move(open_.back());
         open_.pop_back();
-        closed.text = withoutReferences(closed.text);
-        (open_.empty() ? root_ : open_.back().children.emplace_back()) = std::move(closed);
+        if (closed.isEscaped) closed.element.text = unescaped(closed.element.text);
+        (open_.empty() ? root_ : open_.back().element.children.emplace_back()) = std::move(closed.element);
     }
 
+    struct OpenElement {
+        XmlElement element;
+        bool isEscaped = false;
+    };
+
     qint64 elements_ = 0;
-    std::vector<XmlElement> open_;
+    std::vector<OpenElement> open_;
     XmlElement root_;
 };
 
@@ -201,17 +206,15 @@ QByteArray writeXml(QLatin1String root, const std::function<void(QXmlStreamWrite
 
 void writeXmlElement(QXmlStreamWriter& writer, QLatin1String name, const QString& text) {
     writer.writeStartElement(name);
-    writeXmlText(writer, text);
-    writer.writeEndElement();
-}
-
-void writeXmlText(QXmlStreamWriter& writer, const QString& text) {
+    const bool fits = fitsXml(text);
+    if (!fits) writer.writeAttribute(EscapedAttribute, QStringLiteral("1"));
     // Readers turn a plain carriage return into a line feed; as a reference it stays.
-    const QStringList lines = withReferences(text).split(u'\r');
+    const QStringList lines = (fits ? text : escaped(text)).split(u'\r');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (i > 0) writer.writeEntityReference(QStringLiteral("#13"));
         writer.writeCharacters(lines[i]);
     }
+    writer.writeEndElement();
 }
 
 Result<XmlElement> readXml(const QByteArray& document, QLatin1String root, const QString& fileName) {

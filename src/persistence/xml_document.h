@@ -3,9 +3,9 @@
 // strangers: a document type declaration is refused, so no entity is ever expanded, and size, depth and
 // number of elements are bounded. What the values mean is left to the file's own reader. Any thread.
 //
-// Texts may hold characters that XML has no way to write (control characters, halves of surrogate pairs).
-// They are written as "&#xHH;" in the text itself, and a text that already holds such a sequence gets its "&"
-// written that way, so that every text reads back as it was.
+// Texts may hold characters that XML has no way to write: control characters and halves of surrogate pairs. An element
+// with such a text has the attribute Escaped="1", and its text holds them as "\xHHHH", with each backslash doubled. So
+// every text reads back as it was, and the text of an element without the attribute is taken as it stands.
 #pragma once
 
 #include "platform/result.h"
@@ -22,7 +22,7 @@ namespace zelto {
 // The largest document read or written, in bytes.
 inline constexpr qint64 MaximumXmlSize = qint64{512} << 20;
 
-// One element: its own text (that of its children is theirs) and its child elements in document order.
+// One element: its own text (that of its children is theirs; never null) and its child elements in document order.
 struct XmlElement {
     QString name;
     QString type;  // the attribute "Type" or "type"; null when it has neither
@@ -34,9 +34,8 @@ struct XmlElement {
 // The document in UTF-8 whose root element is `root`; `content` writes what it holds.
 QByteArray writeXml(QLatin1String root, const std::function<void(QXmlStreamWriter&)>& content);
 
-// Writes `text` as the text of an element, or of the element already open.
+// Writes an element that holds `text`.
 void writeXmlElement(QXmlStreamWriter& writer, QLatin1String name, const QString& text);
-void writeXmlText(QXmlStreamWriter& writer, const QString& text);
 
 // The root element of a document; `fileName` stands for the file in messages. Error: ErrorCode::InvalidFile,
 // naming the file, the line and what is wrong there; that too when the root's name is not `root`, compared

@@ -97,6 +97,22 @@ TEST_F(Outputs, AnOptionsFileIsTheStartingPoint) {
     EXPECT_EQ(outputs(), QStringList(u"x.png"_s));
 }
 
+TEST_F(Outputs, ACombineBoxThatTheFormatHidesDoesNotCount) {
+    const QString photo = makePhoto(u"a.png"_s);
+    const QString other = makePhoto(u"sub/a.png"_s);
+    const auto withFormat = [&](const char* format) {
+        const QByteArray file = QByteArray("<OutputSettings><CombineToSinglePDF>1</CombineToSinglePDF>") +
+                                "<OutputFormat>" + format + "</OutputFormat></OutputSettings>";
+        return QStringList{u"--options"_s, makeFile(u"options.xml"_s, file), photo, other};
+    };
+    EXPECT_EQ(run(words("--keep-structure --shard 0/1") + withFormat("jpg")).exitStatus, 0);
+    EXPECT_EQ(outputs(), words("in/a.jpg in/sub/a.jpg"));
+    EXPECT_EQ(run(words("--shard 1/2") + withFormat("jpg")).exitStatus, 0);
+    EXPECT_EQ(run(words("--shard 1/2") + withFormat("PDF")).exitStatus, 2);
+    EXPECT_EQ(run(withFormat("PDF")).exitStatus, 0);
+    EXPECT_TRUE(outputs().contains(u"WatermarkedPhotos.pdf"_s));
+}
+
 TEST_F(Outputs, PdfsHaveAPageAPhoto) {
     const QStringList photos = {makePhoto(u"a.png"_s, {64, 48}), makePhoto(u"b.png"_s, {48, 64}),
                                 makeFile(u"in/c.png"_s, "no photo")};

@@ -75,6 +75,11 @@ TEST_F(Report, RepeatedFailuresStopTheRunUnlessToldToContinue) {
     EXPECT_EQ(outputs(), QStringList());
     const QJsonObject continued = report(QStringList{u"--on-repeated-failure"_s, u"continue"_s} + photos, 1);
     EXPECT_EQ(summary(continued), u"1/5/0 through"_s);
+    // The pages of a document that is thrown away were not written.
+    const QStringList pages = QStringList{u"-f"_s, u"pdf"_s, u"--combine-pdf"_s, photos.last()} + photos;
+    const QJsonObject thrownAway = report(pages, 1);
+    EXPECT_EQ(summary(thrownAway), u"0/3/3 stopped"_s);
+    EXPECT_EQ(photoLines(thrownAway).first(), u"0 not-run 0x0 The combined PDF was not finished."_s);
 }
 
 TEST_F(Report, ASizeOfNothingAndAnUnknownExtensionAreFailures) {

@@ -48,14 +48,16 @@ TEST_F(CopyrightFile, KeepsEveryTextInItsOwnElementAndReadsEnabledAsSwitchedOn) 
 }
 
 TEST_F(CopyrightFile, OnlyTheWordFalseSwitchesOff) {
-    for (const auto& [text, enabled] :
-         {std::pair{"False", false}, {"false", true}, {"0", true}, {"", true}}) {
-        write(QByteArray("<Copyright><Other/><Enabled>") + text +
-              "</Enabled><Creator>A\nB</Creator></Copyright>");
+    for (const auto& [element, enabled] : {std::pair{"<Enabled>False</Enabled>", false},
+                                           {"<Enabled>false</Enabled>", true},
+                                           {"<Enabled>0</Enabled>", true},
+                                           {"<Enabled/>", true},
+                                           {"", true}}) {
+        write(QByteArray("<Copyright><Other/>") + element + "<Creator>A\nB</Creator></Copyright>");
+        EXPECT_EQ(copyrightToUse(path_)->Enabled, enabled) << element;
         CopyRightMetaData metadata;
         metadata.CopyrightText = QStringLiteral("kept");
         ASSERT_TRUE(LoadMetadata(metadata, path_));
-        EXPECT_EQ(metadata.Enabled, enabled) << text;
         EXPECT_EQ(metadata.Creator, QStringLiteral("A\nB"));
         EXPECT_EQ(metadata.CopyrightText, QStringLiteral("kept"));
     }

@@ -110,6 +110,12 @@ TEST_F(OutputSettingsFile, MissingGivesTheInitialSettingsAndABrokenOneAnError) {
     EXPECT_EQ(loadOutputSettings(path_, full())->options, full().options);
     write("<Resize>");
     EXPECT_EQ(loadOutputSettings(path_, full()).error().code, ErrorCode::InvalidFile);
+    // What a file leaves out is as both programs start.
+    write("<Resize>1</Resize><OutputFormat>PDF</OutputFormat>");
+    const OutputOptions options = loadOutputSettings(path_, startingOutputSettings())->options;
+    EXPECT_EQ(options.ResizeWidth, 100);
+    EXPECT_EQ(options.ResizeHeight, 100);
+    EXPECT_EQ(options.OutputFormat, QStringLiteral("pdf")) << "formats are known in any letter case";
 }
 
 TEST(OutputOptionsCheck, NamesTheFirstThingThatKeepsARunFromStarting) {

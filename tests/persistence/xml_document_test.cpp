@@ -22,9 +22,9 @@ TEST(XmlDocument, EveryTextReadsBackAsItWas) {
         everyCharacter,
         QStringLiteral("one\r\ntwo\rthree\nfour\t \r"),
         QStringLiteral("  leading and trailing  \n"),
-        QStringLiteral("<a href=\"x\">&amp; ]]> 'q' --> &#x1D; &#x26; &#x26;#x26; &#x41; &#x; &#x123456;"),
+        QStringLiteral("<a href=\"x\">&amp; ]]> 'q' --> &#x1D; &#x26; &#x26;#x26; &#x41; &#x; \\x001D \\\\"),
         QString::fromUtf8("\xF0\x9F\x93\xB7 \xC3\xA9"),
-        QStringLiteral("GS1") + QChar(0x1D) + QChar(0) + QStringLiteral("]d2") + QChar(0xD83D),
+        QStringLiteral("GS1") + QChar(0x1D) + QChar(0) + QStringLiteral("\\x]d2\\\\") + QChar(0xD83D),
         QString(),
     };
     for (const QString& text : texts) {
@@ -34,7 +34,11 @@ TEST(XmlDocument, EveryTextReadsBackAsItWas) {
         ASSERT_TRUE(root) << root.error().message.toStdString();
         ASSERT_EQ(root->children.size(), 1U);
         EXPECT_EQ(root->children[0].text, text) << document.toStdString().substr(0, 200);
+        EXPECT_FALSE(root->children[0].text.isNull()) << "an empty text is not an absent one";
     }
+    // What other programs write is never taken for an escape.
+    EXPECT_EQ(read("<Root><T>&amp;#x26; \\x001D \\\\</T></Root>")->children[0].text,
+              QStringLiteral("&#x26; \\x001D \\\\"));
 }
 
 TEST(XmlDocument, RefusesWhatIsHostileOrNoXmlAndSaysWhere) {

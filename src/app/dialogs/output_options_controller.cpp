@@ -38,15 +38,9 @@ Result<QString> defaultsPath() {
 
 // What the dialog starts from where nothing is stored.
 OutputSettings initialSettings() {
-    OutputSettings settings;
-    OutputOptions& options = settings.options;
-    options.OutputFormat = SameAsSourceFormat;
-    options.JPEGQuality = 90;
-    options.RenameFormat = QStringLiteral("[O]");
-    options.AspectRatio = true;
-    options.DontEnlargeSmallImage = true;
+    OutputSettings settings = startingOutputSettings();
     const QByteArray last = storedPreference(preference::LastOutDirectoryData).value_or(QByteArray());
-    options.OutputPath = resolveFileReference(last).value_or(QString());
+    settings.options.OutputPath = resolveFileReference(last).value_or(QString());
     return settings;
 }
 

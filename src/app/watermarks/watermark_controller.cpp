@@ -321,10 +321,10 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
     if (!stack) return tl::unexpected<Error>(stack.error());
     std::optional<CopyRightMetaData> metadata;
     if (stack->Metadata) {
-        metadata.emplace().Enabled = true;
-        const Result<void> read = copyrightFilePath().and_then(
-            [&metadata](const QString& file) { return LoadMetadata(*metadata, file); });
+        const Result<CopyRightMetaData> read = copyrightFilePath().and_then(copyrightToUse);
         if (!read) qCWarning(watermarks, "%s", qUtf8Printable(read.error().message));
+        metadata = read.value_or(CopyRightMetaData());
+        if (!read) metadata->Enabled = true;
     }
     replaceStack(*stack, metadata, tr("Load Setting"));
     Q_EMIT clearSaveLastWatermark();
