@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/filter_window.h"
 
+#include "app/common/in_background.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "pictures/picture_reader.h"
 #include "pictures/resample.h"
 #include "render/photo_filters.h"
 
-#include <QCoreApplication>
 #include <QListWidget>
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <array>
@@ -115,12 +114,8 @@ void FilterWindow::makePictures(const QString& path) {
         for (std::size_t row = 0; row < Numbers.size() && !*cancelled; ++row) {
             const int number = Numbers[row];
             const QImage picture = number == NoFilter ? small : ApplyFilter(number, small);
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [self, row, picture] {
-                    if (self) self->showPicture(static_cast<int>(row), picture);
-                },
-                Qt::QueuedConnection);
+            answerOnMainThread(self,
+                               [self, row, picture] { self->showPicture(static_cast<int>(row), picture); });
         }
     });
 }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/run/run_controller.h"
 
+#include "app/common/in_background.h"
 #include "app/common/messages.h"
 #include "app/common/my_global_instance.h"
 #include "app/window/main_window.h"
 #include "platform/path_parts.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
-#include <QThreadPool>
 
 #include <utility>
 
@@ -61,21 +60,15 @@ void RunController::ProcessImaging(const OutputOptions& options) {
     const auto plan = std::make_shared<const RunPlan>(
         planRun(window_.photos(), window_.document(), options, shared_.SettingDirectory));
     // Looking for every photo on the disk takes a while.
-    const QPointer<RunController> self(this);
-    QThreadPool::globalInstance()->start([self, plan] {
-        const QStringList replaced = planOutputs(plan->request, QDateTime::currentDateTime()).replacedPhotos;
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, plan, replaced] {
-                if (!self) return;
-                if (replaced.isEmpty()) {
-                    self->launch(plan);
-                } else {
-                    self->askBeforeReplacing(plan, replaced);
-                }
-            },
-            Qt::QueuedConnection);
-    });
+    inBackground(
+        this, [plan] { return planOutputs(plan->request, QDateTime::currentDateTime()).replacedPhotos; },
+        [this, plan](const QStringList& replaced) {
+            if (replaced.isEmpty()) {
+                launch(plan);
+            } else {
+                askBeforeReplacing(plan, replaced);
+            }
+        });
 }
 
 void RunController::askBeforeReplacing(const Plan& plan, const QStringList& replaced) {

@@ -2,13 +2,11 @@
 #include "app/window/full_screen_view.h"
 
 #include "app/common/icons.h"
+#include "app/common/in_background.h"
 #include "render/composition.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPointer>
-#include <QThreadPool>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -44,27 +42,23 @@ FullScreenView::FullScreenView(QWidget* parent) : QWidget(parent, Qt::Window | Q
 }
 
 void FullScreenView::compose(const PhotoRequest& request) {
-    const QPointer<FullScreenView> self(this);
-    QThreadPool::globalInstance()->start([self, request] {
-        Result<PhotoScene> scene = buildPhotoScene(request);
+    struct Composed {
         QImage picture;
         QString message;
-        if (scene) {
-            picture = MakeWatermarkImage(std::move(*scene), *request.stack);
-        } else {
-            message = scene.error().message;
-        }
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, picture, message] {
-                if (!self) return;
-                self->picture_ = picture;
-                self->message_ = message;
-                self->update();
-                Q_EMIT self->composed();
-            },
-            Qt::QueuedConnection);
-    });
+    };
+    inBackground(
+        this,
+        [request] {
+            Result<PhotoScene> scene = buildPhotoScene(request);
+            if (!scene) return Composed{{}, scene.error().message};
+            return Composed{MakeWatermarkImage(std::move(*scene), *request.stack), {}};
+        },
+        [this](const Composed& made) {
+            picture_ = made.picture;
+            message_ = made.message;
+            update();
+            Q_EMIT composed();
+        });
 }
 
 void FullScreenView::paintEvent(QPaintEvent* /*event*/) {

@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/macros/macro_controller.h"
 
+#include "app/common/in_background.h"
 #include "app/editors/macros/auto_number_window_controller.h"
 #include "app/editors/macros/date_format_window_controller.h"
 #include "app/editors/macros/special_character_window_controller.h"
 #include "macros/macro_list.h"
 #include "platform/dates.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
-#include <QThreadPool>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -45,18 +43,15 @@ MacroController::MacroController(const QString& photoPath, qint64 photoRow, Inse
       insertButton_(new QPushButton(tr("&Insert Macro"), this)) {
     layOut();
     take({fixedMacros(), {}});
-    QThreadPool::globalInstance()->start([self = QPointer(this), photoPath, photoRow] {
-        const PhotoMacros macros =
-            macrosOfPhoto(photoPath, photoRow, QDateTime::currentDateTime(), userDateLocale());
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, macros] {
-                if (!self) return;
-                self->take(macros);
-                self->isComplete_ = true;
-            },
-            Qt::QueuedConnection);
-    });
+    inBackground(
+        this,
+        [photoPath, photoRow] {
+            return macrosOfPhoto(photoPath, photoRow, QDateTime::currentDateTime(), userDateLocale());
+        },
+        [this](const PhotoMacros& macros) {
+            take(macros);
+            isComplete_ = true;
+        });
 }
 
 MacroController::MacroController(const QString& photoPath, qint64 photoRow, QPlainTextEdit& text,

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/logo_sample.h"
 
+#include "app/common/in_background.h"
 #include "pictures/picture_reader.h"
 #include "render/qt_color.h"
 
-#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
-#include <QThreadPool>
 
 #include <algorithm>
 
@@ -55,21 +53,15 @@ void LogoSample::load(const Watermark& record) {
 }
 
 void LogoSample::read() {
-    QThreadPool::globalInstance()->start([self = QPointer(this), data = data_, path = path_, asked = asked_] {
-        const Result<Picture> logo = readLogo(data, path);
-        const QImage picture = logo ? logo->image : QImage();
-        const QString message = logo ? QString() : logo.error().message;
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, picture, message, asked] {
-                if (!self || self->asked_ != asked) return;
-                self->picture_ = picture;
-                self->message_ = message;
-                if (self->picksColor_) self->setCursor(Qt::CrossCursor);
-                self->update();
-            },
-            Qt::QueuedConnection);
-    });
+    inBackground(
+        this, [data = data_, path = path_] { return readLogo(data, path); },
+        [this, asked = asked_](const Result<Picture>& logo) {
+            if (asked_ != asked) return;
+            picture_ = logo ? logo->image : QImage();
+            message_ = logo ? QString() : logo.error().message;
+            if (picksColor_) setCursor(Qt::CrossCursor);
+            update();
+        });
 }
 
 QRect LogoSample::place() const {
