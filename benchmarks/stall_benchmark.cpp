@@ -93,7 +93,7 @@ void StallWhileABatchRuns(benchmark::State& state) {
         Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
         text.Text = QStringLiteral("© <<IMGNAME>>");
         text.FontSize = 120;
-        window.watermarks().ReflectWatermark(text, true);
+        window.watermarks().ReflectWatermark(text);
         runEventsFor(1000);
         StallWatchdog watchdog;
         run.ProcessImaging(options);

@@ -122,7 +122,7 @@ void TypedLetter(benchmark::State& state) {
     text.Shadow = state.range(0) != 0;
     text.ShadowColor = Color::black();
     text.Text = QStringLiteral("©");
-    window->watermarks().ReflectWatermark(text, true);
+    window->watermarks().ReflectWatermark(text);
     window->document().setCurrentWatermark(0);
     if (state.range(1) != 0) window->controller().ActualSize();
     window.settle();
@@ -173,7 +173,7 @@ void LetterTypedIntoEditor(benchmark::State& state) {
         }
         editor->close();
     });
-    window->watermarks().OpenTextWatermarkSettings();
+    window->editors().OpenTextWatermarkSettings();
     std::nth_element(times.begin(), times.begin() + 50, times.end());
     state.counters["median_ms"] = times[50] * 1e3;
 }

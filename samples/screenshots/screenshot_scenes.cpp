@@ -51,7 +51,7 @@ struct EditorScene {
     const char* name;
     void (*set)(Stage& stage);
     int row;
-    void (WatermarkController::*open)() = nullptr;
+    void (WatermarkEditors::*open)() = nullptr;
 };
 
 constexpr EditorScene Editors[] = {
@@ -59,15 +59,15 @@ constexpr EditorScene Editors[] = {
     {"logo", setWindow, 1},
     {"qr-code", setWindow, 3},
     {"shape", setFramed, 2},
-    {"filter", setFramed, -1, &WatermarkController::OpenFilterWindow},
-    {"effects", setFramed, -1, &WatermarkController::OpenEffectsSettings},
-    {"copyright", setWindow, -1, &WatermarkController::OpenMetadataWindow},
+    {"filter", setFramed, -1, &WatermarkEditors::OpenFilterWindow},
+    {"effects", setFramed, -1, &WatermarkEditors::OpenEffectsSettings},
+    {"copyright", setWindow, -1, &WatermarkEditors::OpenMetadataWindow},
 };
 
 void setEditor(Stage& stage, const EditorScene& editor) {
     editor.set(stage);
     if (editor.open != nullptr) {
-        (stage.window().watermarks().*editor.open)();
+        (stage.window().editors().*editor.open)();
     } else {
         stage.openEditor(editor.row);
     }

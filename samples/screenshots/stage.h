@@ -41,7 +41,7 @@ class Stage {
     // Opens the dialog that a run begins with, and waits for it.
     void openOutputOptions();
     // Opens the editor of a row of the watermark list, and waits for it.
-    void openEditor(int row) { window_->watermarks().openEditor(row); }
+    void openEditor(int row) { window_->editors().WatermarkListDoubleClicked(row); }
 
     // Calls `act` as soon as `condition` holds, which may be within the event loop of a dialog.
     static void when(std::function<bool()> condition, std::function<void()> act);

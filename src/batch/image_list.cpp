@@ -76,12 +76,12 @@ void ImageList::ToggleCheck() {
 }
 
 void ImageList::markUnprocessed() {
-    for (Image& image : images_) image.StsImage = statusImage(PhotoStatus::NotProcessed);
+    for (Image& image : images_) image.Status = PhotoStatus::NotProcessed;
 }
 
 void ImageList::setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage) {
     Image& image = images_.at(row);
-    image.StsImage = statusImage(status);
+    image.Status = status;
     if (!errorMessage.isEmpty()) image.ErrorMessage = errorMessage;
 }
 

@@ -269,8 +269,15 @@ Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QSt
     return stack;
 }
 
+bool hasAnythingToSave(const WatermarkStack& stack) {
+    return !stack.Watermarks.empty() || stack.Effects;
+}
+
 Result<void> SaveWatermarkSettings(const WatermarkStack& stack, const QString& path) {
-    if (stack.Watermarks.empty() && !stack.Effects) return {};
+    return hasAnythingToSave(stack) ? writeSettingFile(stack, path) : Result<void>();
+}
+
+Result<void> writeSettingFile(const WatermarkStack& stack, const QString& path) {
     const QByteArray document = writeSettingDocument(stack);
     if (document.size() > MaximumXmlSize) {
         return fail(ErrorCode::CannotWrite,

@@ -22,8 +22,14 @@ QByteArray writeSettingDocument(const WatermarkStack& stack);
 // file, the line and what is wrong there.
 Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QString& name);
 
-// Writes the stack to `path`, whole or not at all. A stack without watermarks and effects writes nothing.
+// Whether a setting of the stack would hold anything but a filter: watermarks, or the effects.
+bool hasAnythingToSave(const WatermarkStack& stack);
+
+// Writes the stack to `path`, whole or not at all; does nothing where there isn't anything to save.
 Result<void> SaveWatermarkSettings(const WatermarkStack& stack, const QString& path);
+
+// The same for any stack.
+Result<void> writeSettingFile(const WatermarkStack& stack, const QString& path);
 
 // Error: ErrorCode::NotFound or those of readSettingDocument.
 Result<WatermarkStack> LoadWatermarkSetting(const QString& path);

@@ -24,6 +24,8 @@ inline constexpr Preference<bool> ShowTips{QLatin1String("ShowTips")};
 inline constexpr Preference<bool> FirstRun{QLatin1String("FirstRun")};
 inline constexpr Preference<QString> SettingDirectory{QLatin1String("SettingDirectory")};
 inline constexpr Preference<QString> AutoLoadSetting{QLatin1String("AutoLoadSetting")};  // a setting's name
+// The setting file that held the stack on screen when the window closed; empty for an empty stack.
+inline constexpr Preference<QString> StackAtClose{QLatin1String("Window/Stack")};
 inline constexpr Preference<QString> LastImageDirectory{QLatin1String("LastImageDirectory")};
 inline constexpr Preference<QString> LastLogoDirectory{QLatin1String("LastLogoDirectory")};
 inline constexpr Preference<QString> LastOutDirectory{QLatin1String("LastOutDirectory")};

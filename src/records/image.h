@@ -2,22 +2,20 @@
 // One entry of the photo list.
 #pragma once
 
-#include <QImage>
 #include <QString>
+
+#include <utility>
 
 namespace zelto {
 
-// How the last run left a photo; each state has its own status picture.
+// How the last run left a photo.
 enum class PhotoStatus { NotProcessed, Written, Failed };
 
-// The small picture that stands for `status` in the photo table. Any thread; the pixels are shared.
-QImage statusImage(PhotoStatus status);
-
 struct Image {
-    explicit Image(QString path);
+    explicit Image(QString path) : ImagePath(std::move(path)) {}
 
-    QString ImagePath;           // as given when it was added; the entry's identity
-    QImage StsImage;             // statusImage() of the last run's outcome
+    QString ImagePath;  // as given when it was added; the entry's identity
+    PhotoStatus Status = PhotoStatus::NotProcessed;
     QString ErrorMessage;        // of the last failure; empty for none
     bool ApplyWatermark = true;  // checked: a run processes this photo
 };

@@ -83,9 +83,9 @@ TEST(ImageList, AnErrorTextStaysUntilANewFailureReplacesIt) {
     const auto& image = list.images().front();
     list.setOutcome(0, PhotoStatus::Failed, u"first"_s);
     list.markUnprocessed();
-    EXPECT_EQ(image.StsImage, statusImage(PhotoStatus::NotProcessed));
+    EXPECT_EQ(image.Status, PhotoStatus::NotProcessed);
     list.setOutcome(0, PhotoStatus::Written, QString());
-    EXPECT_EQ(image.StsImage, statusImage(PhotoStatus::Written));
+    EXPECT_EQ(image.Status, PhotoStatus::Written);
     EXPECT_EQ(image.ErrorMessage, u"first"_s);
     list.setOutcome(0, PhotoStatus::Failed, u"second"_s);
     EXPECT_EQ(image.ErrorMessage, u"second"_s);

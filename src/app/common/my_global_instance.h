@@ -15,12 +15,11 @@ namespace zelto {
 
 class MyGlobalInstance {
   public:
-    bool FirstRun = true;            // this is the first start
-    bool SaveLastWatermark = false;  // the stack is one that "Last Watermark" does not hold
-    qint64 CurrentTip = 0;           // of the tip on show
-    QMap<QString, QString> Tips;     // tip id -> text
-    QMap<QString, QString> Nums;     // display index -> tip id
-    QString SettingDirectory;        // ends in "/"
+    bool FirstRun = true;         // this is the first start
+    qint64 CurrentTip = 0;        // of the tip on show
+    QMap<QString, QString> Tips;  // tip id -> text
+    QMap<QString, QString> Nums;  // display index -> tip id
+    QString SettingDirectory;     // ends in "/"; empty where there is none
 
     // Finds or makes the settings folder, notes it here and, on success, among the preferences.
     Result<void> findSettingDirectory();

@@ -9,6 +9,7 @@
 #include "app/dialogs/tips_dialog.h"
 #include "app/dialogs/version_check.h"
 #include "app/watermarks/watermark_controller.h"
+#include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 
 #include <QFileDialog>
@@ -51,8 +52,7 @@ std::optional<SettingsLibrary> userLibrary(QWidget* parent) {
 }
 
 void saveSettings(QWidget* parent, WatermarkController& watermarks) {
-    const WatermarkStack& stack = watermarks.document().state().Stack;
-    if (stack.Watermarks.empty() && !stack.Effects) {
+    if (!hasAnythingToSave(watermarks.document().state().Stack)) {
         showAlert(
             parent, WatermarkController::tr("Save Setting"),
             WatermarkController::tr("There is nothing to save yet. Add a watermark or a border first."));

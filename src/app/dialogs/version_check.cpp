@@ -23,6 +23,12 @@ QUrl configured(const char* variable, const Preference<QString>& preference, con
     return address.isEmpty() ? QUrl() : QUrl(address, QUrl::StrictMode);
 }
 
+void tellThatNobodyAnswered(QWidget* window, const QString& reason) {
+    openMessageSheet(window, {QMessageBox::Warning, QStringLiteral("Version Check"),
+                              QMessageBox::tr("The newest version cannot be found out at the moment.") +
+                                  QLatin1Char('\n') + reason});
+}
+
 void tellWhatIsNewest(QWidget* window, const QString& newest, const QUrl& download) {
     if (newest == QLatin1String(ZELTO_VERSION)) {
         openMessageSheet(window, {QMessageBox::Information, QStringLiteral("Version Check"),
@@ -71,15 +77,18 @@ void CheckLatestVersion(QWidget* window) {
     request.setTransferTimeout(TimeoutMilliseconds);
     QNetworkReply* reply = network->get(request);
     QObject::connect(busy, &QProgressDialog::canceled, busy, &QObject::deleteLater);
-    QObject::connect(
-        reply, &QNetworkReply::finished, window, [window, busy, reply, download = addresses.download] {
-            if (busy->wasCanceled()) return;
-            const bool isAnswered = reply->error() == QNetworkReply::NoError;
-            const QByteArray text = isAnswered ? reply->read(LongestAnswer).trimmed() : QByteArray();
-            busy->hide();
-            busy->deleteLater();
-            tellWhatIsNewest(window, QString::fromUtf8(text), download);
-        });
+    QObject::connect(reply, &QNetworkReply::finished, window,
+                     [window, busy, reply, download = addresses.download] {
+                         if (busy->wasCanceled()) return;
+                         const QString newest = QString::fromUtf8(reply->read(LongestAnswer)).trimmed();
+                         busy->hide();
+                         busy->deleteLater();
+                         if (reply->error() != QNetworkReply::NoError || newest.isEmpty()) {
+                             tellThatNobodyAnswered(window, reply->errorString());
+                         } else {
+                             tellWhatIsNewest(window, newest, download);
+                         }
+                     });
 }
 
 }  // namespace zelto

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/photos/folder_import.h"
 
-#include "batch/folder_scan.h"
-
 #include <QElapsedTimer>
+
+#include <utility>
 
 namespace zelto {
 namespace {
@@ -14,9 +14,7 @@ constexpr int CountMilliseconds = 100;  // between two counts
 
 }  // namespace
 
-FolderImport::FolderImport(const QString& folder, bool includeSubFolders, const QString& extensionList,
-                           QWidget* window, QObject* parent)
-    : QObject(parent), progress_(window) {
+FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent) : QObject(parent), progress_(window) {
     progress_.setWindowModality(Qt::WindowModal);
     progress_.setWindowTitle(tr("Add Folder"));
     progress_.setLabelText(tr("Looking for photos..."));
@@ -27,7 +25,7 @@ FolderImport::FolderImport(const QString& folder, bool includeSubFolders, const 
     progress_.setValue(0);
     connect(&progress_, &QProgressDialog::canceled, this, [this] { thread_.request_stop(); });
 
-    thread_ = std::jthread([=, this](const std::stop_token& stop) {
+    thread_ = std::jthread([this, scan = std::move(scan)](const std::stop_token& stop) {
         QElapsedTimer sinceCount;
         sinceCount.start();
         const auto goesOn = [&](qsizetype photos) {
@@ -37,8 +35,7 @@ FolderImport::FolderImport(const QString& folder, bool includeSubFolders, const 
             }
             return !stop.stop_requested();
         };
-        const QStringList photos =
-            ImportImagesFromFolder(folder, includeSubFolders, extensionList, goesOn).value_or(QStringList());
+        const QStringList photos = scan(goesOn);
         const bool isComplete = !stop.stop_requested();
         QMetaObject::invokeMethod(this, [this, photos, isComplete] { finish(photos, isComplete); });
     });

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looks for the photos of a folder without keeping the window waiting: on a thread of its own, with a message
-// that counts them and can break it off once it takes longer than a moment. Main thread only.
+// Looks for photos in folders without keeping the window waiting: on a thread of its own, with a message that counts
+// them and can break it off once it takes longer than a moment. Main thread only.
 #pragma once
 
 #include <QObject>
@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <thread>
 
 namespace zelto {
@@ -16,10 +17,14 @@ class FolderImport : public QObject {
     Q_OBJECT
 
   public:
-    // Begins at once and deletes itself when it is over; `window` is the parent of the message. One that is
-    // deleted before is broken off.
-    FolderImport(const QString& folder, bool includeSubFolders, const QString& extensionList, QWidget* window,
-                 QObject* parent);
+    // Looks for the photos, on another thread; calls `goesOn` with the number found so far, and returns once that
+    // answers false.
+    using GoesOn = std::function<bool(qsizetype photos)>;
+    using Scan = std::function<QStringList(const GoesOn& goesOn)>;
+
+    // Begins at once and deletes itself when it is over; `window` is the parent of the message. One that is deleted
+    // before is broken off.
+    FolderImport(Scan scan, QWidget* window, QObject* parent);
 
   Q_SIGNALS:
     // The photos, in the order of the scan. A scan that is broken off or finds nothing never tells.

@@ -81,7 +81,6 @@ void ImageListController::AddImages(const QStringList& paths) {
             [this](const ImageList::Placed& placed) { insertPhotos(placed); },
             [this](const std::vector<std::size_t>& rows) { takePhotos(rows); }));
     }
-    Q_EMIT EnableDisableWatermarkControls();
 }
 
 void ImageListController::addImagesFromUrls(const QList<QUrl>& urls) {
@@ -160,14 +159,12 @@ void ImageListController::insertPhotos(const ImageList::Placed& photos) {
         for (const std::size_t row : photos.rows) shown += static_cast<int>(row) <= shown ? 1 : 0;
         selectRow(shown);
     }
-    Q_EMIT EnableDisableWatermarkControls();
 }
 
 void ImageListController::takePhotos(const std::vector<std::size_t>& rows) {
     model_.take(rows);
     // The row that took the place of the first one removed, or the new last row.
     selectRow(std::min(static_cast<int>(rows.front()), count() - 1));
-    Q_EMIT EnableDisableWatermarkControls();
 }
 
 void ImageListController::ChangeImage(const QString& row) {
@@ -186,7 +183,7 @@ void ImageListController::selectRow(int row) {
 }
 
 void ImageListController::SelectImage() {
-    Q_EMIT selectImage(selectedRow());
+    Q_EMIT photoSelected(selectedRow());
 }
 
 void ImageListController::ImageListDoubleClicked(int row) {

@@ -59,11 +59,9 @@ class ImageListController : public QObject {
 
   Q_SIGNALS:
     // The photo of `row` is to be shown, though it may be the one that is on show; -1 for none.
-    void selectImage(int row);
+    void photoSelected(int row);
     // The user is to be told something.
     void alert(const QString& title, const QString& text);
-    // Photos came or went: what the window offers may have to change.
-    void EnableDisableWatermarkControls();
 
   private:
     void setChecks(const QString& name, const std::function<bool(int row, bool checked)>& check);

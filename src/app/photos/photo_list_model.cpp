@@ -9,25 +9,13 @@
 namespace zelto {
 namespace {
 
-struct StatusWord {
-    PhotoStatus status;
-    const char* word;
-};
-constexpr std::array StatusWords = {
-    StatusWord{PhotoStatus::NotProcessed, QT_TRANSLATE_NOOP("PhotoListModel", "not processed")},
-    StatusWord{PhotoStatus::Written, QT_TRANSLATE_NOOP("PhotoListModel", "written")},
-    StatusWord{PhotoStatus::Failed, QT_TRANSLATE_NOOP("PhotoListModel", "failed")},
-};
-
-PhotoStatus statusOf(const Image& photo) {
-    for (const StatusWord& each : StatusWords) {
-        if (statusImage(each.status).cacheKey() == photo.StsImage.cacheKey()) return each.status;
-    }
-    return PhotoStatus::NotProcessed;
-}
+// By `PhotoStatus`.
+constexpr std::array StatusWords = {QT_TRANSLATE_NOOP("PhotoListModel", "not processed"),
+                                    QT_TRANSLATE_NOOP("PhotoListModel", "written"),
+                                    QT_TRANSLATE_NOOP("PhotoListModel", "failed")};
 
 QString spoken(const Image& photo) {
-    const char* status = StatusWords.at(static_cast<std::size_t>(statusOf(photo))).word;
+    const char* status = StatusWords.at(static_cast<std::size_t>(photo.Status));
     return PhotoListModel::tr("%1, %2, %3")
         .arg(lastPathComponent(photo.ImagePath),
              photo.ApplyWatermark ? PhotoListModel::tr("checked") : PhotoListModel::tr("not checked"),
@@ -61,7 +49,7 @@ QVariant PhotoListModel::data(const QModelIndex& index, int role) const {
         case PathRole:
             return photo.ImagePath;
         case StatusRole:
-            return static_cast<int>(statusOf(photo));
+            return static_cast<int>(photo.Status);
         case ErrorRole:
             return photo.ErrorMessage;
         default:

@@ -36,12 +36,10 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     diagnosticsDue_.setSingleShot(true);
     diagnosticsDue_.setInterval(DiagnosticsMilliseconds);
     connect(&diagnosticsDue_, &QTimer::timeout, this, &PhotoPreview::writeDiagnostics);
-    connect(&photos_, &ImageListController::selectImage, this, &PhotoPreview::selectImage);
+    connect(&photos_, &ImageListController::photoSelected, this, &PhotoPreview::selectImage);
     connect(&photos_.model(), &QAbstractItemModel::rowsInserted, this,
             [this] { builder_.updateLayers(request()); });
     connect(&document_, &WatermarkDocument::changed, this, &PhotoPreview::follow);
-    connect(&watermarks_, &WatermarkController::rebuildLayers, this,
-            [this] { builder_.updateLayers(request()); });
     connect(&view_, &PreviewView::viewChanged, &builder_, &SceneBuilder::setView);
     connect(&builder_, &SceneBuilder::updated, this, &PhotoPreview::take);
     connect(&builder_, &SceneBuilder::failed, this, [this](const QString& /*path*/, const QString& message) {
@@ -49,13 +47,11 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     });
 
     connect(&view_, &PreviewView::layerPicked, &watermarks_, &WatermarkController::selectWatermark);
-    connect(&view_, &PreviewView::layerActivated, this,
-            [this](int index) { watermarks_.openEditor(watermarks_.model().rowOf(index)); });
     connect(&view_, &PreviewView::layerDragged, &builder_, &SceneBuilder::moveLayer);
     connect(&view_, &PreviewView::layerDropped, this,
             [this](int index, QPoint place) { watermarks_.placeWatermark(index, place); });
     connect(&view_, &PreviewView::layerNudged, this, &PhotoPreview::nudge);
-    connect(&watermarks_.selection(), &QItemSelectionModel::currentChanged, this,
+    connect(&watermarks_.selection(), &QItemSelectionModel::selectionChanged, this,
             [this] { view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata()); });
 }
 

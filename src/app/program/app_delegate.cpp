@@ -2,8 +2,7 @@
 #include "app/program/app_delegate.h"
 
 #include "app/common/window_resources.h"
-#include "batch/folder_scan.h"
-#include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
 #include "platform/preferences.h"
 
 #include <QFile>
@@ -11,6 +10,7 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QScreen>
+#include <QStatusBar>
 
 #include <utility>
 
@@ -18,6 +18,9 @@ namespace zelto {
 namespace {
 
 Q_LOGGING_CATEGORY(startUp, "zelto.start")
+
+constexpr QLatin1String LoadErrorTitle("Setting Load Error");
+constexpr int StatusMilliseconds = 15000;  // that a line stays in the status bar
 
 // The tips that ship with the program; none where they are missing.
 QByteArray tipsDocument() {
@@ -44,7 +47,7 @@ void AppDelegate::start(const StartRequest& request) {
     }
     flushPreferences();
     loadSetting(request);
-    addPhotos(request.photos);
+    if (!request.photos.isEmpty()) window_->controller().importPaths(request.photos);
 }
 
 void AppDelegate::showWindow() {
@@ -60,38 +63,41 @@ void AppDelegate::showWindow() {
 }
 
 void AppDelegate::loadSetting(const StartRequest& request) {
-    QString path;
-    if (request.setting && QFileInfo(*request.setting).isFile()) {
-        path = *request.setting;
-    } else {
-        const QString name =
-            request.setting.value_or(storedPreference(preference::AutoLoadSetting).value_or(QString()));
-        if (name.isEmpty()) return;
-        path = shared_.SettingDirectory + name + SettingFileExtension;
-        if (!QFileInfo(path).isFile()) return;
+    window_->watermarks().resetCurrentWatermarkIndex();
+    const QString autoload = storedPreference(preference::AutoLoadSetting).value_or(QString());
+    if (request.setting) {
+        const QString path = settingPath(*request.setting);
+        if (path.isEmpty()) {
+            showAlert(
+                window_.get(), LoadErrorTitle,
+                MainWindow::tr("There is no saved setting and no setting file “%1”.").arg(*request.setting));
+        } else {
+            load(path);
+        }
+    } else if (const QString path = savedSettingPath(autoload); !path.isEmpty()) {
+        load(path);
+    } else if (const auto told = window_->keeper().bringBack()) {
+        window_->statusBar()->showMessage(*told, StatusMilliseconds);
     }
-    WatermarkController& watermarks = window_->watermarks();
-    watermarks.resetCurrentWatermarkIndex();
-    const Result<void> loaded = watermarks.LoadWatermarkSetting(path);
-    if (!loaded) showAlert(window_.get(), QStringLiteral("Setting Load Error"), loaded.error().message);
     // There is nothing to go back to before the first thing the user does.
     window_->document().history().clear();
 }
 
-void AppDelegate::addPhotos(const QStringList& paths) {
-    ScanFormats all;
-    QStringList photos;
-    for (const QString& path : paths) {
-        const QFileInfo file(path);
-        if (!file.isDir()) {
-            photos.append(file.absoluteFilePath());
-        } else if (const auto found =
-                       ImportImagesFromFolder(file.absoluteFilePath(), false, GetExtensionList(all))) {
-            photos.append(*found);
-        }
-    }
-    if (!photos.isEmpty()) window_->photos().AddImages(photos);
-    window_->document().history().clear();
+void AppDelegate::load(const QString& path) {
+    const Result<void> loaded = window_->watermarks().LoadWatermarkSetting(path);
+    if (!loaded) showAlert(window_.get(), LoadErrorTitle, loaded.error().message);
+}
+
+// The file of a saved setting; empty where there is none of that name.
+QString AppDelegate::savedSettingPath(const QString& name) const {
+    if (shared_.SettingDirectory.isEmpty()) return {};
+    const SettingsLibrary library(shared_.SettingDirectory);
+    return library.contains(name) ? library.path(name).value_or(QString()) : QString();
+}
+
+// The same for a setting that may also be given as the path of a file.
+QString AppDelegate::settingPath(const QString& nameOrFile) const {
+    return QFileInfo(nameOrFile).isFile() ? nameOrFile : savedSettingPath(nameOrFile);
 }
 
 }  // namespace zelto

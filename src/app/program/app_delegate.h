@@ -36,7 +36,9 @@ class AppDelegate {
   private:
     void showWindow();
     void loadSetting(const StartRequest& request);
-    void addPhotos(const QStringList& paths);
+    void load(const QString& path);
+    QString savedSettingPath(const QString& name) const;
+    QString settingPath(const QString& nameOrFile) const;
 
     MyGlobalInstance shared_;
     DialogSet dialogs_;

@@ -118,7 +118,6 @@ void RunController::workerStarts() {
     window_.processing().PauseOrResumeProcessing()->setFocus();
     window_.processing().setPace({});
     pace_.begin(plan_->photosFrom(done_));
-    shared_.SaveLastWatermark = false;
 }
 
 // ---- what the user asks for

@@ -1,41 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/watermark_controller.h"
 
-#include "app/photos/image_list_controller.h"
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
 
 #include <QLoggingCategory>
-#include <QtMath>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace zelto {
 namespace {
 
-Q_LOGGING_CATEGORY(watermarks, "zelto.watermarks")
+Q_LOGGING_CATEGORY(watermarks, "zelto.watermarks", QtWarningMsg)
 
-// By `Watermark::Type`: how a step on such a record is called, and its editor.
-struct KindRow {
+// By `Watermark::Type`: how steps on such a record are called. An unknown type is shown as an image.
+struct StepNames {
     const char* add;
     const char* edit;
-    EditorKind editor;
 };
-constexpr std::array Kinds = {
-    KindRow{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Image"),
-            QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Image"), EditorKind::Image},
-    KindRow{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Text"),
-            QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Text"), EditorKind::Text},
-    KindRow{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Shape"),
-            QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Shape"), EditorKind::Shape},
-    KindRow{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add QR Code"),
-            QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit QR Code"), EditorKind::QrCode},
-};
+constexpr std::array NamesOfType = {
+    StepNames{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Image"),
+              QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Image")},
+    StepNames{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Text"),
+              QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Text")},
+    StepNames{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add Shape"),
+              QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit Shape")},
+    StepNames{QT_TRANSLATE_NOOP("zelto::WatermarkController", "Add QR Code"),
+              QT_TRANSLATE_NOOP("zelto::WatermarkController", "Edit QR Code")}};
 
-const KindRow& kindOf(const Watermark& watermark) {
+const StepNames& namesFor(const Watermark& watermark) {
     const auto type = static_cast<std::size_t>(watermark.Type);
-    return watermark.Type >= 0 && type < Kinds.size() ? Kinds.at(type) : Kinds.front();
+    return watermark.Type >= 0 && type < NamesOfType.size() ? NamesOfType.at(type) : NamesOfType.front();
 }
 
 // A text that is there but holds nothing; a watermark that never had one is not empty.
@@ -53,68 +50,38 @@ Watermark& recordAt(StackState& state, int index) {
 
 }  // namespace
 
-WatermarkController::WatermarkController(WatermarkDocument& document, ImageListController& photos,
-                                         EditorSet editors, QWidget* window)
-    : QObject(window),
+WatermarkController::WatermarkController(WatermarkDocument& document, QObject* parent)
+    : QObject(parent),
       document_(document),
-      photos_(photos),
-      editors_(std::move(editors)),
-      window_(window),
       model_(document, [this](int row, bool on) { setRowEnabled(row, on); }),
       selection_(&model_) {
-    // A list that is built anew keeps its place.
-    connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this,
-            [this] { rowBeforeReset_ = selection_.currentIndex().row(); });
-    connect(&model_, &QAbstractItemModel::modelReset, this,
-            [this] { selectRow(std::min(rowBeforeReset_, model_.rowCount() - 1)); });
+    connect(&model_, &QAbstractItemModel::rowsRemoved, this,
+            [this](const QModelIndex&, int first) { keepARowSelected(first); });
 }
 
 const Watermark& WatermarkController::GetWatermarkAtRow(int index) const {
     return document_.watermarks().at(static_cast<std::size_t>(index));
 }
 
-std::optional<Watermark> WatermarkController::GetSelectedWatermark() const {
-    const int index = watermarkRowIndexAfterRemovingFilterAndMetadata();
-    if (!document_.contains(index)) return std::nullopt;
-    return GetWatermarkAtRow(index);
+// ---- the selected row
+
+int WatermarkController::selectedRow() const {
+    return selection_.selectedIndexes().value(0).row();
 }
 
-int WatermarkController::watermarkRowIndexAfterRemovingFilterAndMetadata() const {
-    return model_.watermarkOf(selection_.currentIndex().row());
-}
-
-// ---- editors
-
-void WatermarkController::openEditor(int row) {
-    if (row < 0 || row >= model_.rowCount()) return;
-    resetCurrentWatermarkIndex();
-    switch (model_.kindOf(row)) {
-        case WatermarkListModel::RowKind::Filter:
-            open(EditorKind::Filter);
-            return;
-        case WatermarkListModel::RowKind::Metadata:
-            open(EditorKind::Copyright);
-            return;
-        case WatermarkListModel::RowKind::Watermark:
-            break;
+void WatermarkController::selectWatermark(int index) {
+    if (document_.contains(index)) {
+        selection_.setCurrentIndex(model_.index(model_.rowOf(index)), QItemSelectionModel::ClearAndSelect);
+    } else {
+        selection_.clear();
     }
-    const int index = model_.watermarkOf(row);
-    document_.setCurrentWatermark(index);
-    open(kindOf(GetWatermarkAtRow(index)).editor);
 }
 
-void WatermarkController::openNew(EditorKind kind) {
-    resetCurrentWatermarkIndex();
-    open(kind);
-}
-
-void WatermarkController::open(EditorKind kind) {
-    const auto editor = editors_.find(kind);
-    if (editor == editors_.end()) return;
-    ++editing_;
-    editor->second({*this, photos_.selectedPath(), std::max(0, photos_.selectedRow()), window_});
-    ++editing_;
-    resetCurrentWatermarkIndex();
+// Qt makes a neighbour of a removed row the current one, but does not select it.
+void WatermarkController::keepARowSelected(int removedFrom) {
+    if (selection_.hasSelection() || !selection_.currentIndex().isValid()) return;
+    const int row = std::min(removedFrom, model_.rowCount() - 1);
+    selection_.setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
 }
 
 Watermark WatermarkController::startingWatermark(std::int32_t type) {
@@ -126,17 +93,17 @@ Watermark WatermarkController::startingWatermark(std::int32_t type) {
 
 QString WatermarkController::mergeKey(const QString& step) const {
     if (step.isEmpty()) return {};
-    return QString::number(editing_) + QLatin1Char('/') + step;
+    return QString::number(session_) + QLatin1Char('/') + step;
 }
 
 // ---- records
 
-void WatermarkController::ReflectWatermark(const Watermark& watermark, bool addToList, const QString& step) {
-    qCInfo(watermarks, "totalWatermarks = %d", WatermarkCount());
-    qCInfo(watermarks, "WatermarkCount variable value = %d", WatermarkCount());
+void WatermarkController::ReflectWatermark(const Watermark& watermark, const QString& step) {
+    qCInfo(watermarks, "totalWatermarks = %d", document_.count());
+    qCInfo(watermarks, "WatermarkCount variable value = %d", document_.count());
     qCInfo(watermarks, "CurrentWatermark = %d", CurrentWatermark());
     if (CurrentWatermark() == WatermarkDocument::NoWatermark) {
-        if (!isEmpty(watermark)) AddNewWatermark(watermark, addToList, step);
+        if (!isEmpty(watermark)) AddNewWatermark(watermark, step);
     } else if (!isEmpty(watermark)) {
         UpdateWatermark(watermark, step);
     } else {
@@ -151,17 +118,12 @@ void WatermarkController::ReflectWatermark(const Watermark& watermark, bool addT
     }
 }
 
-void WatermarkController::AddNewWatermark(const Watermark& watermark, bool addToList, const QString& step) {
-    if (!addToList) {
-        Q_EMIT rebuildLayers();
-        return;
-    }
+void WatermarkController::AddNewWatermark(const Watermark& watermark, const QString& step) {
     document_.change(
-        tr(kindOf(watermark).add),
+        tr(namesFor(watermark).add),
         [&watermark](StackState& state) { state.Stack.Watermarks.push_back(watermark); }, mergeKey(step));
     document_.setCurrentWatermark(document_.count() - 1);
     selectWatermark(document_.count() - 1);
-    Q_EMIT setSaveLastWatermark();
 }
 
 void WatermarkController::UpdateWatermark(const Watermark& watermark, const QString& step) {
@@ -170,14 +132,10 @@ void WatermarkController::UpdateWatermark(const Watermark& watermark, const QStr
     qCInfo(watermarks, "current watermark = %d", index);
     if (document_.contains(index)) {
         document_.change(
-            tr(kindOf(watermark).edit), [&](StackState& state) { recordAt(state, index) = watermark; },
+            tr(namesFor(watermark).edit), [&](StackState& state) { recordAt(state, index) = watermark; },
             mergeKey(step));
     }
     qCInfo(watermarks, "UpdateWatermark *** END");
-}
-
-void WatermarkController::MakeWatermarkChanges() {
-    Q_EMIT rebuildLayers();
 }
 
 void WatermarkController::AddFilter(int number, const QString& step) {
@@ -241,10 +199,6 @@ void WatermarkController::EnableDisableWatermark(int row) {
     if (index.isValid()) setRowEnabled(row, index.data(Qt::CheckStateRole).toInt() != Qt::Checked);
 }
 
-void WatermarkController::RemoveSelectedWatermarks() {
-    RemoveWatermark(selection_.currentIndex().row());
-}
-
 void WatermarkController::RemoveWatermark(int row) {
     if (row < 0 || row >= model_.rowCount()) return;
     switch (model_.kindOf(row)) {
@@ -289,7 +243,6 @@ void WatermarkController::MoveWatermarks(int from, int to) {
         std::swap(recordAt(state, from), recordAt(state, to));
     });
     selectWatermark(to);
-    Q_EMIT setSaveLastWatermark();
 }
 
 void WatermarkController::placeWatermark(int index, QPoint topLeft, const QString& step) {
@@ -307,9 +260,9 @@ void WatermarkController::placeWatermark(int index, QPoint topLeft, const QStrin
 
 void WatermarkController::replaceStack(const WatermarkStack& stack,
                                        const std::optional<CopyRightMetaData>& metadata,
-                                       const QString& name) {
+                                       const QString& stepName) {
     resetCurrentWatermarkIndex();
-    document_.change(name, [&](StackState& state) {
+    document_.change(stepName, [&](StackState& state) {
         state.Stack = stack;
         state.SelectedFilter = stack.SelectedFilter;
         state.Metadata = metadata;
@@ -327,22 +280,14 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
         if (!read) metadata->Enabled = true;
     }
     replaceStack(*stack, metadata, tr("Load Setting"));
-    Q_EMIT clearSaveLastWatermark();
+    Q_EMIT keptAs(path);
     return {};
 }
 
 Result<void> WatermarkController::SaveWatermarkSettings(const QString& path) {
     const Result<void> saved = zelto::SaveWatermarkSettings(document_.state().Stack, path);
-    if (saved) Q_EMIT clearSaveLastWatermark();
+    if (saved) Q_EMIT keptAs(path);
     return saved;
-}
-
-void WatermarkController::selectRow(int row) {
-    selection_.setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
-}
-
-double WatermarkController::DegreesToRadians(double degrees) {
-    return qDegreesToRadians(degrees);
 }
 
 }  // namespace zelto

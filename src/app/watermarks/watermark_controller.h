@@ -1,86 +1,81 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What can be done to the watermark list: adding, editing, checking, moving and removing its rows, each an
-// undo step of the document, and opening the editor of a row. Thin: the document holds the records, the
-// preview follows it by itself, the editors are plugged in. Main thread only.
+// What can be done to the watermark list: adding, changing, checking, moving and removing its rows, and replacing all
+// of it by a saved setting. Each operation is one undo step of the document; the preview follows the document by
+// itself. Opening the editors is WatermarkEditors' part. Main thread only.
 #pragma once
 
-#include "app/watermarks/editor_set.h"
 #include "app/watermarks/watermark_document.h"
 #include "app/watermarks/watermark_list_model.h"
 #include "platform/result.h"
 
 #include <QItemSelectionModel>
 #include <QObject>
+#include <QPoint>
 #include <QString>
-#include <QWidget>
 
 #include <optional>
-#include <vector>
 
 namespace zelto {
-
-class ImageListController;
 
 class WatermarkController : public QObject {
     Q_OBJECT
 
   public:
-    // All outlive the controller. `window` is the parent of the editors it opens.
-    WatermarkController(WatermarkDocument& document, ImageListController& photos, EditorSet editors,
-                        QWidget* window);
+    // `document` outlives the controller.
+    explicit WatermarkController(WatermarkDocument& document, QObject* parent = nullptr);
 
     WatermarkDocument& document() { return document_; }
     WatermarkListModel& model() { return model_; }
-    QItemSelectionModel& selection() { return selection_; }
 
-    int WatermarkCount() const { return document_.count(); }
-    const std::vector<Watermark>& GetWatermarkList() const { return document_.watermarks(); }
+    // ---- what there is
+
     const Watermark& GetWatermarkAtRow(int index) const;
-    std::optional<Watermark> GetSelectedWatermark() const;
     const std::optional<PhotoEffects>& GetEffect() const { return document_.state().Stack.Effects; }
     const std::optional<CopyRightMetaData>& Metadata() const { return document_.state().Metadata; }
-    // The watermark of the selected row; negative for a filter or metadata row, and for none.
-    int watermarkRowIndexAfterRemovingFilterAndMetadata() const;
     // -1 while a new watermark is being edited, and while none is.
     int CurrentWatermark() const { return document_.currentWatermark(); }
     void resetCurrentWatermarkIndex() { document_.setCurrentWatermark(WatermarkDocument::NoWatermark); }
-
-    // Whether an editor of that kind can be opened.
-    bool canOpen(EditorKind kind) const { return editors_.count(kind) > 0; }
-    void OpenImageWatermarkSettings() { openNew(EditorKind::Image); }
-    void OpenTextWatermarkSettings() { openNew(EditorKind::Text); }
-    void OpenShapeWatermarkSettings() { openNew(EditorKind::Shape); }
-    void AddQrCode() { openNew(EditorKind::QrCode); }
-    void OpenFilterWindow() { openNew(EditorKind::Filter); }
-    void OpenEffectsSettings() { openNew(EditorKind::Effects); }
-    void OpenMetadataWindow() { openNew(EditorKind::Copyright); }
-    void WatermarkListDoubleClicked(int row) { openEditor(row); }
-    // Opens the editor of what a row shows.
-    void openEditor(int row);
-
     // A record of `type` with the values a new watermark of the list starts with.
     static Watermark startingWatermark(std::int32_t type);
 
-    // What editors call on each change. A new watermark is added to the list once it is more than an empty
-    // text; an edited one that has become empty is removed. Changes of the same `step`, such as a control's
-    // name, that follow each other while one editor is open are one undo step; an empty `step` always is one
-    // of its own.
-    void ReflectWatermark(const Watermark& watermark, bool addToList, const QString& step = {});
-    void AddNewWatermark(const Watermark& watermark, bool addToList, const QString& step = {});
+    // ---- the selected row
+
+    // At most one row is selected. It stays selected while rows come and go around it; when it is removed itself, the
+    // row that takes its place is selected.
+    QItemSelectionModel& selection() { return selection_; }
+    int selectedRow() const;  // -1 for none
+    // The watermark of the selected row; negative for a filter or metadata row, and for none.
+    int watermarkRowIndexAfterRemovingFilterAndMetadata() const { return model_.watermarkOf(selectedRow()); }
+    // Selects the row of a watermark; -1 selects nothing.
+    void selectWatermark(int index);
+
+    // ---- changes
+    //
+    // Changes of the same non-empty `step`, such as a control's name, that follow each other within one session become
+    // one undo step; with an empty `step` each change is one of its own.
+
+    // Begins or ends the time an editor is open.
+    void beginSession() { ++session_; }
+
+    // What editors call on each change of a watermark. A new one is added to the list once it is more than an empty
+    // text; one that has become empty is removed.
+    void ReflectWatermark(const Watermark& watermark, const QString& step = {});
+    void AddNewWatermark(const Watermark& watermark, const QString& step = {});
     void UpdateWatermark(const Watermark& watermark, const QString& step = {});
-    // Has every layer rebuilt.
-    void MakeWatermarkChanges();
 
     // Chooses and applies a photo filter; 0 does nothing.
     void AddFilter(int number, const QString& step = {});
     // Takes the filter and its row away.
     void removeFilter(const QString& step = {});
-    // Shows the selected photo with filter `number`, 0 for none.
+    // Shows the photos with filter `number`, 0 for none. The filter's row stays.
     void MakeFilterImage(int number);
     void AddEffects(const std::optional<PhotoEffects>& effects, const QString& step = {});
     void SetMetadata(const std::optional<CopyRightMetaData>& metadata, const QString& step = {});
 
-    void RemoveSelectedWatermarks();
+    // Places watermark `index` so that its layer's top left corner is `topLeft`, pixels from the reference area's.
+    void placeWatermark(int index, QPoint topLeft, const QString& step = {});
+
+    void RemoveSelectedWatermarks() { RemoveWatermark(selectedRow()); }
     void RemoveWatermark(int row);
     void RemoveAllWatermarks();
     void MoveWatermarkUp();
@@ -90,14 +85,11 @@ class WatermarkController : public QObject {
     void EnableDisableWatermark(int row);
     void setRowEnabled(int row, bool on);
 
-    // Selects the row of a watermark.
-    void selectWatermark(int index) { selectRow(model_.rowOf(index)); }
-    // Places watermark `index` so that its layer's top left corner is (left, top), from the photo's.
-    void placeWatermark(int index, QPoint topLeft, const QString& step = {});
+    // ---- the whole stack
 
-    // The whole stack taken from elsewhere, as one undo step.
+    // Takes the stack from elsewhere.
     void replaceStack(const WatermarkStack& stack, const std::optional<CopyRightMetaData>& metadata,
-                      const QString& name);
+                      const QString& stepName);
 
     // Takes the stack of a setting file, and the copyright data from its file where the setting wants some.
     // Error: as zelto::LoadWatermarkSetting, with the stack as it was.
@@ -106,29 +98,18 @@ class WatermarkController : public QObject {
     // ErrorCode::CannotWrite.
     Result<void> SaveWatermarkSettings(const QString& path);
 
-    static double DegreesToRadians(double degrees);
-
   Q_SIGNALS:
-    void rebuildLayers();
-    // The stack is now one that "Last Watermark" does not hold.
-    void setSaveLastWatermark();
-    // It is kept as a setting: "Last Watermark" need not hold it.
-    void clearSaveLastWatermark();
+    // The stack is now the one that the setting file at `path` holds.
+    void keptAs(const QString& path);
 
   private:
-    void open(EditorKind kind);
-    void openNew(EditorKind kind);
     QString mergeKey(const QString& step) const;
-    void selectRow(int row);
+    void keepARowSelected(int removedFrom);
 
     WatermarkDocument& document_;
-    ImageListController& photos_;
-    EditorSet editors_;
-    QWidget* window_;
     WatermarkListModel model_;
     QItemSelectionModel selection_;
-    int rowBeforeReset_ = -1;
-    int editing_ = 0;  // counts the openings of editors: steps of two never merge
+    int session_ = 0;
 };
 
 }  // namespace zelto

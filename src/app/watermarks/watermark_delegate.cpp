@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -55,17 +56,22 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
 
 bool WatermarkDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                     const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const auto toggle = [&] {
+        const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        model->setData(index, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        return true;
+    };
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        return key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier && toggle();
+    }
     const bool isClick =
         event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseButtonDblClick;
     if (!isClick) return false;
     const auto* mouse = static_cast<QMouseEvent*>(event);
     const QRect box = checkBoxRect(option.rect).adjusted(-Margin, -Margin, Margin / 2, Margin);
     if (mouse->button() != Qt::LeftButton || !box.contains(mouse->pos())) return false;
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        model->setData(index, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-    }
-    return true;
+    return event->type() != QEvent::MouseButtonRelease || toggle();
 }
 
 }  // namespace zelto

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Paints a row of the watermark list and takes clicks on its check box. Main thread only.
+// Paints a row of the watermark list and takes clicks on its check box, and the space bar. Main thread only.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -60,12 +60,6 @@ void WatermarkDocument::amendRecord(int index, const std::function<void(Watermar
     announce(change);
 }
 
-void WatermarkDocument::restart(StackState state) {
-    apply(state);
-    currentWatermark_ = NoWatermark;
-    history_.clear();
-}
-
 void WatermarkDocument::apply(const StackState& state) {
     StackChange change = changeBetween(state_, state);
     if (change == StackChange{}) return;

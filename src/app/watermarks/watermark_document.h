@@ -72,9 +72,6 @@ class WatermarkDocument : public QObject {
     // logo.
     void amendRecord(int index, const std::function<void(Watermark&)>& amend);
 
-    // Makes `state` the starting point of a new history.
-    void restart(StackState state);
-
     // The history; it takes the changes of the photo list too, so that one undo goes back whatever came last.
     QUndoStack& history() { return history_; }
 

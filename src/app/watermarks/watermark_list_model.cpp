@@ -5,6 +5,7 @@
 #include "records/resource_picture.h"
 #include "render/photo_filters.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -33,8 +34,10 @@ QString watermarkLabel(const Watermark& watermark) {
 }
 
 WatermarkListModel::WatermarkListModel(WatermarkDocument& document, Checked checked, QObject* parent)
-    : QAbstractListModel(parent), document_(document), checked_(std::move(checked)) {
-    shownRows_ = document_.count() + extraRows();
+    : QAbstractListModel(parent),
+      document_(document),
+      checked_(std::move(checked)),
+      shown_(document.state()) {
     connect(&document_, &WatermarkDocument::changed, this, &WatermarkListModel::follow);
 }
 
@@ -44,7 +47,7 @@ WatermarkListModel::RowKind WatermarkListModel::kindOf(int row) const {
 }
 
 int WatermarkListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : shownRows_;
+    return parent.isValid() ? 0 : extraRows() + static_cast<int>(shown_.Stack.Watermarks.size());
 }
 
 QVariant WatermarkListModel::data(const QModelIndex& index, int role) const {
@@ -72,16 +75,20 @@ Qt::ItemFlags WatermarkListModel::flags(const QModelIndex& index) const {
     return QAbstractListModel::flags(index) | Qt::ItemIsUserCheckable;
 }
 
+const Watermark& WatermarkListModel::watermarkAt(int row) const {
+    return shown_.Stack.Watermarks[static_cast<std::size_t>(watermarkOf(row))];
+}
+
 QString WatermarkListModel::label(int row) const {
     switch (kindOf(row)) {
         case RowKind::Filter:
-            return QStringLiteral("Filter - ") + GetFilterName(document_.state().SelectedFilter);
+            return QStringLiteral("Filter - ") + GetFilterName(shown_.SelectedFilter);
         case RowKind::Metadata:
             return QStringLiteral("Copyright");
         case RowKind::Watermark:
             break;
     }
-    return watermarkLabel(document_.watermarks()[static_cast<std::size_t>(watermarkOf(row))]);
+    return watermarkLabel(watermarkAt(row));
 }
 
 QImage WatermarkListModel::drawing(int row) const {
@@ -93,30 +100,72 @@ QImage WatermarkListModel::drawing(int row) const {
         case RowKind::Watermark:
             break;
     }
-    return document_.watermarks()[static_cast<std::size_t>(watermarkOf(row))].TypeImage;
+    return watermarkAt(row).TypeImage;
 }
 
 bool WatermarkListModel::isOn(int row) const {
     switch (kindOf(row)) {
         case RowKind::Filter:
-            return document_.state().Stack.SelectedFilter != 0;
+            return shown_.Stack.SelectedFilter != 0;
         case RowKind::Metadata:
-            return document_.state().Metadata->Enabled;
+            return shown_.Metadata->Enabled;
         case RowKind::Watermark:
             break;
     }
-    return document_.watermarks()[static_cast<std::size_t>(watermarkOf(row))].IsEnabled;
+    return watermarkAt(row).IsEnabled;
 }
 
-void WatermarkListModel::follow(const StackChange& change) {
-    const int rows = document_.count() + extraRows();
-    if (change.list || rows != shownRows_) {
-        beginResetModel();
-        shownRows_ = rows;
-        endResetModel();
-        return;
+// ---- following the document
+
+template <class Show>
+void WatermarkListModel::insertRows(int row, int count, Show show) {
+    beginInsertRows({}, row, row + count - 1);
+    show();
+    endInsertRows();
+}
+
+template <class Show>
+void WatermarkListModel::removeRows(int row, int count, Show show) {
+    beginRemoveRows({}, row, row + count - 1);
+    show();
+    endRemoveRows();
+}
+
+void WatermarkListModel::follow() {
+    const StackState& now = document_.state();
+    const auto takeFilter = [&] { shown_.SelectedFilter = now.SelectedFilter; };
+    const auto takeMetadata = [&] { shown_.Metadata = now.Metadata; };
+    if (hasFilterRow() && now.SelectedFilter == 0) removeRows(0, 1, takeFilter);
+    if (!hasFilterRow() && now.SelectedFilter != 0) insertRows(0, 1, takeFilter);
+    const int metadataRow = hasFilterRow() ? 1 : 0;
+    if (hasMetadataRow() && !now.Metadata) removeRows(metadataRow, 1, takeMetadata);
+    if (!hasMetadataRow() && now.Metadata) insertRows(metadataRow, 1, takeMetadata);
+    followWatermarks(now.Stack.Watermarks);
+    shown_ = now;
+    if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+// Rows come and go behind those that stayed the same from the first on, and before those that did up to the last.
+void WatermarkListModel::followWatermarks(const std::vector<Watermark>& now) {
+    std::vector<Watermark>& shown = shown_.Stack.Watermarks;
+    if (now.size() == shown.size()) return;
+    const auto shorter = static_cast<std::ptrdiff_t>(std::min(now.size(), shown.size()));
+    const auto sameAtStart =
+        std::mismatch(now.begin(), now.begin() + shorter, shown.begin()).first - now.begin();
+    const auto sameAtEnd =
+        std::mismatch(now.rbegin(), now.rbegin() + (shorter - sameAtStart), shown.rbegin()).first -
+        now.rbegin();
+    const std::ptrdiff_t at = shorter - sameAtEnd;
+    const auto difference =
+        static_cast<std::ptrdiff_t>(now.size()) - static_cast<std::ptrdiff_t>(shown.size());
+    if (difference > 0) {
+        insertRows(rowOf(static_cast<int>(at)), static_cast<int>(difference), [&] {
+            shown.insert(shown.begin() + at, now.begin() + at, now.begin() + at + difference);
+        });
+    } else {
+        removeRows(rowOf(static_cast<int>(at)), static_cast<int>(-difference),
+                   [&] { shown.erase(shown.begin() + at, shown.begin() + at - difference); });
     }
-    if (rows > 0) Q_EMIT dataChanged(index(0), index(rows - 1));
 }
 
 }  // namespace zelto

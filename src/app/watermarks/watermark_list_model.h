@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the watermark list: the photo filter when there is one, the copyright data when there is some,
-// then the watermarks in drawing order. It shows the document and changes nothing: a click on a check box is
-// handed on. Main thread only.
+// then the watermarks in drawing order. It follows the document row by row, so that views keep their selection and their
+// place, and changes nothing itself: a click on a check box is handed on. Main thread only.
 #pragma once
 
 #include "app/watermarks/watermark_document.h"
@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 namespace zelto {
 
@@ -38,17 +39,23 @@ class WatermarkListModel : public QAbstractListModel {
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
   private:
-    bool hasFilterRow() const { return document_.state().SelectedFilter != 0; }
-    bool hasMetadataRow() const { return document_.state().Metadata.has_value(); }
+    bool hasFilterRow() const { return shown_.SelectedFilter != 0; }
+    bool hasMetadataRow() const { return shown_.Metadata.has_value(); }
     int extraRows() const { return (hasFilterRow() ? 1 : 0) + (hasMetadataRow() ? 1 : 0); }
+    const Watermark& watermarkAt(int row) const;
     QString label(int row) const;
     QImage drawing(int row) const;
     bool isOn(int row) const;
-    void follow(const StackChange& change);
+    void follow();
+    template <class Show>
+    void insertRows(int row, int count, Show show);
+    template <class Show>
+    void removeRows(int row, int count, Show show);
+    void followWatermarks(const std::vector<Watermark>& now);
 
     WatermarkDocument& document_;
     Checked checked_;
-    int shownRows_ = 0;
+    StackState shown_;  // what the rows show; differs from the document only while following it
 };
 
 }  // namespace zelto

@@ -53,15 +53,16 @@ QString photoCount(int count) {
 
 MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet editors)
     : photos_(document_.history()),
-      watermarks_(new WatermarkController(document_, photos_, std::move(editors), this)),
+      watermarks_(document_),
+      editors_(watermarks_, photos_, std::move(editors), this),
       actions_(new WindowActions(this)),
       previewView_(new PreviewView(this)),
-      preview_(new PhotoPreview(photos_, *watermarks_, *previewView_, this)),
-      controller_(new ZeltoController(photos_, *watermarks_, *previewView_, *preview_, shared,
-                                      std::move(dialogs), this)),
+      preview_(new PhotoPreview(photos_, watermarks_, *previewView_, this)),
+      controller_(new ZeltoController(photos_, watermarks_, *preview_, shared, std::move(dialogs), this)),
+      keeper_(new StackKeeper(watermarks_, shared, this)),
       mainView_(new MainView(this)),
       photoList_(new PhotoListView(photos_, this)),
-      watermarkPanel_(new WatermarkPanel(*watermarks_, *actions_, this)),
+      watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, this)),
       processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
       middle_(new QStackedWidget(this)),
@@ -81,26 +82,35 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
     layOut();
     restorePlaces();
 
-    connect(&photos_, &ImageListController::EnableDisableWatermarkControls, this,
-            &MainWindow::EnableDisableWatermarkControls);
     connect(&photos_, &ImageListController::alert, this,
             [this](const QString& title, const QString& text) { showAlert(this, title, text); });
-    connect(&photos_.model(), &QAbstractItemModel::dataChanged, this, &MainWindow::showStatus);
-    connect(&document_, &WatermarkDocument::changed, this, &MainWindow::EnableDisableWatermarkControls);
+    const PhotoListModel& photoRows = photos_.model();
+    connect(&photoRows, &QAbstractItemModel::dataChanged, this, &MainWindow::showStatus);
+    connect(&photoRows, &QAbstractItemModel::rowsInserted, this, &MainWindow::showStatus);
+    connect(&photoRows, &QAbstractItemModel::rowsRemoved, this, &MainWindow::showStatus);
+    connect(&photoRows, &QAbstractItemModel::modelReset, this, &MainWindow::showStatus);
+    // Every change of the photos and of the stack is a step of the history.
     connect(&document_.history(), &QUndoStack::indexChanged, this,
             &MainWindow::EnableDisableWatermarkControls);
+    connect(&watermarks_.selection(), &QItemSelectionModel::selectionChanged, this,
+            &MainWindow::EnableDisableWatermarkControls);
+    connect(previewView_, &PreviewView::layerActivated, this,
+            [this](int index) { editors_.WatermarkListDoubleClicked(watermarks_.model().rowOf(index)); });
     connect(previewView_, &PreviewView::scaleChanged, this, &MainWindow::showStatus);
     connect(preview_, &PhotoPreview::shown, this, &MainWindow::showStatus);
     EnableDisableWatermarkControls();
+    showStatus();
 }
 
 MainWindow::~MainWindow() {
     document_.history().disconnect(this);
+    watermarks_.selection().disconnect(this);
+    photos_.model().disconnect(this);
     // Whatever refers to the document and the photo list goes before them.
     delete takeCentralWidget();
+    delete keeper_;
     delete controller_;
     delete preview_;
-    delete watermarks_;
 }
 
 // ---- building
@@ -115,18 +125,17 @@ void MainWindow::connectActions() {
     on(Act::CheckAll, &photos_, &ImageListController::CheckAllImages);
     on(Act::UncheckAll, &photos_, &ImageListController::UncheckAllImages);
     on(Act::ToggleCheck, &photos_, &ImageListController::ToggleCheck);
-    on(Act::MoveUp, watermarks_, &WatermarkController::MoveWatermarkUp);
-    on(Act::MoveDown, watermarks_, &WatermarkController::MoveWatermarkDown);
-    on(Act::RemoveWatermark, watermarks_, &WatermarkController::RemoveSelectedWatermarks);
-    on(Act::RemoveAllWatermarks, watermarks_, &WatermarkController::RemoveAllWatermarks);
-    on(Act::ZoomIn, controller_, &ZeltoController::ZoomIn);
-    on(Act::ZoomOut, controller_, &ZeltoController::ZoomOut);
-    on(Act::FitToScreen, controller_, &ZeltoController::FittoScreen);
-    on(Act::ActualSize, controller_, &ZeltoController::ActualSize);
+    on(Act::MoveUp, &watermarks_, &WatermarkController::MoveWatermarkUp);
+    on(Act::MoveDown, &watermarks_, &WatermarkController::MoveWatermarkDown);
+    on(Act::RemoveWatermark, &watermarks_, &WatermarkController::RemoveSelectedWatermarks);
+    on(Act::RemoveAllWatermarks, &watermarks_, &WatermarkController::RemoveAllWatermarks);
+    on(Act::ZoomIn, previewView_, &PreviewView::ZoomIn);
+    on(Act::ZoomOut, previewView_, &PreviewView::ZoomOut);
+    on(Act::FitToScreen, previewView_, &PreviewView::FittoScreen);
+    on(Act::ActualSize, previewView_, &PreviewView::ActualSize);
     on(Act::FullScreen, controller_, &ZeltoController::ShowFullScreenImage);
     on(Act::Quit, static_cast<QWidget*>(this), &QWidget::close);
-    actions_->connectTo(Act::EditWatermark,
-                        [this] { watermarks_->openEditor(watermarks_->selection().currentIndex().row()); });
+    on(Act::EditWatermark, &editors_, &WatermarkEditors::editSelected);
     actions_->connectTo(Act::About, [this] {
         QMessageBox::about(
             this, tr("About Zelto"),
@@ -138,19 +147,19 @@ void MainWindow::connectActions() {
     struct Opener {
         Act act;
         EditorKind kind;
-        void (WatermarkController::*open)();
+        void (WatermarkEditors::*open)();
     };
     constexpr Opener Openers[] = {
-        {Act::AddImage, EditorKind::Image, &WatermarkController::OpenImageWatermarkSettings},
-        {Act::AddText, EditorKind::Text, &WatermarkController::OpenTextWatermarkSettings},
-        {Act::AddShape, EditorKind::Shape, &WatermarkController::OpenShapeWatermarkSettings},
-        {Act::AddQrCode, EditorKind::QrCode, &WatermarkController::AddQrCode},
-        {Act::AddFilter, EditorKind::Filter, &WatermarkController::OpenFilterWindow},
-        {Act::AddEffects, EditorKind::Effects, &WatermarkController::OpenEffectsSettings},
-        {Act::AddCopyright, EditorKind::Copyright, &WatermarkController::OpenMetadataWindow},
+        {Act::AddImage, EditorKind::Image, &WatermarkEditors::OpenImageWatermarkSettings},
+        {Act::AddText, EditorKind::Text, &WatermarkEditors::OpenTextWatermarkSettings},
+        {Act::AddShape, EditorKind::Shape, &WatermarkEditors::OpenShapeWatermarkSettings},
+        {Act::AddQrCode, EditorKind::QrCode, &WatermarkEditors::AddQrCode},
+        {Act::AddFilter, EditorKind::Filter, &WatermarkEditors::OpenFilterWindow},
+        {Act::AddEffects, EditorKind::Effects, &WatermarkEditors::OpenEffectsSettings},
+        {Act::AddCopyright, EditorKind::Copyright, &WatermarkEditors::OpenMetadataWindow},
     };
     for (const Opener& opener : Openers) {
-        if (watermarks_->canOpen(opener.kind)) on(opener.act, watermarks_, opener.open);
+        if (editors_.canOpen(opener.kind)) on(opener.act, &editors_, opener.open);
     }
 
     photoList_->addAction((*actions_)[Act::RemovePhoto]);
@@ -178,7 +187,7 @@ void MainWindow::connectDialogs() {
     for (const LibraryRow& row : {LibraryRow{Act::SaveSettings, dialogs.saveSettings},
                                   LibraryRow{Act::OpenSettings, dialogs.openSettings}}) {
         if (row.dialog)
-            actions_->connectTo(row.act, [this, &dialog = row.dialog] { dialog(this, *watermarks_); });
+            actions_->connectTo(row.act, [this, &dialog = row.dialog] { dialog(this, watermarks_); });
     }
     if (dialogs.importSettings) {
         actions_->connectTo(Act::ImportSettings, [this, &dialogs] { dialogs.importSettings(this); });
@@ -257,15 +266,16 @@ void MainWindow::layOut() {
 
 void MainWindow::EnableDisableWatermarkControls() {
     const bool hasPhotos = photos_.count() > 0;
-    actions_->update(
-        {.hasPhotos = hasPhotos, .hasRows = watermarks_->model().rowCount() > 0, .isRunning = isRunning_});
+    actions_->update({.hasPhotos = hasPhotos,
+                      .hasRows = watermarks_.model().rowCount() > 0,
+                      .hasSelectedRow = watermarks_.selectedRow() >= 0,
+                      .isRunning = isRunning_});
     middle_->setCurrentIndex(hasPhotos ? 1 : 0);
     photoList_->setEnabled(!isRunning_);
     watermarkPanel_->setEnabled(!isRunning_);
     previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());
     redo_->setEnabled(!isRunning_ && document_.history().canRedo());
-    showStatus();
 }
 
 void MainWindow::EnableControls() {
@@ -327,12 +337,11 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (mayClose_ && !mayClose_()) {
+    if ((mayClose_ && !mayClose_()) || !keeper_->mayClose()) {
         event->ignore();
         return;
     }
     keepPlaces();
-    controller_->keepLastWatermark();
     QMainWindow::closeEvent(event);
 }
 

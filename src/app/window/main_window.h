@@ -9,12 +9,13 @@
 #include "app/photos/photo_list_view.h"
 #include "app/preview/photo_preview.h"
 #include "app/preview/preview_view.h"
-#include "app/watermarks/editor_set.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/watermarks/watermark_document.h"
+#include "app/watermarks/watermark_editors.h"
 #include "app/window/dialog_set.h"
 #include "app/window/main_view.h"
 #include "app/window/processing_bar.h"
+#include "app/window/stack_keeper.h"
 #include "app/window/watermark_panel.h"
 #include "app/window/window_actions.h"
 #include "app/window/zelto_controller.h"
@@ -38,7 +39,8 @@ class MainWindow : public QMainWindow {
 
     WatermarkDocument& document() { return document_; }
     ImageListController& photos() { return photos_; }
-    WatermarkController& watermarks() { return *watermarks_; }
+    WatermarkController& watermarks() { return watermarks_; }
+    WatermarkEditors& editors() { return editors_; }
     ZeltoController& controller() { return *controller_; }
     PhotoPreview& preview() { return *preview_; }
     PreviewView& previewView() { return *previewView_; }
@@ -47,6 +49,7 @@ class MainWindow : public QMainWindow {
     MainView& mainView() { return *mainView_; }
     WindowActions& actions() { return *actions_; }
     ProcessingBar& processing() { return *processing_; }
+    StackKeeper& keeper() { return *keeper_; }
 
     // What a run does to the controls: those that change anything are off while it is under way.
     void EnableControls();
@@ -76,11 +79,13 @@ class MainWindow : public QMainWindow {
 
     WatermarkDocument document_;
     ImageListController photos_;
-    WatermarkController* watermarks_;
+    WatermarkController watermarks_;
+    WatermarkEditors editors_;
     WindowActions* actions_;
     PreviewView* previewView_;
     PhotoPreview* preview_;
     ZeltoController* controller_;
+    StackKeeper* keeper_;
     MainView* mainView_;
     PhotoListView* photoList_;
     WatermarkPanel* watermarkPanel_;

@@ -3,6 +3,7 @@
 
 #include "app/watermarks/watermark_controller.h"
 #include "app/watermarks/watermark_delegate.h"
+#include "app/watermarks/watermark_editors.h"
 #include "app/window/window_actions.h"
 
 #include <QHBoxLayout>
@@ -22,7 +23,8 @@ QWidget* makeHeading(const QString& text, QWidget* parent) {
     return heading;
 }
 
-WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WindowActions& actions, QWidget* parent)
+WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WatermarkEditors& editors,
+                               WindowActions& actions, QWidget* parent)
     : QWidget(parent), list_(new QListView(this)) {
     list_->setModel(&watermarks.model());
     list_->setSelectionModel(&watermarks.selection());
@@ -33,8 +35,8 @@ WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WindowActions& a
     list_->setFrameShape(QFrame::NoFrame);
     list_->setAccessibleName(tr("Watermarks"));
     list_->addAction(actions[Act::RemoveWatermark]);
-    connect(list_, &QListView::doubleClicked, &watermarks,
-            [&watermarks](const QModelIndex& index) { watermarks.WatermarkListDoubleClicked(index.row()); });
+    connect(list_, &QListView::doubleClicked, this,
+            [&editors](const QModelIndex& index) { editors.WatermarkListDoubleClicked(index.row()); });
 
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(6, 4, 6, 6);

@@ -8,13 +8,15 @@
 namespace zelto {
 
 class WatermarkController;
+class WatermarkEditors;
 class WindowActions;
 
 class WatermarkPanel : public QWidget {
     Q_OBJECT
 
   public:
-    WatermarkPanel(WatermarkController& watermarks, WindowActions& actions, QWidget* parent = nullptr);
+    WatermarkPanel(WatermarkController& watermarks, WatermarkEditors& editors, WindowActions& actions,
+                   QWidget* parent = nullptr);
 
     QListView& list() { return *list_; }
 

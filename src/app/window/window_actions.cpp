@@ -16,9 +16,10 @@ namespace {
 // When an action can be done.
 enum Needs : unsigned {
     Nothing = 0,
-    Photos = 1,  // at least one photo in the list
-    Rows = 2,    // at least one row in the watermark list
-    Idle = 4     // no run under way
+    Photos = 1,       // at least one photo in the list
+    Rows = 2,         // at least one row in the watermark list
+    SelectedRow = 4,  // one of them is selected
+    Idle = 8          // no run under way
 };
 
 struct ActionRow {
@@ -63,12 +64,13 @@ const std::array Rows_ = {
     ActionRow{Act::AddFilter, AddMenu, TEXT("&Filter..."), "filter", "", Photos | Idle},
     ActionRow{Act::AddEffects, AddMenu, TEXT("&Border and Shadow..."), "effects", "", Photos | Idle},
     ActionRow{Act::AddCopyright, AddMenu, TEXT("&Copyright..."), "copyright", "", Photos | Idle},
-    ActionRow{Act::EditWatermark, WatermarksMenu, TEXT("&Edit..."), "edit", "F2", Rows | Idle, true},
-    ActionRow{Act::MoveUp, WatermarksMenu, TEXT("Move &Up"), "move-up", "Alt+Up", Photos | Rows | Idle},
+    ActionRow{Act::EditWatermark, WatermarksMenu, TEXT("&Edit..."), "edit", "F2", SelectedRow | Idle, true},
+    ActionRow{Act::MoveUp, WatermarksMenu, TEXT("Move &Up"), "move-up", "Alt+Up",
+              Photos | SelectedRow | Idle},
     ActionRow{Act::MoveDown, WatermarksMenu, TEXT("Move &Down"), "move-down", "Alt+Down",
-              Photos | Rows | Idle, true},
+              Photos | SelectedRow | Idle, true},
     ActionRow{Act::RemoveWatermark, WatermarksMenu, TEXT("&Remove Watermark"), "remove", "Del",
-              Photos | Rows | Idle},
+              Photos | SelectedRow | Idle},
     ActionRow{Act::RemoveAllWatermarks, WatermarksMenu, TEXT("Remove A&ll Watermarks"), "remove-all", "",
               Photos | Rows | Idle},
     ActionRow{Act::ZoomIn, ViewMenu, TEXT("Zoom &In"), "zoom-in", "Ctrl++", Photos | Idle},
@@ -84,7 +86,7 @@ const std::array Rows_ = {
 
 bool isAllowed(unsigned needs, const WindowState& state) {
     return (!(needs & Photos) || state.hasPhotos) && (!(needs & Rows) || state.hasRows) &&
-           (!(needs & Idle) || !state.isRunning);
+           (!(needs & SelectedRow) || state.hasSelectedRow) && (!(needs & Idle) || !state.isRunning);
 }
 
 }  // namespace

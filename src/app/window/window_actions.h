@@ -54,7 +54,8 @@ enum class Act {
 // What the state of the window allows.
 struct WindowState {
     bool hasPhotos = false;
-    bool hasRows = false;  // of the watermark list
+    bool hasRows = false;         // of the watermark list
+    bool hasSelectedRow = false;  // of the watermark list
     bool isRunning = false;
 };
 

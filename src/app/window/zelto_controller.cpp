@@ -2,13 +2,11 @@
 #include "app/window/zelto_controller.h"
 
 #include "app/common/my_global_instance.h"
-#include "app/photos/folder_import.h"
 #include "app/photos/image_list_controller.h"
 #include "app/preview/photo_preview.h"
-#include "app/preview/preview_view.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/window/full_screen_view.h"
-#include "persistence/settings_library.h"
+#include "batch/folder_scan.h"
 #include "platform/preferences.h"
 
 #include <QFileInfo>
@@ -18,34 +16,15 @@
 namespace zelto {
 
 ZeltoController::ZeltoController(ImageListController& photos, WatermarkController& watermarks,
-                                 PreviewView& view, PhotoPreview& preview, MyGlobalInstance& shared,
-                                 DialogSet dialogs, QWidget* window)
+                                 PhotoPreview& preview, MyGlobalInstance& shared, DialogSet dialogs,
+                                 QWidget* window)
     : QObject(window),
       photos_(photos),
       watermarks_(watermarks),
-      view_(view),
       preview_(preview),
       shared_(shared),
       dialogs_(std::move(dialogs)),
-      window_(window) {
-    connect(&watermarks_, &WatermarkController::setSaveLastWatermark, this,
-            [this] { shared_.SaveLastWatermark = true; });
-    connect(&watermarks_, &WatermarkController::clearSaveLastWatermark, this,
-            [this] { shared_.SaveLastWatermark = false; });
-}
-
-void ZeltoController::ZoomIn() {
-    view_.ZoomIn();
-}
-void ZeltoController::ZoomOut() {
-    view_.ZoomOut();
-}
-void ZeltoController::FittoScreen() {
-    view_.FittoScreen();
-}
-void ZeltoController::ActualSize() {
-    view_.ActualSize();
-}
+      window_(window) {}
 
 void ZeltoController::ShowFullScreenImage() {
     if (photos_.selectedRow() >= 0) FullScreenView::open(preview_.finalRequest(), window_);
@@ -67,14 +46,33 @@ void ZeltoController::OpenAddFolderWindow() {
 
 void ZeltoController::ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
                                              const QString& extensionList) {
-    auto* import = new FolderImport(folder, includeSubFolders, extensionList, window_, this);
-    connect(import, &FolderImport::found, &photos_, &ImageListController::AddImages);
+    import([folder, includeSubFolders, extensionList](const FolderImport::GoesOn& goesOn) {
+        return zelto::ImportImagesFromFolder(folder, includeSubFolders, extensionList, goesOn)
+            .value_or(QStringList());
+});
+}  // namespace zelto
+
+void ZeltoController::importPaths(const QStringList& paths) {
+    import([paths, extensions = GetExtensionList(ScanFormats())](const FolderImport::GoesOn& goesOn) {
+        QStringList photos;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        if (file.isDir()) {
+            photos +=
+                zelto::ImportImagesFromFolder(file.absoluteFilePath(), false, extensions,
+                                              [&](qsizetype found) { return goesOn(photos.size() + found); })
+                    .value_or(QStringList());
+        } else {
+            photos.append(file.absoluteFilePath());
+        }
+    }
+    return photos;
+});
 }
 
-void ZeltoController::keepLastWatermark() {
-    if (shared_.SettingDirectory.isEmpty() || !shared_.SaveLastWatermark) return;
-    shared_.SaveLastWatermark = false;
-    saveLastWatermark(watermarks_.document().state().Stack, shared_.SettingDirectory);
+void ZeltoController::import(FolderImport::Scan scan) {
+    auto* import = new FolderImport(std::move(scan), window_, this);
+    connect(import, &FolderImport::found, &photos_, &ImageListController::AddImages);
 }
 
 void ZeltoController::StartWatermarking() {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The actions of the main window that belong neither to the photo list nor to the watermark list: looking at
-// the preview, adding files and folders, starting a run, tips and the version check. Thin: it opens the
+// The actions of the main window that belong neither to the photo list nor to the watermark list: the full
+// screen, adding files and folders, starting a run, tips and the version check. Thin: it opens the
 // dialogs it was given and hands on what they return. Main thread only.
 #pragma once
 
+#include "app/photos/folder_import.h"
 #include "app/window/dialog_set.h"
 
 #include <QObject>
@@ -14,7 +15,6 @@ namespace zelto {
 class ImageListController;
 class MyGlobalInstance;
 class PhotoPreview;
-class PreviewView;
 class WatermarkController;
 
 class ZeltoController : public QObject {
@@ -23,24 +23,20 @@ class ZeltoController : public QObject {
   public:
     // What the program shares and the dialogs it has; `window` is the parent of the dialogs. All outlive the
     // controller.
-    ZeltoController(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
-                    PhotoPreview& preview, MyGlobalInstance& shared, DialogSet dialogs, QWidget* window);
+    ZeltoController(ImageListController& photos, WatermarkController& watermarks, PhotoPreview& preview,
+                    MyGlobalInstance& shared, DialogSet dialogs, QWidget* window);
 
     const DialogSet& dialogs() const { return dialogs_; }
 
-    void ZoomIn();
-    void ZoomOut();
-    void FittoScreen();
-    void ActualSize();
     void ShowFullScreenImage();
 
     void Addimages();
     void OpenAddFolderWindow();
     // Adds the photos of a folder once they are found; the window goes on meanwhile.
     void ImportImagesFromFolder(const QString& folder, bool includeSubFolders, const QString& extensionList);
+    // The same for files and folders in any order; of the folders, the photos that lie directly in them.
+    void importPaths(const QStringList& paths);
     void StartWatermarking();
-    // Saves a stack that no run and no setting has kept as "Last Watermark".
-    void keepLastWatermark();
     void ShowTips();
     void CheckLatestVersion();
 
@@ -49,9 +45,10 @@ class ZeltoController : public QObject {
     void ProcessImaging(const zelto::OutputOptions& options);
 
   private:
+    void import(FolderImport::Scan scan);
+
     ImageListController& photos_;
     WatermarkController& watermarks_;
-    PreviewView& view_;
     PhotoPreview& preview_;
     MyGlobalInstance& shared_;
     DialogSet dialogs_;

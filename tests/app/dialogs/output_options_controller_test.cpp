@@ -39,8 +39,6 @@ class OutputOptionsDialog : public ::testing::Test {
         drawnScene({400, 300}).save(folder.filePath(u"in/day/beach.png"_s));
         photos.AddImages({folder.filePath(u"in/a.png"_s), folder.filePath(u"in/day/beach.png"_s)});
         photos.ChangeImage(u"1"_s);
-        QFile::remove(defaults());
-        removePreference(preference::LastOutDirectoryData);
         open();
     }
 
@@ -72,7 +70,7 @@ class OutputOptionsDialog : public ::testing::Test {
     QTemporaryDir folder;
     WatermarkDocument document;
     ImageListController photos{document.history()};
-    WatermarkController watermarks{document, photos, {}, nullptr};
+    WatermarkController watermarks{document};
     std::unique_ptr<OutputOptionsController> dialog;
     AnsweredMessages messages;
 };

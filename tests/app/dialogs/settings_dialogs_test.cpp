@@ -4,7 +4,6 @@
 #include "app/dialogs/import_export_window_controller.h"
 #include "app/dialogs/save_settings_dialog.h"
 #include "app/dialogs/standard_dialogs.h"
-#include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/window/dialog_set.h"
 #include "persistence/setting_file.h"
@@ -35,14 +34,6 @@ WatermarkStack stackOf(const QString& text) {
 
 class SettingsDialogs : public ::testing::Test {
   protected:
-    SettingsDialogs() {
-        folder = applicationFolder(SettingsFolder).value_or(QString());
-        QDir(folder).removeRecursively();
-        folder = applicationFolder(SettingsFolder).value_or(QString());
-        removePreference(preference::AutoLoadSetting);
-        removePreference(preference::LastSettingsFolder);
-    }
-
     static void write(const QString& in, const QString& name) {
         EXPECT_TRUE(SaveWatermarkSettings(stackOf(name), in + u'/' + name + u".zcs"_s).has_value());
     }
@@ -53,10 +44,9 @@ class SettingsDialogs : public ::testing::Test {
     }
     QString shown() const { return document.count() == 0 ? QString() : document.watermarks().front().Text; }
 
-    QString folder;
+    QString folder = applicationFolder(SettingsFolder).value_or(QString());
     WatermarkDocument document;
-    ImageListController photos{document.history()};
-    WatermarkController watermarks{document, photos, {}, nullptr};
+    WatermarkController watermarks{document};
     DialogSet dialogs = standardDialogs();
     AnsweredMessages messages;
 };
@@ -78,7 +68,7 @@ TEST_F(SettingsDialogs, SavingAsksBeforeItOverwrites) {
     };
     dialogs.saveSettings(nullptr, watermarks);
     EXPECT_EQ(messages.take().size(), 1) << "there is nothing to save, and no name is asked for";
-    QSignalSpy cleared(&watermarks, &WatermarkController::clearSaveLastWatermark);
+    QSignalSpy kept(&watermarks, &WatermarkController::keptAs);
     for (const Row& row : rows) {
         watermarks.replaceStack(stackOf(QLatin1String(row.text)), {}, {});
         messages.answerWith(row.answer);
@@ -96,7 +86,7 @@ TEST_F(SettingsDialogs, SavingAsksBeforeItOverwrites) {
         EXPECT_EQ(messages.take(), row.isAsked ? QStringList(question) : QStringList());
         EXPECT_EQ(textOf(QString::fromUtf8(row.name)), QLatin1String(row.saved));
     }
-    EXPECT_EQ(cleared.count(), 3);
+    EXPECT_EQ(kept.count(), 3);
 }
 
 class SettingsList : public SettingsDialogs {

@@ -14,7 +14,7 @@ class EditorWindowTest : public EditorTest {
     // Puts a record into the list, as a step that is over.
     void add(const Watermark& record) {
         window.watermarks().resetCurrentWatermarkIndex();
-        window.watermarks().ReflectWatermark(record, true);
+        window.watermarks().ReflectWatermark(record);
         window.watermarks().resetCurrentWatermarkIndex();
     }
 

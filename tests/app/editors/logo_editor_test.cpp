@@ -51,7 +51,7 @@ class LogoEditorTest : public EditorWindowTest {
             if (drive) drive(*editor);
             editor->close();
         });
-        window.watermarks().OpenImageWatermarkSettings();
+        window.editors().OpenImageWatermarkSettings();
     }
 
     QColor seenAt(QPoint photoPoint) { return seen().pixelColor(photoPoint); }

@@ -167,7 +167,7 @@ TEST_F(ShapeEditorTest, LookingAtARecordChangesNothing) {
     odd.PaddingTop = 1'000'000'000;
     odd.SolidColor.reset();
     odd.GradeintType = 9;
-    window.watermarks().AddNewWatermark(odd, true);
+    window.watermarks().AddNewWatermark(odd);
     window.watermarks().selectWatermark(0);
     const int steps = history().count();
     edit(

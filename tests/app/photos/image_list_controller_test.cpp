@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 class ImageListControllerTest : public ::testing::Test {
   protected:
     ImageListControllerTest() {
-        QObject::connect(&photos, &ImageListController::selectImage,
+        QObject::connect(&photos, &ImageListController::photoSelected,
                          [this](int row) { shown.push_back(row); });
     }
 

@@ -2,13 +2,17 @@
 #include "app/program/app_delegate.h"
 
 #include "app/dialogs/standard_dialogs.h"
+#include "app/modal_dialog.h"
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -66,7 +70,6 @@ class StartUp : public ::testing::Test {
 };
 
 TEST_F(StartUp, TheFirstStartMakesTheSettingsFolderAndShowsTips) {
-    ASSERT_TRUE(QDir(settings).removeRecursively());
     start();
     EXPECT_TRUE(delegate->CurrentInstance().FirstRun);
     EXPECT_TRUE(QFileInfo(settings).isDir());
@@ -114,6 +117,7 @@ TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by name")));
     start({file, {folder.path(), QStringLiteral("/elsewhere/c.bmp")}});
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return delegate->window().photos().count() == 3; }));
     QStringList photos;
     for (const Image& photo : delegate->window().photos().images()) photos.append(photo.ImagePath);
     EXPECT_THAT(photos,
@@ -130,6 +134,90 @@ TEST_F(StartUp, ASettingWithCopyrightTakesItFromItsFile) {
     ASSERT_TRUE(delegate->window().watermarks().Metadata().has_value());
     EXPECT_TRUE(delegate->window().document().state().Stack.Metadata);
     EXPECT_EQ(delegate->window().watermarks().model().rowCount(), 2);
+}
+
+TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
+    start();
+    const std::function<void(WatermarkController&)> changes[] = {
+        [](auto& stack) { stack.AddNewWatermark(stackOf(QStringLiteral("a")).Watermarks[0]); },
+        [](auto& stack) {
+            stack.placeWatermark(0, {30, 40});
+        },
+        [](auto& stack) { stack.AddEffects(PhotoEffects()); },
+        [](auto& stack) { stack.AddFilter(3); },
+        [](auto& stack) { stack.setRowEnabled(1, false); },
+        [](auto& stack) { stack.RemoveWatermark(1); },
+        [](auto& stack) { stack.AddEffects({}); },
+        [](auto& stack) { stack.RemoveAllWatermarks(); },
+    };
+    for (const auto& change : changes) {
+        change(delegate->window().watermarks());
+        const WatermarkStack left = delegate->window().document().state().Stack;
+        ASSERT_TRUE(delegate->window().close());
+        start();
+        EXPECT_EQ(writeSettingDocument(delegate->window().document().state().Stack), writeSettingDocument(left));
+        EXPECT_EQ(delegate->window().statusBar()->currentMessage().isEmpty(), left == WatermarkStack());
+    }
+}
+
+TEST_F(StartUp, AChangedSettingIsNeitherLostNorReplacedUnasked) {
+    struct Row {
+        const char* button;
+        bool closes;
+        const char* saved;  // what the setting then holds
+        const char* next;   // and what the next start shows
+    };
+    for (const Row& row :
+         {Row{"Cancel", false, "saved", "saved"}, Row{"Keep for Next Time", true, "saved", "new"},
+          Row{"Save", true, "new", "new"}}) {
+        save(QStringLiteral("Mine"), stackOf(QStringLiteral("saved")));
+        start({QStringLiteral("Mine"), {}});
+        delegate->window().close();
+        EXPECT_FALSE(delegate->window().isVisible()) << "as it is saved there is nothing to ask";
+        delegate->window().show();
+        delegate->window().watermarks().replaceStack(stackOf(QStringLiteral("new")), {}, {});
+        const auto asked = whenOpened<QMessageBox>([&](const QMessageBox& box) {
+            for (QAbstractButton* each : box.buttons()) {
+                if (each->text() == QLatin1String(row.button)) each->click();
+            }
+        });
+        delegate->window().close();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return *asked; }));
+        EXPECT_EQ(delegate->window().isVisible(), !row.closes) << row.button;
+        const auto saved = LoadWatermarkSetting(settings + QStringLiteral("Mine.zcs"));
+        EXPECT_EQ(saved->Watermarks[0].Text, QLatin1String(row.saved)) << row.button;
+        start();
+        EXPECT_THAT(texts(), ElementsAre(QLatin1String(row.next))) << row.button;
+    }
+}
+
+TEST_F(StartUp, AStackThatCannotBeKeptHoldsTheWindowUntilTheUserGivesItUp) {
+    start();
+    delegate->window().watermarks().replaceStack(stackOf(QStringLiteral("a")), {}, {});
+    ASSERT_TRUE(QDir().mkpath(settings + QStringLiteral("Last Watermark.zcs/in the way")));
+    for (const bool givesUp : {false, true}) {
+        const auto asked = whenOpened<QMessageBox>([&](QMessageBox& box) {
+            if (givesUp) {
+                box.buttons().first()->click();
+            } else {
+                QTest::keyClick(&box, Qt::Key_Return);
+            }
+        });
+        delegate->window().close();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return *asked; }));
+        EXPECT_EQ(delegate->window().isVisible(), !givesUp);
+    }
+}
+
+TEST_F(StartUp, ASettingThatIsNotThereIsSaidSo) {
+    QString text;
+    const auto told = whenOpened<QMessageBox>([&](QMessageBox& box) {
+        text = box.informativeText();
+        box.accept();
+    });
+    start({QStringLiteral("Nowhere"), {}});
+    EXPECT_TRUE(*told);
+    EXPECT_TRUE(text.contains(QStringLiteral("“Nowhere”")));
 }
 
 TEST(Tips, EachIsDrawnByItsPlaceAndTheLastIsFollowedByTheFirst) {

@@ -187,7 +187,7 @@ TEST_F(RunWindow, PhotosOfTheListAreOnlyReplacedWhenToldSo) {
     mark.SolidColor = Color::black();
     mark.Width = mark.Height = 20.0F;
     mark.Transparency = 1.0F;
-    window->watermarks().ReflectWatermark(mark, true);
+    window->watermarks().ReflectWatermark(mark);
     const QString source = path(u"in/photo0.png"_s);
     const QByteArray original = contentOf(source);
     const QString elsewhere = options.OutputPath;
@@ -219,12 +219,10 @@ TEST_F(RunWindow, KeepsTheStackAndTheLastNumber) {
     number.Text = u"<<AUTO:#5+2>>"_s;
     number.FontSize = 12;
     number.Transparency = 1.0F;
-    window->watermarks().ReflectWatermark(number, true);
-    EXPECT_TRUE(shared.SaveLastWatermark);
+    window->watermarks().ReflectWatermark(number);
     start();
     summary();
     EXPECT_EQ(storedPreference(preference::LastAutoNumber), 9);
-    EXPECT_FALSE(shared.SaveLastWatermark);
     const Result<WatermarkStack> kept =
         LoadWatermarkSetting(shared.SettingDirectory + u"Last Watermark.zcs"_s);
     ASSERT_TRUE(kept.has_value());

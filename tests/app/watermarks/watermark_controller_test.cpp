@@ -2,8 +2,9 @@
 #include "app/watermarks/watermark_controller.h"
 
 #include "app/photos/image_list_controller.h"
+#include "app/watermarks/watermark_editors.h"
 
-#include <QWidget>
+#include <QListView>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,19 +31,19 @@ class WatermarkControllerTest : public ::testing::Test {
                 if (edit) edit(call.controller);
             };
         }
-        watermarks = std::make_unique<WatermarkController>(document, photos, std::move(editors), &window);
+        opener = std::make_unique<WatermarkEditors>(watermarks, photos, std::move(editors), nullptr);
     }
 
     void add(const Watermark& watermark) {
-        watermarks->resetCurrentWatermarkIndex();
-        watermarks->ReflectWatermark(watermark, true);
+        watermarks.resetCurrentWatermarkIndex();
+        watermarks.ReflectWatermark(watermark);
     }
 
     // What the rows of the list show, checked ones with a "+".
-    QStringList rows() const {
+    QStringList rows() {
         QStringList rows;
-        for (int row = 0; row < watermarks->model().rowCount(); ++row) {
-            const QModelIndex index = watermarks->model().index(row);
+        for (int row = 0; row < watermarks.model().rowCount(); ++row) {
+            const QModelIndex index = watermarks.model().index(row);
             const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
             rows.append((isOn ? QStringLiteral("+") : QStringLiteral("-")) + index.data().toString());
         }
@@ -50,17 +51,20 @@ class WatermarkControllerTest : public ::testing::Test {
     }
 
     void select(int row) {
-        watermarks->selection().setCurrentIndex(watermarks->model().index(row),
-                                                QItemSelectionModel::ClearAndSelect);
+        watermarks.selection().setCurrentIndex(watermarks.model().index(row),
+                                               QItemSelectionModel::ClearAndSelect);
     }
+
+    // What the selected row shows; nothing where none is selected.
+    QString selected() { return watermarks.model().index(watermarks.selectedRow()).data().toString(); }
 
     QUndoStack& history() { return document.history(); }
 
     WatermarkDocument document;
     QUndoStack photoHistory;
     ImageListController photos{photoHistory};
-    QWidget window;
-    std::unique_ptr<WatermarkController> watermarks;
+    WatermarkController watermarks{document};
+    std::unique_ptr<WatermarkEditors> opener;
     std::vector<std::pair<EditorKind, int>> opened;
     std::function<void(WatermarkController&)> edit;
 };
@@ -75,9 +79,9 @@ TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
         watermark.ShapeType = shape;
         add(watermark);
     }
-    watermarks->AddFilter(8);
+    watermarks.AddFilter(8);
     CopyRightMetaData copyright;
-    watermarks->SetMetadata(copyright);
+    watermarks.SetMetadata(copyright);
     EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Paris"), QStringLiteral("-Copyright"),
                                    QStringLiteral("+/logos/mine.png"), QStringLiteral("+two lines"),
                                    QStringLiteral("+Shape - Rectangle"), QStringLiteral("+Shape - Ellipse"),
@@ -87,18 +91,18 @@ TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
 
 TEST_F(WatermarkControllerTest, ChecksSwitchTheFilterTheCopyrightAndTheWatermarks) {
     add(text(QStringLiteral("a")));
-    watermarks->AddFilter(3);
+    watermarks.AddFilter(3);
     CopyRightMetaData copyright;
     copyright.Enabled = true;
-    watermarks->SetMetadata(copyright);
-    for (int row = 0; row < 3; ++row) watermarks->EnableDisableWatermark(row);
+    watermarks.SetMetadata(copyright);
+    for (int row = 0; row < 3; ++row) watermarks.EnableDisableWatermark(row);
     EXPECT_EQ(rows(), QStringList({QStringLiteral("-Filter - Earth"), QStringLiteral("-Copyright"),
                                    QStringLiteral("-a")}));
     EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
     EXPECT_FALSE(document.state().Stack.Metadata);
-    EXPECT_FALSE(watermarks->GetWatermarkAtRow(0).IsEnabled);
+    EXPECT_FALSE(watermarks.GetWatermarkAtRow(0).IsEnabled);
     EXPECT_EQ(history().undoText(), QStringLiteral("Switch Watermark Off"));
-    for (int row = 0; row < 3; ++row) watermarks->EnableDisableWatermark(row);
+    for (int row = 0; row < 3; ++row) watermarks.EnableDisableWatermark(row);
     EXPECT_EQ(document.state().Stack.SelectedFilter, 3);
     EXPECT_TRUE(document.state().Stack.Metadata);
 }
@@ -106,17 +110,17 @@ TEST_F(WatermarkControllerTest, ChecksSwitchTheFilterTheCopyrightAndTheWatermark
 TEST_F(WatermarkControllerTest, RemovingARowTakesAwayWhatItShows) {
     add(text(QStringLiteral("a")));
     add(text(QStringLiteral("b")));
-    watermarks->AddFilter(3);
-    watermarks->SetMetadata(CopyRightMetaData());
-    watermarks->RemoveWatermark(2);
+    watermarks.AddFilter(3);
+    watermarks.SetMetadata(CopyRightMetaData());
+    watermarks.RemoveWatermark(2);
     EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Earth"), QStringLiteral("-Copyright"),
                                    QStringLiteral("+b")}));
-    watermarks->RemoveWatermark(1);
+    watermarks.RemoveWatermark(1);
     EXPECT_EQ(rows(), QStringList({QStringLiteral("+Filter - Earth"), QStringLiteral("+b")}));
-    watermarks->RemoveWatermark(0);
+    watermarks.RemoveWatermark(0);
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+b")));
     EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
-    for (int row : {-1, 1}) watermarks->RemoveWatermark(row);
+    for (int row : {-1, 1}) watermarks.RemoveWatermark(row);
     EXPECT_EQ(rows().size(), 1);
     for (int step = 0; step < 3; ++step) history().undo();
     EXPECT_EQ(rows().size(), 4);
@@ -124,34 +128,66 @@ TEST_F(WatermarkControllerTest, RemovingARowTakesAwayWhatItShows) {
 
 TEST_F(WatermarkControllerTest, RemoveAllKeepsOnlyTheFrame) {
     add(text(QStringLiteral("a")));
-    watermarks->AddFilter(3);
-    watermarks->SetMetadata(CopyRightMetaData());
-    watermarks->AddEffects(PhotoEffects());
-    watermarks->RemoveAllWatermarks();
+    watermarks.AddFilter(3);
+    watermarks.SetMetadata(CopyRightMetaData());
+    watermarks.AddEffects(PhotoEffects());
+    watermarks.RemoveAllWatermarks();
     EXPECT_TRUE(rows().isEmpty());
     EXPECT_EQ(document.state().Stack.SelectedFilter, 0);
-    EXPECT_TRUE(watermarks->GetEffect().has_value());
+    EXPECT_TRUE(watermarks.GetEffect().has_value());
     history().undo();
     EXPECT_EQ(rows().size(), 3);
 }
 
+TEST_F(WatermarkControllerTest, ARowStaysSelectedWhateverHappensAroundIt) {
+    QListView list;  // a view has a say in what is selected
+    list.setModel(&watermarks.model());
+    list.setSelectionModel(&watermarks.selection());
+    for (const char* each : {"a", "b", "c", "d"}) add(text(QLatin1String(each)));
+    watermarks.selectWatermark(1);
+    const std::function<void()> changes[] = {
+        [this] { watermarks.AddFilter(3); },       [this] { watermarks.SetMetadata(CopyRightMetaData()); },
+        [this] { watermarks.RemoveWatermark(2); }, [this] { history().undo(); },
+        [this] { watermarks.RemoveWatermark(0); }, [this] { watermarks.RemoveWatermark(4); },
+    };
+    for (const auto& change : changes) {
+        change();
+        EXPECT_EQ(selected(), QStringLiteral("b")) << history().index();
+    }
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("-Copyright"), QStringLiteral("+a"), QStringLiteral("+b"),
+                                   QStringLiteral("+c")}));
+    for (const char* next : {"c", "a", "Copyright", ""}) {
+        watermarks.RemoveSelectedWatermarks();
+        EXPECT_EQ(selected(), QLatin1String(next));
+    }
+    add(text(QStringLiteral("e")));
+    watermarks.selectWatermark(-1);
+    EXPECT_EQ(watermarks.selectedRow(), -1);
+    watermarks.RemoveSelectedWatermarks();
+    EXPECT_EQ(rows(), QStringList(QStringLiteral("+e"))) << "what is not selected is not removed";
+    watermarks.selectWatermark(0);
+    watermarks.replaceStack({{text(QStringLiteral("f")), text(QStringLiteral("g"))}, {}, 0, false}, {}, {});
+    EXPECT_EQ(selected(), QStringLiteral("f"));
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("+f"), QStringLiteral("+g")}));
+}
+
 TEST_F(WatermarkControllerTest, MovingExchangesNeighboursAndKeepsTheSelection) {
     for (const char* each : {"a", "b", "c"}) add(text(QLatin1String(each)));
-    watermarks->AddFilter(1);
+    watermarks.AddFilter(1);
     const auto order = [this] { return rows().mid(1).join(QString()).remove(QLatin1Char('+')); };
     select(1);
-    watermarks->MoveWatermarkUp();
+    watermarks.MoveWatermarkUp();
     EXPECT_EQ(order(), QStringLiteral("abc")) << "the first does not go up";
-    watermarks->MoveWatermarkDown();
+    watermarks.MoveWatermarkDown();
     EXPECT_EQ(order(), QStringLiteral("bac"));
-    watermarks->MoveWatermarkDown();
+    watermarks.MoveWatermarkDown();
     EXPECT_EQ(order(), QStringLiteral("bca"));
-    EXPECT_EQ(watermarks->watermarkRowIndexAfterRemovingFilterAndMetadata(), 2);
-    watermarks->MoveWatermarkDown();
+    EXPECT_EQ(watermarks.watermarkRowIndexAfterRemovingFilterAndMetadata(), 2);
+    watermarks.MoveWatermarkDown();
     EXPECT_EQ(order(), QStringLiteral("bca")) << "the last does not go down";
     select(0);
-    watermarks->MoveWatermarkUp();
-    watermarks->MoveWatermarkDown();
+    watermarks.MoveWatermarkUp();
+    watermarks.MoveWatermarkDown();
     EXPECT_EQ(order(), QStringLiteral("bca")) << "a filter row does not move";
     EXPECT_EQ(history().undoText(), QStringLiteral("Move Watermark"));
     history().undo();
@@ -164,16 +200,16 @@ TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {
         if (type == watermark_type::QrCode) watermark.Text = QStringLiteral("code");
         add(watermark);
     }
-    watermarks->AddFilter(1);
-    watermarks->SetMetadata(CopyRightMetaData());
-    for (int row = 0; row < 6; ++row) watermarks->WatermarkListDoubleClicked(row);
+    watermarks.AddFilter(1);
+    watermarks.SetMetadata(CopyRightMetaData());
+    for (int row = 0; row < 6; ++row) opener->WatermarkListDoubleClicked(row);
     EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Filter, -1), std::pair(EditorKind::Copyright, -1),
                                     std::pair(EditorKind::Image, 0), std::pair(EditorKind::Text, 1),
                                     std::pair(EditorKind::Shape, 2), std::pair(EditorKind::QrCode, 3)));
     opened.clear();
-    watermarks->OpenTextWatermarkSettings();
-    EXPECT_FALSE(watermarks->canOpen(EditorKind::Effects));
-    watermarks->OpenEffectsSettings();
+    opener->OpenTextWatermarkSettings();
+    EXPECT_FALSE(opener->canOpen(EditorKind::Effects));
+    opener->OpenEffectsSettings();
     EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Text, -1)));
 }
 
@@ -181,27 +217,25 @@ TEST_F(WatermarkControllerTest, TypingANewTextIsOneStepThatAddsIt) {
     const QString step = QStringLiteral("Text");
     edit = [&](WatermarkController& controller) {
         for (const char* typed : {"", "H", "Hi"})
-            controller.ReflectWatermark(text(QLatin1String(typed)), true, step);
+            controller.ReflectWatermark(text(QLatin1String(typed)), step);
     };
-    watermarks->OpenTextWatermarkSettings();
+    opener->OpenTextWatermarkSettings();
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+Hi")));
     EXPECT_EQ(history().count(), 1);
     EXPECT_EQ(history().undoText(), QStringLiteral("Add Text"));
 
     edit = [&](WatermarkController& controller) {
-        controller.ReflectWatermark(text(QStringLiteral("Hi!")), true, step);
+        controller.ReflectWatermark(text(QStringLiteral("Hi!")), step);
     };
-    watermarks->openEditor(0);
+    opener->WatermarkListDoubleClicked(0);
     EXPECT_EQ(history().count(), 2) << "another opening of the editor is another step";
     EXPECT_EQ(history().undoText(), QStringLiteral("Edit Text"));
 }
 
 TEST_F(WatermarkControllerTest, AnEditedTextThatBecomesEmptyIsRemovedAndAnAbsentOneIsNot) {
     add(text(QStringLiteral("a")));
-    edit = [](WatermarkController& controller) {
-        controller.ReflectWatermark(text(QLatin1String("")), true);
-    };
-    watermarks->openEditor(0);
+    edit = [](WatermarkController& controller) { controller.ReflectWatermark(text(QLatin1String(""))); };
+    opener->WatermarkListDoubleClicked(0);
     EXPECT_TRUE(rows().isEmpty());
     add(text(QString()));
     EXPECT_EQ(rows().size(), 1);
@@ -210,22 +244,22 @@ TEST_F(WatermarkControllerTest, AnEditedTextThatBecomesEmptyIsRemovedAndAnAbsent
 }
 
 TEST_F(WatermarkControllerTest, ChoosingNoFilterChangesNothing) {
-    watermarks->AddFilter(5);
-    watermarks->AddFilter(0);
+    watermarks.AddFilter(5);
+    watermarks.AddFilter(0);
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+Filter - Lumina")));
 }
 
 TEST_F(WatermarkControllerTest, PlacingByHandIsCustomPositionAndStepsOfOneNudgeMerge) {
     add(text(QStringLiteral("a")));
-    watermarks->placeWatermark(0, {40, 50});
-    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).Position, CustomPosition);
+    watermarks.placeWatermark(0, {40, 50});
+    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).Position, CustomPosition);
     for (int step = 1; step <= 3; ++step)
-        watermarks->placeWatermark(0, {40 + step, 50}, QStringLiteral("nudge"));
-    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).CustomPositionLeft, 43);
+        watermarks.placeWatermark(0, {40 + step, 50}, QStringLiteral("nudge"));
+    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).CustomPositionLeft, 43);
     history().undo();
-    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).CustomPositionLeft, 40);
+    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).CustomPositionLeft, 40);
     history().undo();
-    EXPECT_EQ(watermarks->GetWatermarkAtRow(0).Position, 1);
+    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).Position, 1);
 }
 
 }  // namespace

@@ -23,6 +23,12 @@ StackState stateOf(const QStringList& texts) {
     return state;
 }
 
+// Makes `state` the start of a history.
+void begin(WatermarkDocument& document, const StackState& state) {
+    document.change(QStringLiteral("Begin"), [&](StackState& now) { now = state; });
+    document.history().clear();
+}
+
 QStringList textsOf(const WatermarkDocument& document) {
     QStringList texts;
     for (const Watermark& watermark : document.watermarks()) texts.append(watermark.Text);
@@ -86,14 +92,14 @@ TEST(WatermarkDocument, EveryChangeIsUndoneAndRedoneAndAnnounced) {
 
 TEST(WatermarkDocument, AChangeOfNothingIsNoStep) {
     WatermarkDocument document;
-    document.restart(stateOf({QStringLiteral("a")}));
+    begin(document, stateOf({QStringLiteral("a")}));
     EXPECT_FALSE(document.change(QStringLiteral("Nothing"), [](StackState&) {}));
     EXPECT_EQ(document.history().count(), 0);
 }
 
 TEST(WatermarkDocument, TypingIsOneStepUntilAnotherControlIsUsed) {
     WatermarkDocument document;
-    document.restart(stateOf({QStringLiteral("a")}));
+    begin(document, stateOf({QStringLiteral("a")}));
     const QString typing = QStringLiteral("1/Text");
     for (const char* content : {"ab", "abc", "abcd"}) type(document, QLatin1String(content), typing);
     document.change(
@@ -110,7 +116,7 @@ TEST(WatermarkDocument, TypingIsOneStepUntilAnotherControlIsUsed) {
 
 TEST(WatermarkDocument, TypingThatEndsWhereItBeganLeavesNoStep) {
     WatermarkDocument document;
-    document.restart(stateOf({QStringLiteral("a")}));
+    begin(document, stateOf({QStringLiteral("a")}));
     type(document, QStringLiteral("ab"), QStringLiteral("1/Text"));
     type(document, QStringLiteral("a"), QStringLiteral("1/Text"));
     EXPECT_EQ(document.history().count(), 0);
@@ -118,7 +124,7 @@ TEST(WatermarkDocument, TypingThatEndsWhereItBeganLeavesNoStep) {
 
 TEST(WatermarkDocument, ASnapshotNeverChanges) {
     WatermarkDocument document;
-    document.restart(stateOf({QStringLiteral("a")}));
+    begin(document, stateOf({QStringLiteral("a")}));
     const auto before = document.snapshot();
     EXPECT_EQ(document.snapshot(), before) << "an unchanged stack is shared";
     type(document, QStringLiteral("b"), {});
@@ -143,7 +149,7 @@ TEST(WatermarkDocument, CopyrightIsSwitchedOnInTheStackOnlyWhileThereIsSome) {
 
 TEST(WatermarkDocument, AnAmendmentIsAnnouncedButNoStep) {
     WatermarkDocument document;
-    document.restart(stateOf({QStringLiteral("a"), QStringLiteral("b")}));
+    begin(document, stateOf({QStringLiteral("a"), QStringLiteral("b")}));
     std::vector<StackChange> announced;
     QObject::connect(&document, &WatermarkDocument::changed,
                      [&](const StackChange& change) { announced.push_back(change); });

@@ -19,7 +19,7 @@ TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
     mark.SolidColor = Color::black();
     mark.Width = mark.Height = 20.0F;
     mark.Transparency = 1.0F;
-    window->watermarks().ReflectWatermark(mark, true);
+    window->watermarks().ReflectWatermark(mark);
     for (const bool byKey : {true, false}) {
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

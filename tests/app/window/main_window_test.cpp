@@ -4,8 +4,6 @@
 
 #include "app/dialogs/standard_dialogs.h"
 #include "app/watermarks/watermark_delegate.h"
-#include "persistence/setting_file.h"
-#include "persistence/settings_library.h"
 #include "render/composition.h"
 #include "support/test_pictures.h"
 
@@ -69,7 +67,7 @@ class MainWindowTest : public ::testing::Test {
 
     void addWatermark(const Watermark& watermark) {
         window->watermarks().resetCurrentWatermarkIndex();
-        window->watermarks().ReflectWatermark(watermark, true);
+        window->watermarks().ReflectWatermark(watermark);
     }
 
     PreviewView& view() { return window->previewView(); }
@@ -149,6 +147,9 @@ TEST_F(MainWindowTest, AClickOnACheckBoxChecksAndDoesNotSelect) {
     QTest::mouseClick(watermarks.viewport(), Qt::LeftButton, Qt::NoModifier,
                       WatermarkDelegate::checkBoxRect(row).center());
     EXPECT_FALSE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
+    watermarks.setFocus();
+    QTest::keyClick(&watermarks, Qt::Key_Space);
+    EXPECT_TRUE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
 }
 
 TEST_F(MainWindowTest, ADoubleClickOnAWatermarkOpensItsEditor) {
@@ -299,6 +300,12 @@ TEST_F(LayerDragging, TheArrowKeysMoveTheSelectedLayer) {
     EXPECT_EQ(shape().CustomPositionLeft, 3);
     EXPECT_EQ(shape().CustomPositionTop, 10);
     EXPECT_EQ(window->document().history().count(), steps + 1);
+
+    window->watermarks().AddFilter(3);
+    ASSERT_TRUE(waitForPreview());
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, inView({400, 300}));
+    EXPECT_EQ(window->watermarks().selectedRow(), -1) << "the bare photo is no row";
+    EXPECT_FALSE(window->actions()[Act::RemoveWatermark]->isEnabled());
 }
 
 TEST_F(MainWindowTest, APhotoThatCannotBeReadIsSaidSoAndTheNextOneIsShown) {
@@ -313,21 +320,6 @@ TEST_F(MainWindowTest, APhotoThatCannotBeReadIsSaidSoAndTheNextOneIsShown) {
     EXPECT_TRUE(view().message().contains(DamagedPictureMessage));
     clickRow(window->photoList(), 1);
     EXPECT_TRUE(waitForPreview());
-}
-
-TEST_F(MainWindowTest, ClosingKeepsAStackThatNothingElseHolds) {
-    ASSERT_TRUE(shared.findSettingDirectory().has_value());
-    const QString kept = shared.SettingDirectory + LastWatermarkSetting + SettingFileExtension;
-    for (const bool isSaved : {true, false}) {
-        QFile::remove(kept);
-        window->show();
-        addWatermark(plainShape());
-        if (isSaved) {
-            ASSERT_TRUE(window->watermarks().SaveWatermarkSettings(folder.filePath(QStringLiteral("a.zcs"))));
-        }
-        window->close();
-        EXPECT_EQ(QFile::exists(kept), !isSaved);
-    }
 }
 
 TEST_F(MainWindowTest, ControlsFollowThePhotosAndTheRun) {

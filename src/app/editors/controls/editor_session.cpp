@@ -65,7 +65,7 @@ void WatermarkSession::edit(const WatermarkEdit& edit) {
 }
 
 void WatermarkSession::reflect() {
-    controller().ReflectWatermark(record_, true, step());
+    controller().ReflectWatermark(record_, step());
 }
 
 void WatermarkSession::revert() {
@@ -75,7 +75,7 @@ void WatermarkSession::revert() {
 }
 
 void WatermarkSession::finish() {
-    if (isInList()) controller().ReflectWatermark(record(), true, step());
+    if (isInList()) controller().ReflectWatermark(record(), step());
 }
 
 }  // namespace zelto
