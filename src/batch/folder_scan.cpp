@@ -3,12 +3,14 @@
 
 #include "platform/path_parts.h"
 
-#include <QDir>
-#include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 namespace zelto {
 namespace {
@@ -35,53 +37,75 @@ constexpr std::array ScannedExtensions = {
 // How many entries of a folder are listed between two questions whether to go on.
 constexpr int EntriesPerQuestion = 500;
 
+// Walks the folders by the bytes of their names, which need not be text.
 class Scan {
   public:
     Scan(bool includeSubFolders, const QString& extensionList, const ScanGoesOn& goesOn)
         : includeSubFolders_(includeSubFolders), extensionList_(extensionList), goesOn_(goesOn) {}
 
-    void visit(const QString& folder) {
-        const Entries entries = listed(folder);
-        for (const QString& name : entries.names) {
-            if (isScannedName(name, extensionList_)) found_.append(folder + QLatin1Char('/') + name);
+    void visit(const std::filesystem::path& folder, const QString& shownFolder) {
+        const std::vector<Entry> entries = listed(folder, shownFolder);
+        for (const Entry& entry : entries) {
+            if (!isScannedName(entry.name, extensionList_)) continue;
+            scan_.photos.append(shownFolder + QLatin1Char('/') + entry.name);
+            tellTrouble(entry, scan_.photos.last());
         }
-        for (const QString& name : entries.subFolders) {
+        if (!includeSubFolders_) return;
+        for (const Entry& entry : entries) {
+            if (entry.type != std::filesystem::file_type::directory) continue;
             if (!goesOn()) return;
-            visit(folder + QLatin1Char('/') + name);
+            visit(entry.path, shownFolder + QLatin1Char('/') + entry.name);
         }
     }
 
-    const QStringList& found() const { return found_; }
+    FolderScan take() { return std::move(scan_); }
 
   private:
-    struct Entries {
-        QStringList names;
-        QStringList subFolders;
+    struct Entry {
+        QString name;  // with U+FFFD for what is no text
+        std::filesystem::path path;
+        std::filesystem::file_type type =
+            std::filesystem::file_type::unknown;  // of the entry, not of a link's target
     };
 
-    Entries listed(const QString& folder) {
-        Entries entries;
-        QDirIterator iterator(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-        while (iterator.hasNext()) {
-            iterator.next();
-            entries.names.append(iterator.fileName());
-            if (includeSubFolders_) {
-                const QFileInfo info = iterator.fileInfo();
-                if (!info.isSymLink() && info.isDir()) entries.subFolders.append(iterator.fileName());
-            }
-            if (entries.names.size() % EntriesPerQuestion == 0 && !goesOn()) break;
+    std::vector<Entry> listed(const std::filesystem::path& folder, const QString& shownFolder) {
+        std::vector<Entry> entries;
+        std::error_code error;
+        for (std::filesystem::directory_iterator next(folder, error), end; !error && next != end;
+             next.increment(error)) {
+            std::error_code ignored;
+            entries.push_back({QString::fromStdString(next->path().filename().string()), next->path(),
+                               next->symlink_status(ignored).type()});
+            if (entries.size() % EntriesPerQuestion == 0 && !goesOn()) break;
         }
-        std::sort(entries.names.begin(), entries.names.end());
-        std::sort(entries.subFolders.begin(), entries.subFolders.end());
+        if (error) {
+            const QString reason = QString::fromStdString(error.message());
+            scan_.problems.push_back(
+                {shownFolder, QStringLiteral("the folder cannot be read: %1").arg(reason)});
+        }
+        std::sort(entries.begin(), entries.end(),
+                  [](const Entry& a, const Entry& b) { return a.name < b.name; });
         return entries;
     }
 
-    bool goesOn() const { return !goesOn_ || goesOn_(found_.size()); }
+    void tellTrouble(const Entry& entry, const QString& photo) {
+        const std::string bytes = entry.path.string();
+        if (QString::fromStdString(bytes).toStdString() != bytes) {
+            scan_.problems.push_back(
+                {photo,
+                 QStringLiteral("the name is not UTF-8 text, so the photo cannot be opened; rename it")});
+        }
+        std::error_code error;
+        if (entry.type == std::filesystem::file_type::symlink && !std::filesystem::exists(entry.path, error))
+            scan_.problems.push_back({photo, QStringLiteral("the link leads nowhere")});
+    }
+
+    bool goesOn() const { return !goesOn_ || goesOn_(scan_.photos.size()); }
 
     const bool includeSubFolders_;
     const QString& extensionList_;
     const ScanGoesOn& goesOn_;
-    QStringList found_;
+    FolderScan scan_;
 };
 
 }  // namespace
@@ -101,16 +125,23 @@ bool isScannedName(const QString& fileName, const QString& extensionList) {
            extensionList.contains(extension, Qt::CaseInsensitive);
 }
 
-Result<QStringList> ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
-                                           const QString& extensionList, const ScanGoesOn& goesOn) {
+Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,
+                              const ScanGoesOn& goesOn) {
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isReadable() || !info.isExecutable()) {
         return fail(ErrorCode::NotFound, QStringLiteral("The folder “%1” cannot be read.").arg(folder),
                     folder);
     }
     Scan scan(includeSubFolders, extensionList, goesOn);
-    scan.visit(folder);
-    return scan.found();
+    scan.visit(QFile::encodeName(folder).toStdString(), folder);
+    return scan.take();
+}
+
+Result<QStringList> ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
+                                           const QString& extensionList, const ScanGoesOn& goesOn) {
+    return scanFolder(folder, includeSubFolders, extensionList, goesOn).map([](const FolderScan& scan) {
+        return scan.photos;
+    });
 }
 
 }  // namespace zelto

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 namespace zelto {
 
@@ -30,11 +31,27 @@ bool isScannedName(const QString& fileName, const QString& extensionList);
 // Asked now and then, with the number of photos found so far, whether a scan is to go on.
 using ScanGoesOn = std::function<bool(qsizetype found)>;
 
-// The paths found, as `folder` + "/" + the path below it, ordered by Unicode value so that every machine sees
-// the same list: first those in the folder itself, then those of its sub-folders, each folder before the
-// next. Symbolic links to folders are not followed, sub-folders that cannot be read are passed over. A scan
-// that is not to go on returns what it has found. Error: ErrorCode::NotFound where the folder itself cannot be
-// listed.
+// Something a scan came across that the user should know.
+struct ScanProblem {
+    QString path;
+    QString text;  // of a sentence that begins with the path
+};
+
+struct FolderScan {
+    // As `folder` + "/" + the path below it, ordered by Unicode value so that every machine sees the same list: first
+    // those in the folder itself, then those of its sub-folders, each folder before the next.
+    QStringList photos;
+    // Folders that cannot be read, and photos among those found that cannot be opened: links that lead nowhere, names
+    // that are not UTF-8 (whose paths have U+FFFD for what is no text).
+    std::vector<ScanProblem> problems;
+};
+
+// Symbolic links to folders are not followed. A scan that is not to go on returns what it has found. Error:
+// ErrorCode::NotFound where the folder itself cannot be listed.
+Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,
+                              const ScanGoesOn& goesOn = {});
+
+// The photos of such a scan alone.
 Result<QStringList> ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
                                            const QString& extensionList, const ScanGoesOn& goesOn = {});
 

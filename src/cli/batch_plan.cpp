@@ -121,7 +121,8 @@ Result<std::optional<CopyRightMetaData>> copyrightData(const CommandLine& line, 
     return copyrightToUse(*path).map([](const CopyRightMetaData& read) { return std::optional(read); });
 }
 
-Result<ImageList> photoList(const CommandLine& line) {
+// Adds what went wrong while folders were scanned to `problems`.
+Result<ImageList> photoList(const CommandLine& line, std::vector<ScanProblem>& problems) {
     ImageList list;
     for (const QString& input : line.inputs) {
         const QString path = absolutePath(input);
@@ -134,9 +135,10 @@ Result<ImageList> photoList(const CommandLine& line) {
             list.AddImage(path);
             continue;
         }
-        const auto found = ImportImagesFromFolder(path, line.recursive, GetExtensionList(line.extensions));
-        if (!found) return tl::unexpected(found.error());
-        for (const QString& photo : *found) list.AddImage(photo);
+        const auto scan = scanFolder(path, line.recursive, GetExtensionList(line.extensions));
+        if (!scan) return tl::unexpected(scan.error());
+        for (const QString& photo : scan->photos) list.AddImage(photo);
+        problems.insert(problems.end(), scan->problems.begin(), scan->problems.end());
     }
     if (list.images().empty()) {
         return fail(ErrorCode::NotFound,
@@ -172,7 +174,7 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
     auto copyright = copyrightData(line, *plan.stack);
     if (!copyright) return tl::unexpected(std::move(copyright.error()));
     plan.copyright = std::move(*copyright);
-    const Result<ImageList> list = photoList(line);
+    const Result<ImageList> list = photoList(line, plan.problems);
     if (!list) return tl::unexpected(list.error());
 
     plan.request.folders = list->InputOutputDictionary();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "batch/batch_request.h"
+#include "batch/folder_scan.h"
 #include "cli/command_line.h"
 #include "platform/result.h"
 #include "records/copyright_metadata.h"
@@ -11,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace zelto {
 
@@ -18,6 +20,7 @@ struct BatchPlan {
     BatchRequest request;  // photos outside the shard are unchecked
     std::shared_ptr<const WatermarkStack> stack;
     std::optional<CopyRightMetaData> copyright;  // to be written into the outputs
+    std::vector<ScanProblem> problems;           // with the folders, to be told before the run
 };
 
 // Error: what cannot be used and what to do about it.

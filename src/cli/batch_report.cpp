@@ -71,6 +71,7 @@ BatchReport plannedReport(const BatchRequest& request) {
     const QDateTime now = QDateTime::currentDateTime();
     const bool combined = combinesIntoOnePdf(request.options);
     BatchReport report;
+    report.total = static_cast<qint64>(request.photos.size());
     for (std::size_t row = 0; row < request.photos.size(); ++row) {
         if (!request.photos[row].checked) continue;
         const PlannedOutput& planned = request.plan->outputs[row];
@@ -96,10 +97,13 @@ QByteArray toJson(const BatchReport& report) {
                                  {"failed"_L1, report.count(PhotoReport::Status::Failed)},
                                  {"notRun"_L1, report.count(PhotoReport::Status::NotRun)},
                                  {"stopped"_L1, report.stopped},
+                                 {"interrupted"_L1, report.interrupted},
                                  {"warned"_L1, report.warned()},
                                  {"message"_L1, report.message}};
     return printableJson(
         QJsonDocument({{"version"_L1, 1},
+                       {"shard"_L1, shardText(report.shard)},
+                       {"total"_L1, report.total},
                        {"photos"_L1, photos},
                        {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
                        {"summary"_L1, summary},

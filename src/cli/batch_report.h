@@ -4,6 +4,7 @@
 
 #include "batch/batch_request.h"
 #include "batch/photo_warning.h"
+#include "cli/shard.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -33,6 +34,8 @@ struct PhotoReport {
 };
 
 struct BatchReport {
+    Shard shard;                      // of the list that the run works on
+    qint64 total = 0;                 // photos of the whole list
     std::vector<PhotoReport> photos;  // those the run is asked to write, by index
     QString combinedPdf;              // its path; empty where none was written
     bool stopped = false;             // by repeated failures

@@ -221,6 +221,10 @@ const std::array Options = {
     Option{nullptr, "dry-run", nullptr, "print what would be written, and write nothing",
            turn<&CommandLine::dryRun>},
     Option{nullptr, "json", nullptr, "report as JSON on standard output", turn<&CommandLine::json>},
+    Option{nullptr, "merge-reports", nullptr,
+           "the arguments are JSON reports of the shards of one list:\nprint one report, and exit as one run "
+           "would",
+           turn<&CommandLine::mergeReports>},
     Option{nullptr, "quiet", nullptr, "print nothing but errors", turn<&CommandLine::quiet>},
     Option{nullptr, "no-color", nullptr, "no colors", turn<&CommandLine::color, false>},
     Option{nullptr, "no-progress", nullptr, "plain lines instead of a progress bar",
@@ -244,6 +248,9 @@ QCommandLineOption qtOption(const Option& option) {
 
 // What makes options that are fine by themselves useless together.
 Complaint contradiction(const CommandLine& line) {
+    if (line.mergeReports) {
+        return line.inputs.isEmpty() ? QStringLiteral("name the reports to merge") : Complaint();
+    }
     if (line.setting.isEmpty()) return QStringLiteral("name the watermark setting with --setting");
     if (line.inputs.isEmpty()) return QStringLiteral("name the photos or folders to watermark");
     if (line.output.isEmpty() && line.optionsFile.isEmpty()) {

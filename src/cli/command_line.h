@@ -51,6 +51,7 @@ struct CommandLine {
     NameRules names;
     bool overwriteOriginals = false;
     bool dryRun = false;
+    bool mergeReports = false;  // `inputs` are reports, and nothing else counts
 
     bool json = false;
     bool quiet = false;

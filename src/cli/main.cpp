@@ -2,6 +2,7 @@
 // zelto-batch: one batch from the command line.
 #include "cli/batch_work.h"
 #include "cli/command_line.h"
+#include "cli/report_merge.h"
 
 #include <QGuiApplication>
 
@@ -55,6 +56,8 @@ BatchReport unusable(const Error& error) {
 BatchReport work(const CommandLine& line, Console& console) {
     const Result<BatchPlan> plan = planBatch(line);
     if (!plan) return unusable(plan.error());
+    for (const ScanProblem& problem : plan->problems)
+        console.problem(problem.path + QStringLiteral(": ") + problem.text);
     if (line.dryRun) return dryRun(*plan, console);
     if (const Result<void> made = makeOutputFolder(*plan); !made) return unusable(made.error());
     return runBatch(*plan, line, console);
@@ -72,6 +75,18 @@ int show(const BatchReport& report, const CommandLine& line, Console& console) {
     }
     if (!printed) console.problem(QStringLiteral("the result could not be printed"));
     return printed ? report.exitStatus() : std::max(report.exitStatus(), exit_status::SomeFailed);
+}
+
+int merge(const CommandLine& line, Console& console) {
+    const Result<MergedReport> merged = mergeReports(line.inputs);
+    if (!merged) {
+        BatchReport report = unusable(merged.error());
+        console.problem(report.error);
+        printResult(toJson(report));
+        return report.exitStatus();
+    }
+    return printResult(merged->json) ? merged->exitStatus
+                                     : std::max(merged->exitStatus, exit_status::SomeFailed);
 }
 
 int usageError(const Error& error, bool json) {
@@ -94,12 +109,15 @@ int run(int argc, char** argv) {
     }
 
     Console console({line->quiet, line->color, line->progress});
+    if (line->mergeReports) return merge(*line, console);
     messageConsole = &console;
     qInstallMessageHandler(showMessage);
     // The arguments are ours; Qt is to find nothing for itself among them.
     int argumentsForQt = 1;
     const QGuiApplication application(argumentsForQt, argv);
-    const int status = show(work(*line, console), *line, console);
+    BatchReport report = work(*line, console);
+    report.shard = line->shard;
+    const int status = show(report, *line, console);
     messageConsole = nullptr;
     return status;
 }

@@ -48,6 +48,10 @@ Result<Shard> slurmShard(const Environment& environment) {
 
 }  // namespace
 
+QString shardText(const Shard& shard) {
+    return QStringLiteral("%1/%2").arg(shard.index).arg(shard.count);
+}
+
 Result<Shard> parseShard(const QString& text, const Environment& environment) {
     if (text == Auto) {
         const QString own = environment("ZELTO_SHARD");

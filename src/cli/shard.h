@@ -19,6 +19,9 @@ struct Shard {
     bool isWhole() const { return count == 1; }
 };
 
+// "I/N", as parseShard() takes it.
+QString shardText(const Shard& shard);
+
 // A variable of the environment; empty where it is not set.
 using Environment = std::function<QString(const char* name)>;
 

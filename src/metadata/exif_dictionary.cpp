@@ -21,91 +21,51 @@ enum class Kind {
     Comment   // text that names its encoding
 };
 
-struct Tag {
-    std::uint16_t number;
-    const char* key;
+// A property the dictionary does not take as exiv2 has it. All others have exiv2's name, which is the EXIF standard's.
+struct Exception {
+    std::uint16_t tag;
     Kind kind = Kind::Natural;
-    const char* standardName = nullptr;  // where it differs from the key
+    const char* key = nullptr;  // instead of exiv2's name; "" leaves the property out
 };
 
-// By number.
-constexpr Tag Tags[] = {
-    {0x829A, "ExposureTime"},
-    {0x829D, "FNumber"},
-    {0x8822, "ExposureProgram"},
-    {0x8824, "SpectralSensitivity"},
-    {0x8827, "ISOSpeedRatings", Kind::List},
-    {0x8828, "OECF"},
-    {0x8830, "SensitivityType"},
-    {0x8831, "StandardOutputSensitivity"},
-    {0x8832, "RecommendedExposureIndex"},
-    {0x8833, "ISOSpeed"},
-    {0x8834, "ISOSpeedLatitudeyyy"},
-    {0x8835, "ISOSpeedLatitudezzz"},
-    {0x9000, "ExifVersion", Kind::Version},
-    {0x9003, "DateTimeOriginal"},
-    {0x9004, "DateTimeDigitized"},
-    {0x9010, "OffsetTime"},
-    {0x9011, "OffsetTimeOriginal"},
-    {0x9012, "OffsetTimeDigitized"},
-    {0x9101, "ComponentsConfiguration", Kind::List},
-    {0x9102, "CompressedBitsPerPixel"},
-    {0x9201, "ShutterSpeedValue"},
-    {0x9202, "ApertureValue"},
-    {0x9203, "BrightnessValue"},
-    {0x9204, "ExposureBiasValue"},
-    {0x9205, "MaxApertureValue"},
-    {0x9206, "SubjectDistance"},
-    {0x9207, "MeteringMode"},
-    {0x9208, "LightSource"},
-    {0x9209, "Flash"},
-    {0x920A, "FocalLength"},
-    {0x9214, "SubjectArea", Kind::List},
-    {0x9286, "UserComment", Kind::Comment},
-    {0x9290, "SubsecTime", Kind::Natural, "SubSecTime"},
-    {0x9291, "SubsecTimeOriginal", Kind::Natural, "SubSecTimeOriginal"},
-    {0x9292, "SubsecTimeDigitized", Kind::Natural, "SubSecTimeDigitized"},
-    {0xA000, "FlashPixVersion", Kind::Version, "FlashpixVersion"},
-    {0xA001, "ColorSpace"},
-    {0xA002, "PixelXDimension"},
-    {0xA003, "PixelYDimension"},
-    {0xA004, "RelatedSoundFile"},
-    {0xA20B, "FlashEnergy"},
-    {0xA20C, "SpatialFrequencyResponse"},
-    {0xA20E, "FocalPlaneXResolution"},
-    {0xA20F, "FocalPlaneYResolution"},
-    {0xA210, "FocalPlaneResolutionUnit"},
-    {0xA214, "SubjectLocation"},
-    {0xA215, "ExposureIndex"},
-    {0xA217, "SensingMethod"},
-    {0xA300, "FileSource", Kind::Number},
-    {0xA301, "SceneType", Kind::Number},
-    {0xA302, "CFAPattern"},
-    {0xA401, "CustomRendered"},
-    {0xA402, "ExposureMode"},
-    {0xA403, "WhiteBalance"},
-    {0xA404, "DigitalZoomRatio"},
-    {0xA405, "FocalLenIn35mmFilm", Kind::Natural, "FocalLengthIn35mmFilm"},
-    {0xA406, "SceneCaptureType"},
-    {0xA407, "GainControl"},
-    {0xA408, "Contrast"},
-    {0xA409, "Saturation"},
-    {0xA40A, "Sharpness"},
-    {0xA40B, "DeviceSettingDescription"},
-    {0xA40C, "SubjectDistRange", Kind::Natural, "SubjectDistanceRange"},
-    {0xA420, "ImageUniqueID"},
-    {0xA430, "CameraOwnerName"},
-    {0xA431, "BodySerialNumber"},
-    {0xA432, "LensSpecification", Kind::List},
-    {0xA433, "LensMake"},
-    {0xA434, "LensModel"},
-    {0xA435, "LensSerialNumber"},
-    {0xA500, "Gamma"},
+// By tag.
+constexpr Exception Exceptions[] = {
+    {0x8827, Kind::List},         // ISOSpeedRatings
+    {0x9000, Kind::Version},      // ExifVersion
+    {0x9101, Kind::List},         // ComponentsConfiguration
+    {0x9214, Kind::List},         // SubjectArea
+    {0x927C, Kind::Natural, ""},  // MakerNote
+    {0x9286, Kind::Comment},      // UserComment
+    {0x9290, Kind::Natural, "SubsecTime"},
+    {0x9291, Kind::Natural, "SubsecTimeOriginal"},
+    {0x9292, Kind::Natural, "SubsecTimeDigitized"},
+    {0x9400, Kind::Natural, ""},  // Temperature
+    {0x9401, Kind::Natural, ""},  // Humidity
+    {0x9402, Kind::Natural, ""},  // Pressure
+    {0x9403, Kind::Natural, ""},  // WaterDepth
+    {0x9404, Kind::Natural, ""},  // Acceleration
+    {0x9405, Kind::Natural, ""},  // CameraElevationAngle
+    {0xA000, Kind::Version, "FlashPixVersion"},
+    {0xA005, Kind::Natural, ""},  // InteroperabilityTag
+    {0xA300, Kind::Number},       // FileSource
+    {0xA301, Kind::Number},       // SceneType
+    {0xA405, Kind::Natural, "FocalLenIn35mmFilm"},
+    {0xA40C, Kind::Natural, "SubjectDistRange"},
+    {0xA432, Kind::List},         // LensSpecification
+    {0xA460, Kind::Natural, ""},  // CompositeImage
+    {0xA461, Kind::Natural, ""},  // SourceImageNumberOfCompositeImage
+    {0xA462, Kind::Natural, ""},  // SourceExposureTimesOfCompositeImage
 };
 
-const Tag* findTag(std::uint16_t number) {
-    const auto found = std::ranges::lower_bound(Tags, number, {}, &Tag::number);
-    return found == std::end(Tags) || found->number != number ? nullptr : found;
+const Exception* findException(std::uint16_t tag) {
+    const auto found = std::ranges::lower_bound(Exceptions, tag, {}, &Exception::tag);
+    return found == std::end(Exceptions) || found->tag != tag ? nullptr : found;
+}
+
+// exiv2's name of a property; empty where it knows none and would print the number.
+QString standardName(std::uint16_t tag) {
+    const QString name = QString::fromStdString(Exiv2::ExifKey(tag, "Photo").tagName());
+    return name.startsWith(QLatin1String("0x")) ? QString() : name;
 }
 
 QByteArray bytesOf(const Exiv2::Value& value) {
@@ -222,11 +182,13 @@ QVariantMap exifDictionary(const Exiv2::ExifData& data) {
     QVariantMap dictionary;
     for (const Exiv2::Exifdatum& datum : data) {
         if (datum.groupName() != "Photo") continue;
-        const Tag* tag = findTag(datum.tag());
-        if (tag == nullptr) continue;
+        const Exception* const exception = findException(datum.tag());
+        const bool isRenamed = exception != nullptr && exception->key != nullptr;
+        const QString key = isRenamed ? QString::fromLatin1(exception->key) : standardName(datum.tag());
+        if (key.isEmpty()) continue;
         try {
-            const QString key = QString::fromLatin1(tag->key);
-            const QVariant value = valueOf(tag->kind, datum.value());
+            const QVariant value =
+                valueOf(exception != nullptr ? exception->kind : Kind::Natural, datum.value());
             if (value.isValid() && !dictionary.contains(key)) dictionary.insert(key, value);
         } catch (const std::exception&) {
             // One value that exiv2 cannot convert does not cost the photo the others.
@@ -236,10 +198,10 @@ QVariantMap exifDictionary(const Exiv2::ExifData& data) {
 }
 
 QString exifKeyOfStandardName(const QString& name) {
-    const auto found = std::ranges::find_if(Tags, [&](const Tag& tag) {
-        return tag.standardName != nullptr && name == QLatin1String(tag.standardName);
+    const auto found = std::ranges::find_if(Exceptions, [&](const Exception& exception) {
+        return exception.key != nullptr && *exception.key != '\0' && name == standardName(exception.tag);
     });
-    return found == std::end(Tags) ? name : QString::fromLatin1(found->key);
+    return found == std::end(Exceptions) ? name : QString::fromLatin1(found->key);
 }
 
 }  // namespace zelto

@@ -12,71 +12,57 @@
 namespace zelto {
 namespace {
 
-struct DataSet {
+// A data set of the application record whose name here is not exiv2's; "" leaves it out. exiv2 knows which sets may be
+// repeated.
+struct Exception {
     std::uint16_t number;
     const char* key;
-    bool repeatable = false;
 };
 
-// Those of the application record, by number.
-constexpr DataSet DataSets[] = {
+// By number.
+constexpr Exception Exceptions[] = {
+    {0, ""},  // RecordVersion
     {3, "ObjectTypeReference"},
-    {4, "ObjectAttributeReference", true},
-    {5, "ObjectName"},
-    {7, "EditStatus"},
-    {8, "EditorialUpdate"},
-    {10, "Urgency"},
-    {12, "SubjectReference", true},
-    {15, "Category"},
-    {20, "SupplementalCategory", true},
+    {4, "ObjectAttributeReference"},
+    {12, "SubjectReference"},
+    {20, "SupplementalCategory"},
     {22, "FixtureIdentifier"},
-    {25, "Keywords", true},
-    {26, "ContentLocationCode", true},
-    {27, "ContentLocationName", true},
-    {30, "ReleaseDate"},
-    {35, "ReleaseTime"},
-    {37, "ExpirationDate"},
-    {38, "ExpirationTime"},
-    {40, "SpecialInstructions"},
-    {42, "ActionAdvised"},
-    {45, "ReferenceService", true},
-    {47, "ReferenceDate", true},
-    {50, "ReferenceNumber", true},
-    {55, "DateCreated"},
-    {60, "TimeCreated"},
+    {26, "ContentLocationCode"},
+    {27, "ContentLocationName"},
     {62, "DigitalCreationDate"},
     {63, "DigitalCreationTime"},
     {65, "OriginatingProgram"},
-    {70, "ProgramVersion"},
-    {75, "ObjectCycle"},
-    {80, "Byline", true},
-    {85, "BylineTitle", true},
-    {90, "City"},
-    {92, "SubLocation"},
     {95, "Province/State"},
     {100, "Country/PrimaryLocationCode"},
     {101, "Country/PrimaryLocationName"},
     {103, "OriginalTransmissionReference"},
-    {105, "Headline"},
-    {110, "Credit"},
-    {115, "Source"},
     {116, "CopyrightNotice"},
-    {118, "Contact", true},
     {120, "Caption/Abstract"},
-    {122, "Writer/Editor", true},
-    {130, "ImageType"},
-    {131, "ImageOrientation"},
+    {122, "Writer/Editor"},
+    {125, ""},  // RasterizedCaption
     {135, "LanguageIdentifier"},
+    {150, ""},  // AudioType
+    {151, ""},  // AudioRate
+    {152, ""},  // AudioResolution
+    {153, ""},  // AudioDuration
+    {154, ""},  // AudioOutcue
+    {200, ""},  // PreviewFormat
+    {201, ""},  // PreviewVersion
+    {202, ""},  // Preview
 };
+
+// Empty for a data set that is left out, as all are that exiv2 knows no name of and would print the number.
+QString keyOf(std::uint16_t number) {
+    const auto found = std::ranges::lower_bound(Exceptions, number, {}, &Exception::number);
+    if (found != std::end(Exceptions) && found->number == number) return QString::fromLatin1(found->key);
+    const QString name =
+        QString::fromStdString(Exiv2::IptcDataSets::dataSetName(number, Exiv2::IptcDataSets::application2));
+    return name.startsWith(QLatin1String("0x")) ? QString() : name;
+}
 
 constexpr const char* ContactProperty = "Xmp.iptc.CreatorContactInfo/Iptc4xmpCore:";
 constexpr const char* ContactFields[] = {"CiAdrExtadr", "CiAdrCity",   "CiAdrRegion", "CiAdrPcode",
                                          "CiAdrCtry",   "CiEmailWork", "CiTelWork",   "CiUrlWork"};
-
-const DataSet* findDataSet(std::uint16_t number) {
-    const auto found = std::ranges::lower_bound(DataSets, number, {}, &DataSet::number);
-    return found == std::end(DataSets) || found->number != number ? nullptr : found;
-}
 
 // As the file stores it: dates and times without the punctuation that exiv2 prints.
 QString storedText(const Exiv2::Value& value) {
@@ -85,9 +71,10 @@ QString storedText(const Exiv2::Value& value) {
     return metadataText(bytes);
 }
 
-void addDataSet(QVariantMap& dictionary, const DataSet& set, const Exiv2::Value& value) {
-    const QString key = QString::fromLatin1(set.key);
-    if (!set.repeatable) {
+void addDataSet(QVariantMap& dictionary, std::uint16_t number, const Exiv2::Value& value) {
+    const QString key = keyOf(number);
+    if (key.isEmpty()) return;
+    if (!Exiv2::IptcDataSets::dataSetRepeatable(number, Exiv2::IptcDataSets::application2)) {
         if (!dictionary.contains(key)) dictionary.insert(key, storedText(value));
         return;
     }
@@ -155,7 +142,7 @@ QVariantMap iptcDictionary(const Exiv2::IptcData& iptc, const Exiv2::XmpData& xm
     QVariantMap dictionary;
     for (const Exiv2::Iptcdatum& datum : iptc) {
         if (datum.record() != Exiv2::IptcDataSets::application2) continue;
-        if (const DataSet* set = findDataSet(datum.tag())) addDataSet(dictionary, *set, datum.value());
+        addDataSet(dictionary, datum.tag(), datum.value());
     }
     for (const XmpProperty& property : XmpProperties) {
         const Exiv2::Value* stored = find(xmp, property.name);

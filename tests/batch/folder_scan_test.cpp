@@ -6,6 +6,10 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
 
 namespace zelto {
 namespace {
@@ -59,6 +63,31 @@ TEST_F(FolderScan, AFolderThatCannotBeListedIsAnError) {
         ASSERT_FALSE(found);
         EXPECT_EQ(found.error().path, path);
     }
+}
+
+TEST_F(FolderScan, TellsOfWhatItCannotTakeInsteadOfDroppingIt) {
+    make(u"good.jpg|sub/x.png"_s);
+    const QByteArray top = QFile::encodeName(folder_.path());
+    for (const char* name : {"/b\xE4r.jpg", "/sub\xFF/c.png", "/b\xE4r.txt"}) {
+        const std::filesystem::path path((top + name).toStdString());
+        std::filesystem::create_directories(path.parent_path());
+        ASSERT_TRUE(std::ofstream(path).put('x'));
+    }
+    ASSERT_TRUE(QFile::link(u"/nowhere/at/all"_s, folder_.filePath(u"link.tif"_s)));
+    EXPECT_EQ(scanned(true), u"b\uFFFDr.jpg good.jpg link.tif sub/x.png sub\uFFFD/c.png"_s);
+    std::filesystem::permissions((top + "/sub").toStdString(), std::filesystem::perms::none);
+    const auto scan = scanFolder(folder_.path(), true, GetExtensionList({}));
+    std::filesystem::permissions((top + "/sub").toStdString(), std::filesystem::perms::owner_all);
+    for (const auto& entry : std::filesystem::directory_iterator(top.toStdString()))
+        std::filesystem::remove_all(entry.path());  // Qt would leave the names that are no text
+    ASSERT_TRUE(scan);
+    QStringList problems;
+    for (const ScanProblem& problem : scan->problems)
+        problems.append(QDir(folder_.path()).relativeFilePath(problem.path) + u' ' + problem.text.left(8));
+    QStringList expected = {u"b\uFFFDr.jpg the name"_s, u"link.tif the link"_s,
+                            u"sub\uFFFD/c.png the name"_s};
+    if (geteuid() != 0) expected.insert(2, u"sub the fold"_s);
+    EXPECT_EQ(problems, expected);
 }
 
 TEST_F(FolderScan, IsBrokenOffWhereItIsNotToGoOn) {

@@ -40,6 +40,36 @@ TEST_F(Shards, TogetherWriteWhatOneRunWrites) {
     EXPECT_EQ(differences(filesBelow(u"out"_s), whole), "");
 }
 
+TEST_F(Shards, ReportsAreMergedIntoThatOfOneRun) {
+    const auto reportFile = [&](const QString& shard, const char* name) {
+        return makeFile(QLatin1String(name), run(QStringList(u"--json"_s) + arguments(shard)).output);
+    };
+    const QStringList parts = {reportFile(u"1/3"_s, "1.json"), reportFile(u"0/3"_s, "0.json"),
+                               reportFile(u"2/3"_s, "2.json")};
+    const QByteArray whole = run(QStringList(u"--json"_s) + arguments(u"0/1"_s)).output;
+    const auto merged = [&](const QStringList& files) {
+        return runBare(QStringList(u"--merge-reports"_s) + files);
+    };
+    EXPECT_EQ(merged(parts).output.toStdString(), whole.toStdString());
+    EXPECT_EQ(merged(parts).exitStatus, 1) << "one photo is damaged";
+    QByteArray interrupted = run(QStringList(u"--json"_s) + arguments(u"2/3"_s)).output;
+    interrupted.replace("\"interrupted\": false", "\"interrupted\": true");
+    const QString broken = makeFile(u"broken.json"_s, interrupted);
+    EXPECT_EQ(merged({parts[0], parts[1], broken}).exitStatus, 130);
+    const std::pair<QStringList, const char*> refused[] = {
+        {parts.mid(0, 2), "2/3"},
+        {parts + parts.mid(2), "2/3 is there twice"},
+        {parts.mid(1) + QStringList(reportFile(u"1/4"_s, "4.json")), "1/4"},
+        {{path(u"mark.zcs"_s)}, "mark.zcs"},
+        {{}, "name the reports"},
+    };
+    for (const auto& [files, complaint] : refused) {
+        const ProgramRun result = merged(files);
+        EXPECT_EQ(result.exitStatus, 2) << complaint;
+        EXPECT_TRUE(result.errors.contains(complaint)) << result.errors.toStdString();
+    }
+}
+
 TEST_F(Shards, RunUnderGnuParallelAsTheExampleSays) {
     const QString odd = path(u"it's $HOME; \"the\" folder"_s);
     ASSERT_TRUE(QDir().rename(path(u"in"_s), odd));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "metadata/image_properties.h"
 
+#include "metadata/exif_dictionary.h"
+#include "metadata/iptc_dictionary.h"
 #include "platform/whole_file.h"
 #include "support/exiftool.h"
 
@@ -11,6 +13,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -33,6 +36,47 @@ void expectProperties(const QVariantMap& dictionary, const char* expected, const
             << qPrintable(file) << " " << qPrintable(key) << " "
             << qPrintable(QDebug::toString(dictionary.value(key)));
     }
+}
+
+// The names come from exiv2, but for those the dictionaries name otherwise: a version of exiv2 that changes one changes
+// the macros of users.
+TEST(ImageProperties, HaveTheNamesThatMacrosKnow) {
+    Exiv2::ExifData exif;
+    for (const Exiv2::TagInfo* tag = Exiv2::ExifTags::tagList("Photo"); tag->tag_ != 0xFFFF; ++tag)
+        exif[Exiv2::ExifKey(tag->tag_, "Photo").key()] = std::uint16_t{1};
+    EXPECT_EQ(QStringList(exifDictionary(exif).keys()).join(u' ').toStdString(),
+              "ApertureValue BodySerialNumber BrightnessValue CFAPattern CameraOwnerName ColorSpace "
+              "ComponentsConfiguration CompressedBitsPerPixel Contrast CustomRendered DateTimeDigitized "
+              "DateTimeOriginal DeviceSettingDescription DigitalZoomRatio ExifVersion ExposureBiasValue "
+              "ExposureIndex ExposureMode ExposureProgram ExposureTime FNumber FileSource Flash "
+              "FlashEnergy FlashPixVersion FocalLenIn35mmFilm FocalLength FocalPlaneResolutionUnit "
+              "FocalPlaneXResolution FocalPlaneYResolution GainControl Gamma ISOSpeed ISOSpeedLatitudeyyy "
+              "ISOSpeedLatitudezzz ISOSpeedRatings ImageUniqueID LensMake LensModel LensSerialNumber "
+              "LensSpecification LightSource MaxApertureValue MeteringMode OECF OffsetTime "
+              "OffsetTimeDigitized OffsetTimeOriginal PixelXDimension PixelYDimension "
+              "RecommendedExposureIndex RelatedSoundFile Saturation SceneCaptureType SceneType "
+              "SensingMethod SensitivityType Sharpness ShutterSpeedValue SpatialFrequencyResponse "
+              "SpectralSensitivity StandardOutputSensitivity SubjectArea SubjectDistRange SubjectDistance "
+              "SubjectLocation SubsecTime SubsecTimeDigitized SubsecTimeOriginal UserComment WhiteBalance");
+    Exiv2::IptcData iptc;
+    Exiv2::StringValue text("x");
+    for (const Exiv2::DataSet* set = Exiv2::IptcDataSets::application2RecordList(); set->number_ != 0xFFFF;
+         ++set)
+        iptc.add(Exiv2::IptcKey(set->number_, Exiv2::IptcDataSets::application2), &text);
+    const QVariantMap found = iptcDictionary(iptc, {});
+    QStringList names;  // with a star where there may be several
+    for (auto entry = found.cbegin(); entry != found.cend(); ++entry)
+        names.append(entry->typeId() == QMetaType::QVariantList ? entry.key() + u'*' : entry.key());
+    EXPECT_EQ(names.join(u' ').toStdString(),
+              "ActionAdvised Byline* BylineTitle* Caption/Abstract Category City Contact* "
+              "ContentLocationCode* ContentLocationName* CopyrightNotice Country/PrimaryLocationCode "
+              "Country/PrimaryLocationName Credit DateCreated DigitalCreationDate DigitalCreationTime "
+              "EditStatus EditorialUpdate ExpirationDate ExpirationTime FixtureIdentifier Headline "
+              "ImageOrientation ImageType Keywords* LanguageIdentifier ObjectAttributeReference* "
+              "ObjectCycle ObjectName ObjectTypeReference OriginalTransmissionReference OriginatingProgram "
+              "ProgramVersion Province/State ReferenceDate* ReferenceNumber* ReferenceService* ReleaseDate "
+              "ReleaseTime Source SpecialInstructions SubLocation SubjectReference* SupplementalCategory* "
+              "TimeCreated Urgency Writer/Editor*");
 }
 
 TEST(ImageProperties, ReadsRealTagsOfJpegTiffAndPng) {

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int WholePercentage = 100;
 constexpr int LargestPercentage = 10'000;
-constexpr int LargestSide = 100'000;  // pixels; no format that is written holds more
+constexpr int LargestSide = 100'000;  // pixels; more than any photo is enlarged to
 
 }  // namespace
 
