@@ -4,7 +4,7 @@
 // the run.
 #pragma once
 
-#include "batch/photo_warning.h"
+#include "records/photo_warning.h"
 
 #include <QLatin1String>
 #include <QSize>

@@ -4,7 +4,7 @@
 // batch_request.h makes a plan; both programs tell the user from it, and the run follows it.
 #pragma once
 
-#include "batch/photo_warning.h"
+#include "records/photo_warning.h"
 
 #include <QString>
 #include <QStringList>

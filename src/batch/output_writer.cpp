@@ -98,6 +98,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     PreparedPhoto photo;
     photo.dpi = scene->dpiX;
     photo.lastAutoNumber = scene->lastAutoNumber;
+    photo.warnings = warningsOf(*scene);
     const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
                                  scene->dpiX, scene->dpiY};
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);

@@ -4,9 +4,9 @@
 // watermarked photos.
 #pragma once
 
-#include "batch/photo_warning.h"
 #include "pictures/pdf_document.h"
 #include "platform/result.h"
+#include "records/photo_warning.h"
 
 #include <QByteArray>
 #include <QDateTime>

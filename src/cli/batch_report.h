@@ -3,8 +3,8 @@
 #pragma once
 
 #include "batch/batch_request.h"
-#include "batch/photo_warning.h"
 #include "cli/shard.h"
+#include "records/photo_warning.h"
 
 #include <QByteArray>
 #include <QSize>

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_additions.h"
 
+#include "pictures/lengths.h"
+
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace zelto {
 namespace {
@@ -22,35 +23,9 @@ bool isWholeByte(float value) {
     return value >= 0.0F && value <= 255.0F && value == std::floor(value);
 }
 
-// Sizes that are whole but for rounding dust must not grow by a pixel.
-int roundedUp(double size) {
-    return std::max(1, static_cast<int>(std::ceil(size - 1e-6)));
-}
-
-QImage turnedBy(const QImage& picture, double degrees) {
-    const double quarters = degrees / 90.0;
-    if (quarters == std::floor(quarters)) {
-        const int turns = static_cast<int>(std::fmod(quarters, 4.0) + 4.0) % 4;
-        return turns == 0 ? picture : picture.transformed(QTransform().rotate(-90.0 * turns));
-    }
-    const double radians = degrees * std::numbers::pi / 180.0;
-    const double width =
-        picture.width() * std::abs(std::cos(radians)) + picture.height() * std::abs(std::sin(radians));
-    const double height =
-        picture.width() * std::abs(std::sin(radians)) + picture.height() * std::abs(std::cos(radians));
-    QImage canvas(roundedUp(width), roundedUp(height), QImage::Format_ARGB32_Premultiplied);
-    canvas.fill(Qt::transparent);
-    QPainter painter(&canvas);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(canvas.width() / 2.0, canvas.height() / 2.0);
-    painter.rotate(-degrees);
-    painter.drawImage(QPointF(-picture.width() / 2.0, -picture.height() / 2.0), picture);
-    return canvas;
-}
-
 }  // namespace
 
-QImage replaceColor(QImage picture, float red, float green, float blue, [[maybe_unused]] double tolerance) {
+QImage replaceColor(QImage picture, float red, float green, float blue) {
     const float bytes[] = {red * 255.0F, green * 255.0F, blue * 255.0F};
     if (!std::all_of(std::begin(bytes), std::end(bytes), isWholeByte)) return picture;
     const QRgb wanted =
@@ -77,11 +52,25 @@ QImage imageWithOpacity(QImage picture, double opacity) {
     return picture;
 }
 
-QImage imageRotatedByDegrees(const QImage& picture, double degrees, double opacity) {
-    if (picture.isNull() || !std::isfinite(degrees)) return {};
-    QImage turned = turnedBy(picture, degrees);
-    turned.convertTo(QImage::Format_ARGB32_Premultiplied);
-    return imageWithOpacity(std::move(turned), opacity);
+QImage imageRotatedByDegrees(const QImage& picture, std::int64_t degrees) {
+    if (picture.isNull()) return {};
+    const std::int64_t turn = (degrees % 360 + 360) % 360;
+    if (turn % 90 == 0) {
+        QImage turned =
+            turn == 0 ? picture : picture.transformed(QTransform().rotate(-static_cast<double>(turn)));
+        turned.convertTo(QImage::Format_ARGB32_Premultiplied);
+        return turned;
+    }
+    const QSizeF size = rotatedSize(picture.size(), turn);
+    QImage canvas(static_cast<int>(wholePixels(size.width())), static_cast<int>(wholePixels(size.height())),
+                  QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(canvas.width() / 2.0, canvas.height() / 2.0);
+    painter.rotate(-static_cast<double>(turn));
+    painter.drawImage(QPointF(-picture.width() / 2.0, -picture.height() / 2.0), picture);
+    return canvas;
 }
 
 }  // namespace zelto

@@ -21,7 +21,7 @@ void initImage(Watermark& w) {
     w.ResizeFormat = 1;
     w.PreserverAspectRatio = true;
     w.TransparentColor = Color::black();
-    w.ImageProportionalResize = QStringLiteral("Width");
+    w.ImageProportionalResize = photo_side::Width;
 }
 
 void initShape(Watermark& w) {
@@ -35,7 +35,7 @@ void initShape(Watermark& w) {
 }
 
 void initQrCode(Watermark& w) {
-    w.ResizeFormat = 0;
+    w.ResizeFormat = qr_resize::Relative;
     w.ResizeWidth = 0.2F;
     w.ResizebyWidth = true;
     w.Text = QLatin1String("");

@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace zelto {
 
@@ -32,6 +33,64 @@ inline constexpr std::int32_t Ellipse = 2;
 inline constexpr std::int32_t Polygon = 3;
 inline constexpr std::int32_t Line = 4;  // a bar: Width is its length, Height its thickness
 }  // namespace shape_type
+
+// What `Watermark::Alignment` may hold. No line is ever stretched, so justified lines are set as natural ones
+// are: by the direction of their writing.
+namespace text_alignment {
+inline constexpr std::uint64_t Left = 0;
+inline constexpr std::uint64_t Right = 1;
+inline constexpr std::uint64_t Centre = 2;
+inline constexpr std::uint64_t Justified = 3;
+inline constexpr std::uint64_t Natural = 4;
+}  // namespace text_alignment
+
+// What `Watermark::TextEffect` may hold. Every number but None embosses; Emboss is the one editors store.
+namespace text_effect {
+inline constexpr std::int32_t None = 0;
+inline constexpr std::int32_t Emboss = 3;
+}  // namespace text_effect
+
+// What `Watermark::GradeintType` may hold; any other number means LeftToRight.
+namespace gradient_type {
+inline constexpr std::int64_t LeftToRight = 1;
+inline constexpr std::int64_t TopToBottom = 2;
+inline constexpr std::int64_t LowerRightToUpperLeft = 3;
+inline constexpr std::int64_t UpperRightToLowerLeft = 4;
+inline constexpr std::int64_t FromCentre = 5;
+}  // namespace gradient_type
+
+// What `Watermark::ResizeFormat` may hold for a logo; every number but Absolute is proportional.
+namespace logo_resize {
+inline constexpr std::int64_t Proportional = 0;
+inline constexpr std::int64_t Absolute = 2;
+}  // namespace logo_resize
+
+// What `Watermark::ResizeFormat` may hold for a QR code; every number but Relative is in pixels.
+namespace qr_resize {
+inline constexpr std::int64_t Relative = 0;
+inline constexpr std::int64_t Absolute = 1;
+}  // namespace qr_resize
+
+// The side of the photo that a relative size follows: FontRelativeSize of a text, ImageProportionalResize of a
+// logo.
+namespace photo_side {
+inline constexpr QLatin1String Width("Width");
+inline constexpr QLatin1String Height("Height");
+inline constexpr QLatin1String LongerSide("Longer Side");
+}  // namespace photo_side
+
+// The encoded bytes of a logo's file. Two copies of the same bytes are recognised by their address, since a stack
+// is compared with its earlier state at every edit and a logo may have megabytes.
+struct LogoBytes : QByteArray {
+    LogoBytes() = default;
+    explicit LogoBytes(QByteArray bytes) : QByteArray(std::move(bytes)) {}
+    using QByteArray::operator=;
+
+    bool operator==(const LogoBytes& other) const {
+        const bool isShared = constData() == other.constData() && size() == other.size();
+        return isShared || static_cast<const QByteArray&>(*this) == static_cast<const QByteArray&>(other);
+    }
+};
 
 // What `Watermark::Position` may hold besides 1 to 9, the cells of a 3 x 3 grid numbered row by row from the
 // top left.
@@ -67,24 +126,21 @@ struct Watermark {
     std::int64_t PaddingTop = 0;
     std::int64_t PaddingRight = 0;
     std::int64_t PaddingBottom = 0;
-    QString LabelName;
-    QString SettingName;
     bool IsRelative = false;
-    QString FontRelativeSize;  // "Fixed", "Width", "Height" or "Longer Side"
+    QString FontRelativeSize;  // one of photo_side, or "Fixed"
     bool IsEnabled = false;
-    std::uint64_t Alignment = 0;  // 0 left, 1 right, 2 centre, 3 justified, 4 natural
+    std::uint64_t Alignment = text_alignment::Left;
     bool Resize = false;
     bool PreserverAspectRatio = false;
     float Height = 0.0F;
     float Width = 0.0F;
     float ResizeHeight = 0.0F;
     float ResizeWidth = 0.0F;
-    std::int64_t ResizeFormat =
-        0;  // logo: 2 absolute pixels, else relative; QR code: 0 relative, else pixels
+    std::int64_t ResizeFormat = 0;  // logo: one of logo_resize; QR code: one of qr_resize
     std::int64_t Sides = 0;
     bool ResizebyWidth = false;
-    QString ImageProportionalResize;  // "Proportional", "Width", "Height" or "Longer Side"
-    QByteArray ImageData;             // the encoded bytes of the logo file
+    QString ImageProportionalResize;  // one of photo_side; any other text gives the logo no size
+    LogoBytes ImageData;
     bool ResizeHeightByPercent = false;
     bool ResizeWidthByPercent = false;
     bool SolidBackground = false;
@@ -92,8 +148,8 @@ struct Watermark {
     bool CreateBW = false;
     bool UseTransparentColor = false;  // embossed text: the letters' faces are left out
     std::int32_t ShapeType = 0;
-    std::int32_t TextEffect = 0;    // 0 plain, any other value embossed (3 is what the editor stores)
-    std::int64_t GradeintType = 0;  // 1 left to right, 2 top to bottom, 3 and 4 diagonal, 5 radial
+    std::int32_t TextEffect = text_effect::None;
+    std::int64_t GradeintType = 0;  // one of gradient_type
     std::optional<Color> SolidColor;
     std::optional<Color> FirstColor;
     std::optional<Color> SecondColor;

@@ -1,46 +1,78 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/layer_builder.h"
 
+#include "pictures/lengths.h"
 #include "render/logo.h"
 #include "render/opacity.h"
 #include "render/placement.h"
 #include "render/qr_code.h"
 #include "render/shape.h"
 #include "render/text_block.h"
+#include "render/text_layout.h"
+#include "render/tiling.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace zelto {
 namespace {
 
 struct Content {
-    LayerContent what;
-    QSizeF size;
+    LayerContent what{};
+    QSizeF size = QSizeF(0.0, 0.0);
+    std::optional<LayerWarning> warning{};
 };
 
-Content pictureContent(QImage picture, QSizeF size) {
-    if (picture.isNull()) return {std::monostate(), size};
-    return {std::move(picture), size};
+bool isBlank(const QString& text) {
+    return text.trimmed().isEmpty();
 }
 
 Content textContent(const Watermark& record, const QString& text, QSizeF reference) {
     TextBlock block = makeTextBlock(record, text, reference);
+    const TextFont font = block.attributes.font;
     const QSizeF size = block.size;
-    return {std::move(block), size};
+    Content content{std::move(block), size};
+    if (isBlank(text)) {
+        content.warning = LayerWarning::emptyText();
+    } else if (const QStringList missing = missingLetters(text, font); !missing.isEmpty()) {
+        content.warning = LayerWarning::missingLetters(missing);
+    } else if (!(font.pointSize > 0.0)) {
+        content.warning = LayerWarning::noLayer(QStringLiteral("The font has the size 0."));
+    }
+    return content;
 }
 
 Content shapeContent(const Watermark& record, QSizeF reference) {
-    QImage picture = GetShapeImage(record, reference);
-    const QSizeF size = picture.size();
-    return pictureContent(std::move(picture), size);
+    std::optional<ShapeImage> shape = GetShapeImage(record, reference);
+    if (!shape) return {.warning = LayerWarning::noArea()};
+    const QSizeF size = shape->size;
+    return {*std::move(shape), size};
 }
 
 Content qrContent(const Watermark& record, const QString& text, QSizeF reference) {
     const double side = qrSide(record, reference);
-    // A code larger than the photo cannot be read from it; it is drawn at the photo's size and stretched.
-    const double drawn = std::min(side, std::max(reference.width(), reference.height()));
-    return pictureContent(qrImageForString(text, drawn, record.ShadowColor), QSizeF(side, side));
+    std::optional<QrImage> code = qrImageForString(text, side, record.ShadowColor);
+    Content content{.size = QSizeF(side, side)};
+    if (isBlank(text)) {
+        content.warning = LayerWarning::emptyText();
+    } else if (!code && !encodeQrSymbol(text)) {
+        content.warning = LayerWarning::codeTooLong();
+    } else if (!code || moduleSide(*code) < 1.0) {
+        content.warning = LayerWarning::codeTooFine();
+    }
+    if (code) content.what = *std::move(code);
+    return content;
+}
+
+Content logoContent(const Watermark& record, Logo logo) {
+    Content content{.size = logo.size};
+    if (logo.loadedSize.isEmpty()) {
+        content.warning = LayerWarning::logoUnreadable(record.ImagePath);
+    } else if (logo.picture.isNull()) {
+        content.warning = LayerWarning::noLayer(QStringLiteral("The logo has the size 0."));
+    } else {
+        content.what = std::move(logo.picture);
+    }
+    return content;
 }
 
 bool isTurnable(const Watermark& record) {
@@ -51,10 +83,13 @@ bool isTiled(const Watermark& record) {
     return record.HorizontalTiling || record.VerticalTiling;
 }
 
-bool canBePlaced(const Watermark& record) {
-    if (isTurnable(record)) return true;
+// Why a record has no place although there may be something to draw.
+std::optional<LayerWarning> placingWarning(const Watermark& record) {
+    if (isTurnable(record)) return std::nullopt;
+    if (isTiled(record)) return LayerWarning::noLayer(QStringLiteral("Shapes and QR codes are not tiled."));
     const bool isTurnedCode = record.Type == watermark_type::QrCode && record.Rotation != 0;
-    return !isTiled(record) && !isTurnedCode;
+    if (isTurnedCode) return LayerWarning::noLayer(QStringLiteral("QR codes are not turned."));
+    return std::nullopt;
 }
 
 void place(WatermarkView& view, const Watermark& record, Content content, QSizeF reference) {
@@ -75,14 +110,26 @@ void place(WatermarkView& view, const Watermark& record, Content content, QSizeF
                             .size = view.frame.size()};
 }
 
+// Why a layer with something to draw cannot be seen where it lies. One that covers the whole area always can.
+std::optional<LayerWarning> visibilityWarning(const WatermarkView& view, QSizeF reference) {
+    const auto* surface = std::get_if<TilingView>(&view.child);
+    if (surface != nullptr && !hasTiles(*surface)) {
+        return LayerWarning::noLayer(QStringLiteral("Its paddings and spacings leave no room for a tile."));
+    }
+    const QRectF area(QPointF(0.0, 0.0), reference);
+    if (view.frame.contains(area)) return std::nullopt;
+    constexpr double LeastShare = 0.1;
+    const QRectF inside = view.frame.intersected(area);
+    const double seen = inside.width() * inside.height() / (view.frame.width() * view.frame.height());
+    if (seen >= LeastShare) return std::nullopt;
+    return LayerWarning::outside(inside.isEmpty());
+}
+
 }  // namespace
 
-BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, std::size_t index,
-                                         const LayerContext& context) {
+BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, const LayerContext& context) {
     BuiltLayer built;
     WatermarkView view;
-    view.wmark = index;
-    view.hidden = !record.IsEnabled;
     const auto expanded = [&] {
         MacroExpansion expansion = ParseMacros(record.Text, context.macros);
         built.lastAutoNumber = expansion.lastAutoNumber;
@@ -103,14 +150,21 @@ BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, std::size_t in
             Logo logo = loadLogo(record, context.reference, *context.logos);
             view.logoSize = logo.loadedSize;
             view.contentOpacity = opacityOf(record.Transparency);
-            content = pictureContent(std::move(logo.picture), logo.size);
+            content = logoContent(record, std::move(logo));
             break;
         }
         default:
+            built.warning = LayerWarning::noLayer(QStringLiteral("Its kind is unknown."));
             return built;
     }
-    if (!canBePlaced(record)) return built;
+    built.warning = std::move(content.warning);
+    const bool isDrawn = !std::holds_alternative<std::monostate>(content.what);
+    if (std::optional<LayerWarning> unplaced = placingWarning(record)) {
+        if (!built.warning) built.warning = std::move(unplaced);
+        return built;
+    }
     place(view, record, std::move(content), context.reference);
+    if (!built.warning && isDrawn) built.warning = visibilityWarning(view, context.reference);
     built.view = std::move(view);
     return built;
 }

@@ -5,12 +5,12 @@
 
 #include "macros/macro_expander.h"
 #include "records/watermark.h"
+#include "render/layer_warning.h"
 #include "render/logo_cache.h"
 #include "render/watermark_view.h"
 
 #include <QSizeF>
 
-#include <cstddef>
 #include <optional>
 
 namespace zelto {
@@ -25,12 +25,11 @@ struct LayerContext {
 struct BuiltLayer {
     std::optional<WatermarkView> view;     // nothing where the record yields no layer
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
+    std::optional<LayerWarning> warning;   // where the record draws nothing, or nothing that can be seen
 };
 
-// The layer of `record`, which stands at `index` of its stack. There is none for an unknown type, for shapes
-// and QR codes that ask for tiling and for QR codes that ask for a rotation. A disabled record's layer is
-// hidden.
-BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, std::size_t index,
-                                         const LayerContext& context);
+// The layer of `record`. There is none for an unknown type, for shapes and QR codes that ask for tiling and for QR
+// codes that ask for a rotation.
+BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, const LayerContext& context);
 
 }  // namespace zelto

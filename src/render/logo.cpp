@@ -4,6 +4,7 @@
 #include "pictures/picture_additions.h"
 #include "pictures/picture_reader.h"
 #include "pictures/resample.h"
+#include "render/lengths.h"
 #include "render/opacity.h"
 #include "render/photo_filters.h"
 
@@ -15,8 +16,6 @@
 
 namespace zelto {
 namespace {
-
-constexpr std::int64_t AbsoluteSize = 2;
 
 LogoKey keyOf(const Watermark& record) {
     LogoKey key;
@@ -47,7 +46,7 @@ QImage treatedLogo(const Watermark& record, const LogoKey& key) {
     if (logo.isNull()) return logo;
     if (key.removedColor) {
         const Color& color = *key.removedColor;
-        logo = replaceColor(std::move(logo), color.Red, color.Green, color.Blue, 0.0);
+        logo = replaceColor(std::move(logo), color.Red, color.Green, color.Blue);
     }
     if (key.blackAndWhite) logo = ApplyFilter(GrayScaleFilter, std::move(logo));
     return imageWithOpacity(std::move(logo), key.opacity);
@@ -61,22 +60,18 @@ double wholeLength(double length) {
 }  // namespace
 
 QSizeF logoSize(const Watermark& record, QSize loaded, QSizeF reference) {
-    QSizeF size;
-    const double fraction = record.ResizeWidth;
     const QSizeF asLoaded(loaded);
     if (!record.Resize || loaded.isEmpty()) return asLoaded;
-    if (record.ResizeFormat == AbsoluteSize) {
-        size = QSizeF(fraction, record.ResizeHeight);
-    } else if (fraction > 0.0) {
-        const QString& side = record.ImageProportionalResize;
-        const bool longer = side == QLatin1String("Longer Side");
-        const bool portrait = reference.height() > reference.width();
-        if (side == QLatin1String("Height") || (longer && portrait)) {
-            const double height = fraction * reference.height();
-            size = QSizeF(asLoaded.width() / asLoaded.height() * height, height);
-        } else if (side == QLatin1String("Width") || longer) {
-            const double width = fraction * reference.width();
+    QSizeF size;
+    if (record.ResizeFormat == logo_resize::Absolute) {
+        size = QSizeF(record.ResizeWidth, record.ResizeHeight);
+    } else if (const auto side = sideNamed(record.ImageProportionalResize, reference)) {
+        if (*side == Side::Width) {
+            const double width = relativeLength(record.ResizeWidth, reference.width());
             size = QSizeF(width, asLoaded.height() / asLoaded.width() * width);
+        } else {
+            const double height = relativeLength(record.ResizeWidth, reference.height());
+            size = QSizeF(asLoaded.width() / asLoaded.height() * height, height);
         }
     }
     const QSizeF whole(wholeLength(size.width()), wholeLength(size.height()));

@@ -200,8 +200,12 @@ QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOr
     return canvas;
 }
 
+QSize framedSize(QSize photo, const PhotoEffects& effect) {
+    return framedSize(photo, borderFor(effect, photo));
+}
+
 QSize sizeWithEffects(QSize photo, const PhotoEffects& effect) {
-    const QSize framed = framedSize(photo, borderFor(effect, photo));
+    const QSize framed = framedSize(photo, effect);
     if (!effect.EnableShadow) return framed;
     const ShadowPlan plan = shadowPlan(effect);
     const qint64 width = framed.width() + plan.x.growth;

@@ -23,6 +23,9 @@ QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect);
 QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
                         bool final);
 
+// The size of a photo of `photo` pixels on its border, without any shadow.
+QSize framedSize(QSize photo, const PhotoEffects& effect);
+
 // The size imagewithEffects gives the final picture of an opaque photo of `photo` pixels.
 QSize sizeWithEffects(QSize photo, const PhotoEffects& effect);
 

@@ -28,24 +28,35 @@ MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) 
 void frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
     scene.imageRect = scene.picture.rect();
     scene.borderRect = scene.imageRect;
-    scene.referenceSize = scene.picture.size();
+    scene.referenceRect = scene.imageRect;
     if (!effect) return;
     scene.picture =
         imagewithEffects(std::move(scene.picture), *effect, scene.imageRect, scene.borderRect, final);
-    if (effect->ApplyWatermarkOnBorder) scene.referenceSize = scene.borderRect.size();
+    scene.referenceRect = effect->ApplyWatermarkOnBorder ? scene.borderRect : scene.imageRect;
+    scene.referenceRect.moveBottom(scene.picture.height() - 1 - scene.referenceRect.top());
+}
+
+std::optional<PhotoWarning> warningFor(std::size_t index, const Watermark& record,
+                                       const std::optional<LayerWarning>& warning) {
+    if (!warning || !record.IsEnabled) return std::nullopt;
+    const auto place = static_cast<std::int64_t>(index);
+    return PhotoWarning{place, warning->kind,
+                        QStringLiteral("Watermark %1: %2").arg(place + 1).arg(warning->text)};
 }
 
 // Layers of `scene` from the record at `first` up to the one before `end`.
 void buildLayers(PhotoScene& scene, const PhotoRequest& request, std::size_t first, std::size_t end) {
     LogoCache logosOfThisPhoto;
-    const LayerContext context{.reference = scene.referenceSize,
+    const LayerContext context{.reference = scene.referenceRect.size(),
                                .macros = macroContext(scene, request),
                                .logos = request.logos ? request.logos.get() : &logosOfThisPhoto};
     const std::vector<Watermark>& records = request.stack->Watermarks;
     scene.layers.resize(records.size());
+    scene.warnings.resize(records.size());
     for (std::size_t i = first; i < end; ++i) {
-        BuiltLayer built = GetWatermarkViewfromWatermark(records.at(i), i, context);
+        BuiltLayer built = GetWatermarkViewfromWatermark(records.at(i), context);
         scene.layers[i] = std::move(built.view);
+        scene.warnings[i] = warningFor(i, records[i], built.warning);
         if (built.lastAutoNumber) scene.lastAutoNumber = built.lastAutoNumber;
     }
 }
@@ -72,6 +83,14 @@ PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo) {
     frame(scene, stack.Effects, request.final);
     MakeWatermarkChanges(scene, request);
     return scene;
+}
+
+std::vector<PhotoWarning> warningsOf(const PhotoScene& scene) {
+    std::vector<PhotoWarning> warnings;
+    for (const std::optional<PhotoWarning>& warning : scene.warnings) {
+        if (warning) warnings.push_back(*warning);
+    }
+    return warnings;
 }
 
 void MakeWatermarkChanges(PhotoScene& scene, const PhotoRequest& request) {

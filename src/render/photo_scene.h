@@ -7,6 +7,7 @@
 #include "metadata/image_properties.h"
 #include "pictures/picture_reader.h"
 #include "platform/result.h"
+#include "records/photo_warning.h"
 #include "records/watermark_stack.h"
 #include "render/logo_cache.h"
 #include "render/watermark_view.h"
@@ -16,7 +17,6 @@
 #include <QLocale>
 #include <QRect>
 #include <QSize>
-#include <QSizeF>
 #include <QString>
 
 #include <cstddef>
@@ -43,14 +43,18 @@ struct PhotoScene {
     QSize photoSize;  // upright pixels of the file
     double dpiX = 72.0;
     double dpiY = 72.0;
-    QImage picture;        // filtered and framed, without watermarks
-    QRect imageRect;       // the photo inside `picture`, pixels, y up
-    QRect borderRect;      // the framed photo inside `picture`, pixels, y up
-    QSizeF referenceSize;  // the area watermarks are placed in; a shadow around the photo is no part of it
+    QImage picture;    // filtered and framed, without watermarks
+    QRect imageRect;   // the photo inside `picture`, pixels, y up
+    QRect borderRect;  // the framed photo inside `picture`, pixels, y up
+    // The area watermarks are placed in, pixels of `picture`, y down: the photo, or the framed photo where watermarks
+    // may lie on the border. A shadow around the photo is no part of it.
+    QRect referenceRect;
     // The photo's metadata, for the texts that print some; kept so that an edit does not read the file again.
     std::shared_ptr<const LazyImageProperties> properties;
     // One place per record of the stack, in order; empty where a record yields no layer.
     std::vector<std::optional<WatermarkView>> layers;
+    // One place per record as well, filled where an enabled one draws nothing or nothing that can be seen.
+    std::vector<std::optional<PhotoWarning>> warnings;
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
 };
 
@@ -60,6 +64,9 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 // The same for a photo already in memory. Move the photo in: without a filter and a frame its pixels are then
 // the scene's, uncopied.
 PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo);
+
+// The warnings of a scene, in the order of its records.
+std::vector<PhotoWarning> warningsOf(const PhotoScene& scene);
 
 // After an edit of the stack: the layers of a scene built anew from the request's stack, the photo as it was.
 // The stack's filter and effect must still be those the scene was built with.

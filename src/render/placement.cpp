@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cmath>
-#include <numbers>
 
 namespace zelto {
 namespace {
@@ -65,8 +64,8 @@ QPointF origin(const Watermark& record, QSizeF size, QSizeF reference) {
     return {0.0, roomY};
 }
 
-// Truncated first, so that -0.5 and 0.9 are both 0; what is no number is 0 too.
-double wholePixels(double coordinate) {
+// Truncated first, so that -0.5 and 0.9 are both 0; what is not a number is 0 too.
+double truncated(double coordinate) {
     return coordinate > 0.0 ? std::trunc(coordinate) : 0.0;
 }
 
@@ -82,19 +81,9 @@ Anchor rowAnchor(std::int32_t position) {
 
 }  // namespace
 
-QSizeF rotatedSize(QSizeF size, std::int64_t degrees) {
-    const std::int64_t turn = degrees % 180;
-    if (turn == 0) return size;
-    if (turn == 90 || turn == -90) return size.transposed();
-    const double radians = static_cast<double>(turn) * std::numbers::pi / 180.0;
-    const double cosine = std::abs(std::cos(radians));
-    const double sine = std::abs(std::sin(radians));
-    return {size.width() * cosine + size.height() * sine, size.width() * sine + size.height() * cosine};
-}
-
 QRectF placedFrame(const Watermark& record, QSizeF size, QSizeF reference) {
     const QPointF place = origin(record, size, reference);
-    return {QPointF(wholePixels(place.x()), wholePixels(place.y())), size};
+    return {QPointF(truncated(place.x()), truncated(place.y())), size};
 }
 
 QRectF tiledFrame(const Watermark& record, QSizeF turned, QSizeF reference) {

@@ -9,12 +9,7 @@
 #include <QRectF>
 #include <QSizeF>
 
-#include <cstdint>
-
 namespace zelto {
-
-// The bounding box of a rectangle of `size` turned by whole `degrees`. Exact for quarter turns.
-QSizeF rotatedSize(QSizeF size, std::int64_t degrees);
 
 // The frame of content of `size` at the record's position: x and y truncated to whole pixels and never below
 // 0. The centred places are shifted by the left and the top padding alone; nothing keeps a frame from

@@ -13,6 +13,21 @@
 #include <memory>
 
 namespace zelto {
+namespace {
+
+// Lengths of a code in pixels of its surface.
+struct Measures {
+    double surface;  // side, whole pixels
+    double border;   // left free on every side
+    double drawn;    // side of what is inside the border
+
+    explicit Measures(const QrImage& code)
+        : surface(std::max(static_cast<double>(code.symbol.width), wholePixels(code.side))),
+          border(std::trunc(code.side / 20.0)),
+          drawn(code.side - 2.0 * border) {}
+};
+
+}  // namespace
 
 std::optional<QrSymbol> encodeQrSymbol(const QString& text) {
     if (text.isEmpty()) return std::nullopt;
@@ -45,31 +60,45 @@ void drawQRCode(const QrSymbol& symbol, QPainter& painter, double size) {
 }
 
 double qrSide(const Watermark& record, QSizeF reference) {
-    double side = record.ResizeWidth;
-    if (record.ResizeFormat == 0) side = record.ResizebyWidth ? side * reference.width() : 0.0;
-    return side > 0.0 && std::isfinite(side) ? side : 0.0;
+    if (record.ResizeFormat != qr_resize::Relative) return drawnLength(withoutDust(record.ResizeWidth));
+    return record.ResizebyWidth ? drawnLength(relativeLength(record.ResizeWidth, reference.width())) : 0.0;
 }
 
-QImage qrImageForString(const QString& text, double side, const std::optional<Color>& background) {
-    side = withoutDust(side);
-    if (canvasSide(side) == 0) return {};
-    const std::optional<QrSymbol> symbol = encodeQrSymbol(text);
-    if (!symbol) return {};
-    const int surface = std::max(symbol->width, canvasSide(side));
-    QImage picture(surface, surface, QImage::Format_ARGB32_Premultiplied);
-    if (picture.isNull()) return {};
-    picture.fill(background ? toQColor(*background) : QColor(Qt::transparent));
+std::optional<QrImage> qrImageForString(const QString& text, double side,
+                                        const std::optional<Color>& background) {
+    side = drawnLength(side);
+    if (side == 0.0) return std::nullopt;
+    std::optional<QrSymbol> symbol = encodeQrSymbol(text);
+    if (!symbol) return std::nullopt;
+    return QrImage{*std::move(symbol), side, background};
+}
 
-    const double border = std::trunc(side / 20.0);
-    const double drawn = side - 2.0 * border;
-    QPainter painter(&picture);
+double moduleSide(const QrImage& code) {
+    const Measures measures(code);
+    const int units = static_cast<int>(measures.surface) / code.symbol.width;
+    return units * measures.drawn / measures.surface;
+}
+
+void drawQrImage(QPainter& painter, const QrImage& code, const ContentPlace& place) {
+    const Measures measures(code);
+    const QRectF square = place.toPicture.mapRect(QRectF(0.0, 0.0, code.side, code.side));
+    if (visiblePixels(square.adjusted(-1, -1, 1, 1), place.visible).isEmpty()) return;
+    painter.save();
+    painter.setClipRect(place.visible);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(border,
-                      surface - border - drawn);  // the free border is measured from the lower left corner
-    painter.scale(drawn / surface, drawn / surface);
-    drawQRCode(*symbol, painter, surface);
-    painter.end();
-    return picture;
+    painter.setTransform(place.toPicture);
+    // A surface that is larger by less than a pixel stands on the lower edge; one of more pixels is shrunk.
+    const double shrinking = measures.surface > wholePixels(code.side) ? code.side / measures.surface : 1.0;
+    painter.translate(0.0, code.side - measures.surface * shrinking);
+    painter.scale(shrinking, shrinking);
+    if (code.background) {
+        painter.fillRect(QRectF(0.0, 0.0, measures.surface, measures.surface), toQColor(*code.background));
+    }
+    // The free border is measured from the lower left corner.
+    painter.translate(measures.border, measures.surface - measures.border - measures.drawn);
+    painter.scale(measures.drawn / measures.surface, measures.drawn / measures.surface);
+    drawQRCode(code.symbol, painter, measures.surface);
+    painter.restore();
 }
 
 }  // namespace zelto

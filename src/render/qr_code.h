@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// QR code watermarks: black modules on an optional background with a quiet border. Encoding the symbol is
-// libqrencode's work, which guards its own tables. Reentrant, any thread.
+// QR code watermarks: black modules on an optional background with a quiet border, drawn straight onto the photo.
+// Encoding the symbol is libqrencode's work, which guards its own tables. Reentrant, any thread.
 #pragma once
 
 #include "records/watermark.h"
+#include "render/content_place.h"
+#include "render/watermark_view.h"
 
-#include <QByteArray>
-#include <QImage>
 #include <QSizeF>
 #include <QString>
 
@@ -15,12 +15,6 @@
 class QPainter;
 
 namespace zelto {
-
-// A symbol of width x width modules, row by row from the top; bit 0 of a module says whether it is dark.
-struct QrSymbol {
-    int width = 0;
-    QByteArray modules;
-};
 
 // The symbol of `text` in UTF-8 at the lowest level of error correction, in the smallest version that holds
 // it. Nothing for an empty text or one too long for a QR code.
@@ -34,10 +28,17 @@ void drawQRCode(const QrSymbol& symbol, QPainter& painter, double size);
 // it none.
 double qrSide(const Watermark& record, QSizeF reference);
 
-// The square picture of `text`, `side` pixels wide or as wide as the symbol has modules where that is more,
-// always whole pixels. A twentieth of `side` stays free on every side. A null picture for an empty text, one
-// too long for a QR code, or a side that is not above 0 or cannot be drawn. Without a background the space
-// between modules is transparent.
-QImage qrImageForString(const QString& text, double side, const std::optional<Color>& background);
+// The code of `text`, `side` pixels wide. Nothing for an empty text, one too long for a QR code, or a side that is not
+// above 0.
+std::optional<QrImage> qrImageForString(const QString& text, double side,
+                                        const std::optional<Color>& background);
+
+// The side in pixels of one drawn module.
+double moduleSide(const QrImage& code);
+
+// Draws the part of the code that is visible: modules of whole units on a surface of as many units as the side has
+// pixels, rounded up, or the symbol has modules, where that is more. The surface, its quiet border cut from it, then
+// fills the square. Content pixels are those of the square; the painter's own transform must be the identity.
+void drawQrImage(QPainter& painter, const QrImage& code, const ContentPlace& place);
 
 }  // namespace zelto

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/shape.h"
 
-#include "pictures/picture_reader.h"
 #include "render/lengths.h"
+#include "render/opacity.h"
 #include "render/qt_color.h"
 
 #include <QBrush>
@@ -20,14 +20,11 @@ namespace zelto {
 namespace {
 
 constexpr int MaximumSides = 10'000;  // more only makes the same round outline
-constexpr std::int64_t RadialGradient = 5;
-
-// Lengths are worked out in single precision, like the records that hold them: 0.2 of 4000 is 800 there.
-double length(bool relative, float fraction, double reference, float pixels) {
-    return withoutDust(relative ? fraction * static_cast<float>(reference) : pixels);
+double length(bool isRelative, float fraction, double reference, float pixels) {
+    return drawnLength(isRelative ? relativeLength(fraction, reference) : withoutDust(pixels));
 }
 
-QSizeF shapeSize(const Watermark& shape, QSizeF reference) {
+QSizeF outlineSize(const Watermark& shape, QSizeF reference) {
     return {length(shape.ResizeWidthByPercent, shape.ResizeWidth, reference.width(), shape.Width),
             length(shape.ResizeHeightByPercent, shape.ResizeHeight, reference.height(), shape.Height)};
 }
@@ -54,16 +51,16 @@ QPainterPath polygon(std::int64_t sides, QSizeF size) {
     return path;
 }
 
-QPainterPath outline(const Watermark& shape, QSizeF size) {
-    const QRectF bounds(QPointF(0.0, 0.0), size);
+QPainterPath outlineOf(const ShapeImage& shape) {
+    const QRectF bounds(QPointF(0.0, 0.0), shape.outline);
     QPainterPath path;
-    switch (shape.ShapeType) {
+    switch (shape.kind) {
         case shape_type::Rectangle:
         case shape_type::Line:
             path.addRect(bounds);
             break;
         case shape_type::Polygon:
-            path = polygon(shape.Sides, size);
+            path = polygon(shape.sides, shape.outline);
             break;
         default:
             path.addEllipse(bounds);
@@ -75,11 +72,11 @@ QPainterPath outline(const Watermark& shape, QSizeF size) {
 // Degrees, counter-clockwise from the right, y up.
 double gradientAngle(std::int64_t type) {
     switch (type) {
-        case 2:
+        case gradient_type::TopToBottom:
             return 270.0;
-        case 3:
+        case gradient_type::LowerRightToUpperLeft:
             return 135.0;
-        case 4:
+        case gradient_type::UpperRightToLowerLeft:
             return 225.0;
         default:
             return 0.0;
@@ -94,20 +91,20 @@ QLinearGradient linearGradient(double degrees, const QRectF& bounds) {
     return {bounds.center() - reach, bounds.center() + reach};
 }
 
-QBrush fill(const Watermark& shape, const QRectF& bounds) {
+QBrush fill(const ShapeImage& shape, const QRectF& bounds) {
     const auto paint = [](const std::optional<Color>& color) {
         return color ? toQColor(*color) : QColor(Qt::transparent);
     };
-    if (shape.SolidBackground) return paint(shape.SolidColor);
+    if (shape.gradient == ShapeImage::PlainFill) return paint(shape.first);
     const auto colored = [&](auto gradient) {
-        gradient.setColorAt(0.0, paint(shape.FirstColor));
-        gradient.setColorAt(1.0, paint(shape.SecondColor));
+        gradient.setColorAt(0.0, paint(shape.first));
+        gradient.setColorAt(1.0, paint(shape.second));
         return QBrush(gradient);
     };
-    if (shape.GradeintType == RadialGradient) {
+    if (shape.gradient == gradient_type::FromCentre) {
         return colored(QRadialGradient(bounds.center(), std::hypot(bounds.width(), bounds.height()) / 2.0));
     }
-    return colored(linearGradient(gradientAngle(shape.GradeintType), bounds));
+    return colored(linearGradient(gradientAngle(shape.gradient), bounds));
 }
 
 // Degrees clockwise as seen, 0 to 359. A circle does not turn; the record's own sides say whether it is one,
@@ -117,40 +114,52 @@ int turn(const Watermark& shape) {
     return circle ? 0 : static_cast<int>((shape.Rotation % 360 + 360) % 360);
 }
 
+// From the outline's own space, y up, to the pixels of the shape's box, y down. Unturned the outline stands on the
+// lower edge, turned it is centred.
+QTransform toBox(const ShapeImage& shape) {
+    QTransform transform;
+    if (shape.degrees == 0) {
+        transform.translate(0.0, shape.size.height());
+        transform.scale(1.0, -1.0);
+    } else {
+        transform.translate(shape.size.width() / 2.0, shape.size.height() / 2.0);
+        transform.rotate(shape.degrees);
+        transform.scale(1.0, -1.0);
+        transform.translate(-shape.outline.width() / 2.0, -shape.outline.height() / 2.0);
+    }
+    return transform;
+}
+
 }  // namespace
 
-QImage GetShapeImage(const Watermark& shape, QSizeF reference) {
-    const QSizeF size = shapeSize(shape, reference);
-    if (canvasSide(size.width()) == 0 || canvasSide(size.height()) == 0) return {};
-    const QPainterPath path = outline(shape, size);
-    if (path.isEmpty()) return {};
+std::optional<ShapeImage> GetShapeImage(const Watermark& record, QSizeF reference) {
+    ShapeImage shape{.kind = record.ShapeType,
+                     .sides = record.Sides,
+                     .outline = outlineSize(record, reference),
+                     .degrees = turn(record),
+                     .gradient = record.SolidBackground ? ShapeImage::PlainFill : record.GradeintType,
+                     .first = record.SolidBackground ? record.SolidColor : record.FirstColor,
+                     .second = record.SecondColor,
+                     .opacity = opacityOf(record.Transparency),
+                     .size = {}};
+    if (outlineOf(shape).boundingRect().isEmpty()) return std::nullopt;
+    const QSizeF turned = rotatedSize(shape.outline, shape.degrees);
+    shape.size = QSizeF(wholePixels(turned.width()), wholePixels(turned.height())).toSize();
+    if (shape.size.isEmpty()) return std::nullopt;
+    return shape;
+}
 
-    const int degrees = turn(shape);
-    const QRectF turned = QTransform().rotate(degrees).mapRect(QRectF(QPointF(0.0, 0.0), size));
-    const QSize canvasSize(canvasSide(turned.width()), canvasSide(turned.height()));
-    if (canvasSize.isEmpty() || qint64{canvasSize.width()} * canvasSize.height() > MaximumPicturePixels)
-        return {};
-    QImage canvas(canvasSize, QImage::Format_ARGB32_Premultiplied);
-    if (canvas.isNull()) return {};
-    canvas.fill(Qt::transparent);
-
-    QPainter painter(&canvas);
+void drawShape(QPainter& painter, const ShapeImage& shape, const ContentPlace& place) {
+    const QRectF box = place.toPicture.mapRect(QRectF(QPointF(0.0, 0.0), shape.size));
+    if (visiblePixels(box, place.visible).isEmpty()) return;
+    const QPainterPath path = outlineOf(shape);
+    painter.save();
+    painter.setClipRect(place.visible);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(shape.Transparency > 0.0F ? std::min(shape.Transparency, 1.0F) : 0.0F);
-    // From the outline's own space, y up, to the canvas: unturned it stands on the bottom edge, turned it is
-    // centred.
-    if (degrees == 0) {
-        painter.translate(0.0, canvas.height());
-        painter.scale(1.0, -1.0);
-    } else {
-        painter.translate(canvas.width() / 2.0, canvas.height() / 2.0);
-        painter.rotate(degrees);
-        painter.scale(1.0, -1.0);
-        painter.translate(-size.width() / 2.0, -size.height() / 2.0);
-    }
+    painter.setOpacity(shape.opacity);
+    painter.setTransform(toBox(shape) * place.toPicture);
     painter.fillPath(path, fill(shape, path.boundingRect()));
-    painter.end();
-    return canvas;
+    painter.restore();
 }
 
 }  // namespace zelto

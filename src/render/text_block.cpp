@@ -2,6 +2,7 @@
 #include "render/text_block.h"
 
 #include "pictures/picture_additions.h"
+#include "render/lengths.h"
 #include "render/opacity.h"
 #include "render/photo_shadow.h"
 #include "render/qt_color.h"
@@ -26,18 +27,16 @@ constexpr QPoint ShadowOffset(5, -5);  // right and up
 double pointSize(const Watermark& record, QSizeF reference) {
     const auto size = static_cast<double>(record.FontSize);
     if (!record.IsRelative) return std::min(size, LargestFontSize);
-    double side = reference.height();
-    if (record.FontRelativeSize == QLatin1String("Width")) side = reference.width();
-    if (record.FontRelativeSize == QLatin1String("Longer Side")) side = std::max(side, reference.width());
+    const bool byWidth = sideNamed(record.FontRelativeSize, reference) == Side::Width;
+    const double side = byWidth ? reference.width() : reference.height();
     constexpr double PointsOfSide = 0.75;
     return std::min(size / 100.0 * (side * PointsOfSide), LargestFontSize);
 }
 
-constexpr std::uint64_t NaturalAlignment = 4;
-
 TextAttributes defaultAttributes() {
-    return {
-        .font = {.pointSize = DefaultFontSize}, .foreground = Color::black(), .alignment = NaturalAlignment};
+    return {.font = {.pointSize = DefaultFontSize},
+            .foreground = Color::black(),
+            .alignment = text_alignment::Natural};
 }
 
 TextAttributes attributesOf(const Watermark& record, QSizeF reference) {
@@ -54,6 +53,10 @@ TextAttributes attributesOf(const Watermark& record, QSizeF reference) {
     attributes.strikethrough = record.FontStrikethrough;
     if (record.Shadow) attributes.shadow = record.ShadowColor;
     return attributes;
+}
+
+int shadowReach(const TextBlock& block) {
+    return block.attributes.shadow ? ShadowBlur + ShadowOffset.x() : 0;
 }
 
 QRectF blockRect(const TextBlock& block) {
@@ -75,9 +78,10 @@ struct Group {
 
     // Leaves out what is transparent and has nothing drawn on it within `reach` pixels.
     void tighten(int reach) {
-        const QRect ink = inkBox().adjusted(-reach, -reach, reach, reach).intersected(image.rect());
-        image = image.copy(ink);
-        pixels = ink.translated(pixels.topLeft());
+        const QRect ink = inkBox();
+        const QRect kept = ink.adjusted(-reach, -reach, reach, reach).intersected(image.rect());
+        image = ink.isEmpty() ? QImage() : image.copy(kept);
+        pixels = kept.translated(pixels.topLeft());
     }
 
   private:
@@ -99,7 +103,7 @@ struct Group {
             while (last - row > right + 1 && !isInk(*(last - 1))) --last;
             right = std::max(right, static_cast<int>(last - row) - 1);
         }
-        return {QPoint(left, top), QPoint(right, bottom)};
+        return bottom < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
     }
 };
 
@@ -118,7 +122,7 @@ void drawLabelText(QPainter& painter, const TextBlock& block, const QTransform& 
 // overlap do not show through each other; the shadow takes its strength from the letters' opacity.
 void drawLabelGroup(QPainter& painter, const TextBlock& block, const ContentPlace& place,
                     const QRectF& bounds) {
-    const int reach = block.attributes.shadow ? ShadowBlur + ShadowOffset.x() : 0;
+    const int reach = shadowReach(block);
     const QRect visible = place.visible.adjusted(-reach, -reach, reach, reach);
     Group group(visiblePixels(bounds, visible));
     if (group.image.isNull()) return;
@@ -149,10 +153,8 @@ void drawLabel(QPainter& painter, const TextBlock& block, const ContentPlace& pl
         drawLabelText(painter, block, place.toPicture, place.visible);
         return;
     }
-    // Letters of slanted and written faces reach out of their line's box by less than their size.
-    const double overhang =
-        place.cutToContent ? 0.0 : block.attributes.font.pointSize + ShadowOffset.x() + ShadowBlur;
-    const QRectF bounds = blockRect(block).adjusted(-overhang, -overhang, overhang, overhang);
+    const double more = place.cutToContent ? 0.0 : overhang(block);
+    const QRectF bounds = blockRect(block).adjusted(-more, -more, more, more);
     drawLabelGroup(painter, block, place, place.toPicture.mapRect(bounds));
 }
 
@@ -188,11 +190,16 @@ TextBlock makeTextBlock(const Watermark& record, const QString& text, QSizeF ref
     block.attributes = attributesOf(record, reference);
     const QSizeF measured = measuredText(text, block.attributes.font);
     block.size = QSizeF(measured.width() + BlockMargin, measured.height());
-    block.embossed = record.TextEffect != 0;
+    block.embossed = record.TextEffect != text_effect::None;
     block.hollow = record.UseTransparentColor;
     block.faceColor = record.TextColor.value_or(Color::black());
     block.opacity = opacityOf(record.Transparency);
     return block;
+}
+
+double overhang(const TextBlock& block) {
+    // Letters of slanted and written faces reach out of their line's box by less than their size.
+    return block.embossed ? 0.0 : block.attributes.font.pointSize + shadowReach(block);
 }
 
 void drawTextBlock(QPainter& painter, const TextBlock& block, const ContentPlace& place) {

@@ -19,6 +19,10 @@ namespace zelto {
 // opaque black, without alignment, lines or shadow.
 TextBlock makeTextBlock(const Watermark& record, const QString& text, QSizeF reference);
 
+// How far the block's letters and shadow may reach beyond its rectangle on every side, pixels; 0 for an emboss, which
+// is cut at its edges.
+double overhang(const TextBlock& block);
+
 // Draws the block onto the picture that `painter` is open on; the painter's own transform must be the
 // identity. A label draws beyond its block what its letters and shadow need, unless the place cuts it; an
 // emboss never does.

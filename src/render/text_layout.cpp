@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/text_layout.h"
 
+#include "records/watermark.h"
+
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -8,6 +10,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
+#include <QSet>
 #include <QStringList>
 #include <QTextLayout>
 
@@ -123,13 +126,31 @@ class Line {
     QTextLine line_;
 };
 
+// Whether a letter leaves ink where a font has it. Blanks, controls and marks that only steer others do not.
+bool hasInk(char32_t letter) {
+    switch (QChar::category(letter)) {
+        case QChar::Separator_Space:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+            return false;
+        default:
+            break;
+    }
+    const bool isVariationSelector =
+        (letter >= 0xFE00 && letter <= 0xFE0F) || (letter >= 0xE0100 && letter <= 0xE01EF);
+    constexpr char32_t GraphemeJoiner = 0x034F;
+    return !isVariationSelector && letter != GraphemeJoiner;
+}
+
 double lineStart(std::uint64_t alignment, bool rightToLeft, const QRectF& box, double width) {
     switch (alignment) {
-        case 0:
+        case text_alignment::Left:
             return box.left();
-        case 1:
+        case text_alignment::Right:
             return box.right() - width;
-        case 2:
+        case text_alignment::Centre:
             return box.center().x() - width / 2.0;
         // A line that ends at a line break is never stretched, so justified text is set like unaligned text.
         default:
@@ -159,6 +180,22 @@ TextFont withTraits(TextFont font, bool bold, bool italic) {
     font.bold = bold && hasBold;
     font.italic = italic && (font.bold ? hasBoldItalic : hasItalic);
     return font;
+}
+
+QStringList missingLetters(const QString& text, const TextFont& font) {
+    constexpr qsizetype Most = 5;
+    constexpr int AnySide = 64;
+    const QFontMetricsF metrics(layoutFont(font, AnySide));
+    QSet<char32_t> seen;
+    QStringList missing;
+    for (const char32_t letter : text.toStdU32String()) {
+        if (seen.contains(letter)) continue;
+        seen.insert(letter);
+        if (!hasInk(letter) || metrics.inFontUcs4(letter)) continue;
+        missing.append(QString::fromUcs4(&letter, 1));
+        if (missing.size() == Most) break;
+    }
+    return missing;
 }
 
 QSizeF measuredText(const QString& text, const TextFont& font) {

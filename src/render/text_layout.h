@@ -11,6 +11,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 class QPainter;
 
@@ -21,6 +22,10 @@ bool isFontInstalled(const QString& family);
 
 // `font` with those of the wished traits that its family has.
 TextFont withTraits(TextFont font, bool bold, bool italic);
+
+// Up to five different letters of `text` that neither the font's family nor any other installed one has: they would be
+// drawn as boxes or not at all.
+QStringList missingLetters(const QString& text, const TextFont& font);
 
 // Width of the widest line, height of all line boxes; empty for an empty text or a size that is not above 0.
 QSizeF measuredText(const QString& text, const TextFont& font);

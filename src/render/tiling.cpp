@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/tiling.h"
 
+#include "pictures/lengths.h"
 #include "pictures/picture_additions.h"
-#include "render/lengths.h"
-#include "render/placement.h"
+#include "render/qr_code.h"
+#include "render/shape.h"
 #include "render/text_block.h"
 
 #include <QBrush>
@@ -14,10 +15,6 @@
 
 namespace zelto {
 namespace {
-
-double wholePixels(double length) {
-    return std::ceil(withoutDust(length));
-}
 
 bool hasSizeOf(const QImage& picture, QSizeF size) {
     return picture.width() == wholePixels(size.width()) && picture.height() == wholePixels(size.height());
@@ -58,7 +55,7 @@ TilingView withTurnedPicture(TilingView surface) {
     const auto* picture = std::get_if<QImage>(&surface.tilingImage);
     if (picture == nullptr || surface.rotation == 0 || !hasSizeOf(*picture, surface.contentSize))
         return surface;
-    QImage turned = imageRotatedByDegrees(*picture, -static_cast<double>(surface.rotation), 1.0);
+    QImage turned = imageRotatedByDegrees(*picture, -surface.rotation);
     surface.contentSize = turned.size();
     surface.tilingImage = std::move(turned);
     surface.rotation = 0;
@@ -119,6 +116,22 @@ struct Grid {
 void drawContent(QPainter& painter, const LayerContent& content, QSizeF size, const ContentPlace& place) {
     if (const auto* text = std::get_if<TextBlock>(&content)) drawTextBlock(painter, *text, place);
     if (const auto* picture = std::get_if<QImage>(&content)) drawPicture(painter, *picture, size, place);
+    if (const auto* shape = std::get_if<ShapeImage>(&content)) drawShape(painter, *shape, place);
+    if (const auto* code = std::get_if<QrImage>(&content)) drawQrImage(painter, *code, place);
+}
+
+QImage pictureOf(const LayerContent& content, QSizeF size) {
+    const QSize whole = QSizeF(wholePixels(size.width()), wholePixels(size.height())).toSize();
+    QImage picture(whole, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    const QTransform toLowerEdge = QTransform::fromTranslate(0.0, whole.height() - size.height());
+    drawContent(painter, content, size, {.toPicture = toLowerEdge, .visible = picture.rect()});
+    return picture;
+}
+
+bool hasTiles(const TilingView& view) {
+    return !view.size.isEmpty() && !Cell(view).isEmpty();
 }
 
 void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, const QRect& visible) {

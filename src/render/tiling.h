@@ -14,12 +14,18 @@ class QPainter;
 
 namespace zelto {
 
-// Draws content of `size`; a picture of another size is stretched to it.
+// Draws content of `size`; a picture of another size is stretched to it. Shapes and codes have sizes of their own.
 void drawContent(QPainter& painter, const LayerContent& content, QSizeF size, const ContentPlace& place);
 
+// The content alone, on a transparent picture of `size` rounded up to whole pixels. For what is small, such as the
+// picture on a button.
+QImage pictureOf(const LayerContent& content, QSizeF size);
+
+// Whether the surface shows anything: it has an area, its content a size, and the spacings leave room for a cell.
+bool hasTiles(const TilingView& view);
+
 // Fills the surface, whose bottom-left corner lies at the whole pixel `corner` of the picture (y growing
-// downward), as far as it is visible. Cells are whole pixels, rounded up; where the spacings leave no cell
-// nothing is drawn.
+// downward), as far as it is visible. Cells are whole pixels, rounded up.
 void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, const QRect& visible);
 
 }  // namespace zelto

@@ -6,13 +6,13 @@
 
 #include "records/color.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QRectF>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
 
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -35,7 +35,7 @@ struct TextFont {
 struct TextAttributes {
     TextFont font{};
     Color foreground{};           // alpha is the text's opacity
-    std::uint64_t alignment = 0;  // 0 left, 1 right, 2 centre, any other by the direction of writing
+    std::uint64_t alignment = 0;  // one of text_alignment
     bool underline = false;
     bool strikethrough = false;
     std::optional<Color> shadow{};  // blur 5, offset 5 right and 5 up; as opaque as the text
@@ -54,8 +54,36 @@ struct TextBlock {
     double opacity = 1.0;  // embossed: of the finished picture
 };
 
+// A shape to be drawn.
+struct ShapeImage {
+    std::int32_t kind = 0;          // one of shape_type
+    std::int64_t sides = 0;         // of a polygon
+    QSizeF outline;                 // before it is turned
+    int degrees = 0;                // clockwise as seen, 0 to 359
+    std::int64_t gradient = 0;      // one of gradient_type, or PlainFill
+    std::optional<Color> first{};   // the one colour of a plain fill; a colour that is absent paints nothing
+    std::optional<Color> second{};  // of a gradient
+    double opacity = 1.0;
+    QSize size;  // the whole pixels that hold the turned outline
+
+    static constexpr std::int64_t PlainFill = -1;
+};
+
+// A symbol of width x width modules, row by row from the top; bit 0 of a module says whether it is dark.
+struct QrSymbol {
+    int width = 0;
+    QByteArray modules;
+};
+
+// A QR code to be drawn: a square of `side` pixels, a twentieth of it left free on every side.
+struct QrImage {
+    QrSymbol symbol;
+    double side = 0.0;
+    std::optional<Color> background{};  // none: the space between modules is transparent
+};
+
 // What one copy of a watermark looks like. Empty for a logo that could not be loaded.
-using LayerContent = std::variant<std::monostate, TextBlock, QImage>;
+using LayerContent = std::variant<std::monostate, TextBlock, QImage, ShapeImage, QrImage>;
 
 // A surface filled with one repeated, turned cell of content; with a surface of the cell's own size and no
 // spacing it shows a single turned copy. The pattern starts at the surface's bottom-left corner.
@@ -70,13 +98,10 @@ struct TilingView {
 
 struct WatermarkView {
     QRectF frame;  // in the reference area
-    bool hidden = false;
-    std::size_t wmark = 0;  // index of the record it shows
     std::variant<LayerContent, TilingView> child;
 
-    // What a preview canvas adds on the screen; written photos take neither into account.
-    double opacity = 0.9999;      // of the layer
-    double contentOpacity = 1.0;  // of its content: a logo's opacity once more
+    // What the preview adds on the screen, and written photos do not: a logo's opacity once more.
+    double contentOpacity = 1.0;
     // The pixel size of a logo as loaded, which belongs into the record's Width and Height; empty for other
     // layers.
     QSize logoSize;

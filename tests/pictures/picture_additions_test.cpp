@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_additions.h"
 
+#include "pictures/lengths.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
 
@@ -39,7 +40,7 @@ TEST(ReplaceColor, RemovesExactlyTheColourAndNothingNearIt) {
         {NAN, 1.0F, 1.0F, untouched},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(pixelsOf(replaceColor(picture, row.red, row.green, row.blue, 0.5)), row.expected)
+        EXPECT_EQ(pixelsOf(replaceColor(picture, row.red, row.green, row.blue)), row.expected)
             << row.red << ' ' << row.green << ' ' << row.blue;
     }
     EXPECT_EQ(pixelsOf(picture), untouched) << "a copy of the caller's was changed";
@@ -51,8 +52,7 @@ TEST(ReplaceColor, FindsEveryByteThatAnEditorCanStore) {
         const QImage opaque = rowOf({qRgb(value, 255 - value, value), near}, QImage::Format_RGB32);
         const auto component = static_cast<float>(value / 255.0);
         const auto complement = static_cast<float>((255 - value) / 255.0);
-        EXPECT_EQ(pixelsOf(replaceColor(opaque, component, complement, component, 0.0)),
-                  QList<QRgb>({0U, near}))
+        EXPECT_EQ(pixelsOf(replaceColor(opaque, component, complement, component)), QList<QRgb>({0U, near}))
             << value;
     }
 }
@@ -77,7 +77,7 @@ TEST(ImageWithOpacity, ScalesPremultipliedPixels) {
 TEST(PictureAdditions, ChangeAPictureThatIsMovedInWithoutCopyingIt) {
     QImage picture = rowOf({0xffffffffU, 0xff000000U});
     const uchar* const bits = picture.constBits();
-    picture = imageWithOpacity(replaceColor(std::move(picture), 1, 1, 1, 0), 0.5);
+    picture = imageWithOpacity(replaceColor(std::move(picture), 1, 1, 1), 0.5);
     EXPECT_EQ(picture.constBits(), bits);
 }
 
@@ -88,14 +88,14 @@ TEST(ImageRotatedByDegrees, QuarterTurnsMovePixelsExactly) {
     const QImage picture = pictureOf({3, 2}, QImage::Format_ARGB32_Premultiplied,
                                      [](int x, int y) { return 0xff000001U + QRgb(3 * y + x); });
     struct Row {
-        double degrees;
+        std::int64_t degrees;
         int columns;
         const char* pixels;
     };
     const Row rows[] = {{0, 3, "123456"},   {90, 2, "362514"},   {180, 3, "654321"}, {-90, 2, "415263"},
                         {270, 2, "415263"}, {-180, 3, "654321"}, {720, 3, "123456"}, {-630, 2, "362514"}};
     for (const Row& row : rows) {
-        const QImage turned = imageRotatedByDegrees(picture, row.degrees, 1.0);
+        const QImage turned = imageRotatedByDegrees(picture, row.degrees);
         ASSERT_EQ(turned.size(), QSize(row.columns, 6 / row.columns)) << row.degrees;
         for (int i = 0; i < 6; ++i)
             EXPECT_EQ(qBlue(turned.pixel(i % row.columns, i / row.columns)), row.pixels[i] - '0');
@@ -105,20 +105,19 @@ TEST(ImageRotatedByDegrees, QuarterTurnsMovePixelsExactly) {
 TEST(ImageRotatedByDegrees, CanvasIsTheBoundingBoxRoundedUp) {
     struct Row {
         QSize size;
-        double degrees;
+        std::int64_t degrees;
         QSize expected;
     };
     const Row rows[] = {
         {{100, 100}, 45, {142, 142}},
         {{200, 50}, -30, {199, 144}},
-        {{500, 1}, 0.1, {501, 2}},
-        {{400, 300}, std::atan2(3, 4) * 180 / 3.14159265358979323846, {500, 480}},  // whole but for rounding
+        {{500, 1}, 1, {500, 10}},
     };
     for (const Row& row : rows) {
         const QImage picture(row.size, QImage::Format_RGB32);
-        EXPECT_EQ(imageRotatedByDegrees(picture, row.degrees, 1.0).size(), row.expected) << row.degrees;
+        EXPECT_EQ(imageRotatedByDegrees(picture, row.degrees).size(), row.expected) << row.degrees;
     }
-    EXPECT_TRUE(imageRotatedByDegrees(QImage(), 30, 1.0).isNull());
+    EXPECT_TRUE(imageRotatedByDegrees(QImage(), 30).isNull());
 }
 
 // Area, centre of mass and colours of the turned picture say that it is whole, in its place, turned the right
@@ -126,8 +125,8 @@ TEST(ImageRotatedByDegrees, CanvasIsTheBoundingBoxRoundedUp) {
 TEST(ImageRotatedByDegrees, TurnsCounterClockwiseAboutTheCentreWithSmoothEdges) {
     const QImage picture = pictureOf({80, 40}, QImage::Format_RGB32,
                                      [](int x, int) { return x < 40 ? qRgb(0, 0, 255) : qRgb(255, 0, 0); });
-    for (const double degrees : {30.0, 135.0, -80.0}) {
-        const QImage turned = storedValues(imageRotatedByDegrees(picture, degrees, 0.5));
+    for (const int degrees : {30, 135, -80}) {
+        const QImage turned = storedValues(imageRotatedByDegrees(picture, degrees));
         double red = 0, blue = 0, redX = 0, redY = 0;
         bool smooth = false;
         for (int y = 0; y < turned.height(); ++y) {
@@ -138,15 +137,28 @@ TEST(ImageRotatedByDegrees, TurnsCounterClockwiseAboutTheCentreWithSmoothEdges) 
                 blue += qBlue(pixel);
                 redX += qRed(pixel) * (x + 0.5 - turned.width() / 2.0);
                 redY += qRed(pixel) * (turned.height() / 2.0 - y - 0.5);
-                smooth = smooth || (qAlpha(pixel) > 20 && qAlpha(pixel) < 108);
+                smooth = smooth || (qAlpha(pixel) > 20 && qAlpha(pixel) < 235);
             }
         }
-        const double half = 40 * 40 * 128;
+        const double half = 40 * 40 * 255;
         EXPECT_NEAR(red / half, 1.0, 0.01) << degrees;
         EXPECT_NEAR(blue / half, 1.0, 0.01) << degrees;
         EXPECT_NEAR(redX / red, 20 * std::cos(degrees * M_PI / 180), 0.1) << degrees;
         EXPECT_NEAR(redY / red, 20 * std::sin(degrees * M_PI / 180), 0.1) << degrees;
         EXPECT_TRUE(smooth) << degrees;
+    }
+}
+
+TEST(RotatedSize, IsTheBoundingBoxExactForQuarterTurns) {
+    for (const std::int64_t degrees : {0, -180, 540, 90, -810}) {
+        const QSizeF turned = rotatedSize({200.25, 50.1}, degrees);
+        const QSizeF expected = degrees % 180 == 0 ? QSizeF(200.25, 50.1) : QSizeF(50.1, 200.25);
+        EXPECT_TRUE(turned.width() == expected.width() && turned.height() == expected.height()) << degrees;
+    }
+    for (const std::int64_t degrees : {30, -30, 150, 210, 390}) {
+        const QSizeF turned = rotatedSize({200, 100}, degrees);
+        EXPECT_NEAR(turned.width(), 100 * std::sqrt(3.0) + 50, 1e-9) << degrees;
+        EXPECT_NEAR(turned.height(), 100 + 50 * std::sqrt(3.0), 1e-9) << degrees;
     }
 }
 

@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <cmath>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -30,7 +31,9 @@ TEST(PhotoScene, ReferenceIsThePhotoOrTheFrameButNeverTheShadow) {
             PhotoRequest request = requestFor(stack);
             request.final = final;
             const PhotoScene scene = buildPhotoScene(request, {.image = plainPhoto({100, 80})});
-            EXPECT_EQ(scene.referenceSize, onBorder ? QSizeF(120, 100) : QSizeF(100, 80));
+            QRect area = onBorder ? scene.borderRect : scene.imageRect;  // the top row is the highest one
+            area.moveTop(100 - area.y() - area.height());
+            EXPECT_EQ(scene.referenceRect, area);
             EXPECT_EQ(scene.picture.size(), final ? QSize(135, 100) : QSize(120, 100));
             EXPECT_EQ(scene.borderRect, QRect(final ? 15 : 0, 0, 120, 100));
             EXPECT_EQ(scene.imageRect, scene.borderRect.adjusted(10, 10, -10, -10));
@@ -70,7 +73,6 @@ TEST(PhotoScene, RecordsWithoutALayerLeaveTheirPlaceEmpty) {
     const PhotoScene scene = sceneOf(stack, plainPhoto({100, 80}));
     for (std::size_t i = 0; i < 8; ++i) {
         ASSERT_EQ(scene.layers[i].has_value(), i >= 4) << i;
-        EXPECT_TRUE(i < 4 || (scene.layers[i]->wmark == i && scene.layers[i]->hidden == (i == 7))) << i;
     }
     EXPECT_EQ(scene.layers[4]->frame, QRectF(0, 0, 30, 10)) << "a shape turns before it is placed";
     EXPECT_EQ(inkBox(MakeWatermarkImage(scene, stack)), QRect(0, 70, 30, 10));
@@ -89,6 +91,59 @@ TEST(PhotoScene, QrCodesTakeTheirSideFromTheWidthOrInPixels) {
     EXPECT_EQ(sideOf(1, false, 60), QSize(60, 60));
     EXPECT_TRUE(sideOf(0, false, 0.2F).isEmpty() && sideOf(1, true, -5).isEmpty() &&
                 sideOf(1, true, HUGE_VALF).isEmpty());
+}
+
+TEST(PhotoScene, TellsOfEachRecordWhyNothingOfItCanBeSeen) {
+    const auto changed = [](Watermark record, const std::function<void(Watermark&)>& change) {
+        change(record);
+        return record;
+    };
+    const Watermark text = textRecord(QStringLiteral("Hi"), 20);
+    const Watermark logo = logoRecord(plainPhoto({20, 10}, Qt::red));
+    const Watermark box = boxRecord(50, 20, CustomPosition);
+    Watermark code(watermark_type::QrCode);
+    code.Text = QStringLiteral("https://example.org/photos");
+    code.ResizeWidth = 0.6F;
+    struct Row {
+        const char* kind;
+        Watermark record;
+    };
+    const std::vector<Row> rows = {
+        {"", text},
+        {"", code},
+        {"", boxRecord(500, 500, 7)},  // covers the whole photo, of which it is far larger
+        {"", changed(logo, [](Watermark& w) { w.HorizontalTiling = w.VerticalTiling = true; })},
+        {"", changed(box, [](Watermark& w) { w.CustomPositionLeft = 95; })},
+        {"logo-unreadable", changed(logo, [](Watermark& w) { w.ImageData = "no picture"; })},
+        {"empty-text", changed(text, [](Watermark& w) { w.Text = QStringLiteral(" \u00a0\n"); })},
+        {"empty-text", changed(code, [](Watermark& w) { w.Text.clear(), w.Rotation = 90; })},
+        {"missing-letters", changed(text, [](Watermark& w) { w.Text = QStringLiteral("a\u0378"); })},
+        {"code-too-long", changed(code, [](Watermark& w) { w.Text = QString(3000, u'x'); })},
+        {"code-too-fine", changed(code, [](Watermark& w) { w.ResizeWidth = 0.26F; })},
+        {"code-too-fine", changed(code, [](Watermark& w) { w.ResizeWidth = 0; })},
+        {"outside", changed(box, [](Watermark& w) { w.CustomPositionLeft = 96; })},
+        {"outside",
+         changed(text, [](Watermark& w) { w.Position = 7, w.PaddingLeft = 100, w.Rotation = 30; })},
+        {"no-area", changed(box, [](Watermark& w) { w.Height = 0, w.VerticalTiling = true; })},
+        {"no-area", changed(box, [](Watermark& w) { w.ShapeType = shape_type::Polygon, w.Sides = 2; })},
+        {"no-layer", changed(code, [](Watermark& w) { w.Rotation = 90; })},
+        {"no-layer", changed(box, [](Watermark& w) { w.HorizontalTiling = true; })},
+        {"no-layer", changed(text, [](Watermark& w) { w.FontSize = 0; })},
+        {"no-layer", changed(logo, [](Watermark& w) { w.Resize = true, w.ResizeWidth = 0; })},
+        {"no-layer", changed(logo, [](Watermark& w) { w.VerticalTiling = true, w.PaddingTop = 90; })},
+        {"no-layer", changed(text, [](Watermark& w) { w.Type = 9; })},
+    };
+    WatermarkStack stack;
+    for (const Row& row : rows) stack.Watermarks.push_back(row.record);
+    const PhotoScene scene = sceneOf(stack, plainPhoto({100, 80}));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto& warning = scene.warnings[i];
+        EXPECT_EQ(warning ? warning->kind : QString(), QLatin1String(rows[i].kind)) << i;
+        EXPECT_TRUE(!warning || warning->watermark == static_cast<std::int64_t>(i)) << i;
+    }
+    EXPECT_TRUE(scene.warnings[8]->text.contains(QChar(0x378)));
+    for (Watermark& record : stack.Watermarks) record.IsEnabled = false;
+    EXPECT_TRUE(warningsOf(sceneOf(stack, plainPhoto({100, 80}))).empty());
 }
 
 // One of every kind, turned, tiled, shadowed and embossed.

@@ -67,18 +67,5 @@ TEST(Placement, TilingsFillAColumnARowOrTheAreaInsideThePaddings) {
     }
 }
 
-TEST(Placement, TurnedSizesAreBoundingBoxesExactForQuarterTurns) {
-    for (const std::int64_t degrees : {0, -180, 540, 90, -810}) {
-        const QSizeF turned = rotatedSize({200.25, 50.1}, degrees);
-        const QSizeF expected = degrees % 180 == 0 ? QSizeF(200.25, 50.1) : QSizeF(50.1, 200.25);
-        EXPECT_TRUE(turned.width() == expected.width() && turned.height() == expected.height()) << degrees;
-    }
-    for (const std::int64_t degrees : {30, -30, 150, 210, 390}) {
-        const QSizeF turned = rotatedSize({200, 100}, degrees);
-        EXPECT_NEAR(turned.width(), 100 * std::sqrt(3.0) + 50, 1e-9) << degrees;
-        EXPECT_NEAR(turned.height(), 100 + 50 * std::sqrt(3.0), 1e-9) << degrees;
-    }
-}
-
 }  // namespace
 }  // namespace zelto

@@ -2,6 +2,7 @@
 #include "render/shape.h"
 
 #include "composed.h"
+#include "render/tiling.h"
 #include "support/ink.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,8 @@ Watermark gradient(float width, float height) {
 }
 
 QImage drawn(const Watermark& record) {
-    return GetShapeImage(record, {1000.0, 500.0});
+    const std::optional<ShapeImage> shape = GetShapeImage(record, {1000.0, 500.0});
+    return shape ? pictureOf(*shape, shape->size) : QImage();
 }
 
 // Counted from the lower left, like the shape's own geometry.
@@ -171,8 +173,25 @@ TEST(Shape, OpacityAndColorAlphaMultiply) {
     }
 }
 
+TEST(Shape, IsDrawnAsFarAsThePhotoGoesHoweverLargeItIs) {
+    Watermark bar = boxRecord(36'000, 6, 9);
+    EXPECT_EQ(inkBox(composed(bar, plainPhoto({40'000, 8}))), QRect(4'000, 2, 36'000, 6));
+    bar.Rotation = 90;
+    EXPECT_EQ(inkBox(composed(bar, plainPhoto({8, 40'000}))), QRect(2, 4'000, 6, 36'000));
+    for (const float side : {30'000.0F, 1e9F, 1e30F}) {
+        for (const std::int32_t kind : {shape_type::Rectangle, shape_type::Ellipse, shape_type::Polygon}) {
+            Watermark large = shape(kind, side, side / 2);
+            large.Rotation = 180;
+            large.Sides = 6;
+            large.Position = 7;
+            const QImage picture = composed(large, plainPhoto({30, 20}));
+            EXPECT_EQ(picture.pixelColor(20, 5), kind == shape_type::Rectangle ? Qt::red : Qt::white) << side;
+        }
+    }
+}
+
 TEST(Shape, WhatHasNoAreaGivesNoPicture) {
-    for (const float side : {0.0F, -3.0F, std::nanf(""), 1e9F, HUGE_VALF}) {
+    for (const float side : {0.0F, -3.0F, std::nanf(""), HUGE_VALF}) {
         EXPECT_TRUE(drawn(shape(shape_type::Rectangle, side, 10.0F)).isNull()) << side;
         EXPECT_TRUE(drawn(shape(shape_type::Ellipse, 10.0F, side)).isNull()) << side;
     }

@@ -2,7 +2,7 @@
 #include "render/tiling.h"
 
 #include "composed.h"
-#include "render/placement.h"
+#include "pictures/lengths.h"
 #include "render/text_block.h"
 #include "support/ink.h"
 

@@ -11,6 +11,7 @@
 #include "app/editors/controls/tile_button.h"
 #include "app/editors/controls/transparency_slider.h"
 #include "render/shape.h"
+#include "render/tiling.h"
 
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -46,6 +47,11 @@ constexpr std::array Directions = {
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "From the centre"), 5},
 };
 
+QImage drawnAlone(const Watermark& record) {
+    const std::optional<ShapeImage> shape = GetShapeImage(record, {});
+    return shape ? pictureOf(*shape, shape->size) : QImage();
+}
+
 // The drawing of a kind of shape for its button.
 QImage kindDrawing(int kind) {
     Watermark shape(watermark_type::Shape);
@@ -54,7 +60,7 @@ QImage kindDrawing(int kind) {
     shape.Width = 88.0F;
     shape.Height = kind == shape_type::Line ? 12.0F : kind == shape_type::Polygon ? 88.0F : 60.0F;
     shape.Transparency = 1.0F;
-    const QImage drawn = GetShapeImage(shape, {});
+    const QImage drawn = drawnAlone(shape);
     constexpr int Side = 96;
     QRect middle(0, 0, Side, Side);
     middle.moveCenter(drawn.rect().center());
@@ -73,7 +79,7 @@ QIcon gradientIcon(const Watermark& record, int direction) {
     shape.Height = 64.0F;
     shape.Rotation = 0;
     shape.Transparency = 1.0F;
-    return QIcon(QPixmap::fromImage(GetShapeImage(shape, {})));
+    return QIcon(QPixmap::fromImage(drawnAlone(shape)));
 }
 
 class ShapeEditor : public EditorDialog {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/layer_drag.h"
 
-#include "app/preview/region_composer.h"
+#include "render/scene_geometry.h"
 
 #include <algorithm>
 #include <array>
@@ -31,23 +31,13 @@ std::optional<Snap> nearestLine(double layerStart, double layerSize, double area
 
 }  // namespace
 
-QRectF referenceArea(const PhotoScene& scene, const WatermarkStack& stack) {
-    QPoint corner;
-    if (stack.Effects) {
-        corner =
-            stack.Effects->ApplyWatermarkOnBorder ? scene.borderRect.topLeft() : scene.imageRect.topLeft();
-    }
-    const QSizeF size = scene.referenceSize;
-    return {QPointF(corner.x(), scene.picture.height() - corner.y() - size.height()), size};
-}
-
 std::optional<int> layerAt(const PhotoScene& scene, const WatermarkStack& stack, QPointF point,
                            double reach) {
     std::optional<int> tiled;
     for (int i = static_cast<int>(scene.layers.size()) - 1; i >= 0; --i) {
         const auto index = static_cast<std::size_t>(i);
         if (!scene.layers[index] || !stack.Watermarks[index].IsEnabled) continue;
-        QRectF frame = layerFrame(scene, stack, index);
+        QRectF frame = layerFrame(scene, index);
         const double moreX = std::max(0.0, reach - frame.width() / 2.0);
         const double moreY = std::max(0.0, reach - frame.height() / 2.0);
         if (!frame.adjusted(-moreX, -moreY, moreX, moreY).contains(point)) continue;

@@ -14,9 +14,6 @@
 
 namespace zelto {
 
-// The area watermarks are placed in, as it lies in the scene's picture.
-QRectF referenceArea(const PhotoScene& scene, const WatermarkStack& stack);
-
 // The topmost enabled layer under `point`, tiled ones only where there is no other; `reach` widens small
 // layers.
 std::optional<int> layerAt(const PhotoScene& scene, const WatermarkStack& stack, QPointF point, double reach);

@@ -2,10 +2,10 @@
 #include "app/preview/photo_preview.h"
 
 #include "app/photos/image_list_controller.h"
-#include "app/preview/region_composer.h"
 #include "app/watermarks/watermark_controller.h"
 #include "platform/dates.h"
 #include "render/effect_diagnostics.h"
+#include "render/scene_geometry.h"
 
 #include <QLoggingCategory>
 
@@ -53,14 +53,6 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     connect(&view_, &PreviewView::layerNudged, this, &PhotoPreview::nudge);
     connect(&watermarks_.selection(), &QItemSelectionModel::selectionChanged, this,
             [this] { view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata()); });
-}
-
-double PhotoPreview::ActualWIdth() const {
-    return view_.shown() ? view_.shown()->scene.referenceSize.width() : 0.0;
-}
-
-double PhotoPreview::ActualHeight() const {
-    return view_.shown() ? view_.shown()->scene.referenceSize.height() : 0.0;
 }
 
 PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
@@ -153,8 +145,8 @@ void PhotoPreview::prefetchNeighbours() {
 void PhotoPreview::nudge(int index, QPoint step) {
     const auto& scene = view_.shown();
     if (!scene || !document_.contains(index) || !isMovable(watermarks_.GetWatermarkAtRow(index))) return;
-    const QRectF area = referenceArea(scene->scene, *scene->stack);
-    const QRectF frame = layerFrame(scene->scene, *scene->stack, static_cast<std::size_t>(index));
+    const QRectF area = scene->scene.referenceRect;
+    const QRectF frame = layerFrame(scene->scene, static_cast<std::size_t>(index));
     if (frame.isNull()) return;
     // Keys come faster than pictures: a place that has been chosen counts more than the one that is seen.
     const Watermark& watermark = watermarks_.GetWatermarkAtRow(index);

@@ -27,10 +27,6 @@ class PhotoPreview : public QObject {
     PhotoPreview(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
                  QObject* parent = nullptr);
 
-    // The reference size of the photo on show, pixels; 0 before the first one.
-    double ActualWIdth() const;
-    double ActualHeight() const;
-
     // The request for the selected photo as the run would write it.
     PhotoRequest finalRequest() const;
 

@@ -2,7 +2,7 @@
 #include "app/preview/preview_view.h"
 
 #include "app/preview/preview_paint.h"
-#include "app/preview/region_composer.h"
+#include "render/scene_geometry.h"
 
 #include <QApplication>
 #include <QGestureEvent>
@@ -206,8 +206,8 @@ void PreviewView::mousePressEvent(QMouseEvent* event) {
         const std::optional<int> layer = layerUnder(*event);
         Q_EMIT layerPicked(layer.value_or(-1));
         if (layer && isMovable(shown_->stack->Watermarks[static_cast<std::size_t>(*layer)])) {
-            drag_.emplace(*layer, layerFrame(shown_->scene, *shown_->stack, static_cast<std::size_t>(*layer)),
-                          referenceArea(shown_->scene, *shown_->stack), picturePoint(*event));
+            drag_.emplace(*layer, layerFrame(shown_->scene, static_cast<std::size_t>(*layer)),
+                          QRectF(shown_->scene.referenceRect), picturePoint(*event));
         } else {
             isPanning_ = true;
         }
@@ -361,12 +361,11 @@ void PreviewView::paintPiece(QPainter& painter, const Piece& piece) const {
 void PreviewView::paintMarks(QPainter& painter) const {
     const int index = isDragging_ ? drag_->index() : selectedLayer_;
     if (index < 0 || static_cast<std::size_t>(index) >= shown_->scene.layers.size()) return;
-    const QRectF frame = isDragging_
-                             ? drag_->frame()
-                             : layerFrame(shown_->scene, *shown_->stack, static_cast<std::size_t>(index));
+    const QRectF frame =
+        isDragging_ ? drag_->frame() : layerFrame(shown_->scene, static_cast<std::size_t>(index));
     if (!frame.isNull()) paintLayerMark(painter, geometry_.toView(frame), palette(), devicePixelRatio_);
     if (!isDragging_) return;
-    const QRectF area = geometry_.toView(referenceArea(shown_->scene, *shown_->stack));
+    const QRectF area = geometry_.toView(QRectF(shown_->scene.referenceRect));
     const Guides& guides = drag_->guides();
     if (guides.x) {
         const double x = geometry_.toView(QPointF(*guides.x, 0)).x();

@@ -8,18 +8,11 @@
 #include "render/photo_scene.h"
 
 #include <QImage>
-#include <QRect>
 
 namespace zelto {
 
 // The part `region` of the composed picture at its scale, as large as the region. `stack` is the one the
 // scene was built from.
 QImage composeRegion(const PhotoScene& scene, const WatermarkStack& stack, const ViewRegion& region);
-
-// Where a layer may leave its mark on the picture, rounded outward; empty for no layer.
-QRect layerReach(const PhotoScene& scene, const WatermarkStack& stack, std::size_t index);
-
-// The frame of a layer as it stands in the picture, not rounded.
-QRectF layerFrame(const PhotoScene& scene, const WatermarkStack& stack, std::size_t index);
 
 }  // namespace zelto

@@ -3,6 +3,7 @@
 
 #include "app/preview/region_composer.h"
 #include "pictures/picture_additions.h"
+#include "render/scene_geometry.h"
 
 #include <algorithm>
 #include <utility>
@@ -77,7 +78,7 @@ class SceneBuilder::Worker {
     QRect reachOfChanges(const Job& job) const {
         QRect area;
         const auto add = [&](int record) {
-            area |= layerReach(shown_->scene, *shown_->stack, static_cast<std::size_t>(record));
+            area |= layerReach(shown_->scene, static_cast<std::size_t>(record));
         };
         for (const int record : job.records) add(record);
         if (shownMove_ != job.moved) {
@@ -89,7 +90,7 @@ class SceneBuilder::Worker {
 
     static void move(ShownScene& shown, const MovedLayer& moved) {
         const auto index = static_cast<std::size_t>(moved.index);
-        const QRectF frame = layerFrame(shown.scene, *shown.stack, index);
+        const QRectF frame = layerFrame(shown.scene, index);
         if (frame.isNull()) return;
         const QPointF by = moved.topLeft - frame.topLeft();
         shown.scene.layers[index]->frame.translate(by.x(), -by.y());

@@ -12,6 +12,11 @@ constexpr int SmoothingReach = 2;
 
 }  // namespace
 
+QSize scaledSize(QSize picture, double scale) {
+    return {std::max(1, static_cast<int>(std::lround(picture.width() * scale))),
+            std::max(1, static_cast<int>(std::lround(picture.height() * scale)))};
+}
+
 double ViewGeometry::scale() const {
     if (!fitToScreen || picture.isEmpty() || viewport.isEmpty()) return chosenScale;
     return std::min(static_cast<double>(viewport.width()) / picture.width(),
@@ -19,9 +24,7 @@ double ViewGeometry::scale() const {
 }
 
 QSize ViewGeometry::scaledSize() const {
-    const double s = scale();
-    return {std::max(1, static_cast<int>(std::lround(picture.width() * s))),
-            std::max(1, static_cast<int>(std::lround(picture.height() * s)))};
+    return zelto::scaledSize(picture, scale());
 }
 
 QPoint ViewGeometry::largestScroll() const {

@@ -12,6 +12,10 @@
 
 namespace zelto {
 
+// The whole pixels a picture of `picture` pixels is shown on at `scale`, at least one on each side. The picture is
+// stretched to fill them, by less than a pixel.
+QSize scaledSize(QSize picture, double scale);
+
 // The picture at one scale, cut to what is seen of it and a margin around that.
 struct ViewRegion {
     double scale = 1.0;  // device pixels per photo pixel
@@ -33,7 +37,7 @@ struct ViewGeometry {
     bool operator==(const ViewGeometry&) const = default;
 
     double scale() const;
-    QSize scaledSize() const;  // at least one pixel on each side
+    QSize scaledSize() const;
     QPoint largestScroll() const;
     QPoint clampedScroll() const;
     // View position of the picture's top left corner; a picture smaller than the viewport stands in its

@@ -2,6 +2,7 @@
 #include "app/editors/qr_rules.h"
 
 #include "render/qr_code.h"
+#include "render/tiling.h"
 #include "support/qr_reader.h"
 
 #include <QBuffer>
@@ -56,7 +57,8 @@ TEST(QrRules, TheSmallestSizeCanBeReadFromAJpeg) {
         EXPECT_FALSE(QrJudgement(text, needed + 2, {}, Color::white()).isProblem());
         QImage photo(needed + 200, needed + 200, QImage::Format_RGB32);
         photo.fill(QColor(200, 210, 190));
-        const QImage code = qrImageForString(text, needed, Color::white());
+        const QImage code =
+            pictureOf(*qrImageForString(text, needed, Color::white()), QSizeF(needed, needed));
         for (int y = 0; y < code.height(); ++y) {
             for (int x = 0; x < code.width(); ++x) photo.setPixel(x + 100, y + 100, code.pixel(x, y));
         }

@@ -70,7 +70,7 @@ struct Scene {
 
     Scene() {
         scene.picture = QImage(1000, 800, QImage::Format_RGB32);
-        scene.referenceSize = scene.picture.size();
+        scene.referenceRect = scene.picture.rect();
         const QRectF frames[] = {{100, 600, 200, 100}, {250, 550, 200, 100}, {0, 0, 1000, 800}};
         for (const QRectF& frame : frames) {
             WatermarkView layer;
@@ -97,19 +97,6 @@ TEST(LayerAt, TakesTheTopmostOfThePlainLayersAndTiledOnesLast) {
     scene.scene.layers[0]->frame = QRectF(100, 600, 2, 2);
     EXPECT_EQ(at({108, 199}), std::nullopt);
     EXPECT_EQ(at({108, 199}, 12.0), 0) << "a tiny layer can be gripped beside it";
-}
-
-TEST(ReferenceArea, LiesOnThePhotoOrOnItsBorder) {
-    Scene scene;
-    scene.scene.imageRect = QRect(40, 30, 900, 700);
-    scene.scene.borderRect = QRect(20, 10, 960, 760);
-    scene.scene.referenceSize = QSizeF(900, 700);
-    EXPECT_EQ(referenceArea(scene.scene, scene.stack).topLeft(), QPointF(0, 100));
-    scene.stack.Effects = PhotoEffects();
-    EXPECT_EQ(referenceArea(scene.scene, scene.stack), QRectF(40, 70, 900, 700));
-    scene.stack.Effects->ApplyWatermarkOnBorder = true;
-    scene.scene.referenceSize = QSizeF(960, 760);
-    EXPECT_EQ(referenceArea(scene.scene, scene.stack), QRectF(20, 30, 960, 760));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "app/preview/halved_picture.h"
 #include "render/composition.h"
+#include "render/scene_geometry.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
 
@@ -114,6 +115,34 @@ TEST(ComposeRegion, PiecesOfAnyScaleFitTogether) {
     }
 }
 
+// Two colours by turns, so that memory used again does not look as if it had been drawn on.
+TEST(ComposeRegion, ReachesTheLastRowAndColumnAtEveryWidthOfTheWindow) {
+    for (const QSize size :
+         {QSize(800, 600), QSize(1500, 1000), QSize(1920, 1080), QSize(600, 800), QSize(643, 481)}) {
+        PhotoScene scenes[2];
+        for (const int i : {0, 1}) {
+            scenes[i].picture = QImage(size, QImage::Format_RGB32);
+            scenes[i].picture.fill(i == 0 ? Qt::white : Qt::black);
+        }
+        for (int width = 500; width <= 1200; ++width) {
+            const PhotoScene& scene = scenes[width % 2];
+            ViewGeometry view;
+            view.viewport = {width, width};
+            view.picture = size;
+            const QRect all(QPoint(0, 0), view.scaledSize());
+            constexpr int Strip = 4;
+            for (const QRect& edge :
+                 {all.adjusted(0, all.height() - Strip, 0, 0), all.adjusted(all.width() - Strip, 0, 0, 0)}) {
+                const QImage seen = composeRegion(scene, {}, {view.scale(), edge});
+                ASSERT_EQ(seen.size(), edge.size());
+                QImage expected(edge.size(), QImage::Format_RGB32);
+                expected.fill(scene.picture.pixelColor(0, 0));
+                ASSERT_EQ(largestDifference(seen, expected), 0) << size.width() << " in " << width;
+            }
+        }
+    }
+}
+
 TEST(LayerReach, HoldsEveryPixelALayerChanges) {
     const WatermarkStack all = everyKind();
     for (std::size_t i = 0; i + 1 < all.Watermarks.size(); ++i) {
@@ -121,7 +150,7 @@ TEST(LayerReach, HoldsEveryPixelALayerChanges) {
         stack.Watermarks.push_back(all.Watermarks[i]);
         const PhotoScene scene = sceneOf(stack);
         const QImage written = MakeWatermarkImage(scene, stack);
-        const QRect reach = layerReach(scene, stack, 0);
+        const QRect reach = layerReach(scene, 0);
         EXPECT_FALSE(reach.isEmpty());
         for (int y = 0; y < written.height(); ++y) {
             for (int x = 0; x < written.width(); ++x) {

@@ -13,12 +13,6 @@
 
 namespace zelto {
 
-// What the logo editor stores in `Watermark::ResizeFormat`.
-namespace logo_resize {
-inline constexpr std::int64_t Proportional = 0;
-inline constexpr std::int64_t Absolute = 2;
-}  // namespace logo_resize
-
 // Which of the size controls can be used.
 struct ResizeControls {
     bool type = false;
