@@ -92,7 +92,7 @@ void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
     nextToPrepare_ = job_.NextImageNumberForProcessing;
     const RunEnd how = processPhotos();
     if (how == RunEnd::Finished) finishCombinedPdf();
-    attempt("waiting for metadata", [this] { job_.processor->settle(); });
+    attempt("settling", [this] { job_.processor->settle(); });
     end(how);
 }
 
@@ -106,6 +106,7 @@ std::optional<PhotoTask> BatchRun::Worker::nextTask() {
 }
 
 RunEnd BatchRun::Worker::processPhotos() {
+    const std::stop_callback interrupt(stop_, [this] { job_.processor->interrupt(); });
     LookAhead ahead(
         *job_.processor, [this] { return nextTask(); }, request_.limits);
     for (std::size_t i = job_.NextImageNumberForProcessing; i < request_.photos.size(); ++i) {

@@ -6,7 +6,6 @@
 #include "pictures/picture_reader.h"
 #include "pictures/picture_writer.h"
 #include "pictures/resample.h"
-#include "platform/file_identity.h"
 #include "platform/path_parts.h"
 #include "platform/whole_file.h"
 #include "render/composition.h"
@@ -47,9 +46,7 @@ struct OutputWriter::CombinedPdf {
 OutputWriter::OutputWriter(Settings settings)
     : settings_(std::move(settings)),
       exiftool_(settings_.metadataJobs),
-      metadata_(settings_.metadataJobs, [this](const MetadataRequest& request) {
-          return CopyExifDataTo(request, exiftool_, settings_.metadataTimeout);
-      }) {}
+      metadata_(exiftool_, settings_.metadataTimeout) {}
 
 OutputWriter::~OutputWriter() = default;
 
@@ -68,7 +65,6 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const std::optional<PictureFormat> format = formatOf(task.output);
     // Starting takes a while, which passes while the first photo is worked on.
     if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
-    metadata_.waitFor(task.source);
     Result<PhotoScene> scene = buildPhotoScene(PhotoRequest{.path = task.source,
                                                             .row = task.row,
                                                             .listSize = task.listSize,
@@ -96,11 +92,11 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     }
 
     PreparedPhoto photo;
-    photo.dpi = scene->dpiX;
     photo.lastAutoNumber = scene->lastAutoNumber;
     photo.warnings = warningsOf(*scene);
     const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
                                  scene->dpiX, scene->dpiY};
+    const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
     if (options.ResizeImage) picture = resizedImage(picture, size);
     photo.size = picture.size();
@@ -112,8 +108,22 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
         Result<QByteArray> file = encodePicture(picture, *format, encoding);
         if (!file) return tl::unexpected(std::move(file.error()));
         photo.file = std::move(*file);
+        if (takesMetadata(*format)) addMetadata(photo, picture, dpi, task.source);
     }
     return photo;
+}
+
+void OutputWriter::addMetadata(PreparedPhoto& photo, const QImage& picture, double dpi,
+                               const QString& source) {
+    Result<QByteArray> complete = metadata_.CopyExifDataTo(
+        photo.file, picture, {{}, source, settings_.options.ExifDataToInclude, dpi, settings_.copyright});
+    if (complete) {
+        photo.file = *std::move(complete);
+    } else {
+        photo.warnings.push_back(
+            {-1, QStringLiteral("metadata"),
+             QStringLiteral("The photo was written without its metadata: %1").arg(complete.error().message)});
+    }
 }
 
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
@@ -125,26 +135,14 @@ Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
 }
 
 Result<void> OutputWriter::writeFile(const PhotoTask& task, const PreparedPhoto& photo) {
-    const OutputOptions& options = settings_.options;
-    // Only a kept structure makes folders; where one cannot be made, writing the file tells.
-    if (options.KeepDirectoryStructure) QDir().mkpath(withoutLastPathComponent(task.output));
-    // An earlier photo's metadata may still be on its way to this file, or from it.
-    metadata_.waitFor(task.output);
-
-    const std::optional<PictureFormat> format = formatOf(task.output);
-    const bool getsMetadata = format && takesMetadata(*format);
-    std::optional<KeptFile> replacedSource;
-    if (getsMetadata && isSameFile(fileIdentity(task.source), fileIdentity(task.output))) {
-        Result<KeptFile> kept = KeptFile::keep(task.source);
-        if (!kept) return tl::unexpected(std::move(kept.error()));
-        replacedSource = *std::move(kept);
+    const QString folder = withoutLastPathComponent(task.output);
+    if (!startedFolders_.contains(folder)) {
+        startedFolders_.insert(folder);
+        // Only a kept structure makes folders; where one cannot be made, writing the file tells.
+        if (settings_.options.KeepDirectoryStructure) QDir().mkpath(folder);
+        removeAbandonedFiles(folder);
     }
-    Result<void> written = writeWholeFile(task.output, photo.file);
-    if (written && getsMetadata) {
-        metadata_.add({task.output, task.source, options.ExifDataToInclude, photo.dpi, settings_.copyright},
-                      std::move(replacedSource));
-    }
-    return written;
+    return replaceFile(task.output, photo.file);
 }
 
 Result<void> OutputWriter::addPage(const PdfPage& page) {
@@ -174,7 +172,6 @@ Result<void> OutputWriter::writeEffectPictures(const KeptFile& photo) const {
 }
 
 void OutputWriter::settle() {
-    metadata_.settle();
     if (const auto photo = std::exchange(effectPhoto_, std::nullopt)) {
         // Nobody waits for these pictures: where the home folder takes none, the outputs are as good.
         const Result<void> written = writeEffectPictures(*photo);

@@ -6,7 +6,6 @@
 
 #include "batch/photo_processor.h"
 #include "metadata/exiftool_pool.h"
-#include "metadata/metadata_queue.h"
 #include "metadata/metadata_transfer.h"
 #include "platform/kept_file.h"
 #include "records/copyright_metadata.h"
@@ -14,7 +13,9 @@
 #include "records/watermark_stack.h"
 #include "render/logo_cache.h"
 
+#include <QImage>
 #include <QLocale>
+#include <QSet>
 
 #include <chrono>
 #include <memory>
@@ -30,7 +31,7 @@ class OutputWriter : public PhotoProcessor {
         std::shared_ptr<const WatermarkStack> stack;
         QLocale locale;
         std::optional<CopyRightMetaData> copyright;
-        int metadataJobs = 1;  // outputs that are given their metadata at a time
+        int metadataJobs = 1;                                         // exiftool programs at a time
         std::chrono::milliseconds metadataTimeout = MetadataTimeout;  // for one output
     };
 
@@ -44,21 +45,24 @@ class OutputWriter : public PhotoProcessor {
     Result<QString> finishCombinedPdf() override;
     // Writes the effect's pictures too.
     void settle() override;
+    void interrupt() override { exiftool_.interrupt(); }
 
   private:
     struct CombinedPdf;
 
     Result<void> addPage(const PdfPage& page);
+    void addMetadata(PreparedPhoto& photo, const QImage& picture, double dpi, const QString& source);
     Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
     Result<void> writeEffectPictures(const KeptFile& photo) const;
 
     const Settings settings_;
     const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
     ExiftoolPool exiftool_;
-    MetadataQueue metadata_;  // uses exiftool_
+    MetadataTransfer metadata_;  // uses exiftool_
     std::once_flag exiftoolIsExpected_;
     std::unique_ptr<CombinedPdf> combinedPdf_;
     std::optional<KeptFile> effectPhoto_;  // the last photo that went through the effect step
+    QSet<QString> startedFolders_;         // made, and cleared of what killed runs have left there
 };
 
 }  // namespace zelto

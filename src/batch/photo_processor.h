@@ -29,8 +29,7 @@ struct PhotoTask {
 
 // A photo that only has to be written.
 struct PreparedPhoto {
-    QSize size;  // written pixels
-    double dpi = 72.0;
+    QSize size;                            // written pixels
     QByteArray file;                       // the complete file, or
     std::optional<PdfPage> page;           // a page of the combined PDF
     std::optional<qint64> lastAutoNumber;  // the running number to remember once the photo is committed
@@ -57,8 +56,11 @@ class PhotoProcessor {
     // once, after the last commit of a run that was not broken off. May throw.
     virtual Result<QString> finishCombinedPdf() = 0;
 
-    // Returns when every file committed so far is as it will stay.
+    // Called after the last commit of a run, or of the part of it up to a pause.
     virtual void settle() = 0;
+
+    // The run has been cancelled: what may take long is given up within seconds. Any thread, at any time.
+    virtual void interrupt() {}
 };
 
 }  // namespace zelto

@@ -3,11 +3,13 @@
 #include "cli/batch_work.h"
 #include "cli/command_line.h"
 #include "cli/report_merge.h"
+#include "platform/process_setup.h"
 
 #include <QGuiApplication>
 
 #include <langinfo.h>
 
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -20,7 +22,9 @@ namespace {
 
 bool printResult(const QByteArray& text) {
     const auto size = static_cast<std::size_t>(text.size());
-    return std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    // Whoever has closed the pipe wants no more of it; the photos are written all the same.
+    return (std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) ||
+           errno == EPIPE;
 }
 
 // Qt asks for a UTF-8 locale and a display, and would complain or fail in a bare environment.
@@ -126,6 +130,7 @@ int run(int argc, char** argv) {
 }  // namespace zelto
 
 int main(int argc, char** argv) {
+    zelto::prepareProcess();
     try {
         return zelto::run(argc, argv);
     } catch (const std::exception& exception) {

@@ -14,6 +14,11 @@ namespace {
 
 Q_LOGGING_CATEGORY(exiftoolLog, "zelto.exiftool")
 
+// A third one would hardly end better, and every photo would wait its minute.
+constexpr int MostTimeOuts = 2;
+
+constexpr std::chrono::seconds TimeAfterInterrupt{2};
+
 }  // namespace
 
 QString exiftoolProgram() {
@@ -56,6 +61,13 @@ void ExiftoolPool::warmUp() {
     giveBack(std::move(process));
 }
 
+ExiftoolPool::Clock::time_point ExiftoolPool::deadline(Clock::time_point asked) const {
+    const Clock::duration interrupted = interrupted_;
+    return interrupted == Clock::duration()
+               ? asked
+               : std::min(asked, Clock::time_point(interrupted) + TimeAfterInterrupt);
+}
+
 Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::milliseconds timeout) {
     if (!QFileInfo(program_).isExecutable()) {
         std::call_once(missingIsLogged_, [this] {
@@ -64,6 +76,10 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
         });
         return failed(QStringLiteral("is missing"));
     }
+    if (timeOuts_ >= MostTimeOuts)
+        return failed(QStringLiteral("was given up after it had not answered twice"));
+    if (deadline(Clock::now() + timeout) <= Clock::now())
+        return failed(QStringLiteral("was not given the time"));
     const int number = [this] {
         const std::lock_guard lock(mutex_);
         return ++lastNumber_;
@@ -82,7 +98,8 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
             }
             process = *std::move(started);
         }
-        const auto answer = process->run(*command, number, std::chrono::steady_clock::now() + timeout);
+        const auto answer = process->run(*command, number,
+                                         [this, asked = Clock::now() + timeout] { return deadline(asked); });
         if (answer) {
             result = QString::fromUtf8(*answer);
             break;
@@ -90,6 +107,7 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
         process->kill();
         process.reset();
         if (answer.error() == ExiftoolProcess::Failure::TimedOut) {
+            if (interrupted_.load() == Clock::duration()) ++timeOuts_;
             result = failed(QStringLiteral("did not answer in time"));
             break;
         }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A few exiftool programs kept running for whoever needs one. A program that crashes or hangs is replaced; one that
-// cannot be found is told to the log once. Any thread.
+// A few exiftool programs kept running for whoever needs one. A program that crashes or hangs is replaced, but after two
+// that hung none is asked any more; one that cannot be found is told to the log once. Any thread.
 #pragma once
 
 #include "metadata/exiftool_process.h"
@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -38,13 +39,21 @@ class ExiftoolPool {
     // ErrorCode::ProgramFailed, or that of exiftoolCommand().
     Result<QString> run(const QStringList& arguments, std::chrono::milliseconds timeout);
 
+    // From now on no command gets more than two seconds in all, and none is begun after that.
+    void interrupt() { interrupted_ = Clock::now().time_since_epoch(); }
+
   private:
+    using Clock = std::chrono::steady_clock;
+
     std::unique_ptr<ExiftoolProcess> take();
+    Clock::time_point deadline(Clock::time_point asked) const;
     void giveBack(std::unique_ptr<ExiftoolProcess> process);
     tl::unexpected<Error> failed(const QString& what) const;
 
     const QString program_;
     std::once_flag missingIsLogged_;
+    std::atomic<Clock::duration> interrupted_{};  // when, since the clock's start; 0 where it was not
+    std::atomic<int> timeOuts_ = 0;
     std::mutex mutex_;
     std::condition_variable freed_;
     std::vector<std::unique_ptr<ExiftoolProcess>> free_;  // null for one that is not running

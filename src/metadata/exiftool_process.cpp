@@ -76,12 +76,13 @@ void prepare(posix_spawnattr_t& attributes) {
 }
 
 // Waits until the socket can be read (or, where `too` says so, written); false at the deadline.
-bool waitFor(int socket, bool writing, Clock::time_point deadline) {
+bool waitFor(int socket, bool writing, const ExiftoolProcess::Deadline& deadline) {
+    constexpr qint64 LongestWait = 200;  // milliseconds
     while (true) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline() - Clock::now()).count();
         if (left <= 0) return false;
         pollfd waited{socket, static_cast<short>(POLLIN | (writing ? POLLOUT : 0)), 0};
-        const int ready = ::poll(&waited, 1, static_cast<int>(std::min<qint64>(left, 60'000)));
+        const int ready = ::poll(&waited, 1, static_cast<int>(std::min<qint64>(left, LongestWait)));
         if (ready > 0) return true;
         if (ready < 0 && errno != EINTR) return false;
     }
@@ -161,7 +162,7 @@ Result<std::unique_ptr<ExiftoolProcess>> ExiftoolProcess::start(const QString& p
 ExiftoolProcess::~ExiftoolProcess() {
     if (group_ != 0) {
         finish();
-        const auto deadline = Clock::now() + TimeToEnd;
+        const auto deadline = [end = Clock::now() + TimeToEnd] { return end; };
         QByteArray ignored;
         while (waitFor(socket_, false, deadline) && receive(ignored)) {
         }
@@ -199,7 +200,7 @@ bool ExiftoolProcess::receive(QByteArray& answer) {
 }
 
 tl::expected<QByteArray, ExiftoolProcess::Failure> ExiftoolProcess::run(const QByteArray& command, int number,
-                                                                        Clock::time_point deadline) {
+                                                                        const Deadline& deadline) {
     if (group_ == 0) return tl::unexpected(Failure::Died);
     const QByteArray lastLine = "{ready" + QByteArray::number(number) + "}\n";
     QByteArrayView pending(command);

@@ -16,6 +16,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace zelto {
@@ -41,9 +42,9 @@ class ExiftoolProcess {
     ExiftoolProcess& operator=(const ExiftoolProcess&) = delete;
 
     // What the program printed for a command made by exiftoolCommand() with `number`, which must be another one for
-    // each command. Blocks until then, but not past `deadline`.
-    tl::expected<QByteArray, Failure> run(const QByteArray& command, int number,
-                                          std::chrono::steady_clock::time_point deadline);
+    // each command. Blocks until then, but not past the `deadline`, which is asked for again several times a second.
+    using Deadline = std::function<std::chrono::steady_clock::time_point()>;
+    tl::expected<QByteArray, Failure> run(const QByteArray& command, int number, const Deadline& deadline);
 
     // Tells the program that no command follows. The destructor does so too; several processes end sooner when all
     // are told first.

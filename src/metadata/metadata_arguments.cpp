@@ -18,6 +18,17 @@ constexpr std::array CopyrightTags = {
     "-CreatorRegion"_L1,    "-CreatorAddress"_L1,  "-CopyRightStatus"_L1,   "-jfif:Xresolution"_L1,
     "-jfif:Yresolution"_L1};
 
+// Positions in Exif, in XMP under all its names, and in GeoTIFF. Their exiftool names, "*" for any letters.
+constexpr std::array PositionTags = {
+    "-gps:all"_L1,          "-xmp:*gps*"_L1,           "-xmp:*itude"_L1,         "-xmp:*coordinates"_L1,
+    "-GeoTiffDirectory"_L1, "-GeoTiffDoubleParams"_L1, "-GeoTiffAsciiParams"_L1, "-PixelScale"_L1,
+    "-ModelTiePoint"_L1,    "-ModelTransform"_L1};
+
+// Pictures that are text in XMP, and those that stand behind the photo's own.
+constexpr std::array PictureTags = {"-xmp:Thumbnails"_L1, "-xmp:ThumbnailImage"_L1, "-xmp:PageImage"_L1,
+                                    "-xmp:ImageData"_L1,  "-xmp:DepthImage"_L1,     "-PreviewImage"_L1,
+                                    "-JpgFromRaw"_L1,     "-OtherImage"_L1};
+
 // The tags a field of the copyright record is written to. "Rights" takes the creator's name, not the usage terms.
 struct FieldTags {
     QString CopyRightMetaData::*field;
@@ -112,8 +123,11 @@ QStringList metadataArguments(const MetadataRequest& request) {
 
 QStringList mendArguments(const MetadataRequest& request, const MetadataFaults& faults) {
     QStringList changes;
-    if (request.exifDataToInclude == exif_data::ExcludeGeolocation) {
-        changes << u"-gps:all="_s << u"-xmp:*gps*="_s << u"-xmp:*itude="_s;
+    if (faults.positions) {
+        for (const QLatin1String tags : PositionTags) changes += tags + u'=';
+    }
+    if (faults.pictures) {
+        for (const QLatin1String tags : PictureTags) changes += tags + u'=';
     }
     if (const CopyRightMetaData* copyright = writtenCopyright(request)) {
         const QString code = statusCode(writtenStatus(*copyright));

@@ -14,7 +14,7 @@
 namespace zelto {
 
 struct MetadataRequest {
-    QString output;  // the written JPEG or TIFF; it gets the metadata
+    QString output;  // the JPEG or TIFF that gets the metadata
     QString source;  // the photo that has them
     std::int64_t exifDataToInclude = 0;
     double resolution = 72.0;  // of the output picture, dots per inch
@@ -28,13 +28,16 @@ QStringList metadataArguments(const MetadataRequest& request);
 // What the list above leaves undone in an output, found by looking at it.
 struct MetadataFaults {
     bool resolution = false;  // the output does not record the request's resolution
-    bool isJpeg = true;       // and not a TIFF, which has no JFIF block
+    bool positions = false;   // it may say where the photo was taken, though it is not to
+    bool pictures = false;  // it holds pictures of the photo without its watermarks, in XMP or behind its own
+    bool isJpeg = true;     // and not a TIFF, which has no JFIF block
 };
 
-// The argument list of a second command that sets right where the first misses what it is for; empty when nothing
-// is to be done. Known to be missed by exiftool 12.57: "-geotag=" deletes no position; under "-n" a copyright status
-// is stored as the word instead of its code; a copied Exif unit is stored as the JFIF unit, whose codes mean
-// something else; and a resolution that the source has in another block is lost or becomes one without a unit.
+// The argument list of a second command that sets right where the first misses what it is for; empty when nothing is to
+// be done. Known to be missed by exiftool 12.57: "-geotag=" deletes no position; under "-n" a copyright status is stored
+// as the word instead of its code; a copied Exif unit is stored as the JFIF unit, whose codes mean something else; a
+// resolution that the source has in another block is lost or becomes one without a unit; and previews are copied like
+// any other tag. Of a place, its position goes and its name stays.
 QStringList mendArguments(const MetadataRequest& request, const MetadataFaults& faults);
 
 }  // namespace zelto

@@ -1,43 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "metadata/metadata_transfer.h"
 
+#include "metadata/embedded_pictures.h"
+#include "metadata/output_parts.h"
 #include "metadata/recorded_resolution.h"
+#include "pictures/jpeg_decoder.h"
 #include "platform/kept_file.h"
 #include "platform/whole_file.h"
 #include "records/output_options.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <optional>
 
 namespace zelto {
 namespace {
 
-constexpr QLatin1String TemporarySuffix("_exiftool_tmp");
-constexpr qsizetype LongestFileName = 255;
+using Clock = std::chrono::steady_clock;
 
-bool hasControlCharacter(const QString& path) {
-    return std::any_of(path.begin(), path.end(), [](QChar c) { return c.unicode() < 0x20; });
-}
-
-// Behind "-tagsfromfile" a "%" starts a placeholder, and none can be escaped.
+// Behind "-tagsfromfile" a "%" starts a placeholder, and none can be escaped; no argument can hold a line break.
 bool isUnsafeSource(const QString& path) {
-    return path.contains(u'%') || hasControlCharacter(path);
-}
-
-bool isUnsafeOutput(const QString& path) {
-    const qsizetype temporaryName =
-        QFile::encodeName(QFileInfo(path).fileName()).size() + TemporarySuffix.size();
-    return hasControlCharacter(path) || temporaryName > LongestFileName;
-}
-
-// One left behind by a program that was killed would keep exiftool from this file for good.
-void removeTemporary(const QString& output) {
-    QFile::remove(output + TemporarySuffix);
+    return std::any_of(path.begin(), path.end(), [](QChar c) { return c == u'%' || c.unicode() < 0x20; });
 }
 
 // What exiftool said, as much of it as fits a message and nothing that would work on a terminal.
@@ -48,55 +32,77 @@ QString excerpt(const QString& answer) {
     return text;
 }
 
-Result<void> runCommand(const QStringList& arguments, const QString& output, ExiftoolPool& pool,
-                        std::chrono::milliseconds timeout) {
-    removeTemporary(output);
-    const Result<QString> answer = pool.run(arguments, timeout);
-    // A file that already is as it should be is told "unchanged".
-    if (answer && (answer->contains(QLatin1String("1 image files updated")) ||
-                   answer->contains(QLatin1String("1 image files unchanged")))) {
-        return {};
+// A stand-in on the disk while exiftool works on it.
+class StandInFile {
+  public:
+    StandInFile(QString path, ExiftoolPool& pool, Clock::time_point deadline)
+        : path_(std::move(path)), pool_(pool), deadline_(deadline) {}
+    ~StandInFile() { QFile::remove(path_); }
+    StandInFile(const StandInFile&) = delete;
+    StandInFile& operator=(const StandInFile&) = delete;
+
+    Result<void> begin(const QByteArray& bytes) const {
+        QFile file(path_);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes)) return {};
+        return fail(ErrorCode::CannotWrite, file.errorString(), path_);
     }
-    removeTemporary(output);
-    if (!answer) return tl::unexpected(answer.error());
-    return fail(ErrorCode::ProgramFailed,
-                QStringLiteral("exiftool did not write \"%1\": %2").arg(output, excerpt(*answer)), output);
+
+    // What the file holds after one command.
+    Result<QByteArray> after(const QStringList& arguments) const {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
+        const Result<QString> answer = pool_.run(arguments, left);
+        if (!answer) return tl::unexpected(answer.error());
+        // A file that already is as it should be is told "unchanged".
+        if (!answer->contains(QLatin1String("1 image files updated")) &&
+            !answer->contains(QLatin1String("1 image files unchanged"))) {
+            return fail(ErrorCode::ProgramFailed,
+                        QStringLiteral("exiftool did not write the metadata: %1").arg(excerpt(*answer)));
+        }
+        return readWholeFile(path_);
+    }
+
+  private:
+    const QString path_;
+    ExiftoolPool& pool_;
+    const Clock::time_point deadline_;
+};
+
+QByteArray metadataOf(const QByteArray& file) {
+    QByteArray metadata;
+    for (const auto& [from, end] : metadataRanges(file)) metadata.append(file.data() + from, end - from);
+    return metadata;
 }
 
-MetadataFaults faultsOf(const MetadataRequest& request) {
-    return {!recordsResolution(request.output, request.resolution), isJpegFile(request.output)};
+// In XMP positions have no tag of their own: whatever might be one is worth a command that deletes those that are.
+bool mayHoldPosition(const QByteArray& file, const QByteArray& metadata) {
+    constexpr const char* Words[] = {"GPS", "Gps", "gps", "itude", "oordinate"};
+    return holdsPosition(file) || std::any_of(std::begin(Words), std::end(Words),
+                                              [&](const char* word) { return metadata.contains(word); });
 }
 
-// Both commands, on files whose names exiftool can be told.
-Result<void> transfer(const MetadataRequest& request, ExiftoolPool& pool, std::chrono::milliseconds timeout) {
-    const Result<KeptFile> asWritten = KeptFile::keep(request.output);
-    if (!asWritten) return tl::unexpected(asWritten.error());
-    const Result<void> copied = runCommand(metadataArguments(request), request.output, pool, timeout);
-    if (!copied) return copied;
-    const QStringList mend = mendArguments(request, faultsOf(request));
-    if (mend.isEmpty()) return {};
-    const Result<void> mended = runCommand(mend, request.output, pool, timeout);
-    if (mended) return {};
-    const Result<void> restored = writeWholeFile(request.output, asWritten->read());
-    return restored ? mended : restored;
+MetadataFaults faultsOf(const QByteArray& filled, const MetadataRequest& request) {
+    const QByteArray metadata = metadataOf(filled);
+    return {.resolution = !recordsResolution(filled, request.resolution),
+            .positions = request.exifDataToInclude == exif_data::ExcludeGeolocation &&
+                         mayHoldPosition(filled, metadata),
+            .pictures = hasTrailer(filled) || holdsPictureAsText(metadata),
+            .isJpeg = isJpeg(filled)};
 }
 
-// The positions that are to be left out are in the file until the second command has run. No file of its final name
-// may hold them, not even where this program is killed in between.
-bool passesThroughPositions(const MetadataRequest& request) {
-    return request.exifDataToInclude == exif_data::ExcludeGeolocation;
+// What neither the list nor the second command may have left in the file.
+Result<QByteArray> withoutSecrets(QByteArray filled, const MetadataRequest& request) {
+    if (request.exifDataToInclude == exif_data::ExcludeGeolocation && holdsPosition(filled))
+        return fail(ErrorCode::ProgramFailed,
+                    QStringLiteral("exiftool did not remove the photo's position."));
+    if (holdsPictureAsText(metadataOf(filled)))
+        return fail(ErrorCode::ProgramFailed,
+                    QStringLiteral("exiftool did not remove a picture from the photo's metadata."));
+    return filled;
 }
 
-// The same by way of a copy of the output elsewhere, under a name of plain characters.
-Result<void> transferByCopy(MetadataRequest request, ExiftoolPool& pool, std::chrono::milliseconds timeout) {
-    const Result<KeptFile> asWritten = KeptFile::keep(request.output);
-    if (!asWritten) return tl::unexpected(asWritten.error());
-    const QTemporaryDir folder;
-    const QString output = std::exchange(request.output, folder.filePath(QStringLiteral("output")));
-    return writeWholeFile(request.output, asWritten->read())
-        .and_then([&] { return transfer(request, pool, timeout); })
-        .and_then([&] { return KeptFile::keep(request.output); })
-        .and_then([&](const KeptFile& done) { return writeWholeFile(output, done.read()); });
+QByteArray withOwnSmallPictures(QByteArray file, const QImage& picture) {
+    for (const auto& [from, end] : metadataRanges(file)) replaceEmbeddedPictures(file, from, end, picture);
+    return file;
 }
 
 }  // namespace
@@ -105,23 +111,40 @@ bool takesMetadata(PictureFormat format) {
     return format == PictureFormat::Jpeg || format == PictureFormat::Tiff;
 }
 
-Result<void> CopyExifDataTo(const MetadataRequest& request, ExiftoolPool& pool,
-                            std::chrono::milliseconds timeout) {
-    MetadataRequest told = request;
-    // Absolute paths: none starts like an option, and exiftool's working folder is not this program's.
-    told.source = QFileInfo(request.source).absoluteFilePath();
-    const QFileInfo output(request.output);
-    // exiftool would put its file in the place of a link, not of what the link leads to.
-    told.output = output.isSymLink() ? output.canonicalFilePath() : output.absoluteFilePath();
+Result<QString> MetadataTransfer::privatePath() {
+    const std::lock_guard lock(mutex_);
+    if (!folder_) {
+        Result<PrivateFolder> made = PrivateFolder::make();
+        if (!made) return tl::unexpected(made.error());
+        folder_ = *std::move(made);
+    }
+    return folder_->filePath(QStringLiteral("output%1").arg(++lastNumber_));
+}
+
+Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output, const QImage& picture,
+                                                    MetadataRequest request) {
+    // An absolute path: none starts like an option, and exiftool's working folder is not this program's.
+    request.source = QFileInfo(request.source).absoluteFilePath();
     std::optional<KeptFile> safeSource;
-    if (isUnsafeSource(told.source)) {
-        Result<KeptFile> kept = KeptFile::keep(told.source);
+    if (isUnsafeSource(request.source)) {
+        Result<KeptFile> kept = KeptFile::keep(request.source);
         if (!kept) return tl::unexpected(kept.error());
         safeSource = *std::move(kept);
-        told.source = safeSource->path();
+        request.source = safeSource->path();
     }
-    const bool byCopy = isUnsafeOutput(told.output) || passesThroughPositions(told);
-    return byCopy ? transferByCopy(told, pool, timeout) : transfer(told, pool, timeout);
+    Result<QString> path = privatePath();
+    if (!path) return tl::unexpected(path.error());
+    request.output = *path;
+    const StandInFile file(*path, pool_, Clock::now() + timeout_);
+    return file.begin(standIn(output))
+        .and_then([&] { return file.after(metadataArguments(request)); })
+        .and_then([&](QByteArray filled) -> Result<QByteArray> {
+            const QStringList mend = mendArguments(request, faultsOf(filled, request));
+            return mend.isEmpty() ? Result<QByteArray>(std::move(filled)) : file.after(mend);
+        })
+        .and_then([&](QByteArray filled) { return withoutSecrets(std::move(filled), request); })
+        .and_then([&](const QByteArray& filled) { return withMetadataOf(filled, output); })
+        .map([&](QByteArray whole) { return withOwnSmallPictures(std::move(whole), picture); });
 }
 
 }  // namespace zelto

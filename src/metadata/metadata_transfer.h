@@ -1,14 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Carries the metadata of a photo into its written output. Any thread; several outputs at a time, but one output by
-// one thread.
+// Carries the metadata of a photo into its output before that is written. exiftool works on a private stand-in, never on
+// a file of the user's, and what it leaves there is looked at before it is used. The thumbnail and other small pictures
+// that come with the metadata are made anew from the output's picture: copied, they would show the photo unmarked.
+//
+//     ExiftoolPool pool(2);
+//     MetadataTransfer transfer(pool);
+//     Result<QByteArray> file = transfer.CopyExifDataTo(encoded, picture, {{}, "/photos/a.jpg", exif_data::IncludeAll});
 #pragma once
 
 #include "metadata/exiftool_pool.h"
 #include "metadata/metadata_arguments.h"
 #include "pictures/picture_writer.h"
+#include "platform/private_folder.h"
 #include "platform/result.h"
 
+#include <QByteArray>
+#include <QImage>
+
 #include <chrono>
+#include <mutex>
+#include <optional>
 
 namespace zelto {
 
@@ -18,10 +29,27 @@ inline constexpr std::chrono::milliseconds MetadataTimeout = std::chrono::second
 // Whether outputs of `format` are given metadata at all.
 bool takesMetadata(PictureFormat format);
 
-// Blocks until the output has its metadata. Where an output replaces the photo it is made from, keep a KeptFile of
-// the photo before writing and name its path as the source. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound
-// or ErrorCode::CannotWrite for the files; the output is then as it was written, whole and without metadata.
-Result<void> CopyExifDataTo(const MetadataRequest& request, ExiftoolPool& pool,
-                            std::chrono::milliseconds timeout = MetadataTimeout);
+// Any thread, several outputs at a time.
+class MetadataTransfer {
+  public:
+    // `pool` must outlive it.
+    explicit MetadataTransfer(ExiftoolPool& pool, std::chrono::milliseconds timeout = MetadataTimeout)
+        : pool_(pool), timeout_(timeout) {}
+
+    // The bytes of `output`, an encoded JPEG or TIFF file that shows `picture`, with the metadata that `request` asks for
+    // (its own `output` is not looked at). Blocks. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound or
+    // ErrorCode::CannotWrite for the source and the stand-in.
+    Result<QByteArray> CopyExifDataTo(const QByteArray& output, const QImage& picture,
+                                      MetadataRequest request);
+
+  private:
+    Result<QString> privatePath();
+
+    ExiftoolPool& pool_;
+    const std::chrono::milliseconds timeout_;
+    std::mutex mutex_;  // guards everything below
+    std::optional<PrivateFolder> folder_;
+    int lastNumber_ = 0;
+};
 
 }  // namespace zelto

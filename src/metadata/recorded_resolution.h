@@ -2,15 +2,12 @@
 // The resolution a JPEG or TIFF file states, told from its header without decoding it. Any thread.
 #pragma once
 
-#include <QString>
+#include <QByteArrayView>
 
 namespace zelto {
 
 // Whether every resolution that the file states is `dpi`, to within the rounding of the formats that count in whole
 // dots. A file that states none, or none with a unit, does so only for the 72 dpi that readers then assume.
-bool recordsResolution(const QString& path, double dpi);
-
-// Whether the file is a JPEG by its first bytes.
-bool isJpegFile(const QString& path);
+bool recordsResolution(QByteArrayView file, double dpi);
 
 }  // namespace zelto

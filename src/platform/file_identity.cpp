@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/file_identity.h"
 
+#include "platform/owned_entry.h"
 #include "platform/path_parts.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -46,15 +46,6 @@ QByteArray inOtherCase(QByteArray name) {
         }
     }
     return name;
-}
-
-QList<QByteArray> namesIn(const QByteArray& folder) {
-    QList<QByteArray> names;
-    DIR* const entries = ::opendir(folder.constData());
-    if (entries == nullptr) return names;
-    while (const dirent* entry = ::readdir(entries)) names.append(entry->d_name);
-    ::closedir(entries);
-    return names;
 }
 
 // Whether `name`, which the folder does not list, is found in it all the same. Inodes are no help: some file systems

@@ -24,9 +24,4 @@ QString KeptFile::path() const {
     return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(file_->handle());
 }
 
-QByteArray KeptFile::read() const {
-    file_->seek(0);
-    return file_->readAll();
-}
-
 }  // namespace zelto

@@ -6,7 +6,6 @@
 
 #include "platform/result.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -26,9 +25,6 @@ class KeptFile {
 
     // Leads to the kept file for every program of this user, as long as this object lives.
     QString path() const;
-
-    // The whole content.
-    QByteArray read() const;
 
   private:
     explicit KeptFile(std::unique_ptr<QFile> file);

@@ -5,18 +5,45 @@
 #include "platform/whole_file.h"
 #include "render/photo_effects.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 namespace zelto {
+namespace {
+
+// A PNG text chunk, by which the program knows its own pictures: length, type, "Software" and its text, checksum.
+constexpr QByteArrayView OwnChunk("\0\0\0\x1AtEXtSoftware\0Zelto effect step\x64\xAD\xA5\x62", 38);
+// Of the signature and the header chunk, which come first in every PNG.
+constexpr qsizetype HeaderSize = 33;
+
+bool isOwn(const QString& path) {
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
+           file.read(HeaderSize + OwnChunk.size()).endsWith(OwnChunk);
+}
+
+Result<QByteArray> encoded(const QImage& picture) {
+    return encodePicture(picture, PictureFormat::Png, {}).map([](QByteArray bytes) {
+        return bytes.insert(HeaderSize, OwnChunk);
+    });
+}
+
+Result<void> writeOwn(const QString& path, const QByteArray& bytes) {
+    const Result<void> kept = isOwn(path) ? Result<void>() : keepUnderOtherName(path);
+    return kept ? replaceFile(path, bytes, FileAccess::OwnerOnly) : kept;
+}
+
+}  // namespace
 
 Result<void> writeEffectDiagnostics(const QImage& framed, const QImage& result, const QString& folder) {
-    const auto encoded = [](const QImage& picture) { return encodePicture(picture, PictureFormat::Png, {}); };
     const QDir directory(folder);
     Result<QByteArray> bytes = encoded(framed);
     if (!bytes) return tl::unexpected(bytes.error());
-    if (auto written = writeWholeFile(directory.filePath(QStringLiteral("file.png")), *bytes); !written)
+    if (auto written = writeOwn(directory.filePath(QStringLiteral("file.png")), *bytes); !written)
         return written;
     if (result.cacheKey() != framed.cacheKey()) bytes = encoded(result);
     if (!bytes) return tl::unexpected(bytes.error());
-    return writeWholeFile(directory.filePath(QStringLiteral("effect.png")), *bytes);
+    return writeOwn(directory.filePath(QStringLiteral("effect.png")), *bytes);
 }
 
 Result<void> writeEffectDiagnostics(const QImage& photo, const PhotoEffects& effect, bool final,

@@ -15,6 +15,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <future>
 #include <thread>
 
 namespace zelto {
@@ -111,7 +112,13 @@ TEST_F(Exiftool, AnswersAreMatchedToTheirCommandThroughAnyNoise) {
         EXPECT_EQ(pool.run({u"-x"_s}, 30s), u"{ready999}\nnoise\nx{ready%1}\n"_s.arg(number));
     }
     ExiftoolPool endless(1, program("yes '{ready2}'"));
-    EXPECT_FALSE(endless.run({u"-x"_s}, 300ms));
+    for (int timeOut = 0; timeOut < 2; ++timeOut) EXPECT_FALSE(endless.run({u"-x"_s}, 300ms));
+    EXPECT_TRUE(endless.run({u"-x"_s}, 60s).error().message.contains(u"given up"_s));
+
+    ExiftoolPool hanging(1, program("sleep 1000"));
+    auto cancelled = std::async(std::launch::async, [&] { return hanging.run({u"-x"_s}, 600s); });
+    hanging.interrupt();
+    EXPECT_FALSE(cancelled.get());
 }
 
 TEST_F(Exiftool, CommandCutOffByTheEndOfThisProgramTouchesNoFile) {
@@ -122,7 +129,8 @@ TEST_F(Exiftool, CommandCutOffByTheEndOfThisProgramTouchesNoFile) {
         ASSERT_TRUE(process);
         const QByteArray part =
             "-overwrite_original\n-Copyright=x\n" + QFile::encodeName(folder_.path()) + tail;
-        const auto cutOff = (*process)->run(part, 1, std::chrono::steady_clock::now() + 50ms);
+        const auto cutOff =
+            (*process)->run(part, 1, [end = std::chrono::steady_clock::now() + 50ms] { return end; });
         EXPECT_EQ(cutOff.error(), ExiftoolProcess::Failure::TimedOut);
         process->reset();
         EXPECT_EQ(content(path), before);

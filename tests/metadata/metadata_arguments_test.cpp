@@ -80,14 +80,19 @@ TEST(MetadataArguments, SecondCommandOnlyWhereTheFirstMissesItsAim) {
         std::string list;
     } rows[] = {
         {request(0), {}, ""},
-        {request(2), {}, "-overwrite_original -gps:all= -xmp:*gps*= -xmp:*itude= /o.jpg"},
+        {request(2), {}, ""},
+        {request(0),
+         {.pictures = true},
+         "-overwrite_original -xmp:Thumbnails= -xmp:ThumbnailImage= "
+         "-xmp:PageImage= -xmp:ImageData= -xmp:DepthImage= -PreviewImage= "
+         "-JpgFromRaw= -OtherImage= /o.jpg"},
         {protectedOne, {}, "-overwrite_original -xmp-plus:CopyrightStatus#=CS-PRO /o.jpg"},
         {disabled, {}, ""},
         {otherWord, {}, ""},
         {excluded, {}, ""},
-        {request(0), {true, true}, std::string(inches) + ' ' + tiffInches},
-        {request(3), {true, true}, std::string(inches) + " /o.jpg"},
-        {request(3), {true, false}, std::string("-overwrite_original ") + tiffInches},
+        {request(0), {.resolution = true}, std::string(inches) + ' ' + tiffInches},
+        {request(3), {.resolution = true}, std::string(inches) + " /o.jpg"},
+        {request(3), {.resolution = true, .isJpeg = false}, std::string("-overwrite_original ") + tiffInches},
     };
     for (const auto& row : rows)
         EXPECT_EQ(mendArguments(row.request, row.faults).join(u' ').toStdString(), row.list);

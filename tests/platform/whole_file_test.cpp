@@ -87,6 +87,10 @@ TEST_F(WholeFileTest, WritesNamesAsLongAsTheyMayBeAndThroughLinks) {
         ASSERT_TRUE(writeWholeFile(new_, "after")) << "existing " << existing;
         EXPECT_TRUE(QFileInfo(new_).isSymLink());
         EXPECT_EQ(contentOf(target), "after");
+        ASSERT_TRUE(replaceFile(new_, "instead"));
+        EXPECT_FALSE(QFileInfo(new_).isSymLink());
+        EXPECT_EQ(contentOf(target), "after");
+        EXPECT_EQ(contentOf(new_), "instead");
         QFile::remove(new_);
     }
 }

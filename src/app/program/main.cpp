@@ -4,11 +4,13 @@
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/program/app_delegate.h"
+#include "platform/process_setup.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 
 int main(int argc, char** argv) {
+    zelto::prepareProcess();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));

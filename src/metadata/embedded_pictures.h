@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The small pictures that cameras and programs put into the metadata of a photo: thumbnails, makers' previews. Copied
+// into an output they would show the photo without its watermarks. Any thread.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+namespace zelto {
+
+// Puts a small version of `picture` in the place of each JPEG picture that lies in `bytes` between `from` and `end`. It
+// takes no more bytes than the one before and zeros fill the rest, so that nothing around it moves; where not even
+// the smallest fits, there are only zeros. Pictures of other kinds are left alone.
+void replaceEmbeddedPictures(QByteArray& bytes, qsizetype from, qsizetype end, const QImage& picture);
+
+// Whether a JPEG or PNG picture stands in `metadata` written as text, as XMP has it.
+bool holdsPictureAsText(QByteArrayView metadata);
+
+}  // namespace zelto

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "metadata/output_parts.h"
+
+#include "metadata/jpeg_segments.h"
+#include "metadata/tiff_entries.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace zelto {
+namespace {
+
+constexpr QByteArrayView JpegEnd("\xFF\xD9", 2);
+
+QByteArray joined(std::initializer_list<QByteArrayView> parts) {
+    QByteArray bytes;
+    for (const QByteArrayView part : parts) bytes.append(part);
+    return bytes;
+}
+
+// What says how the strips of a TIFF are to be read: sizes, bits, compression, colours, planes, predictor, palette.
+constexpr std::array<quint16, 12> LayoutTags = {256, 257, 258, 259, 262, 277, 278, 284, 317, 320, 338, 339};
+// Pixel scale, tie points, transform, and the three of the GeoTIFF directory.
+constexpr std::array<quint16, 7> PositionTags = {
+    tiff_tag::GpsDirectory, 33550, 33922, 34264, 34735, 34736, 34737};
+
+// All of the head that is not metadata.
+QByteArray pictureHead(const JpegParts& parts) {
+    QByteArray head;
+    for (const JpegSegment& segment : parts.segments) {
+        if (!segment.isMetadata()) head.append(segment.whole);
+    }
+    return head.append(parts.scanHeader);
+}
+
+// Where the strips lie; nothing where one lies outside the file.
+std::optional<std::vector<ByteRange>> strips(QByteArrayView tiff) {
+    const std::vector<TiffEntry> entries = tiffEntries(tiff);
+    const std::vector<quint32> offsets = tiffNumbers(entries, tiff_tag::StripOffsets);
+    const std::vector<quint32> sizes = tiffNumbers(entries, tiff_tag::StripByteCounts);
+    if (offsets.empty() || offsets.size() != sizes.size()) return std::nullopt;
+    std::vector<ByteRange> ranges;
+    for (std::size_t i = 0; i < offsets.size(); ++i) {
+        ranges.emplace_back(offsets[i], qsizetype{offsets[i]} + sizes[i]);
+        if (ranges.back().second > tiff.size()) return std::nullopt;
+    }
+    return ranges;
+}
+
+bool isSameTiffPicture(QByteArrayView one, QByteArrayView other) {
+    const auto stripsOfOne = strips(one);
+    const auto stripsOfOther = strips(other);
+    if (!stripsOfOne || !stripsOfOther) return false;
+    const auto bytesOf = [](QByteArrayView file, const ByteRange& range) {
+        return file.sliced(range.first, range.second - range.first);
+    };
+    const std::vector<TiffEntry> entriesOfOne = tiffEntries(one);
+    const std::vector<TiffEntry> entriesOfOther = tiffEntries(other);
+    return std::all_of(LayoutTags.begin(), LayoutTags.end(),
+                       [&](quint16 tag) {
+                           return tiffNumbers(entriesOfOne, tag) == tiffNumbers(entriesOfOther, tag);
+                       }) &&
+           std::equal(
+               stripsOfOne->begin(), stripsOfOne->end(), stripsOfOther->begin(), stripsOfOther->end(),
+               [&](const ByteRange& a, const ByteRange& b) { return bytesOf(one, a) == bytesOf(other, b); });
+}
+
+bool hasPositionTag(QByteArrayView tiff) {
+    const std::vector<TiffEntry> entries = tiffEntries(tiff);
+    return std::any_of(entries.begin(), entries.end(), [](const TiffEntry& entry) {
+        return std::find(PositionTags.begin(), PositionTags.end(), entry.tag) != PositionTags.end();
+    });
+}
+
+std::vector<ByteRange> gapsBetween(std::vector<ByteRange> strips, qsizetype size) {
+    std::sort(strips.begin(), strips.end());
+    std::vector<ByteRange> gaps;
+    qsizetype at = 0;
+    for (const auto& [from, end] : strips) {
+        if (from > at) gaps.emplace_back(at, from);
+        at = std::max(at, end);
+    }
+    if (at < size) gaps.emplace_back(at, size);
+    return gaps;
+}
+
+}  // namespace
+
+QByteArray standIn(const QByteArray& output) {
+    const std::optional<JpegParts> parts = jpegParts(output);
+    return parts ? joined({parts->head, parts->scanHeader, JpegEnd}) : output;
+}
+
+Result<QByteArray> withMetadataOf(const QByteArray& filled, const QByteArray& output) {
+    const auto unusable = fail(ErrorCode::ProgramFailed,
+                               QStringLiteral("exiftool left a file that is not the picture it was given."));
+    const std::optional<JpegParts> parts = jpegParts(output);
+    if (!parts) return isSameTiffPicture(output, filled) ? Result<QByteArray>(filled) : unusable;
+    const std::optional<JpegParts> filledParts = jpegParts(filled);
+    const bool isWhole = filledParts && pictureHead(*filledParts) == pictureHead(*parts) &&
+                         filledParts->scans.startsWith(joined({parts->scanHeader, JpegEnd}));
+    if (!isWhole) return unusable;
+    return joined({filledParts->head, parts->scans});
+}
+
+bool hasTrailer(const QByteArray& filled) {
+    const std::optional<JpegParts> parts = jpegParts(filled);
+    return parts && parts->scans.size() > parts->scanHeader.size() + JpegEnd.size();
+}
+
+std::vector<ByteRange> metadataRanges(QByteArrayView file) {
+    std::vector<ByteRange> ranges;
+    if (const std::optional<JpegParts> parts = jpegParts(file)) {
+        for (const JpegSegment& segment : parts->segments) {
+            const qsizetype from = segment.content.data() - file.data();
+            if (segment.isMetadata()) ranges.emplace_back(from, from + segment.content.size());
+        }
+        return ranges;
+    }
+    return gapsBetween(strips(file).value_or(std::vector<ByteRange>()), file.size());
+}
+
+bool holdsPosition(QByteArrayView file) {
+    const std::optional<JpegParts> parts = jpegParts(file);
+    if (!parts) return hasPositionTag(file);
+    return std::any_of(parts->segments.begin(), parts->segments.end(),
+                       [](const JpegSegment& segment) { return hasPositionTag(segment.exif()); });
+}
+
+}  // namespace zelto
