@@ -111,7 +111,7 @@ TEST_F(Exiftool, AnswersAreMatchedToTheirCommandThroughAnyNoise) {
     for (int number = 1; number < 4; ++number) {
         EXPECT_EQ(pool.run({u"-x"_s}, 30s), u"{ready999}\nnoise\nx{ready%1}\n"_s.arg(number));
     }
-    ExiftoolPool endless(1, program("yes '{ready2}'"));
+    ExiftoolPool endless(1, program("yes '{ready9}'"));
     for (int timeOut = 0; timeOut < 2; ++timeOut) EXPECT_FALSE(endless.run({u"-x"_s}, 300ms));
     EXPECT_TRUE(endless.run({u"-x"_s}, 60s).error().message.contains(u"given up"_s));
 
