@@ -3,6 +3,7 @@
 
 #include "batch/output_name.h"
 #include "batch/output_size.h"
+#include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
 #include "pictures/picture_writer.h"
 #include "pictures/resample.h"
@@ -14,6 +15,7 @@
 #include "render/photo_scene.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -25,10 +27,6 @@ namespace {
 Q_LOGGING_CATEGORY(outputLog, "zelto.output")
 
 constexpr qint64 BytesPerPixel = 4;
-
-qint64 pixelCount(QSize size) {
-    return qint64{size.width()} * size.height();
-}
 
 std::optional<PictureFormat> formatOf(const QString& output) {
     return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
@@ -51,20 +49,22 @@ OutputWriter::OutputWriter(Settings settings)
 OutputWriter::~OutputWriter() = default;
 
 qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
-    const Result<QSize> photo = readPictureSize(task.source);
+    const Result<PictureNeeds> photo = readPictureNeeds(task.source);
     if (!photo) return 0;
     // The photo and, at its worst moment, a second picture made from it; a frame makes a larger third one.
     const qint64 pictures = settings_.stack->Effects ? 3 : 2;
-    const QSize written = outputSize(*photo, settings_.options);
+    const QSize written = outputSize(photo->size, settings_.options);
     const qint64 resized =
         settings_.options.ResizeImage ? std::min(pixelCount(written), MaximumPicturePixels) : 0;
-    return (pixelCount(*photo) * pictures + resized) * BytesPerPixel;
+    return std::max(photo->memory, (pixelCount(photo->size) * pictures + resized) * BytesPerPixel);
 }
 
 Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const std::optional<PictureFormat> format = formatOf(task.output);
     // Starting takes a while, which passes while the first photo is worked on.
     if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
+    if (Result<void> allowed = checkMemory(memoryNeeded(task), QFileInfo(task.source).size()); !allowed)
+        return tl::unexpected(std::move(allowed.error()));
     Result<PhotoScene> scene = buildPhotoScene(PhotoRequest{.path = task.source,
                                                             .row = task.row,
                                                             .listSize = task.listSize,
@@ -74,7 +74,9 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
                                                             .locale = settings_.locale,
                                                             .stack = settings_.stack,
                                                             .logos = logos_});
-    if (!scene) return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
+    if (!scene && scene.error().code == ErrorCode::NotFound)
+        return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
+    if (!scene) return tl::unexpected(std::move(scene.error()));
 
     const OutputOptions& options = settings_.options;
     if (!format) {

@@ -21,6 +21,9 @@ constexpr int TableSteps = 1 << 14;
 constexpr int FractionBits = 8;  // of a sum, below a step of encoded_
 constexpr double UnitLight = double{TableSteps} * (1 << FractionBits);
 
+// No colour has more, in parts of white's: a profile that says so is broken, and its numbers may fit no integer.
+constexpr double MostLight = 4.0;
+
 using LightValues = std::array<double, 3>;
 
 std::size_t levelOf8(int value, std::size_t levels) {
@@ -76,6 +79,9 @@ bool AdditiveTransform::fill(cmsHPROFILE profile) {
     const ToLight lightOf(profile);
     if (!lightOf.isValid()) return false;
     const LightValues black = lightOf({});
+    for (const double part : black) {
+        if (!(std::abs(part) < MostLight)) return false;
+    }
     LightValues lowest = black;
     LightValues highest = black;
     const std::array<Contributions*, 3> tables{&red_, &green_, &blue_};
@@ -89,7 +95,7 @@ bool AdditiveTransform::fill(cmsHPROFILE profile) {
             const LightValues light = lightOf(color);
             for (std::size_t part = 0; part < 3; ++part) {
                 const double share = light[part] - black[part];
-                if (!(std::abs(share) < 4.0)) return false;  // a broken profile's, no colour
+                if (!(std::abs(share) < MostLight)) return false;
                 table[level].parts[part] = fixedPoint(share);
                 least[part] = std::min(least[part], share);
                 most[part] = std::max(most[part], share);

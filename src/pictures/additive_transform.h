@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A quick and exact way through the profiles that nearly all photos have: grey ones, and the RGB ones of three
-// curves and a matrix such as Adobe RGB and Display P3. They are additive: the light of a colour is the sum
-// of the lights of its components. So one table for each component, of what its values contribute, and one
-// that turns the sums into sRGB bytes convert a pixel with three vector loads and two additions. All figures
-// come from lcms2, and the tables are only used where they agree with its exact results.
+// A quick way through the profiles that nearly all photos have: grey ones, and RGB ones of three curves and a matrix,
+// such as Adobe RGB and Display P3. They are additive: the light of a colour is the sum of the lights of its components.
+// One table for each component holds what its values contribute, and one more turns sums into sRGB bytes, so a pixel
+// takes three vector loads and two additions. All figures come from lcms2. The tables are used only where samples from
+// all over the colour space come within one level of lcms2's exact results; about 2 % of pixels are that one level off.
 #pragma once
 
 #include <QImage>

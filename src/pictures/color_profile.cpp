@@ -2,6 +2,7 @@
 #include "pictures/color_profile.h"
 
 #include "pictures/color_transform.h"
+#include "pictures/picture_memory.h"
 
 namespace zelto {
 namespace {
@@ -19,13 +20,14 @@ QImage convertedToSrgb(QImage picture, const QByteArray& profile) {
     const QImage::Format format = hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32;
     const auto transform = ColorTransform::toSrgb(profile, wide ? SourcePixels::Rgbx16 : SourcePixels::Bgrx8);
     if (wide && transform) {
-        picture.convertTo(hasAlpha ? QImage::Format_RGBA64 : QImage::Format_RGBX64);
-        QImage narrow = picture.convertToFormat(format);
-        if (!narrow.isNull()) transform->apply(picture.constBits(), picture.bytesPerLine(), narrow);
+        picture = converted(
+            std::move(picture).convertToFormat(hasAlpha ? QImage::Format_RGBA64 : QImage::Format_RGBX64));
+        QImage narrow = converted(picture.convertToFormat(format));
+        transform->apply(picture.constBits(), picture.bytesPerLine(), narrow);
         return narrow;
     }
-    picture.convertTo(format);
-    if (transform && !picture.isNull()) transform->apply(picture.bits(), picture.bytesPerLine(), picture);
+    picture = converted(std::move(picture).convertToFormat(format));
+    if (transform) transform->apply(picture.bits(), picture.bytesPerLine(), picture);
     return picture;
 }
 

@@ -3,6 +3,8 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <new>
+
 namespace zelto {
 namespace {
 
@@ -56,6 +58,8 @@ ExifFacts readExifFacts(QByteArrayView exif) {
         Exiv2::ExifParser::decode(data, reinterpret_cast<const Exiv2::byte*>(exif.data()),
                                   static_cast<std::uint32_t>(exif.size()));
         return factsOf(data);
+    } catch (const std::bad_alloc&) {
+        throw;
     } catch (const std::exception&) {
         return {};
     }

@@ -2,11 +2,11 @@
 #include "pictures/jpeg_decoder.h"
 
 #include "pictures/color_profile.h"
+#include "pictures/device_bytes.h"
 #include "pictures/exif_facts.h"
 #include "pictures/libjpeg.h"
 #include "pictures/picture_facts.h"
 #include "pictures/picture_memory.h"
-#include "pictures/resolution.h"
 #include "pictures/upright.h"
 
 #include <algorithm>
@@ -19,6 +19,11 @@ namespace {
 
 // A progressive file needs ten or so; thousands are an attempt to keep the program busy.
 constexpr int MaximumScans = 500;
+// Every scan goes through all blocks, even those it says nothing about. So many visits of blocks take some seconds; files
+// that have the bytes to say something new at each visit may have more.
+constexpr qint64 QuickBlockVisits = qint64{1} << 27;
+constexpr qint64 BlockVisitsPerByte = 64;
+constexpr qint64 BlockPixels = DCTSIZE2;
 
 // libjpeg only warns where pixels are lost and goes on with grey ones.
 void judgeMessage(j_common_ptr info, int level) {
@@ -28,8 +33,15 @@ void judgeMessage(j_common_ptr info, int level) {
         escapeWithJpegMessage(info);
 }
 
+// libjpeg's progress report, with what the scans may cost in all.
+struct ScanLimit {
+    jpeg_progress_mgr base;  // first, so that libjpeg's pointer to it is a pointer to the whole
+    qint64 scans = MaximumScans;
+};
+
 void limitScans(j_common_ptr info) {
-    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > MaximumScans)
+    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number >
+        reinterpret_cast<ScanLimit*>(info->progress)->scans)
         escapeWithJpegMessage(info);
 }
 
@@ -46,8 +58,7 @@ void nothingToDo(j_decompress_ptr) {}
 
 boolean fillBuffer(j_decompress_ptr info) {
     auto* source = reinterpret_cast<Source*>(info->src);
-    const qint64 got =
-        source->device->read(reinterpret_cast<char*>(source->buffer.data()), qint64{sizeof source->buffer});
+    const qint64 got = readBytes(*source->device, source->buffer.data(), qint64{sizeof source->buffer});
     if (got <= 0) WARNMS(info, JWRN_JPEG_EOF);  // does not come back
     source->base.next_input_byte = source->buffer.data();
     source->base.bytes_in_buffer = static_cast<std::size_t>(got);
@@ -74,7 +85,7 @@ class JpegFile {
         errors_.manager.error_exit = escapeWithJpegMessage;
         errors_.manager.emit_message = judgeMessage;
         errors_.manager.output_message = stayQuiet;
-        progress_.progress_monitor = limitScans;
+        progress_.base.progress_monitor = limitScans;
         source_.base.init_source = nothingToDo;
         source_.base.fill_input_buffer = fillBuffer;
         source_.base.skip_input_data = skipInput;
@@ -83,7 +94,7 @@ class JpegFile {
         source_.device = &device;
         guarded([&] {
             jpeg_create_decompress(&info_);
-            info_.progress = &progress_;
+            info_.progress = &progress_.base;
             info_.src = &source_.base;
         });
     }
@@ -96,7 +107,26 @@ class JpegFile {
                    jpeg_save_markers(&info_, JPEG_APP0 + 2, 0xFFFF);
                    jpeg_read_header(&info_, TRUE);
                }) &&
-               isReadableSize(storedSize(), fileBytes_);
+               !storedSize().isEmpty();
+    }
+
+    // Pixels, and the coefficients of all blocks where they come in more than one scan. Some of libjpeg's rows are left
+    // out: they are nothing beside the buffers of any other step.
+    qint64 memory() {
+        const qint64 coefficients =
+            jpeg_has_multiple_scans(&info_) ? blocks() * BlockPixels * qint64{sizeof(JCOEF)} : 0;
+        return pixelCount(storedSize()) * qint64{sizeof(QRgb)} + coefficients;
+    }
+
+    // Decodes at the least of 1, 1/2, 1/4 and 1/8 of the size that covers `bound` (stored, not upright).
+    void shrinkTo(QSize bound) {
+        for (unsigned divisor = 8; divisor > 1; divisor /= 2) {
+            const QSize shrunk = storedSize() / static_cast<int>(divisor);
+            if (shrunk.width() < bound.width() || shrunk.height() < bound.height()) continue;
+            info_.scale_num = 1;
+            info_.scale_denom = divisor;
+            return;
+        }
     }
 
     QSize storedSize() const {
@@ -138,8 +168,12 @@ class JpegFile {
     // All pixels, upright: RGB32, or the four CMYK bytes a pixel where isCmyk(). A null picture for a damaged
     // file.
     QImage decode(int orientation) {
-        QImage picture = newPicture(uprightSize(storedSize(), orientation), QImage::Format_RGB32);
-        if (picture.isNull()) return picture;
+        jpeg_calc_output_dimensions(&info_);
+        output_ = QSize(static_cast<int>(info_.output_width), static_cast<int>(info_.output_height));
+        progress_.scans =
+            std::min<qint64>(MaximumScans, (QuickBlockVisits + BlockVisitsPerByte * fileBytes_) /
+                                               std::max(blocks(), qint64{1}));
+        QImage picture = newPicture(uprightSize(output_, orientation), QImage::Format_RGB32);
         // BGRA rather than BGRX: only the former promises the 255 that a QImage without alpha expects.
         info_.out_color_space = isCmyk() ? JCS_CMYK : JCS_EXT_BGRA;
         const bool done = guarded([&] { jpeg_start_decompress(&info_); }) &&
@@ -155,6 +189,14 @@ class JpegFile {
         if (setjmp(errors_.escape) != 0) return false;
         step();
         return true;
+    }
+
+    // Of all components together.
+    qint64 blocks() const {
+        qint64 count = 0;
+        for (int i = 0; i < info_.num_components; ++i)
+            count += qint64{info_.comp_info[i].width_in_blocks} * info_.comp_info[i].height_in_blocks;
+        return count;
     }
 
     bool decodeRows(QImage& picture) {
@@ -182,8 +224,8 @@ class JpegFile {
                 }
             });
             if (!read) return false;
-            placeUpright(band.data(), static_cast<int>(first), static_cast<int>(count), storedSize(),
-                         orientation, picture);
+            placeUpright(band.data(), static_cast<int>(first), static_cast<int>(count), output_, orientation,
+                         picture);
         }
         return true;
     }
@@ -197,25 +239,30 @@ class JpegFile {
     }
 
     qint64 fileBytes_;
+    QSize output_;  // pixels as decoded, not upright
     jpeg_decompress_struct info_{};
     Source source_{};
     JpegErrors errors_;
-    jpeg_progress_mgr progress_{};
+    ScanLimit progress_{};
 };
 
 }  // namespace
 
-bool isJpeg(QByteArrayView bytes) {
-    return bytes.startsWith(QByteArrayView("\xFF\xD8", 2));
+std::optional<PictureNeeds> jpegNeeds(QIODevice& device) {
+    JpegFile file(device);
+    if (!file.readHeader()) return std::nullopt;
+    // Turned while it is decoded.
+    return PictureNeeds{uprightSize(file.storedSize(), file.exifFacts().orientation), file.memory(), 0};
 }
 
-std::optional<Picture> decodeJpeg(QIODevice& device) {
+std::optional<Picture> decodeJpeg(QIODevice& device, QSize bound) {
     JpegFile file(device);
     if (!file.readHeader()) return std::nullopt;
     const ExifFacts exif = file.exifFacts();
     QByteArray profile = file.profile();
     if (profile.isEmpty() && exif.isDcfAdobeRgb) profile = adobeRgb1998Profile();
 
+    if (!bound.isEmpty()) file.shrinkTo(uprightSize(bound, exif.orientation));
     Picture picture;
     picture.image = file.decode(exif.orientation);
     if (picture.image.isNull()) return std::nullopt;
@@ -225,16 +272,8 @@ std::optional<Picture> decodeJpeg(QIODevice& device) {
         picture.image = convertedToSrgb(std::move(picture.image), profile);
     }
     const auto [dpiX, dpiY] = file.jfifResolution().value_or(std::pair(exif.dpiX, exif.dpiY));
-    picture.dpiX = intendedDpi(dpiX);
-    picture.dpiY = intendedDpi(dpiY);
-    if (uprightSize({1, 2}, exif.orientation) == QSize(2, 1)) std::swap(picture.dpiX, picture.dpiY);
+    setResolution(picture, dpiX, dpiY, exif.orientation);
     return picture;
-}
-
-std::optional<QSize> jpegSize(QIODevice& device) {
-    JpegFile file(device);
-    if (!file.readHeader()) return std::nullopt;
-    return uprightSize(file.storedSize(), file.exifFacts().orientation);
 }
 
 }  // namespace zelto

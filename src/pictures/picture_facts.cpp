@@ -1,77 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_facts.h"
 
+#include "pictures/color_profile.h"
 #include "pictures/exif_facts.h"
-#include "pictures/picture_reader.h"
 #include "pictures/resolution.h"
+#include "pictures/upright.h"
 
+#include <QColorSpace>
 #include <QtEndian>
 
-#include <gif_lib.h>
-
-#include <vector>
+#include <utility>
 
 namespace zelto {
-namespace {
-
-int readFrom(GifFileType* gif, GifByteType* target, int count) {
-    auto* device = static_cast<QIODevice*>(gif->UserData);
-    return static_cast<int>(device->read(reinterpret_cast<char*>(target), count));
-}
-
-// The rest of an image or extension: blocks up to the empty one.
-template <class Next>
-bool skipBlocks(GifFileType* gif, Next next, GifByteType* block) {
-    while (block != nullptr) {
-        if (next(gif, &block) == GIF_ERROR) return false;
-    }
-    return true;
-}
-
-// The first image must have all its pixels, later ones only all their blocks: they are never shown.
-bool readGifImage(GifFileType* gif, bool isFirst) {
-    if (DGifGetImageDesc(gif) == GIF_ERROR) return false;
-    if (!isFirst) {
-        int codeSize = 0;
-        GifByteType* block = nullptr;
-        return DGifGetCode(gif, &codeSize, &block) != GIF_ERROR && skipBlocks(gif, DGifGetCodeNext, block);
-    }
-    std::vector<GifPixelType> row(static_cast<std::size_t>(gif->Image.Width));
-    for (int y = 0; y < gif->Image.Height; ++y) {
-        if (DGifGetLine(gif, row.data(), gif->Image.Width) == GIF_ERROR) return false;
-    }
-    return true;
-}
-
-// Reads to the trailer, which a file that was cut short has lost.
-bool isWholeGif(GifFileType* gif) {
-    for (bool isFirst = true;;) {
-        GifRecordType record = UNDEFINED_RECORD_TYPE;
-        if (DGifGetRecordType(gif, &record) == GIF_ERROR) return false;
-        if (record == IMAGE_DESC_RECORD_TYPE) {
-            if (!readGifImage(gif, isFirst)) return false;
-            isFirst = false;
-        } else if (record == EXTENSION_RECORD_TYPE) {
-            int code = 0;
-            GifByteType* block = nullptr;
-            if (DGifGetExtension(gif, &code, &block) == GIF_ERROR) return false;
-            if (!skipBlocks(gif, DGifGetExtensionNext, block)) return false;
-        } else {
-            return record == TERMINATE_RECORD_TYPE && !isFirst;
-        }
-    }
-}
-
-}  // namespace
-
-std::optional<PictureFacts> readGifFacts(QIODevice& device) {
-    int error = 0;
-    GifFileType* gif = DGifOpen(&device, readFrom, &error);
-    if (gif == nullptr) return std::nullopt;
-    const bool whole = isWholeGif(gif);
-    DGifCloseFile(gif, &error);
-    return whole ? std::optional(PictureFacts()) : std::nullopt;
-}
 
 std::optional<PictureFacts> readBmpFacts(QIODevice& device) {
     // The resolution stands behind the fields that the shortest of the headers ends with.
@@ -114,12 +54,30 @@ std::optional<PictureFacts> readWebpFacts(QIODevice& device) {
     return facts;
 }
 
-bool isReadableSize(QSize size, qint64 fileBytes) {
-    constexpr qint64 AlwaysFits = qint64{1} << 26;
-    constexpr qint64 MaximumPixelsPerByte = 1 << 14;
-    const qint64 pixels = qint64{size.width()} * size.height();
-    if (size.isEmpty() || pixels > MaximumPicturePixels) return false;
-    return pixels <= AlwaysFits || pixels / MaximumPixelsPerByte <= fileBytes;
+PictureNeeds needsOf(QSize stored, int orientation, qint64 memory) {
+    constexpr qint64 BytesToTurn = 8;  // a pixel, here and there
+    const qint64 turned = orientation == 1 ? 0 : pixelCount(stored) * BytesToTurn;
+    return {uprightSize(stored, orientation), std::max(memory, turned), 0};
+}
+
+void setResolution(Picture& picture, double storedDpiX, double storedDpiY, int orientation) {
+    picture.dpiX = intendedDpi(storedDpiX);
+    picture.dpiY = intendedDpi(storedDpiY);
+    if (swapsAxes(orientation)) std::swap(picture.dpiX, picture.dpiY);
+}
+
+std::optional<Picture> finishedSrgbPicture(QImage stored, const PictureFacts& facts) {
+    if (stored.isNull()) return std::nullopt;
+    Picture picture{uprightPicture(std::move(stored), facts.orientation)};
+    if (picture.image.hasAlphaChannel()) picture.image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    setResolution(picture, facts.dpiX, facts.dpiY, facts.orientation);
+    return picture;
+}
+
+std::optional<Picture> finishedPicture(QImage stored, const PictureFacts& facts) {
+    const QByteArray profile = facts.profile ? *facts.profile : stored.colorSpace().iccProfile();
+    stored.setColorSpace({});
+    return finishedSrgbPicture(convertedToSrgb(std::move(stored), profile), facts);
 }
 
 }  // namespace zelto

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a file says about its picture that Qt's image format plugins do not pass on, or pass on only in part:
-// whether it is complete, its resolution, its EXIF orientation, its ICC profile. One function a format; each
-// leaves `device` wherever it likes. Any thread.
+// What a file says about its picture beside the pixels: resolution, EXIF orientation, ICC profile. The functions read
+// it where no decoder passes it on, and check that the file is complete; each leaves `device` wherever it likes.
 #pragma once
+
+#include "pictures/picture_needs.h"
+#include "pictures/picture_reader.h"
 
 #include <QByteArray>
 #include <QIODevice>
-#include <QSize>
 
 #include <optional>
 
@@ -16,19 +17,23 @@ struct PictureFacts {
     int orientation = 1;  // EXIF, 1 to 8
     double dpiX = 0.0;    // as stored (not upright); 0 where none is recorded
     double dpiY = 0.0;
-    // The profile to convert from, empty for sRGB. Not set where the plugin knows the colours.
+    // The profile to convert from, empty for sRGB. Not set where the decoded picture knows its colours.
     std::optional<QByteArray> profile;
 };
 
 // Nothing where the file ends early or its headers are broken.
-std::optional<PictureFacts> readPngFacts(QIODevice& device);
-std::optional<PictureFacts> readTiffFacts(QIODevice& device);
-std::optional<PictureFacts> readGifFacts(QIODevice& device);
 std::optional<PictureFacts> readBmpFacts(QIODevice& device);
 std::optional<PictureFacts> readWebpFacts(QIODevice& device);
 
-// Whether a file of `fileBytes` bytes can hold a picture of `size` pixels. No format packs a photo that
-// tightly where this says no: such a header is an attempt to make the program reserve memory.
-bool isReadableSize(QSize size, qint64 fileBytes);
+// What a picture of `stored` pixels that takes `memory` bytes to decode needs in all, being turned included.
+PictureNeeds needsOf(QSize stored, int orientation, qint64 memory);
+
+// Records the resolution, swapped where the picture lies on its side.
+void setResolution(Picture& picture, double storedDpiX, double storedDpiY, int orientation);
+
+// The picture that `facts` make of stored pixels: sRGB, upright, premultiplied. Nothing of a null picture.
+std::optional<Picture> finishedPicture(QImage stored, const PictureFacts& facts);
+// The same of pixels that are sRGB already.
+std::optional<Picture> finishedSrgbPicture(QImage stored, const PictureFacts& facts);
 
 }  // namespace zelto

@@ -2,14 +2,24 @@
 // Memory for whole photos.
 #pragma once
 
+#include "platform/result.h"
+
 #include <QImage>
 #include <QSize>
 
 namespace zelto {
 
-// A picture of 32-bit pixels in `format`, not yet filled; null when there is not enough memory. Large ones
-// lie on huge pages where the system has them: a photo of 24 megapixels would otherwise cost some 24000 page
-// faults before its first pixel is worked on, a quarter of the time it takes to decode one. Any thread.
+// A picture of `size` pixels in `format`, not yet filled; null for an empty size. Throws std::bad_alloc where there is
+// not enough memory: the readers and writers of pictures turn that into an error. Large ones lie on huge pages where the
+// system has them: a photo of 24 megapixels would otherwise cost some 24000 page faults before its first pixel is worked
+// on, a quarter of the time it takes to decode one. Any thread.
 QImage newPicture(QSize size, QImage::Format format);
+
+// `picture`, which a conversion made of a picture with pixels. Throws std::bad_alloc where it is null: conversions fail
+// for no other reason.
+QImage converted(QImage picture);
+
+// What the user is told where memory did not suffice for the picture at `path`, which may be empty.
+tl::unexpected<Error> outOfMemory(const QString& path = {});
 
 }  // namespace zelto

@@ -1,60 +1,151 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_reader.h"
 
+#include "pictures/gif_decoder.h"
 #include "pictures/jpeg_decoder.h"
+#include "pictures/picture_kind.h"
+#include "pictures/picture_memory.h"
+#include "pictures/picture_needs.h"
 #include "pictures/plugin_decoder.h"
+#include "pictures/png_decoder.h"
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <new>
 
 namespace zelto {
 namespace {
 
-tl::unexpected<Error> damaged(const QString& path = {}) {
-    return fail(ErrorCode::Damaged, QString(DamagedPictureMessage), path);
+struct Decoder {
+    PictureKind kind;
+    std::optional<PictureNeeds> (*needs)(QIODevice&);
+    std::optional<Picture> (*decode)(QIODevice&);
+};
+
+template <PictureKind Kind>
+constexpr Decoder PluginDecoder = {Kind, [](QIODevice& device) { return needsByPlugin(device, Kind); },
+                                   [](QIODevice& device) { return decodeByPlugin(device, Kind); }};
+
+constexpr Decoder Decoders[] = {
+    {PictureKind::Jpeg, jpegNeeds, [](QIODevice& device) { return decodeJpeg(device); }},
+    {PictureKind::Png, pngNeeds, decodePng},
+    {PictureKind::Gif, gifNeeds, decodeGif},
+    PluginDecoder<PictureKind::Tiff>,
+    PluginDecoder<PictureKind::Bmp>,
+    PluginDecoder<PictureKind::Webp>,
+};
+
+tl::unexpected<Error> damaged() {
+    return fail(ErrorCode::Damaged, QString(DamagedPictureMessage));
 }
 
-// Opens the regular file at `path`; nothing else is read, since a pipe or a device may never end.
+// Opens the regular file at `path`; nothing else is read, since a pipe or a device may never end. Told of what was
+// opened rather than of its name, and opened without waiting, for what looks like a file may still be none.
 Result<void> open(QFile& file) {
-    const QFileInfo info(file.fileName());
-    if (!info.exists()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file \"%1\".").arg(file.fileName()),
-                    file.fileName());
+    const int descriptor =
+        ::open(QFile::encodeName(file.fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+        return fail(ErrorCode::NotFound, QStringLiteral("There is no file \"%1\".").arg(file.fileName()));
     }
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) return damaged(file.fileName());
-    return {};
+    struct stat status {};
+    if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+        file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return {};
+    if (descriptor >= 0) ::close(descriptor);
+    return damaged();
 }
 
-std::optional<Picture> decode(QIODevice& device) {
-    return isJpeg(device.peek(2)) ? decodeJpeg(device) : decodeWithPlugins(device);
+Result<const Decoder*> decoderOf(QIODevice& device) {
+    const PictureKind kind = pictureKindOf(device.peek(PictureKindBytes));
+    if (kind == PictureKind::Drawing) {
+        return fail(ErrorCode::Damaged,
+                    QStringLiteral(
+                        "This is a drawing (SVG, PDF or PostScript). Zelto reads JPEG, PNG, TIFF, GIF, BMP "
+                        "and WebP pictures: save it as PNG."));
+    }
+    const auto* found = std::ranges::find(Decoders, kind, &Decoder::kind);
+    if (found == std::end(Decoders)) return damaged();
+    return found;
+}
+
+Result<PictureNeeds> checkedNeeds(QIODevice& device, const Decoder& decoder) {
+    const std::optional<PictureNeeds> needs = decoder.needs(device);
+    if (!needs) return damaged();
+    return checkNeeds(*needs, device.size()).map([&] { return *needs; });
+}
+
+Result<Picture> decode(QIODevice& device, QSize bound = {}) {
+    const Result<const Decoder*> decoder = decoderOf(device);
+    if (!decoder) return tl::unexpected(decoder.error());
+    const Result<PictureNeeds> needs = checkedNeeds(device, **decoder);
+    if (!needs) return tl::unexpected(needs.error());
+    device.seek(0);
+    const bool shrinks = (*decoder)->kind == PictureKind::Jpeg && !bound.isEmpty();
+    std::optional<Picture> picture = shrinks
+                                         ? decodeJpeg(device, needs->size.scaled(bound, Qt::KeepAspectRatio))
+                                         : (*decoder)->decode(device);
+    if (!picture) return damaged();
+    return std::move(*picture);
+}
+
+// Calls `read` with the file at `path` opened, and sees to what all errors share.
+template <class Read>
+auto withFile(const QString& path, Read read) -> decltype(read(std::declval<QFile&>())) {
+    try {
+        QFile file(path);
+        return open(file).and_then([&] { return read(file); }).map_error([&](Error error) {
+            error.path = path;
+            return error;
+        });
+    } catch (const std::bad_alloc&) {
+        return outOfMemory(path);
+    }
 }
 
 }  // namespace
 
 Result<Picture> readPicture(const QString& path) {
-    QFile file(path);
-    if (const Result<void> opened = open(file); !opened) return tl::unexpected(opened.error());
-    std::optional<Picture> picture = decode(file);
-    if (!picture) return damaged(path);
-    return std::move(*picture);
+    return withFile(path, [](QFile& file) { return decode(file); });
 }
 
 Result<Picture> decodePicture(const QByteArray& bytes) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    std::optional<Picture> picture = decode(buffer);
-    if (!picture) return damaged();
-    return std::move(*picture);
+    try {
+        QBuffer buffer;
+        buffer.setData(bytes);
+        buffer.open(QIODevice::ReadOnly);
+        return decode(buffer);
+    } catch (const std::bad_alloc&) {
+        return outOfMemory();
+    }
+}
+
+Result<Picture> readThumbnail(const QString& path, QSize bound) {
+    return withFile(path, [&](QFile& file) -> Result<Picture> {
+        Result<Picture> picture = decode(file, bound);
+        if (!picture) return picture;
+        QImage& image = picture->image;
+        if (image.width() > bound.width() || image.height() > bound.height()) {
+            const QSize size = image.size().scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
+            image = converted(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        }
+        return picture;
+    });
+}
+
+Result<PictureNeeds> readPictureNeeds(const QString& path) {
+    return withFile(path, [](QFile& file) {
+        return decoderOf(file).and_then([&](const Decoder* decoder) { return checkedNeeds(file, *decoder); });
+    });
 }
 
 Result<QSize> readPictureSize(const QString& path) {
-    QFile file(path);
-    if (const Result<void> opened = open(file); !opened) return tl::unexpected(opened.error());
-    const std::optional<QSize> size = isJpeg(file.peek(2)) ? jpegSize(file) : sizeByPlugins(file);
-    if (!size) return damaged(path);
-    return *size;
+    return readPictureNeeds(path).map([](const PictureNeeds& needs) { return needs.size; });
 }
 
 }  // namespace zelto

@@ -3,11 +3,8 @@
 
 #include "pictures/color_profile.h"
 #include "pictures/picture_facts.h"
-#include "pictures/resolution.h"
 #include "pictures/tiff_decoder.h"
-#include "pictures/upright.h"
 
-#include <QColorSpace>
 #include <QImageReader>
 
 #include <algorithm>
@@ -52,112 +49,87 @@ class WatchedDevice : public QIODevice {
     bool cameUpShort_ = false;
 };
 
+// A format by its plugin's name. Qt is never left to choose: it would take anything that any plugin of the machine reads.
 struct FormatRow {
-    QByteArrayView name;  // as Qt's plugins call it
+    PictureKind kind;
+    const char* name;
     std::optional<PictureFacts> (*readFacts)(QIODevice&);
     bool readsExactly;  // its plugin never asks for more bytes than a complete file has
+    qint64
+        bytesPerPixel;  // at its worst moment, the plugin's and its library's buffers and our conversions together
 };
 
-PictureFacts nothingKnown() {
-    return {};
-}
-
-std::optional<PictureFacts> readNoFacts(QIODevice&) {
-    return nothingKnown();
-}
-
-const FormatRow& rowOf(const QByteArray& format) {
+const FormatRow& rowOf(PictureKind kind) {
     static constexpr FormatRow Rows[] = {
-        {"png", readPngFacts, true}, {"tiff", readTiffFacts, false}, {"gif", readGifFacts, false},
-        {"bmp", readBmpFacts, true}, {"webp", readWebpFacts, false}, {"pbm", readNoFacts, true},
-        {"pgm", readNoFacts, true},  {"ppm", readNoFacts, true},     {"tga", readNoFacts, true},
+        {PictureKind::Tiff, "tiff", readTiffFacts, false, 8},
+        {PictureKind::Bmp, "bmp", readBmpFacts, true, 5},
+        {PictureKind::Webp, "webp", readWebpFacts, false, 16},
     };
-    static constexpr FormatRow Other = {"", readNoFacts, false};
-    const auto* row = std::ranges::find_if(Rows, [&](const FormatRow& r) { return r.name == format; });
-    return row == std::end(Rows) ? Other : *row;
+    return *std::ranges::find(Rows, kind, &FormatRow::kind);
 }
 
 // One file on its way through a plugin.
 class PluginFile {
   public:
-    explicit PluginFile(QIODevice& device) : device_(device), watched_(device), reader_(&watched_) {
-        // Qt's own limit of 128 MB stands in the way of large photos; isReadableSize() takes its place.
+    PluginFile(QIODevice& device, PictureKind kind) : row_(rowOf(kind)), device_(device), watched_(device) {
+        // Qt's own limit of 128 MB stands in the way of large photos; checkNeeds() takes its place.
         static const bool lifted = (QImageReader::setAllocationLimit(0), true);
         Q_UNUSED(lifted)
-        row_ = &rowOf(reader_.format());
+        reader_.setAutoDetectImageFormat(false);
+        reader_.setFormat(row_.name);
+        reader_.setDevice(&watched_);
     }
 
     std::optional<PictureFacts> readFacts() {
-        if (!reader_.canRead()) return std::nullopt;
         device_.seek(0);
-        return row_->readFacts(device_);
+        std::optional<PictureFacts> facts = row_.readFacts(device_);
+        device_.seek(0);
+        return facts;
     }
 
-    // As the header has it, not upright; empty where only decoding can tell.
+    // As the header has it, not upright; empty where it is broken.
     QSize storedSize() { return reader_.size(); }
 
     // As the file has it; null for a damaged one.
     QImage decode() {
-        const QSize size = storedSize();
-        if (size.isValid() && !isReadableSize(size, device_.size())) return {};
         watched_.startWatching();
         QImage image;
-        if (!reader_.read(&image) || (row_->readsExactly && watched_.cameUpShort())) return {};
+        if (!reader_.read(&image) || (row_.readsExactly && watched_.cameUpShort())) return {};
         return image;
     }
 
-    bool isTiff() const { return row_->readFacts == readTiffFacts; }
+    qint64 memory() { return pixelCount(storedSize()) * row_.bytesPerPixel; }
 
   private:
+    const FormatRow& row_;
     QIODevice& device_;
     WatchedDevice watched_;
     QImageReader reader_;
-    const FormatRow* row_ = nullptr;
 };
-
-bool swapsAxes(int orientation) {
-    return uprightSize({1, 2}, orientation).width() == 2;
-}
-
-// In sRGB, 8 bits a channel, as stored; null for a damaged file.
-QImage decodeColors(PluginFile& file, QIODevice& device, const PictureFacts& facts) {
-    const QByteArray profile = facts.profile.value_or(QByteArray());
-    if (std::optional<TiffSamples> tiff = file.isTiff() ? readTiffSamples(device) : std::nullopt) {
-        if (!tiff->isCmyk) return convertedToSrgb(std::move(tiff->image), profile);
-        convertCmykToSrgb(tiff->image, InkScale::FullIs255, profile);
-        return std::move(tiff->image);
-    }
-    QImage image = file.decode();
-    const QByteArray known = facts.profile ? profile : image.colorSpace().iccProfile();
-    image.setColorSpace({});
-    return convertedToSrgb(std::move(image), known);
-}
 
 }  // namespace
 
-std::optional<Picture> decodeWithPlugins(QIODevice& device) {
-    PluginFile file(device);
+std::optional<PictureNeeds> needsByPlugin(QIODevice& device, PictureKind kind) {
+    PluginFile file(device, kind);
     const std::optional<PictureFacts> facts = file.readFacts();
     if (!facts) return std::nullopt;
-    Picture picture;
-    picture.image = decodeColors(file, device, *facts);
-    if (picture.image.isNull()) return std::nullopt;
-    picture.image = uprightPicture(std::move(picture.image), facts->orientation);
-    if (picture.image.hasAlphaChannel()) picture.image.convertTo(QImage::Format_ARGB32_Premultiplied);
-    picture.dpiX = intendedDpi(facts->dpiX);
-    picture.dpiY = intendedDpi(facts->dpiY);
-    if (swapsAxes(facts->orientation)) std::swap(picture.dpiX, picture.dpiY);
-    return picture;
+    PictureNeeds needs = needsOf(file.storedSize(), facts->orientation, file.memory());
+    if (kind == PictureKind::Tiff) addTiffChunks(device, needs);
+    return needs;
 }
 
-std::optional<QSize> sizeByPlugins(QIODevice& device) {
-    PluginFile file(device);
+std::optional<Picture> decodeByPlugin(QIODevice& device, PictureKind kind) {
+    PluginFile file(device, kind);
     const std::optional<PictureFacts> facts = file.readFacts();
     if (!facts) return std::nullopt;
-    QSize size = file.storedSize();
-    if (!size.isValid()) size = file.decode().size();
-    if (!isReadableSize(size, device.size())) return std::nullopt;
-    return uprightSize(size, facts->orientation);
+    if (kind == PictureKind::Tiff) {
+        if (std::optional<TiffSamples> tiff = readTiffSamples(device)) {
+            if (!tiff->isCmyk) return finishedPicture(std::move(tiff->image), *facts);
+            convertCmykToSrgb(tiff->image, InkScale::FullIs255, facts->profile.value_or(QByteArray()));
+            return finishedSrgbPicture(std::move(tiff->image), *facts);
+        }
+    }
+    return finishedPicture(file.decode(), *facts);
 }
 
 }  // namespace zelto

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/tiff_decoder.h"
 
-#include "pictures/picture_facts.h"
+#include "pictures/device_bytes.h"
 #include "pictures/picture_memory.h"
 
 #include <tiffio.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <vector>
@@ -23,9 +24,9 @@ struct Source {
 
 tmsize_t readSource(thandle_t handle, void* target, tmsize_t count) {
     auto* source = static_cast<Source*>(handle);
-    const qint64 got = source->device.read(static_cast<char*>(target), count);
+    const qint64 got = readBytes(source->device, target, count);
     if (got != count) source->ranOut = true;
-    return std::max<qint64>(got, 0);
+    return got;
 }
 
 tmsize_t refuseWrite(thandle_t, void*, tmsize_t) {
@@ -101,10 +102,26 @@ std::uint16_t kindOfExtraSample(TIFF* tiff) {
     return kinds[0];
 }
 
-std::optional<Layout> uncommonLayout(TIFF* tiff) {
+Layout layoutOf(TIFF* tiff) {
     Layout layout;
     layout.bits = field<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
     layout.samples = field<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    layout.separatePlanes =
+        field<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE;
+    layout.tiled = TIFFIsTiled(tiff) != 0;
+    layout.width = field<std::uint32_t>(tiff, TIFFTAG_IMAGEWIDTH, 0);
+    layout.height = field<std::uint32_t>(tiff, TIFFTAG_IMAGELENGTH, 0);
+    layout.chunkWidth = layout.tiled ? field<std::uint32_t>(tiff, TIFFTAG_TILEWIDTH, 0) : layout.width;
+    layout.chunkHeight =
+        layout.tiled
+            ? field<std::uint32_t>(tiff, TIFFTAG_TILELENGTH, 0)
+            : std::min(field<std::uint32_t>(tiff, TIFFTAG_ROWSPERSTRIP, layout.height), layout.height);
+    return layout;
+}
+
+// The layouts that are read here, with what only they need; nothing for all others.
+std::optional<Layout> uncommonLayout(TIFF* tiff) {
+    Layout layout = layoutOf(tiff);
     if ((layout.bits != 8 && layout.bits != 16) ||
         field<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT) != SAMPLEFORMAT_UINT) {
         return std::nullopt;
@@ -118,16 +135,6 @@ std::optional<Layout> uncommonLayout(TIFF* tiff) {
     if (!layout.isCmyk && !isGreyWithAlpha) return std::nullopt;
     layout.kept = layout.isCmyk ? 4 : 2;
     layout.premultiplied = extra == EXTRASAMPLE_ASSOCALPHA;
-    layout.separatePlanes =
-        field<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE;
-    layout.tiled = TIFFIsTiled(tiff) != 0;
-    layout.width = field<std::uint32_t>(tiff, TIFFTAG_IMAGEWIDTH, 0);
-    layout.height = field<std::uint32_t>(tiff, TIFFTAG_IMAGELENGTH, 0);
-    layout.chunkWidth = layout.tiled ? field<std::uint32_t>(tiff, TIFFTAG_TILEWIDTH, 0) : layout.width;
-    layout.chunkHeight =
-        layout.tiled
-            ? field<std::uint32_t>(tiff, TIFFTAG_TILELENGTH, 0)
-            : std::min(field<std::uint32_t>(tiff, TIFFTAG_ROWSPERSTRIP, layout.height), layout.height);
     return layout;
 }
 
@@ -227,6 +234,29 @@ std::optional<PictureFacts> readTiffFacts(QIODevice& device) {
     return facts;
 }
 
+void addTiffChunks(QIODevice& device, PictureNeeds& needs) {
+    Source source{device};
+    device.seek(0);
+    const TiffHandle tiff = openTiff(source);
+    if (!tiff) return;
+    const Layout layout = layoutOf(tiff.get());
+    // Floating point, since the product of the four may leave every integer.
+    const double bytesPerPixel = (layout.separatePlanes ? 1.0 : layout.samples) * layout.bits / 8.0;
+    const double chunkWidth = std::max(1U, layout.chunkWidth);
+    const double chunkHeight = std::max(1U, layout.chunkHeight);
+    const double chunk = chunkWidth * chunkHeight * bytesPerPixel;
+    const double across = std::ceil(layout.width / chunkWidth);
+    const double down = std::ceil(layout.height / chunkHeight);
+    const double planes = layout.separatePlanes ? layout.samples : 1.0;
+    // Whole chunks are kept twice at most, here and in their decompressor. Where a sample is wider than 8 bits, the
+    // picture passes through 64 or 128 bits a pixel.
+    constexpr qint64 WidePixel = 20;
+    if (layout.bits > 8) needs.memory = std::max(needs.memory, pixelCount(needs.size) * WidePixel);
+    constexpr double Most = 1e18;
+    needs.memory += static_cast<qint64>(std::min(2.0 * chunk, Most));
+    needs.decoded = static_cast<qint64>(std::min(chunk * across * down * planes, Most));
+}
+
 std::optional<TiffSamples> readTiffSamples(QIODevice& device) {
     Source source{device};
     device.seek(0);
@@ -236,19 +266,14 @@ std::optional<TiffSamples> readTiffSamples(QIODevice& device) {
 
     TiffSamples samples;
     samples.isCmyk = layout->isCmyk;
-    const auto fits = [&](std::uint32_t width, std::uint32_t height) {
-        constexpr std::uint32_t Most = 1U << 30;
-        return width <= Most && height <= Most &&
-               isReadableSize(QSize(static_cast<int>(width), static_cast<int>(height)), device.size());
-    };
-    if (!fits(layout->width, layout->height) || !fits(layout->chunkWidth, layout->chunkHeight))
-        return samples;
     const QImage::Format format = layout->isCmyk          ? QImage::Format_RGB32
                                   : layout->premultiplied ? QImage::Format_ARGB32_Premultiplied
                                                           : QImage::Format_ARGB32;
     QImage image =
         newPicture(QSize(static_cast<int>(layout->width), static_cast<int>(layout->height)), format);
-    if (image.isNull() || !SampleReader(tiff.get(), *layout, image).readAll()) return samples;
+    if (layout->chunkWidth == 0 || layout->chunkHeight == 0 ||
+        !SampleReader(tiff.get(), *layout, image).readAll())
+        return samples;
     if (!layout->isCmyk) spreadGrey(image);
     samples.image = std::move(image);
     return samples;

@@ -4,12 +4,21 @@
 // bits a channel. Any thread.
 #pragma once
 
+#include "pictures/picture_facts.h"
+
 #include <QIODevice>
 #include <QImage>
 
 #include <optional>
 
 namespace zelto {
+
+// Nothing where the file ends early or its headers are broken.
+std::optional<PictureFacts> readTiffFacts(QIODevice& device);
+
+// Adds what reading the file's strips or tiles takes, which may be far more than the pixels: they can be larger than
+// the picture, and hold many samples that are never shown.
+void addTiffChunks(QIODevice& device, PictureNeeds& needs);
 
 struct TiffSamples {
     bool isCmyk = false;

@@ -23,8 +23,12 @@ Turn turnOf(int orientation) {
 
 }  // namespace
 
+bool swapsAxes(int orientation) {
+    return turnOf(orientation).swapsAxes;
+}
+
 QSize uprightSize(QSize stored, int orientation) {
-    return turnOf(orientation).swapsAxes ? stored.transposed() : stored;
+    return swapsAxes(orientation) ? stored.transposed() : stored;
 }
 
 void placeUpright(const quint32* rows, int firstRow, int count, QSize stored, int orientation,
@@ -58,9 +62,8 @@ void placeUpright(const quint32* rows, int firstRow, int count, QSize stored, in
 
 QImage uprightPicture(QImage picture, int orientation) {
     const Turn turn = turnOf(orientation);
-    if (!turn.swapsAxes && !turn.reversesX && !turn.reversesY) return picture;
+    if (picture.isNull() || (!turn.swapsAxes && !turn.reversesX && !turn.reversesY)) return picture;
     QImage upright = newPicture(uprightSize(picture.size(), orientation), picture.format());
-    if (upright.isNull()) return upright;
     constexpr int Band = 64;
     for (int row = 0; row < picture.height(); row += Band) {
         placeUpright(reinterpret_cast<const quint32*>(picture.constScanLine(row)), row,

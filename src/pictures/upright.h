@@ -11,6 +11,9 @@ namespace zelto {
 // The pixel size of a picture of `stored` pixels once it is upright.
 QSize uprightSize(QSize stored, int orientation);
 
+// Whether stored rows become columns.
+bool swapsAxes(int orientation);
+
 // Puts `count` stored rows, the first of them row `firstRow`, where they belong in `upright`, which has
 // uprightSize(stored, orientation). `rows` holds them one behind the other, stored.width() pixels each. A
 // decoder that hands its rows over in bands of a few dozen so needs no second picture to turn one.

@@ -11,7 +11,8 @@ namespace zelto {
 
 enum class ErrorCode {
     NotFound,      // no such file or folder
-    Damaged,       // a picture that is cut short, broken, or of an unknown format
+    Damaged,       // a picture that is cut short, broken, of an unknown format, or asks for too much memory
+    OutOfMemory,   // there was not enough memory, at that moment, to go on
     InvalidFile,   // a setting or options file that cannot be understood
     InvalidValue,  // an argument outside what makes sense
     CannotWrite,   // a file or folder that could not be written

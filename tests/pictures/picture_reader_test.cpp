@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <random>
 
@@ -45,8 +46,7 @@ std::vector<File> oneOfEachFormat() {
             {"gif", encodePicture(scene, PictureFormat::Gif, {}).value()},
             {"bmp", written(scene, "bmp")},
             {"bmp with palette", written(scene.convertToFormat(QImage::Format_Indexed8), "bmp")},
-            {"webp", written(scene, "webp")},
-            {"ppm", written(scene, "ppm")}};
+            {"webp", written(scene, "webp")}};
 }
 
 TEST(PictureReader, AFileCutShortAnywhereIsDamaged) {
@@ -88,25 +88,49 @@ QByteArray patched(QByteArray bytes, qsizetype at, const QByteArray& with) {
     return bytes.replace(at, with.size(), with);
 }
 
-TEST(PictureReader, SizesThatTheFileCannotHoldAreRefusedWithoutMemory) {
+TEST(PictureReader, WhatNoMachineOrPhotoNeedsIsRefusedInWordsAndWithoutMemory) {
     const QImage scene = drawnScene({64, 64});
     const QByteArray jpeg = jpegBytes(scene);
-    const qsizetype frame = jpeg.indexOf(QByteArrayLiteral("\xFF\xC0")) + 5;
+    const QByteArray progressive = jpegBytes(scene, {.progressive = true});
+    const QByteArray png = written(scene, "png");
     const QByteArray bmp = written(scene, "bmp");
     const QByteArray gif = encodePicture(scene, PictureFormat::Gif, {}).value();
-    const std::vector<File> files = {
-        {"jpeg of 65500 x 16000", patched(jpeg, frame, QByteArrayLiteral("\x3E\x80\xFF\xDC"))},
-        {"gif canvas of 65535 x 65535", patched(gif, 6, QByteArrayLiteral("\xFF\xFF\xFF\xFF"))},
-        {"bmp of 30000 x 30000", patched(bmp, 18, QByteArrayLiteral("\x30\x75\x00\x00\x30\x75\x00\x00"))},
-        {"bmp of 0 x 64", patched(bmp, 18, QByteArrayLiteral("\x00\x00\x00\x00\x40\x00\x00\x00"))},
-        {"bmp of the lowest height", patched(bmp, 22, QByteArrayLiteral("\x00\x00\x00\x80"))},
-        {"ppm of a gigapixel", "P6 32000 32000 255\n" + QByteArray(1000, 'x')}};
+    const QByteArray idle(200'000, '\0');
+    struct Row {
+        File file;
+        const char* words;
+    };
+    const char* const damaged = "may be damaged";
+    const char* const memory = "MB of memory";
+    const std::vector<Row> rows = {
+        {{"jpeg of 65500 x 16000", patched(jpeg, jpeg.indexOf(QByteArrayLiteral("\xFF\xC0")) + 5,
+                                           QByteArrayLiteral("\x3E\x80\xFF\xDC"))},
+         damaged},
+        {{"jpeg of 15000 x 15000 whose scans are all kept",
+          patched(progressive, progressive.indexOf(QByteArrayLiteral("\xFF\xC2")) + 5,
+                  QByteArrayLiteral("\x3A\x98\x3A\x98")) +
+              idle},
+         memory},
+        {{"png of 30000 x 30000",
+          patched(png, 16, QByteArrayLiteral("\0\0\x75\x30\0\0\x75\x30\1\0\0\0\0\x4E\x5C\xC5\x17")) + idle},
+         memory},
+        {{"gif canvas of 65535 x 65535", patched(gif, 6, QByteArrayLiteral("\xFF\xFF\xFF\xFF"))}, damaged},
+        {{"gif canvas of 20000 x 20000", patched(gif, 6, QByteArrayLiteral("\x20\x4E\x20\x4E")) + idle},
+         memory},
+        {{"bmp of 30000 x 30000", patched(bmp, 18, QByteArrayLiteral("\x30\x75\x00\x00\x30\x75\x00\x00"))},
+         damaged},
+        {{"bmp of 0 x 64", patched(bmp, 18, QByteArrayLiteral("\x00\x00\x00\x00\x40\x00\x00\x00"))}, damaged},
+        {{"bmp of the lowest height", patched(bmp, 22, QByteArrayLiteral("\x00\x00\x00\x80"))}, damaged},
+        {{"drawing", "<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg'/>"}, "is a drawing"},
+        {{"kind that some plugin would read", "P6 2 2 255\n" + QByteArray(12, 'x')}, damaged}};
     rusage before{};
     getrusage(RUSAGE_SELF, &before);
-    for (const File& file : files) {
-        const Result<Picture> picture = decodePicture(file.bytes);
-        ASSERT_FALSE(picture) << file.name;
-        EXPECT_EQ(picture.error().code, ErrorCode::Damaged) << file.name;
+    for (const Row& row : rows) {
+        const Result<Picture> picture = decodePicture(row.file.bytes);
+        ASSERT_FALSE(picture) << row.file.name;
+        EXPECT_EQ(picture.error().code, ErrorCode::Damaged) << row.file.name;
+        EXPECT_TRUE(picture.error().message.contains(QLatin1String(row.words)))
+            << row.file.name << ": " << qPrintable(picture.error().message);
     }
     rusage after{};
     getrusage(RUSAGE_SELF, &after);
@@ -120,7 +144,9 @@ TEST(PictureReader, TellsAMissingFileFromOneThatCannotBeRead) {
     const QString missing = folder.filePath(QStringLiteral("missing.jpg"));
     EXPECT_EQ(readPicture(missing).error().code, ErrorCode::NotFound);
     EXPECT_EQ(readPictureSize(missing).error().code, ErrorCode::NotFound);
-    for (const QString& path : {folder.path(), empty, QStringLiteral("/dev/zero")}) {
+    const QString pipe = folder.filePath(QStringLiteral("pipe.jpg"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {folder.path(), empty, pipe, QStringLiteral("/dev/zero")}) {
         const Result<Picture> picture = readPicture(path);
         ASSERT_FALSE(picture);
         EXPECT_EQ(picture.error().code, ErrorCode::Damaged);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/photos/thumbnail_loader.h"
 
-#include <QImageReader>
+#include "pictures/picture_reader.h"
 
 #include <utility>
 
@@ -10,24 +10,10 @@ namespace {
 
 constexpr int CacheKilobytes = 48 * 1024;
 
-// The picture of a file within `size`. A JPEG is decoded no larger than needed; colours are taken as they
-// are.
-QImage readThumbnail(const QString& path, QSize size) {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QSize full = reader.size();
-    if (full.isValid()) {
-        const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-        const QSize bound = turned ? size.transposed() : size;
-        if (full.width() > bound.width() || full.height() > bound.height()) {
-            reader.setScaledSize(full.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1}));
-        }
-    }
-    QImage picture = reader.read();
-    if (picture.width() > size.width() || picture.height() > size.height()) {
-        picture = picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    }
-    return picture.isNull() ? picture : picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+QImage thumbnailOf(const QString& path, QSize size) {
+    return readThumbnail(path, size)
+        .value_or(Picture())
+        .image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 }  // namespace
@@ -64,7 +50,7 @@ void ThumbnailLoader::make(const Job& job) {
         if (worker_.hasNewer()) return;
         QMetaObject::invokeMethod(
             this,
-            [this, path, size = job.size, picture = readThumbnail(path, job.size)] {
+            [this, path, size = job.size, picture = thumbnailOf(path, job.size)] {
                 if (size == size_) take(path, picture);
             },
             Qt::QueuedConnection);

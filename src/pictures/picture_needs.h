@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What reading a picture will cost, told from the file's headers before anything is decoded, and what it may cost. A
+// file of a few hundred bytes can promise a picture of gigabytes; such a file is refused, while large photos are
+// limited by the machine alone.
+#pragma once
+
+#include "platform/result.h"
+
+#include <QSize>
+
+namespace zelto {
+
+struct PictureNeeds {
+    QSize size;         // pixels, upright
+    qint64 memory = 0;  // bytes at the worst moment of reading, the buffers of libraries included
+    qint64 decoded =
+        0;  // bytes that come out of the decompressor where they are not all kept: a measure of time
+};
+
+inline qint64 pixelCount(QSize size) {
+    return qint64{size.width()} * size.height();
+}
+
+// The most memory, in bytes, that working on a picture from a file of `fileBytes` bytes may take: 1 GiB for files
+// below 1 MiB, otherwise all that this process may have.
+qint64 memoryAllowed(qint64 fileBytes);
+
+// Error, in the user's words, where working on a picture from such a file takes more than it may.
+Result<void> checkMemory(qint64 memory, qint64 fileBytes);
+
+// The same for reading it. A size that makes no sense for such a file is an error with DamagedPictureMessage.
+Result<void> checkNeeds(const PictureNeeds& needs, qint64 fileBytes);
+
+}  // namespace zelto
