@@ -60,7 +60,7 @@ TEST(ParseMacros, PrintsNamesSizesAndResolution) {
                contextOf({}));
     MacroContext context = contextOf(u"/a.jpg"_s);
     context.pixelSize = {4001, 4001};
-    context.pointSize = {960.24, 0};
+    context.pointSize = {4001 * 72 / 299.2, 0};
     expectRows({{u"<<PHOTODPIX>> <<PHOTODPIY>>"_s, u"300 72"_s}}, context);  // rounded up; none known
 }
 
