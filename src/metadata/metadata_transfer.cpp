@@ -5,6 +5,7 @@
 #include "metadata/output_parts.h"
 #include "metadata/recorded_resolution.h"
 #include "pictures/jpeg_decoder.h"
+#include "pictures/picture_kind.h"
 #include "platform/kept_file.h"
 #include "platform/whole_file.h"
 #include "records/output_options.h"
@@ -86,7 +87,7 @@ MetadataFaults faultsOf(const QByteArray& filled, const MetadataRequest& request
             .positions = request.exifDataToInclude == exif_data::ExcludeGeolocation &&
                          mayHoldPosition(filled, metadata),
             .pictures = hasTrailer(filled) || holdsPictureAsText(metadata),
-            .isJpeg = isJpeg(filled)};
+            .isJpeg = pictureKindOf(filled) == PictureKind::Jpeg};
 }
 
 // What neither the list nor the second command may have left in the file.
