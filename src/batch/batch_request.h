@@ -33,6 +33,7 @@ struct BatchRequest {
     OutputOptions options;
     FolderDestinations folders;  // the source folders of the list, for a kept structure
     NameRules names;
+    bool strict = false;                     // a photo with a warning fails instead of being written
     std::shared_ptr<const OutputPlan> plan;  // planOutputs() of all this; a run that has none makes it first
     LookAheadLimits limits = LookAheadLimits::forThisMachine();
     // Called on the run's thread, where set: to keep the stack as "Last Watermark" whenever a worker starts, and the

@@ -59,6 +59,7 @@ class BatchRun::Worker {
     std::optional<PhotoTask> nextTask();
     RunEnd processPhotos();
     void UpdateImage(std::size_t row, LookAhead& ahead);
+    Result<void> commit(const PhotoTask& task, PreparedPhoto photo);
     void refuse(std::size_t row);
     bool replacesAnEarlierOutput(std::size_t row) const;
     void recordOutcome(PhotoOutcome outcome);
@@ -126,6 +127,14 @@ RunEnd BatchRun::Worker::processPhotos() {
     return RunEnd::Finished;
 }
 
+Result<void> BatchRun::Worker::commit(const PhotoTask& task, PreparedPhoto photo) {
+    try {
+        return job_.processor->commit(task, std::move(photo));
+    } catch (const std::exception& exception) {
+        return tl::unexpected(asError(exception));
+    }
+}
+
 // Writes one photo and records how that went.
 void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     observer_.photoStarted(static_cast<qint64>(row));
@@ -133,15 +142,17 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     const PhotoTask& task = ready->task;
     PhotoOutcome outcome{task.row, task.source, {}, {}, {}, {}, {}};
     Result<void> written;
+    const bool replaces = replacesAnEarlierOutput(row);
     if (ready->photo) {
         outcome.size = ready->photo->size;
         outcome.warnings = std::move(ready->photo->warnings);
         outcome.output = ready->photo->page ? QString() : task.output;
         const std::optional<qint64> lastAutoNumber = ready->photo->lastAutoNumber;
-        try {
-            written = job_.processor->commit(task, std::move(*ready->photo));
-        } catch (const std::exception& exception) {
-            written = tl::unexpected(asError(exception));
+        if (request_.strict && replaces) outcome.warnings.push_back(sameNameWarning());
+        if (request_.strict && !outcome.warnings.empty()) {
+            written = fail(ErrorCode::Unsupported, outcome.warnings.front().text, task.source);
+        } else {
+            written = commit(task, std::move(*ready->photo));
         }
         if (written && lastAutoNumber && request_.storeLastAutoNumber) {
             attempt("storing the last number", [&] { request_.storeLastAutoNumber(*lastAutoNumber); });
@@ -152,11 +163,12 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     ready.reset();
     ahead.release();
     if (written) {
-        if (replacesAnEarlierOutput(row)) outcome.warnings.push_back(sameNameWarning());
+        if (replaces) outcome.warnings.push_back(sameNameWarning());
         job_.writtenNames.insert(planned(row).sharesNameOf.value_or(row));
     } else {
         const Error& error = written.error();
-        outcome.error = error.code == ErrorCode::Damaged ? error.message : QString(WatermarkingFailedMessage);
+        const bool isForUsers = error.code == ErrorCode::Damaged || error.code == ErrorCode::Unsupported;
+        outcome.error = isForUsers ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;
     }
     recordOutcome(std::move(outcome));

@@ -184,6 +184,7 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
         plan.request.photos.push_back({image.ImagePath, isOurs, !isOurs});
     }
     plan.request.names = line.names;
+    plan.request.strict = line.strict;
     plan.request.plan =
         std::make_shared<const OutputPlan>(planOutputs(plan.request, QDateTime::currentDateTime()));
     if (line.jobs) plan.request.limits.jobs = *line.jobs;

@@ -216,6 +216,8 @@ const std::array Options = {
     Option{nullptr, "existing", "WHAT",
            "outputs that stand there before the run: replace, number,\nskip or fail (default: replace)",
            applyNameRule<&NameRules::existing>},
+    Option{nullptr, "strict", nullptr, "a photo with a warning fails and is not written",
+           turn<&CommandLine::strict>},
     Option{nullptr, "overwrite-originals", nullptr, "allow outputs that replace photos of the list",
            turn<&CommandLine::overwriteOriginals>},
     Option{nullptr, "dry-run", nullptr, "print what would be written, and write nothing",

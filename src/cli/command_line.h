@@ -49,6 +49,7 @@ struct CommandLine {
     Shard shard;
     bool continueAfterFailures = false;
     NameRules names;
+    bool strict = false;
     bool overwriteOriginals = false;
     bool dryRun = false;
     bool mergeReports = false;  // `inputs` are reports, and nothing else counts

@@ -204,5 +204,23 @@ TEST_F(Report, ResultsGoToStandardOutputAndTheRestToStandardError) {
     EXPECT_EQ(run({u"--quiet"_s, photo}).errors, QByteArray());
 }
 
+TEST_F(Report, TellsWhyAMarkDidNotArriveAndStrictLeavesThatPhotoUnwritten) {
+    WatermarkStack stack;
+    stack.Watermarks.emplace_back(watermark_type::Image).ImagePath = path(u"gone.png"_s);
+    useSetting(stack);
+    const QString photo = makePhoto(u"a.png"_s);
+    for (const bool strict : {true, false}) {
+        const QJsonObject report =
+            this->report(strict ? QStringList{u"--strict"_s, photo} : QStringList{photo}, strict);
+        const QJsonObject told = report["photos"_L1].toArray().first().toObject();
+        const QJsonObject warning = told["warnings"_L1].toArray().first().toObject();
+        EXPECT_EQ(warning["kind"_L1], u"logo-unreadable"_s);
+        EXPECT_EQ(warning["watermark"_L1], 0);
+        EXPECT_EQ(report["summary"_L1].toObject()["warned"_L1], 1);
+        EXPECT_EQ(told["error"_L1], strict ? warning["text"_L1] : QJsonValue(u""_s));
+        EXPECT_EQ(outputs().isEmpty(), strict);
+    }
+}
+
 }  // namespace
 }  // namespace zelto
