@@ -77,7 +77,7 @@ void compose(benchmark::State& state, const WatermarkStack& stack, bool keepLogo
     Picture picture;
     picture.image = photo().copy();
     for (auto _ : state) {
-        picture.image = MakeWatermarkImage(buildPhotoScene(request, std::move(picture)), stack);
+        picture.image = MakeWatermarkImage(*buildPhotoScene(request, std::move(picture)), stack);
         benchmark::DoNotOptimize(picture.image.constBits());
     }
 }
@@ -94,7 +94,7 @@ void rebuildOneText(benchmark::State& state) {
     const PhotoRequest request = requestFor(logoAndTwoTexts(), true);
     Picture picture;
     picture.image = photo();
-    PhotoScene scene = buildPhotoScene(request, std::move(picture));
+    PhotoScene scene = *buildPhotoScene(request, std::move(picture));
     for (auto _ : state) UpdateWatermark(scene, request, 2);
 }
 

@@ -11,6 +11,7 @@
 #include "platform/whole_file.h"
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"
+#include "render/photo_effects.h"
 #include "render/photo_filters.h"
 #include "render/photo_scene.h"
 
@@ -51,12 +52,15 @@ OutputWriter::~OutputWriter() = default;
 qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
     const Result<PictureNeeds> photo = readPictureNeeds(task.source);
     if (!photo) return 0;
-    // The photo and, at its worst moment, a second picture made from it; a frame makes a larger third one.
-    const qint64 pictures = settings_.stack->Effects ? 3 : 2;
+    // The photo and, at its worst moment, a second picture made from it; a frame makes two larger ones.
+    const std::optional<PhotoEffects>& effects = settings_.stack->Effects;
+    const qint64 made =
+        pixelCount(photo->size) +
+        (effects ? 2 * pixelCount(sizeWithEffects(photo->size, *effects)) : pixelCount(photo->size));
     const QSize written = outputSize(photo->size, settings_.options);
     const qint64 resized =
         settings_.options.ResizeImage ? std::min(pixelCount(written), MaximumPicturePixels) : 0;
-    return std::max(photo->memory, (pixelCount(photo->size) * pictures + resized) * BytesPerPixel);
+    return std::max(photo->memory, (made + resized) * BytesPerPixel);
 }
 
 Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
@@ -101,6 +105,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
     if (options.ResizeImage) picture = resizedImage(picture, size);
+    if (picture.isNull()) return tl::unexpected(notEnoughMemory(task.source));
     photo.size = picture.size();
     if (combinesIntoOnePdf(options)) {
         Result<PdfPage> page = encodePdfPage(picture);

@@ -16,7 +16,7 @@ QImage applyFilterChain(QImage picture, const FilterChain& chain) {
     // A shared picture is read where it is and written elsewhere: detaching it would copy every pixel first.
     const bool inPlace = picture.isDetached();
     QImage result = inPlace ? std::move(picture) : QImage(picture.size(), format);
-    if (result.isNull()) return picture;
+    if (result.isNull()) return {};
     const QImage& from = inPlace ? result : picture;
     const FilterPass pass = fuse(chain, result.size());
     const uchar* const source = from.constBits();

@@ -60,7 +60,7 @@ struct FilterChain {
 
 // `picture` (sRGB; RGB32 or premultiplied ARGB32, others are converted to one of them) treated by `chain`.
 // Alpha is kept, but for WhiteGradientOver. Move the picture in: where nobody shares it, it is changed in
-// place. Any thread; the work is spread over the cores.
+// place. Null where memory does not suffice. Any thread; the work is spread over the cores.
 QImage applyFilterChain(QImage picture, const FilterChain& chain);
 
 }  // namespace zelto

@@ -64,6 +64,7 @@ QImage imageRotatedByDegrees(const QImage& picture, std::int64_t degrees) {
     const QSizeF size = rotatedSize(picture.size(), turn);
     QImage canvas(static_cast<int>(wholePixels(size.width())), static_cast<int>(wholePixels(size.height())),
                   QImage::Format_ARGB32_Premultiplied);
+    if (canvas.isNull()) return canvas;
     canvas.fill(Qt::transparent);
     QPainter painter(&canvas);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Small operations on whole pictures (RGB32 or premultiplied ARGB32 in, premultiplied ARGB32 out unless nothing had
 // to change). Reentrant; any thread. Pictures are taken by value: move one in and no copy is made.
+// Null where memory does not suffice.
 #pragma once
 
 #include <QImage>

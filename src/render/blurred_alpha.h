@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A picture's alpha under a Gaussian of sigma = blur / 2 that ends at +-blur. Wide blurs are taken of a
-// picture of coarser cells, an eighth of the blur wide, and read between their centres: the result stays
-// within two levels of 255 of the full sum, and the work falls with the blur instead of growing with it.
+// A picture's alpha blurred by a Gaussian of sigma = blur / 2 that ends at +-blur. For a wide blur the alpha is first
+// averaged over cells an eighth of the blur wide, and the blurred cells are interpolated. The result stays within two
+// levels of 255 of the full sum, and a wider blur costs less instead of more.
 #pragma once
 
 #include <QImage>

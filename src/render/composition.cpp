@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <utility>
 
 namespace zelto {
@@ -34,15 +35,21 @@ void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkSta
     for (std::size_t i = 0; i < count; ++i) {
         if (!scene.layers[i] || !stack.Watermarks[i].IsEnabled) continue;
         // Opened for the first layer that is drawn: a painter on a shared picture copies it.
-        if (!painter.isActive()) painter.begin(&picture);
+        if (!painter.isActive()) {
+            picture.detach();
+            if (picture.isNull()) throw std::bad_alloc();
+            painter.begin(&picture);
+        }
         drawLayer(painter, *scene.layers[i], layerFrame(scene, i), picture.rect());
     }
 }
 
-QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack) {
+QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack) try {
     QImage picture = std::exchange(scene.picture, QImage());
     addWatermarkTo(picture, scene, stack);
     return picture;
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 }  // namespace zelto

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Drawing the layers of a scene onto its picture. Reentrant, any thread.
+// Drawing the layers of a scene onto its picture.
 #pragma once
 
 #include "render/photo_scene.h"
@@ -9,11 +9,12 @@
 
 namespace zelto {
 
-// Draws every enabled layer onto `picture`, in place. `stack` is the one the scene was built from.
+// Draws every enabled layer onto `picture`, in place. `stack` is the one the scene was built from. Throws
+// std::bad_alloc.
 void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkStack& stack);
 
 // The finished picture of a scene, drawn at one picture pixel per photo pixel. Move the scene in: its picture
-// is then drawn on without a copy.
+// is then drawn on without a copy. Null where memory does not suffice.
 QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack);
 
 }  // namespace zelto

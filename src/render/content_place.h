@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How one copy of a watermark's content comes to lie on a picture. This is where y turns over: content and
-// picture both count from their top-left corner, y growing downward.
+// How one copy of a watermark's content lies on a picture. Both count from their top-left corner, y growing downward.
 #pragma once
 
 #include <QRect>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two pictures that the effect step leaves in the user's home folder, for looking into a result:
+// The two pictures that the effect step leaves in the user's home folder, to help find out what it did:
 // "file.png", the photo on its border, and "effect.png", the finished effect. Encoding them takes seconds for
 // a large photo: call this in the background, for the newest photo only. Any thread, one call at a time.
 #pragma once

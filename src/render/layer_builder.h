@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Turning watermark records into placed layers: content first (text with its macros expanded, logo, shape or
-// QR code), then its place. Values in, values out: reentrant, any thread.
+// QR code), then its place.
 #pragma once
 
 #include "macros/macro_expander.h"

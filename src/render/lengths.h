@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the sizes of a record come to on one photo. W x H is the reference area, in photo pixels. Any thread.
+// What the sizes of a record come to on one photo. W x H is the reference area, in photo pixels.
 #pragma once
 
 #include "pictures/lengths.h"

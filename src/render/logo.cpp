@@ -4,6 +4,7 @@
 #include "pictures/picture_additions.h"
 #include "pictures/picture_reader.h"
 #include "pictures/resample.h"
+#include "render/canvas.h"
 #include "render/lengths.h"
 #include "render/opacity.h"
 #include "render/photo_filters.h"
@@ -32,13 +33,17 @@ LogoKey keyOf(const Watermark& record) {
     return key;
 }
 
-QImage readLogo(const Watermark& record) {
-    if (!record.ImageData.isEmpty()) {
-        if (Result<Picture> picture = decodePicture(record.ImageData)) return std::move(picture->image);
-    }
-    if (record.ImagePath.isEmpty()) return {};
-    Result<Picture> picture = readPicture(record.ImagePath);
+// The picture that was read; null where there is none. That memory ran out says nothing of the file.
+QImage imageOf(Result<Picture> picture) {
+    if (!picture && picture.error().code == OutOfMemory) throw std::bad_alloc();
     return picture ? std::move(picture->image) : QImage();
+}
+
+QImage readLogo(const Watermark& record) {
+    QImage logo;
+    if (!record.ImageData.isEmpty()) logo = imageOf(decodePicture(record.ImageData));
+    if (logo.isNull() && !record.ImagePath.isEmpty()) logo = imageOf(readPicture(record.ImagePath));
+    return logo;
 }
 
 QImage treatedLogo(const Watermark& record, const LogoKey& key) {
@@ -46,10 +51,10 @@ QImage treatedLogo(const Watermark& record, const LogoKey& key) {
     if (logo.isNull()) return logo;
     if (key.removedColor) {
         const Color& color = *key.removedColor;
-        logo = replaceColor(std::move(logo), color.Red, color.Green, color.Blue);
+        logo = allocated(replaceColor(std::move(logo), color.Red, color.Green, color.Blue));
     }
-    if (key.blackAndWhite) logo = ApplyFilter(GrayScaleFilter, std::move(logo));
-    return imageWithOpacity(std::move(logo), key.opacity);
+    if (key.blackAndWhite) logo = allocated(ApplyFilter(GrayScaleFilter, std::move(logo)));
+    return allocated(imageWithOpacity(std::move(logo), key.opacity));
 }
 
 // At least one pixel where there is any length at all, so that a thin line does not vanish.
@@ -97,7 +102,7 @@ Logo loadLogo(const Watermark& record, QSizeF reference, LogoCache& cache) {
     sized.size = logo.size.toSize();
     if (sized.size != logo.loadedSize) {
         const QImage& treated = logo.picture;
-        logo.picture = cache.picture(sized, [&] { return resizedImage(treated, sized.size); });
+        logo.picture = cache.picture(sized, [&] { return allocated(resizedImage(treated, sized.size)); });
     }
     return logo;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Logo watermarks: from a record to the picture that is placed. Reentrant, any thread.
+// Logo watermarks: from a record to the picture that is placed.
 #pragma once
 
 #include "records/watermark.h"
@@ -12,8 +12,9 @@
 namespace zelto {
 
 struct Logo {
-    QImage picture;    // with its colour removed, its opacity and, as far as that is worth the memory, its
-                       // final size; null where the logo cannot be loaded or has no size
+    // With its colour removed and its opacity. It has its final size unless that would be far larger than the photo.
+    // Null where the logo cannot be loaded or has no size.
+    QImage picture;
     QSizeF size;       // on the photo, whole pixels; the picture is stretched to it where it differs
     QSize loadedSize;  // pixels of the file
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Logos kept between the photos of a run: the same file is read, treated and resized once for hundreds of
-// photos. Whoever runs the photos owns the cache and hands it to each scene. Thread-safe; threads that want
-// the same picture at the same time wait for the one that makes it.
+// Logos kept between the photos of a run, so that a file is read, treated and resized once for hundreds of photos. The
+// run or the preview owns a cache and hands it to each scene. Safe for threads: those that want the same picture at the
+// same time wait for the one that makes it.
 #pragma once
 
-#include "records/color.h"
+#include "records/watermark.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -21,8 +21,8 @@ namespace zelto {
 
 // Everything a finished logo picture depends on.
 struct LogoKey {
-    QByteArray data;  // the bytes of the file, where the record carries them
-    QString path;     // the file, with its state, to notice that it was changed
+    LogoBytes data;  // the bytes of the file, where the record carries them
+    QString path;    // the file; its size and time tell when it has changed
     qint64 fileSize = -1;
     qint64 fileTime = 0;  // milliseconds
     std::optional<Color> removedColor;

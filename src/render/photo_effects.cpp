@@ -30,18 +30,20 @@ struct Border {
     bool isEmpty() const { return left + top + right + bottom == 0; }
 };
 
-// The border of a photo; none where the framed photo would be larger than any picture may be.
-Border borderFor(const PhotoEffects& effect, QSize photo) {
-    const Border border{sane(effect.LeftThickness), sane(effect.TopThickness), sane(effect.RightThickness),
-                        sane(effect.BottomThickness)};
-    const qint64 width = photo.width() + border.left + border.right;
-    const qint64 height = photo.height() + border.top + border.bottom;
-    return width <= MaximumPicturePixels / height ? border : Border{};
+Border borderOf(const PhotoEffects& effect) {
+    return {sane(effect.LeftThickness), sane(effect.TopThickness), sane(effect.RightThickness),
+            sane(effect.BottomThickness)};
 }
 
-QSize framedSize(QSize photo, const Border& border) {
-    return photo.grownBy({static_cast<int>(border.left), static_cast<int>(border.top),
-                          static_cast<int>(border.right), static_cast<int>(border.bottom)});
+// The size of `photo` grown by these lengths; empty where a few bytes of a setting would make it take more memory than
+// a large photo does.
+QSize grownSize(QSize photo, qint64 wider, qint64 higher) {
+    constexpr qint64 Always = qint64{1} << 26;  // pixels
+    const qint64 most = std::min(MaximumPicturePixels, 2 * qint64{photo.width()} * photo.height() + Always);
+    const qint64 width = photo.width() + wider;
+    const qint64 height = photo.height() + higher;
+    if (photo.isEmpty() || width > most / height) return {0, 0};
+    return {static_cast<int>(width), static_cast<int>(height)};
 }
 
 // Where the shadow falls, as steps to the right and up.
@@ -94,17 +96,9 @@ bool isOpaque(const std::optional<Color>& color) {
     return color && color->Alpha >= 1.0F;
 }
 
-// Whether a picture may be that large.
-bool isPossible(qint64 width, qint64 height) {
-    return width <= MaximumPicturePixels && height <= MaximumPicturePixels &&
-           width * height <= MaximumPicturePixels;
-}
-
-// A new picture whose pixels are still to be written; null where it would be larger than any picture may be.
-QImage makeCanvas(qint64 width, qint64 height, bool opaque) {
-    if (!isPossible(width, height)) return {};
-    return {static_cast<int>(width), static_cast<int>(height),
-            opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied};
+// A new picture whose pixels are still to be written; null where memory does not suffice.
+QImage makeCanvas(QSize size, bool opaque) {
+    return {size, opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied};
 }
 
 // The border and the photo on it, written straight into `canvas` from `origin` (top left) on. Every pixel of
@@ -148,13 +142,13 @@ void normalize(QImage& photo) {
 }  // namespace
 
 QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect) {
-    if (photo.isNull()) return photo;
-    const Border border = borderFor(effect, photo.size());
-    if (border.isEmpty()) return photo;
-    const QSize size = framedSize(photo.size(), border);
-    QImage framed = makeCanvas(size.width(), size.height(), isOpaque(effect.BorderColor));
-    if (framed.isNull()) return photo;
+    const Border border = borderOf(effect);
+    if (photo.isNull() || border.isEmpty()) return photo;
+    const QSize size = framedSize(photo.size(), effect);
+    if (size.isEmpty()) return {};
+    QImage framed = makeCanvas(size, isOpaque(effect.BorderColor));
     normalize(photo);
+    if (framed.isNull() || photo.isNull()) return {};
     drawFramed(framed, {0, 0}, photo, border, premultiplied(effect.BorderColor));
     return framed;
 }
@@ -164,33 +158,34 @@ QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOr
     imageOrigin = borderOrigin = QRect(QPoint(0, 0), photo.size());
     if (photo.isNull()) return photo;
     const QSize photoSize = photo.size();
-    const Border border = borderFor(effect, photoSize);
-    const QSize framed = framedSize(photoSize, border);
+    const Border border = borderOf(effect);
+    const QSize framed = framedSize(photoSize, effect);
+    if (framed.isEmpty()) return {};
     const bool opaque = border.isEmpty() ? !photo.hasAlphaChannel() : isOpaque(effect.BorderColor);
 
     QImage canvas;
     QPoint place;  // of the framed photo on the canvas, y up
     const bool withShadow = final && effect.EnableShadow;
     const ShadowPlan plan = withShadow ? shadowPlan(effect) : ShadowPlan{};
-    if (withShadow && !(opaque && plan.x.growth == 0 && plan.y.growth == 0)) {
-        canvas = makeCanvas(framed.width() + plan.x.growth, framed.height() + plan.y.growth, false);
-    }
-    if (canvas.isNull()) {
+    if (!withShadow || (opaque && plan.x.growth == 0 && plan.y.growth == 0)) {
         canvas = ImagewithBorderEffect(std::move(photo), effect);
     } else {
+        const QSize size = sizeWithEffects(photoSize, effect);
+        if (size.isEmpty()) return {};
+        canvas = makeCanvas(size, false);
         place = {static_cast<int>(plan.x.place), static_cast<int>(plan.y.place)};
         const QRect drawn({place.x(), canvas.height() - place.y() - framed.height()}, framed);
         const DropShadow shadow{
             {static_cast<int>(plan.x.offset), static_cast<int>(-plan.y.offset)},
             static_cast<int>(std::min<qint64>(sane(effect.BlurRadius), MaximumShadowBlur)),
             effect.ShadowColor.value_or(Color{0.0F, 0.0F, 0.0F, 0.0F})};
+        QImage picture = opaque ? std::move(photo) : ImagewithBorderEffect(std::move(photo), effect);
+        normalize(picture);
+        if (canvas.isNull() || picture.isNull()) return {};
         if (opaque) {
-            normalize(photo);
-            drawFramed(canvas, drawn.topLeft(), photo, border, premultiplied(effect.BorderColor));
+            drawFramed(canvas, drawn.topLeft(), picture, border, premultiplied(effect.BorderColor));
             drawRectangleShadow(canvas, drawn, shadow);
         } else {
-            QImage picture = ImagewithBorderEffect(std::move(photo), effect);
-            normalize(picture);
             drawPictureWithShadow(canvas, picture, drawn.topLeft(), shadow);
         }
     }
@@ -201,16 +196,15 @@ QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOr
 }
 
 QSize framedSize(QSize photo, const PhotoEffects& effect) {
-    return framedSize(photo, borderFor(effect, photo));
+    const Border border = borderOf(effect);
+    return grownSize(photo, border.left + border.right, border.top + border.bottom);
 }
 
 QSize sizeWithEffects(QSize photo, const PhotoEffects& effect) {
-    const QSize framed = framedSize(photo, effect);
-    if (!effect.EnableShadow) return framed;
-    const ShadowPlan plan = shadowPlan(effect);
-    const qint64 width = framed.width() + plan.x.growth;
-    const qint64 height = framed.height() + plan.y.growth;
-    return isPossible(width, height) ? QSize(static_cast<int>(width), static_cast<int>(height)) : framed;
+    const Border border = borderOf(effect);
+    const ShadowPlan plan = effect.EnableShadow ? shadowPlan(effect) : ShadowPlan{};
+    return grownSize(photo, border.left + border.right + plan.x.growth,
+                     border.top + border.bottom + plan.y.growth);
 }
 
 }  // namespace zelto

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The border and drop shadow around a whole photo. Rectangles are in pixels of the returned picture, y growing
-// upward from its bottom-left corner. Lengths below 0, which only a damaged setting holds, count as 0; a colour that
-// is absent paints nothing; a border or a shadow that would make the picture larger than any may be
-// (MaximumPicturePixels) is left out. The result is RGB32 where nothing of it can be seen through. Reentrant, any
-// thread; the work of one call is spread over the cores.
+// The border and drop shadow around a whole photo. Rectangles are in pixels of the returned picture, y growing upward
+// from its bottom-left corner. Lengths below 0, which only a damaged setting holds, count as 0; a colour that is absent
+// paints nothing. A setting of a few bytes must not take all memory: the result may have twice the photo's pixels and
+// 64 megapixels more. Beyond that there is no picture, and none where memory does not suffice. The result is RGB32 where
+// nothing of it can be seen through. The work of one call is spread over the cores.
 #pragma once
 
 #include "records/photo_effects.h"
@@ -23,10 +23,10 @@ QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect);
 QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
                         bool final);
 
-// The size of a photo of `photo` pixels on its border, without any shadow.
+// The size of a photo of `photo` pixels on its border, without any shadow; empty where that is too large.
 QSize framedSize(QSize photo, const PhotoEffects& effect);
 
-// The size imagewithEffects gives the final picture of an opaque photo of `photo` pixels.
+// The size imagewithEffects gives the final picture of an opaque photo of `photo` pixels; empty where that is too large.
 QSize sizeWithEffects(QSize photo, const PhotoEffects& effect);
 
 }  // namespace zelto

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The photo filters: whole-picture colour treatments, chosen by number. Reentrant, any thread; the work of one call
-// is spread over the cores.
+// The photo filters: whole-picture colour treatments, chosen by number. The work of one call is spread over the cores.
 #pragma once
 
 #include <QImage>

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_scene.h"
 
+#include "render/canvas.h"
 #include "render/layer_builder.h"
 #include "render/photo_effects.h"
 #include "render/photo_filters.h"
 
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace zelto {
@@ -25,15 +27,19 @@ MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) 
             .properties = scene.properties};
 }
 
-void frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
+// Whether the frame was put on; there is none that would make the photo too large.
+bool frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
     scene.imageRect = scene.picture.rect();
     scene.borderRect = scene.imageRect;
     scene.referenceRect = scene.imageRect;
-    if (!effect) return;
-    scene.picture =
-        imagewithEffects(std::move(scene.picture), *effect, scene.imageRect, scene.borderRect, final);
+    if (!effect) return true;
+    const QSize photo = scene.picture.size();
+    if ((final ? sizeWithEffects(photo, *effect) : framedSize(photo, *effect)).isEmpty()) return false;
+    scene.picture = allocated(
+        imagewithEffects(std::move(scene.picture), *effect, scene.imageRect, scene.borderRect, final));
     scene.referenceRect = effect->ApplyWatermarkOnBorder ? scene.borderRect : scene.imageRect;
     scene.referenceRect.moveBottom(scene.picture.height() - 1 - scene.referenceRect.top());
+    return true;
 }
 
 std::optional<PhotoWarning> warningFor(std::size_t index, const Watermark& record,
@@ -69,7 +75,11 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request) {
     return buildPhotoScene(request, std::move(*photo));
 }
 
-PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo) {
+Error notEnoughMemory(const QString& path) {
+    return {OutOfMemory, QStringLiteral("There is not enough memory for this photo."), path};
+}
+
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) try {
     PhotoScene scene;
     scene.photoSize = photo.image.size();
     scene.dpiX = photo.dpiX;
@@ -78,11 +88,16 @@ PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo) {
     scene.picture = std::move(photo.image);
     const WatermarkStack& stack = *request.stack;
     if (stack.SelectedFilter != 0) {
-        scene.picture = ApplyFilter(stack.SelectedFilter, std::move(scene.picture));
+        scene.picture = allocated(ApplyFilter(stack.SelectedFilter, std::move(scene.picture)));
     }
-    frame(scene, stack.Effects, request.final);
+    if (!frame(scene, stack.Effects, request.final)) {
+        return fail(ErrorCode::Unsupported,
+                    QStringLiteral("Its border and shadow would make this photo too large."), request.path);
+    }
     MakeWatermarkChanges(scene, request);
     return scene;
+} catch (const std::bad_alloc&) {
+    return tl::unexpected(notEnoughMemory(request.path));
 }
 
 std::vector<PhotoWarning> warningsOf(const PhotoScene& scene) {

@@ -1,7 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One photo made ready: loaded, filtered, framed, and every watermark of the stack turned into a placed
-// layer. The preview shows a scene and the batch run writes one; both build it here, so what is seen is what
-// is written. A scene is built from values alone, on any thread.
+// One photo made ready: loaded, filtered, framed, and every watermark of the stack turned into a placed layer. The
+// preview shows a scene and the batch run writes one. Both build it here, so what is seen is what is written:
+//
+//     Result<PhotoScene> scene = buildPhotoScene({.path = path, .now = now, .locale = locale, .stack = stack});
+//     if (scene) QImage finished = MakeWatermarkImage(*std::move(scene), *stack);
+//
+// What all of this folder has in common. Functions depend on their arguments alone, but for the caches their headers
+// name, and may run on any thread, several at a time; those that lay out text need a QGuiApplication. Lengths are photo
+// pixels. Records and frames count y upward from the bottom-left corner of the area they lie in; pictures and
+// everything drawn on them count y downward from the top left, as Qt does. Pictures are sRGB, RGB32 or premultiplied
+// ARGB32. Where memory does not suffice in the middle of drawing, std::bad_alloc ends the whole photo (canvas.h).
 #pragma once
 
 #include "metadata/image_properties.h"
@@ -58,18 +66,22 @@ struct PhotoScene {
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
 };
 
-// Error: as readPicture.
+// Error: as readPicture; ErrorCode::Unsupported, with a message for the user, where memory does not suffice or border
+// and shadow would make the photo larger than any may be.
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 
 // The same for a photo already in memory. Move the photo in: without a filter and a frame its pixels are then
 // the scene's, uncopied.
-PhotoScene buildPhotoScene(const PhotoRequest& request, Picture photo);
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo);
+
+// What is told of a photo that memory does not suffice for.
+Error notEnoughMemory(const QString& path);
 
 // The warnings of a scene, in the order of its records.
 std::vector<PhotoWarning> warningsOf(const PhotoScene& scene);
 
 // After an edit of the stack: the layers of a scene built anew from the request's stack, the photo as it was.
-// The stack's filter and effect must still be those the scene was built with.
+// The stack's filter and effect must still be those the scene was built with. Throws std::bad_alloc.
 void MakeWatermarkChanges(PhotoScene& scene, const PhotoRequest& request);
 
 // The same for the one layer at `index`, which must be one of the stack's.

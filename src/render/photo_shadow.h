@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The drop shadow of a whole picture: its alpha blurred by a Gaussian of sigma = blur / 2 that ends at
 // +-blur, moved and tinted. What it costs does not grow with the blur. Points are in pixels from the canvas's
-// top left corner, y growing downward. Any thread; the work is spread over the cores.
+// top left corner, y growing downward. The work is spread over the cores.
 #pragma once
 
 #include "records/color.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where a watermark's content goes in the reference area: the nine preset places, the custom place, and the
 // areas that tilings fill. Pure geometry: photo pixels, y growing upward from the bottom-left corner, W x H
-// the size of the reference area. Reentrant, any thread.
+// the size of the reference area.
 #pragma once
 
 #include "records/watermark.h"

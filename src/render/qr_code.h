@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // QR code watermarks: black modules on an optional background with a quiet border, drawn straight onto the photo.
-// Encoding the symbol is libqrencode's work, which guards its own tables. Reentrant, any thread.
+// Encoding the symbol is libqrencode's work, which guards its own tables.
 #pragma once
 
 #include "records/watermark.h"

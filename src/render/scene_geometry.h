@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where things lie in a scene's picture: pixels from its top-left corner, y growing downward. Any thread.
+// Where things lie in a scene's picture: pixels from its top-left corner, y growing downward.
 #pragma once
 
 #include "render/photo_scene.h"

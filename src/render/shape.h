@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shape watermarks: rectangle, ellipse, polygon and bar in one colour or a gradient. Shapes are drawn straight onto the
-// photo, so that a large one costs no more memory than a small one. Reentrant, any thread.
+// photo, so that a large one costs no more memory than a small one.
 #pragma once
 
 #include "records/watermark.h"

@@ -2,6 +2,7 @@
 #include "render/text_block.h"
 
 #include "pictures/picture_additions.h"
+#include "render/canvas.h"
 #include "render/lengths.h"
 #include "render/opacity.h"
 #include "render/photo_shadow.h"
@@ -41,6 +42,8 @@ TextAttributes defaultAttributes() {
 
 TextAttributes attributesOf(const Watermark& record, QSizeF reference) {
     TextAttributes attributes = defaultAttributes();
+    attributes.underline = record.FontUnderline;
+    attributes.strikethrough = record.FontStrikethrough;
     if (!isFontInstalled(record.FontFamily)) return attributes;
     attributes.font = withTraits({.family = record.FontFamily, .pointSize = pointSize(record, reference)},
                                  record.FontBold, record.FontItalic);
@@ -49,8 +52,6 @@ TextAttributes attributesOf(const Watermark& record, QSizeF reference) {
         attributes.foreground.Alpha = static_cast<float>(opacityOf(record.Transparency));
         attributes.alignment = record.Alignment;
     }
-    attributes.underline = record.FontUnderline;
-    attributes.strikethrough = record.FontStrikethrough;
     if (record.Shadow) attributes.shadow = record.ShadowColor;
     return attributes;
 }
@@ -70,9 +71,7 @@ struct Group {
     QImage image;
 
     explicit Group(const QRect& area)
-        : pixels(area), image(area.size(), QImage::Format_ARGB32_Premultiplied) {
-        image.fill(Qt::transparent);
-    }
+        : pixels(area), image(area.isEmpty() ? QImage() : clearCanvas(area.size())) {}
 
     QTransform fromPicture() const { return QTransform::fromTranslate(-pixels.x(), -pixels.y()); }
 
@@ -80,7 +79,7 @@ struct Group {
     void tighten(int reach) {
         const QRect ink = inkBox();
         const QRect kept = ink.adjusted(-reach, -reach, reach, reach).intersected(image.rect());
-        image = ink.isEmpty() ? QImage() : image.copy(kept);
+        image = ink.isEmpty() ? QImage() : allocated(image.copy(kept));
         pixels = kept.translated(pixels.topLeft());
     }
 
@@ -138,7 +137,7 @@ void drawLabelGroup(QPainter& painter, const TextBlock& block, const ContentPlac
         color.Alpha = 1.0F;
         const QPointF offset =
             place.toPicture.map(QPointF(ShadowOffset)) - place.toPicture.map(QPointF(0.0, 0.0));
-        QImage canvas(group.image.size(), QImage::Format_ARGB32_Premultiplied);
+        QImage canvas = allocated(QImage(group.image.size(), QImage::Format_ARGB32_Premultiplied));
         drawPictureWithShadow(canvas, group.image, {},
                               {.offset = offset.toPoint(), .blur = ShadowBlur, .color = color});
         group.image = std::move(canvas);
@@ -203,7 +202,7 @@ double overhang(const TextBlock& block) {
 }
 
 void drawTextBlock(QPainter& painter, const TextBlock& block, const ContentPlace& place) {
-    painter.save();
+    const SavedPainter saved(painter);
     painter.setClipRect(place.visible);
     if (place.cutToContent) {
         painter.setTransform(place.toPicture);
@@ -211,7 +210,6 @@ void drawTextBlock(QPainter& painter, const TextBlock& block, const ContentPlace
         painter.resetTransform();
     }
     block.embossed ? drawEmboss(painter, block, place) : drawLabel(painter, block, place);
-    painter.restore();
 }
 
 }  // namespace zelto

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text watermarks: from a record to a styled, measured block, and from a block to pixels, as a label or
-// embossed. Expanding macros comes before, placing the block after. Reentrant, any thread.
+// embossed. Expanding macros comes before, placing the block after.
 #pragma once
 
 #include "records/watermark.h"
@@ -16,7 +16,7 @@ namespace zelto {
 
 // The block of a text record whose expanded text is `text`; `reference` is the area in photo pixels that a
 // relative font size refers to. A font family that is not installed gives the default font at 12 points in
-// opaque black, without alignment, lines or shadow.
+// opaque black, without alignment or shadow; its lines under and through the text stay.
 TextBlock makeTextBlock(const Watermark& record, const QString& text, QSizeF reference);
 
 // How far the block's letters and shadow may reach beyond its rectangle on every side, pixels; 0 for an emboss, which

@@ -2,7 +2,7 @@
 // Measuring and drawing whole strings at fractional font sizes, the same on every machine that has the same
 // fonts: glyphs are laid out unhinted at a large whole size and drawn as outlines scaled to the size asked
 // for. Lines end at line breaks only. A line's box is the font's ascent, descent and leading, each rounded to
-// whole pixels. Reentrant; any thread. Wants a QGuiApplication.
+// whole pixels.
 #pragma once
 
 #include "render/watermark_view.h"

@@ -3,6 +3,7 @@
 
 #include "pictures/lengths.h"
 #include "pictures/picture_additions.h"
+#include "render/canvas.h"
 #include "render/qr_code.h"
 #include "render/shape.h"
 #include "render/text_block.h"
@@ -55,7 +56,7 @@ TilingView withTurnedPicture(TilingView surface) {
     const auto* picture = std::get_if<QImage>(&surface.tilingImage);
     if (picture == nullptr || surface.rotation == 0 || !hasSizeOf(*picture, surface.contentSize))
         return surface;
-    QImage turned = imageRotatedByDegrees(*picture, -surface.rotation);
+    QImage turned = allocated(imageRotatedByDegrees(*picture, -surface.rotation));
     surface.contentSize = turned.size();
     surface.tilingImage = std::move(turned);
     surface.rotation = 0;
@@ -122,8 +123,7 @@ void drawContent(QPainter& painter, const LayerContent& content, QSizeF size, co
 
 QImage pictureOf(const LayerContent& content, QSizeF size) {
     const QSize whole = QSizeF(wholePixels(size.width()), wholePixels(size.height())).toSize();
-    QImage picture(whole, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
+    QImage picture = clearCanvas(whole);
     QPainter painter(&picture);
     const QTransform toLowerEdge = QTransform::fromTranslate(0.0, whole.height() - size.height());
     drawContent(painter, content, size, {.toPicture = toLowerEdge, .visible = picture.rect()});
@@ -156,10 +156,7 @@ void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, c
         }
         return;
     }
-    QImage texture(static_cast<int>(cell.width), static_cast<int>(cell.height),
-                   QImage::Format_ARGB32_Premultiplied);
-    if (texture.isNull()) return;
-    texture.fill(Qt::transparent);
+    QImage texture = clearCanvas({static_cast<int>(cell.width), static_cast<int>(cell.height)});
     {
         QPainter tile(&texture);
         drawCell(tile, surface, cell, QPointF(0.0, cell.height), texture.rect());

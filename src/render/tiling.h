@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Drawing layer content onto a picture: once and upright, or turned and repeated over a surface. Pictures are
-// premultiplied ARGB32 or RGB32 and the painter's transform is the identity. Reentrant, any thread.
+// premultiplied ARGB32 or RGB32 and the painter's transform is the identity.
 #pragma once
 
 #include "render/content_place.h"

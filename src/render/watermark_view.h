@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The drawable layer of one watermark record: where it lies in the reference area and what it shows. Plain
-// values, shared freely between threads. All geometry is in photo pixels, y growing upward from the
-// bottom-left corner.
+// The drawable layer of one watermark record: where it lies in the reference area and what it shows. These are plain
+// values that threads may share.
 #pragma once
 
 #include "records/color.h"
@@ -20,8 +19,8 @@
 
 namespace zelto {
 
-// A font by its values. A QFont is no such value: two threads must not use copies of one at the same time, so
-// whoever lays out text makes its own.
+// A font as plain values. A QFont does not serve: two threads must not use copies of one at the same time, so text is
+// laid out with a QFont made on the spot.
 struct TextFont {
     QString family{};        // installed; empty for the program's default font
     double pointSize = 0.0;  // photo pixels, fractions count
@@ -85,8 +84,8 @@ struct QrImage {
 // What one copy of a watermark looks like. Empty for a logo that could not be loaded.
 using LayerContent = std::variant<std::monostate, TextBlock, QImage, ShapeImage, QrImage>;
 
-// A surface filled with one repeated, turned cell of content; with a surface of the cell's own size and no
-// spacing it shows a single turned copy. The pattern starts at the surface's bottom-left corner.
+// A surface filled with one repeated, turned cell of content. A single turned copy is a surface that has the size of its
+// cell and no spacing. The pattern starts at the surface's bottom-left corner.
 struct TilingView {
     LayerContent tilingImage;
     QSizeF contentSize;         // of the content before it is turned

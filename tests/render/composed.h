@@ -60,7 +60,7 @@ inline PhotoRequest requestFor(const WatermarkStack& stack) {
 inline PhotoScene sceneOf(const WatermarkStack& stack, QImage photo) {
     Picture picture;
     picture.image = std::move(photo);
-    return buildPhotoScene(requestFor(stack), std::move(picture));
+    return *buildPhotoScene(requestFor(stack), std::move(picture));
 }
 
 inline QImage composed(const WatermarkStack& stack, QImage photo) {

@@ -193,17 +193,22 @@ TEST(PhotoEffects, NothingToDrawGivesThePhotoUntouched) {
     EXPECT_TRUE(framed.image == QRect(0, 0, 20, 10) && framed.border == framed.image);
 }
 
-TEST(PhotoEffects, WhatWouldOutgrowAnyPictureIsLeftOut) {
-    constexpr std::int64_t Huge = std::numeric_limits<std::int64_t>::max();
+TEST(PhotoEffects, ThereIsNoPictureWhereItWouldOutgrowThePhotoByFar) {
     const QImage photo = drawnScene({20, 10});
-    PhotoEffects effect = bordered();
-    effect.EnableShadow = true;
-    effect.Distance = effect.BlurRadius = Huge;
-    effect.Direction = 45;
-    EXPECT_EQ(apply(photo, effect).picture, ImagewithBorderEffect(photo, effect));
-    effect.RightThickness = Huge;
-    EXPECT_EQ(apply(photo, effect).picture, photo);
-    EXPECT_EQ(apply(photo, effect).image, photo.rect());
+    for (const std::int64_t length : {std::int64_t{16'384}, std::numeric_limits<std::int64_t>::max()}) {
+        PhotoEffects border = bordered();
+        border.LeftThickness = border.TopThickness = length;
+        EXPECT_TRUE(apply(photo, border).picture.isNull());
+        EXPECT_TRUE(ImagewithBorderEffect(photo, border).isNull());
+        PhotoEffects shadow = bordered();
+        shadow.EnableShadow = true;
+        shadow.Distance = shadow.BlurRadius = length;
+        shadow.Direction = 45;
+        EXPECT_TRUE(apply(photo, shadow).picture.isNull());
+        EXPECT_TRUE(sizeWithEffects(photo.size(), shadow).isEmpty());
+        EXPECT_EQ(apply(photo, shadow, false).picture.size(), QSize(24, 16))
+            << "without its shadow it is small";
+    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "render/photo_scene.h"
 
 #include "composed.h"
+#include "failing_memory.h"
 #include "platform/whole_file.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
@@ -30,7 +31,7 @@ TEST(PhotoScene, ReferenceIsThePhotoOrTheFrameButNeverTheShadow) {
         for (const bool final : {false, true}) {
             PhotoRequest request = requestFor(stack);
             request.final = final;
-            const PhotoScene scene = buildPhotoScene(request, {.image = plainPhoto({100, 80})});
+            const PhotoScene scene = *buildPhotoScene(request, {.image = plainPhoto({100, 80})});
             QRect area = onBorder ? scene.borderRect : scene.imageRect;  // the top row is the highest one
             area.moveTop(100 - area.y() - area.height());
             EXPECT_EQ(scene.referenceRect, area);
@@ -174,13 +175,13 @@ TEST(PhotoScene, IsBuiltAndDrawnAlikeOnManyThreadsAtTheSameTime) {
     const WatermarkStack stack = everything();
     PhotoRequest request = requestFor(stack);
     request.logos = std::make_shared<LogoCache>();
-    const PhotoScene shared = buildPhotoScene(request, {.image = drawnScene({400, 300})});
+    const PhotoScene shared = *buildPhotoScene(request, {.image = drawnScene({400, 300})});
     const QImage expected = MakeWatermarkImage(shared, stack);
     std::atomic<int> right = 0;
     std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&] {
-            const PhotoScene own = buildPhotoScene(request, {.image = drawnScene({400, 300})});
+            const PhotoScene own = *buildPhotoScene(request, {.image = drawnScene({400, 300})});
             right += MakeWatermarkImage(own, stack) == expected;
             right += MakeWatermarkImage(shared, stack) == expected;
         });
@@ -188,6 +189,37 @@ TEST(PhotoScene, IsBuiltAndDrawnAlikeOnManyThreadsAtTheSameTime) {
     threads.clear();
     EXPECT_EQ(right, 8);
 }
+
+// The sanitizers bring an allocator of their own.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+TEST(PhotoScene, IsRightToTheLastPixelOrFailsWhereverMemoryRunsOut) {
+    WatermarkStack stack = everything();
+    stack.Watermarks[1].FontSize = 40;  // tiles large enough to be told from a text
+    stack.SelectedFilter = 9;
+    stack.Effects.emplace();
+    stack.Effects->BorderColor = Color{0.2F, 0.4F, 0.1F, 0.5F};
+    stack.Effects->BlurRadius = stack.Effects->Distance = 20;
+    stack.Effects->Direction = 45;
+    const QImage photo = drawnScene({400, 300});
+    PhotoRequest request = requestFor(stack);
+    request.logos = std::make_shared<LogoCache>();  // what cannot be decoded is another matter
+    const auto written = [&] {
+        Result<PhotoScene> scene = buildPhotoScene(request, {.image = photo});
+        return scene ? MakeWatermarkImage(*std::move(scene), stack) : QImage();
+    };
+    const QImage expected = written();
+    ASSERT_FALSE(expected.isNull());
+    int failures = 0;
+    for (bool failed = true; failed; ++failures) {
+        failLargeAllocation(failures);
+        const QImage picture = written();
+        failed = largeAllocationFailed();
+        failLargeAllocation(-1);
+        EXPECT_TRUE(failed ? picture.isNull() || picture == expected : picture == expected) << failures;
+    }
+    EXPECT_GE(failures, 8);
+}
+#endif
 
 TEST(PhotoScene, AnEditRebuildsItsLayerAndEqualsANewScene) {
     WatermarkStack stack = everything();

@@ -41,7 +41,10 @@ TEST(TextBlock, AnUnknownFamilyIsSetInThePlainDefault) {
     record.FontFamily = QStringLiteral("No such family");
     record.Transparency = 0.25F;
     EXPECT_EQ(makeTextBlock(record, record.Text, canvas).attributes,
-              (TextAttributes{.font = {.pointSize = 12}, .foreground = Color::black(), .alignment = 4}));
+              (TextAttributes{.font = {.pointSize = 12},
+                              .foreground = Color::black(),
+                              .alignment = text_alignment::Natural,
+                              .underline = true}));
     EXPECT_FALSE(colorBox(composed(record, plainPhoto(canvas)), Qt::black, 40).isEmpty());
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pictures at a half, a quarter, an eighth ... of their size: each pixel is the mean of the square it stands
-// for, so that fine detail becomes grey instead of flickering. Pictures are RGB32 or premultiplied ARGB32.
+// Pictures at a half, a quarter, an eighth and so on of their size. Each pixel is the mean of the square it stands for,
+// so that fine detail turns into an even tone instead of a pattern. Pictures are RGB32 or premultiplied ARGB32.
 // Any thread.
 #pragma once
 

@@ -98,8 +98,12 @@ Result<std::shared_ptr<const PhotoScene>> PhotoCache::make(const PhotoRequest& r
         // A photo that is neither filtered nor framed shares its pixels with the scene.
         const bool isPlain = source.filter == 0 && !source.effects;
         if (keepPhoto || isPlain) kept = photo;
-        scene =
-            std::make_shared<const PhotoScene>(buildPhotoScene(withoutWatermarks(request), std::move(photo)));
+        Result<PhotoScene> built = buildPhotoScene(withoutWatermarks(request), std::move(photo));
+        if (built) {
+            scene = std::make_shared<const PhotoScene>(std::move(*built));
+        } else {
+            error = std::move(built.error());
+        }
     }
 
     lock.lock();

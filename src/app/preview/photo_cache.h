@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Photos made ready for the preview: loaded, filtered and framed, without layers. It keeps the one on show
-// and, as far as its budget of bytes goes, those that were shown or may be shown next. A photo that several
-// threads ask for is made once; a file that has changed on disk is read again. Any thread.
+// Photos made ready for the preview: loaded, filtered and framed, without layers. The cache keeps the photo on show and,
+// within a budget of bytes, those shown before and those that may be shown next. A photo that several threads want is
+// made once. A file that has changed on disk is read again. Any thread.
 #pragma once
 
 #include "pictures/picture_reader.h"
@@ -27,7 +27,7 @@ class PhotoCache {
     // The scene of `request`, without layers. Error: as readPicture.
     Result<std::shared_ptr<const PhotoScene>> get(const PhotoRequest& request);
 
-    // Makes a photo ready that may be asked for next; not one so large that others would have to go for it.
+    // Makes a photo ready that may be wanted next, unless it is so large that others would be dropped for it.
     void prefetch(const PhotoRequest& request);
 
     void clear();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Keeps the preview in step: with the photo that is selected, with every change of the stack, and with what
-// the user does to layers on the canvas. It turns all of it into requests to the scene builder and hands what
-// comes back to the canvas. Main thread only.
+// Keeps the preview up to date with the selected photo, with every change of the stack, and with what the user does to
+// layers on the canvas. Each of these becomes a request to the scene builder, and the results go to the canvas. Main
+// thread only.
 #pragma once
 
 #include "app/preview/preview_view.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The preview canvas: shows the pieces of the composed photo it is sent, at any zoom, pixel for pixel on the
-// screen, and lets the user look around in it and take hold of layers. It composes nothing and changes no
-// record; what it needs and what the user does, it says by signals. Main thread only.
+// The preview canvas. It shows the parts of the composed photo that it is sent, at any zoom and pixel for pixel, and
+// lets the user scroll, zoom and drag layers. It composes nothing and changes no record: signals say which part it needs
+// and what the user did. Main thread only.
 #pragma once
 
 #include "app/preview/layer_drag.h"

@@ -2,6 +2,7 @@
 #include "app/preview/region_composer.h"
 
 #include "app/preview/halved_picture.h"
+#include "render/canvas.h"
 #include "render/composition.h"
 #include "render/scene_geometry.h"
 
@@ -39,7 +40,7 @@ bool hasLayers(const PhotoScene& scene) {
 QImage composePart(const PhotoScene& scene, const WatermarkStack& stack, const QRect& part) {
     const PhotoScene seen = layersOf(scene, part);
     const bool isWhole = part == scene.picture.rect();
-    QImage picture = isWhole ? scene.picture : scene.picture.copy(part);
+    QImage picture = isWhole ? scene.picture : allocated(scene.picture.copy(part));
     if (hasLayers(seen)) addWatermarkTo(picture, seen, stack);
     return picture;
 }
@@ -48,7 +49,7 @@ QImage composePart(const PhotoScene& scene, const WatermarkStack& stack, const Q
 QImage composeHalved(const PhotoScene& scene, const WatermarkStack& stack, const QRect& part, int times) {
     if (times == 0) return composePart(scene, stack, part);
     if (!hasLayers(layersOf(scene, part))) return halvedPicture(scene.picture, part, times);
-    QImage result(halvedSize(part.size(), times), scene.picture.format());
+    QImage result = allocated(QImage(halvedSize(part.size(), times), scene.picture.format()));
     for (int top = 0; top < part.height(); top += BandRows) {
         const QRect band(part.left(), part.top() + top, part.width(),
                          std::min(BandRows, part.height() - top));
@@ -114,8 +115,8 @@ QImage composeRegion(const PhotoScene& scene, const WatermarkStack& stack, const
     const QPointF sourceCorner = QPointF(part.topLeft()) * halved;
     if (region.scale == halved) return source.copy(region.rect.translated(-sourceCorner.toPoint()));
 
-    QImage scaled(region.rect.size(),
-                  source.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    const auto format = source.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    QImage scaled = allocated(QImage(region.rect.size(), format));
     if (source.hasAlphaChannel()) scaled.fill(Qt::transparent);
     QPainter painter(&scaled);
     painter.setCompositionMode(QPainter::CompositionMode_Source);

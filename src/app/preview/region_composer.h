@@ -12,7 +12,7 @@
 namespace zelto {
 
 // The part `region` of the composed picture at its scale, as large as the region. `stack` is the one the
-// scene was built from.
+// scene was built from. Throws std::bad_alloc.
 QImage composeRegion(const PhotoScene& scene, const WatermarkStack& stack, const ViewRegion& region);
 
 }  // namespace zelto

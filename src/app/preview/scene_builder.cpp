@@ -6,6 +6,7 @@
 #include "render/scene_geometry.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace zelto {
@@ -27,10 +28,15 @@ class SceneBuilder::Worker {
     explicit Worker(SceneBuilder& owner) : owner_(owner) {}
 
     void work(const Job& job) {
-        if (job.photo) takePhoto(job);
-        if (base_ && !owner_.isStale(job.photoRevision)) {
-            const QRect dirty = rebuild(job, job.photo || job.layers);
-            send(job, dirty, job.photo);
+        try {
+            if (job.photo) takePhoto(job);
+            if (base_ && !owner_.isStale(job.photoRevision)) {
+                const QRect dirty = rebuild(job, job.photo || job.layers);
+                send(job, dirty, job.photo);
+            }
+        } catch (const std::bad_alloc&) {
+            base_.reset();
+            tellFailure(job, notEnoughMemory(job.request.path));
         }
         QMetaObject::invokeMethod(
             &owner_, [this, revision = job.revision] { owner_.done_ = revision; }, Qt::QueuedConnection);
@@ -45,9 +51,11 @@ class SceneBuilder::Worker {
             base_ = std::move(*photo);
             return;
         }
-        tell(job, [this, path = job.request.path, message = photo.error().message] {
-            Q_EMIT owner_.failed(path, message);
-        });
+        tellFailure(job, photo.error());
+    }
+
+    void tellFailure(const Job& job, const Error& error) {
+        tell(job, [this, error] { Q_EMIT owner_.failed(error.path, error.message); });
     }
 
     // Builds the layers that are out of date; returns the part of the picture that has changed.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Builds what the preview shows on a thread of its own and sends it to the main thread in pieces that only
-// need to be put on the screen. The newest request wins: requests that pile up become one, and what belongs
-// to a photo that is no longer asked for is dropped. The last scene is kept, so that an edit rebuilds the
-// layers it concerns and composes the pixels they touch. To be used from the main thread.
+// Builds what the preview shows on a thread of its own, and sends the main thread pictures that are ready to be put on
+// the screen. The newest request wins: requests that pile up become one, and results for a photo that is no longer
+// wanted are dropped. The last scene is kept, so that an edit rebuilds only the layers it changed and composes only the
+// pixels they touch. Call it from the main thread.
 #pragma once
 
 #include "app/common/newest_worker.h"

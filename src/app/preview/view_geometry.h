@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where a picture lies in the preview and which part of it is seen. All of it is arithmetic on values, so the
-// window and the thread that composes what is seen agree on every pixel. Picture coordinates are photo
+// Where a picture lies in the preview and which part of it is seen. The window and the thread that composes the picture
+// both work it out here, so they agree on every pixel. Picture coordinates are photo
 // pixels, view coordinates device pixels of the viewport; both grow downward from the top left.
 #pragma once
 

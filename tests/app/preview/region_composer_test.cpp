@@ -62,7 +62,7 @@ PhotoScene sceneOf(const WatermarkStack& stack, QImage photo = drawnScene(PhotoS
     PhotoRequest request;
     request.path = QStringLiteral("/photos/scene.jpg");
     request.stack = std::make_shared<const WatermarkStack>(stack);
-    return buildPhotoScene(request, Picture{std::move(photo)});
+    return *buildPhotoScene(request, Picture{std::move(photo)});
 }
 
 TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
