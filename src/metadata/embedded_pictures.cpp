@@ -5,7 +5,6 @@
 #include "pictures/picture_writer.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace zelto {
 namespace {
@@ -39,29 +38,41 @@ QByteArray smallVersion(const QImage& picture, QSize box, qsizetype bytes) {
     return {};
 }
 
+// Replaces what starts in `bytes`: pictures that end there, or those that do not as well.
+void replaceIn(QByteArray& bytes, bool onlyComplete, const QImage& picture) {
+    // A picture starts one byte before its first 0xD8, which a marker follows.
+    for (qsizetype at = bytes.indexOf('\xD8', 1); at > 0; at = bytes.indexOf('\xD8', at + 1)) {
+        if (at + 1 >= bytes.size() || bytes[at + 1] != '\xFF') continue;
+        const auto embedded = jpegAt(QByteArrayView(bytes).sliced(at - 1));
+        if (!embedded || (onlyComplete && !embedded->isComplete)) continue;
+        bytes.replace(
+            at - 1, embedded->length,
+            smallVersion(picture, embedded->size, embedded->length).leftJustified(embedded->length, '\0'));
+        at += embedded->length - 2;
+    }
+}
+
 }  // namespace
 
-void replaceEmbeddedPictures(QByteArray& bytes, qsizetype from, qsizetype end, const QImage& picture) {
-    // A picture starts one byte before its first 0xD8, which a marker follows.
-    qsizetype at = from;
-    while (at + 2 < end) {
-        const QByteArrayView rest = QByteArrayView(bytes).first(end).sliced(at);
-        const auto* const found = static_cast<const char*>(
-            std::memchr(rest.data() + 1, 0xD8, static_cast<std::size_t>(rest.size() - 2)));
-        if (found == nullptr) return;
-        at += found - rest.data() - 1;
-        const auto embedded = static_cast<uchar>(found[1]) == 0xFF
-                                  ? jpegAt(rest.sliced(found - rest.data() - 1))
-                                  : std::nullopt;
-        if (!embedded) {
-            ++at;
-            continue;
+void replaceEmbeddedPictures(QByteArray& file, const std::vector<ByteRange>& metadata,
+                             const QImage& picture) {
+    const auto replaceBetween = [&](std::size_t first, std::size_t last, bool onlyComplete) {
+        QByteArray joined;
+        for (std::size_t i = first; i < last; ++i)
+            joined.append(file.data() + metadata[i].first, metadata[i].second - metadata[i].first);
+        const QByteArray before = joined;
+        replaceIn(joined, onlyComplete, picture);
+        if (joined == before) return;
+        qsizetype at = 0;
+        for (std::size_t i = first; i < last; ++i) {
+            const auto [from, end] = metadata[i];
+            file.replace(from, end - from, QByteArrayView(joined).sliced(at, end - from));
+            at += end - from;
         }
-        const QByteArray instead =
-            smallVersion(picture, embedded->size, embedded->length).leftJustified(embedded->length, '\0');
-        bytes.replace(at, embedded->length, instead);
-        at += embedded->length;
-    }
+    };
+    // A large picture goes on in the next segment. One that is cut off ends with its own.
+    replaceBetween(0, metadata.size(), true);
+    for (std::size_t i = 0; i < metadata.size(); ++i) replaceBetween(i, i + 1, false);
 }
 
 bool holdsPictureAsText(QByteArrayView metadata) {

@@ -3,15 +3,19 @@
 // into an output they would show the photo without its watermarks. Any thread.
 #pragma once
 
+#include "metadata/output_parts.h"
+
 #include <QByteArray>
 #include <QImage>
 
+#include <vector>
+
 namespace zelto {
 
-// Puts a small version of `picture` in the place of each JPEG picture that lies in `bytes` between `from` and `end`. It
-// takes no more bytes than the one before and zeros fill the rest, so that nothing around it moves; where not even
-// the smallest fits, there are only zeros. Pictures of other kinds are left alone.
-void replaceEmbeddedPictures(QByteArray& bytes, qsizetype from, qsizetype end, const QImage& picture);
+// Puts a small version of `picture` in the place of each JPEG picture that lies in the parts of `file` that are metadata. It
+// takes no more bytes than the one before and zeros fill the rest, so that nothing around it moves; where not even the
+// smallest fits, there are only zeros. Pictures of other kinds are left alone.
+void replaceEmbeddedPictures(QByteArray& file, const std::vector<ByteRange>& metadata, const QImage& picture);
 
 // Whether a JPEG or PNG picture stands in `metadata` written as text, as XMP has it.
 bool holdsPictureAsText(QByteArrayView metadata);

@@ -26,10 +26,11 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds TimeToEnd{5};
 
 // The end of its input alone does not end exiftool, so the feeder tells it to; "-if 0" in front keeps a command that
-// was cut off from touching any file. When exiftool ends or crashes the last line ends the feeder.
+// was cut off from touching any file. When exiftool ends or crashes the last line ends the feeder; where it hangs after
+// this program's end, the feeder ends it.
 constexpr const char* Shell = "/bin/sh";
 constexpr const char* Supervision =
-    "{ cat; printf '\\n-if\\n0\\n-stay_open\\nFalse\\n'; } | "
+    "{ cat; printf '\\n-if\\n0\\n-stay_open\\nFalse\\n'; exec >&-; sleep 60; kill -KILL 0; } | "
     "{ \"$0\" -stay_open True -@ -; kill -KILL 0; }";
 
 // No answer is longer; of one that is, the end is kept.

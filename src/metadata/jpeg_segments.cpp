@@ -77,7 +77,7 @@ std::optional<JpegExtent> jpegAt(QByteArrayView bytes) {
     qsizetype at = MarkerSize;
     while (at + 1 < bytes.size() && byteAt(bytes, at) == 0xFF) {
         if (byteAt(bytes, at + 1) == jpeg_marker::EndOfImage) {
-            return hasScan ? std::optional(JpegExtent{at + MarkerSize, size}) : std::nullopt;
+            return hasScan ? std::optional(JpegExtent{at + MarkerSize, size, true}) : std::nullopt;
         }
         const std::optional<JpegSegment> segment = segmentAt(bytes, at);
         if (!segment) break;
@@ -91,7 +91,7 @@ std::optional<JpegExtent> jpegAt(QByteArrayView bytes) {
         hasScan = true;
         at = endOfCodedData(bytes, at);
     }
-    return hasScan ? std::optional(JpegExtent{bytes.size(), size}) : std::nullopt;
+    return hasScan ? std::optional(JpegExtent{bytes.size(), size, false}) : std::nullopt;
 }
 
 }  // namespace zelto

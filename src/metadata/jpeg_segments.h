@@ -46,6 +46,7 @@ std::optional<JpegParts> jpegParts(QByteArrayView file);
 struct JpegExtent {
     qsizetype length = 0;  // of the whole file; up to the end of the bytes where it does not end in them
     QSize size;            // in pixels
+    bool isComplete = true;
 };
 
 // The JPEG file at the start of `bytes`, which may go on behind it; nothing where none with a frame and a scan starts

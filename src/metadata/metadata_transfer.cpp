@@ -25,6 +25,13 @@ bool isUnsafeSource(const QString& path) {
     return std::any_of(path.begin(), path.end(), [](QChar c) { return c == u'%' || c.unicode() < 0x20; });
 }
 
+// exiftool counts a file as updated, too, where it could not read the photo that the metadata were to come from.
+bool missesSource(const QString& answer) {
+    return answer.contains(QLatin1String("Error opening file")) ||
+           (answer.contains(QLatin1String("format error")) &&
+            answer.contains(QLatin1String("No writable tags set")));
+}
+
 // What exiftool said, as much of it as fits a message and nothing that would work on a terminal.
 QString excerpt(const QString& answer) {
     constexpr qsizetype Longest = 300;
@@ -54,8 +61,8 @@ class StandInFile {
         const Result<QString> answer = pool_.run(arguments, left);
         if (!answer) return tl::unexpected(answer.error());
         // A file that already is as it should be is told "unchanged".
-        if (!answer->contains(QLatin1String("1 image files updated")) &&
-            !answer->contains(QLatin1String("1 image files unchanged"))) {
+        if (missesSource(*answer) || (!answer->contains(QLatin1String("1 image files updated")) &&
+                                      !answer->contains(QLatin1String("1 image files unchanged")))) {
             return fail(ErrorCode::ProgramFailed,
                         QStringLiteral("exiftool did not write the metadata: %1").arg(excerpt(*answer)));
         }
@@ -102,7 +109,7 @@ Result<QByteArray> withoutSecrets(QByteArray filled, const MetadataRequest& requ
 }
 
 QByteArray withOwnSmallPictures(QByteArray file, const QImage& picture) {
-    for (const auto& [from, end] : metadataRanges(file)) replaceEmbeddedPictures(file, from, end, picture);
+    replaceEmbeddedPictures(file, metadataRanges(file), picture);
     return file;
 }
 

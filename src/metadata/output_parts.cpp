@@ -113,8 +113,10 @@ std::vector<ByteRange> metadataRanges(QByteArrayView file) {
     std::vector<ByteRange> ranges;
     if (const std::optional<JpegParts> parts = jpegParts(file)) {
         for (const JpegSegment& segment : parts->segments) {
-            const qsizetype from = segment.content.data() - file.data();
-            if (segment.isMetadata()) ranges.emplace_back(from, from + segment.content.size());
+            // A large Exif block goes on behind the name of the next segment.
+            const QByteArrayView content = segment.exif().isEmpty() ? segment.content : segment.exif();
+            const qsizetype from = content.data() - file.data();
+            if (segment.isMetadata()) ranges.emplace_back(from, from + content.size());
         }
         return ranges;
     }

@@ -6,12 +6,14 @@
 #include "support/test_pictures.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
 
+#include <future>
 #include <random>
 
 namespace zelto {
@@ -183,6 +185,22 @@ TEST_F(WholeFiles, AreAllThatAFullDiskTakes) {
         QDir(path(u"out"_s)).removeRecursively();
     }
     EXPECT_EQ(differences(filesBelow(u"in"_s), sources_), "");
+}
+
+TEST_F(Endurance, RunsAtOnceOverTheSameOutputsLoseNone) {
+    QStringList photos;
+    for (int i = 0; i < 6; ++i) photos.append(makePhoto(u"%1.jpg"_s.arg(i)));
+    ASSERT_TRUE(writeTags({u"-Artist=Ann"_s}, photos));
+    ASSERT_EQ(run(photos).exitStatus, 0);
+    const Files alone = filesBelow(u"out"_s);
+    for (int round = 0; round < 3; ++round) {
+        QDir(path(u"out"_s)).removeRecursively();
+        std::vector<std::future<ProgramRun>> runs;
+        for (int i = 0; i < 3; ++i)
+            runs.push_back(std::async(std::launch::async, [&] { return run(photos); }));
+        for (std::future<ProgramRun>& ended : runs) EXPECT_EQ(ended.get().exitStatus, 0);
+        EXPECT_EQ(differences(alone, filesBelow(u"out"_s)), "");
+    }
 }
 
 }  // namespace

@@ -48,6 +48,17 @@ TEST_F(Safety, OutputsThatWouldReplaceOriginalsAreRefused) {
     EXPECT_TRUE(isMarked(QImage(photo)));
 }
 
+TEST_F(Safety, OriginalsAreKnownWhereLetterCaseIsIgnored) {
+    const QString photo = makePhoto(u"IMG_1.PNG"_s);
+    const QByteArray before = contents(photo);
+    const ProgramRun result =
+        runBare({u"-s"_s, path(u"mark.zcs"_s), u"-o"_s, path(u"in"_s), photo},
+                {{u"LD_PRELOAD"_s, QStringLiteral(ZELTO_FAULTS)}, {u"FOLD_BELOW"_s, path(QString())}});
+    EXPECT_EQ(result.exitStatus, 2) << result.errors.toStdString();
+    EXPECT_EQ(contents(photo), before);
+    EXPECT_EQ(filesBelow(u"in"_s).keys(), QStringList(u"IMG_1.PNG"_s));
+}
+
 TEST_F(Safety, AnOutputReadByALaterPhotoIsReadAsItWasWritten) {
     // The second photo is what the first one's output has replaced by then, whatever is prepared ahead.
     const QString first = makePhoto(u"first/a.png"_s, {40, 30});

@@ -97,6 +97,7 @@ QLayout* OutputPanel::makeMetadataColumn() {
     for (const MetadataRow& item : MetadataRows)
         metadata_->addItem(QLatin1String(item.title), QVariant::fromValue(qint64{item.tag}));
     metadata_->setAccessibleName(tr("Metadata"));
+    metadata_->setToolTip(tr("Exclude Geolocation removes every position and keeps the names of places."));
     metadata_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     noteIcon_->setPixmap(colorIcon(QLatin1String("warning")).pixmap(QSize(side, side), devicePixelRatioF()));
