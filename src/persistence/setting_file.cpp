@@ -23,6 +23,8 @@ template <class Text>
 struct HashText {
     Text& text;
 };
+template <class Text>
+HashText(Text&) -> HashText<Text>;
 
 // The photo side a size follows, as a number. Number 1 stands for every text but two: reading takes it for
 // "Width", or leaves the field as it was constructed.
@@ -32,18 +34,24 @@ struct Side {
     Text& side;
     SideOne one;
 };
+template <class Text>
+Side(Text&, SideOne) -> Side<Text>;
 
 // A fraction from 0 to 1.
 template <class Number>
 struct Fraction {
     Number& number;
 };
+template <class Number>
+Fraction(Number&) -> Fraction<Number>;
 
 // A switch stored the other way round.
 template <class Bool>
 struct Negated {
     Bool& value;
 };
+template <class Bool>
+Negated(Bool&) -> Negated<Bool>;
 
 template <class Text>
 QString toText(const HashText<Text>& value) {

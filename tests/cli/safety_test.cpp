@@ -2,6 +2,7 @@
 // Originals stay, and whatever ends a run leaves whole files only.
 #include "cli/batch_program.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -57,6 +58,35 @@ TEST_F(Safety, OriginalsAreKnownWhereLetterCaseIsIgnored) {
     EXPECT_EQ(result.exitStatus, 2) << result.errors.toStdString();
     EXPECT_EQ(contents(photo), before);
     EXPECT_EQ(filesBelow(u"in"_s).keys(), QStringList(u"IMG_1.PNG"_s));
+}
+
+TEST_F(Safety, NothingIsPrintedButLinesOfOurOwnWhateverThePicturesHold) {
+    QStringList photos;
+    for (const QString& kind : {u"jpeg"_s, u"png"_s, u"tiff"_s, u"gif"_s, u"bmp"_s, u"webp"_s}) {
+        QDirIterator files(QStringLiteral(ZELTO_SOURCE_DIR "/fuzz/corpus/") + kind, QDir::Files);
+        while (files.hasNext()) {
+            QByteArray bytes = contents(files.next());
+            const auto add = [&](const QByteArray& damaged) {
+                photos += makeFile(u"in/%1.%2"_s.arg(photos.size()).arg(kind), damaged);
+            };
+            for (const int part : {3, 5, 7}) add(bytes.first(bytes.size() * part / 8));
+            for (const int part : {1, 2, 3, 4, 5, 6, 7}) {
+                QByteArray faulty = bytes;
+                faulty[faulty.size() * part / 8] =
+                    static_cast<char>(faulty.at(faulty.size() * part / 8) ^ 0x5A);
+                add(faulty);
+            }
+        }
+    }
+    const ProgramRun result = run(QStringList{u"--on-repeated-failure"_s, u"continue"_s} + photos);
+    EXPECT_EQ(result.exitStatus, 1);
+    int failed = 0;
+    for (const QByteArray& line : result.errors.split('\n')) {
+        failed += line.startsWith("zelto-batch: ") ? 1 : 0;
+        EXPECT_TRUE(line.isEmpty() || line.startsWith("zelto-batch: /") || line.startsWith("["))
+            << line.constData();
+    }
+    EXPECT_GT(failed, photos.size() / 3);
 }
 
 TEST_F(Safety, AnOutputReadByALaterPhotoIsReadAsItWasWritten) {

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "targets.h"
+
+#include "batch/output_name.h"
+#include "macros/macro_expander.h"
+#include "macros/macro_list.h"
+#include "metadata/exiftool_process.h"
+#include "metadata/image_properties.h"
+#include "persistence/copyright_file.h"
+#include "persistence/output_settings_file.h"
+#include "persistence/setting_file.h"
+#include "pictures/color_profile.h"
+#include "pictures/exif_facts.h"
+#include "pictures/picture_kind.h"
+#include "pictures/picture_needs.h"
+#include "pictures/picture_reader.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace zelto {
+namespace {
+
+void promise(bool kept, const char* what) {
+    if (kept) return;
+    std::fprintf(stderr, "not kept: %s\n", what);
+    std::abort();
+}
+
+// The input as a file, for readers that take a path.
+QString fileOf(QByteArrayView input) {
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("input"));
+    QFile file(path);
+    promise(file.open(QIODevice::WriteOnly) && file.write(input.data(), input.size()) == input.size(),
+            "the temporary folder takes a file");
+    return path;
+}
+
+QString textOf(QByteArrayView input) {
+    return QString::fromUtf8(input);
+}
+
+template <PictureKind Kind>
+void readPictureOf(QByteArrayView input) {
+    if (pictureKindOf(input) != Kind) return;
+    const Result<Picture> picture = decodePicture(input.toByteArray());
+    if (!picture) {
+        promise(picture.error().code == ErrorCode::Damaged, "a bad picture is damaged and nothing else");
+        return;
+    }
+    const QImage::Format format = picture->image.format();
+    promise(format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied,
+            "one of two formats");
+    promise(picture->dpiX >= 1.0 && picture->dpiY >= 1.0, "a resolution makes sense");
+    promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
+}
+
+// Every kind of pixel by the profile.
+void readProfile(QByteArrayView input) {
+    const QByteArray profile = input.toByteArray();
+    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGBX64,
+                                        QImage::Format_Grayscale8, QImage::Format_Grayscale16}) {
+        QImage picture(16, 16, format);
+        picture.fill(Qt::darkCyan);
+        promise(convertedToSrgb(picture, profile).size() == picture.size(), "a profile takes no pixel");
+    }
+    for (const InkScale inks : {InkScale::FullIs0, InkScale::FullIs255}) {
+        QImage picture(16, 16, QImage::Format_RGB32);
+        picture.fill(0x20406080);
+        convertCmykToSrgb(picture, inks, profile);
+        promise((picture.pixel(3, 3) >> 24) == 0xFF, "CMYK becomes opaque");
+    }
+}
+
+// A photo's metadata, as an EXIF block and as a whole file, listed and told by each of its macros.
+void readMetadata(QByteArrayView input) {
+    const ExifFacts facts = readExifFacts(input);
+    promise(facts.orientation >= 1 && facts.orientation <= 8, "an orientation is one of eight");
+    MacroContext context;
+    context.photoPath = fileOf(input);
+    context.locale = QLocale::c();
+    context.properties = std::make_shared<const LazyImageProperties>(context.photoPath);
+    QString text;
+    for (const Macro& macro : metadataMacros(context.properties->get())) text += macro.Macro;
+    ParseMacros(text, context);
+}
+
+void expandMacros(QByteArrayView input) {
+    MacroContext context;
+    context.photoPath = QStringLiteral("/photos/a.jpg");
+    context.now = QDateTime(QDate(2024, 2, 29), QTime(12, 30), Qt::UTC);
+    context.locale = QLocale::c();
+    context.listSize = 7;
+    ParseMacros(textOf(input), context);
+}
+
+void readSetting(QByteArrayView input) {
+    const Result<WatermarkStack> stack = readSettingDocument(input.toByteArray(), QStringLiteral("input"));
+    if (!stack) return;
+    const Result<WatermarkStack> again =
+        readSettingDocument(writeSettingDocument(*stack), QStringLiteral("written"));
+    promise(again && again->Watermarks.size() == stack->Watermarks.size(),
+            "what was read can be written and read");
+}
+
+void readCopyright(QByteArrayView input) {
+    CopyRightMetaData metadata;
+    if (!LoadMetadata(metadata, fileOf(input))) return;
+    const QString path = fileOf({});
+    promise(SaveCopyRightMetadata(metadata, path) && LoadMetadata(metadata, path),
+            "what was read can be written");
+}
+
+void readOptions(QByteArrayView input) {
+    if (const auto settings = loadOutputSettings(fileOf(input), {}))
+        outputExtension(QStringLiteral("/a.jpg"), settings->options);
+}
+
+void fillRenamePattern(QByteArrayView input) {
+    OutputOptions options;
+    options.Rename = true;
+    options.RenameFormat = textOf(input);
+    options.OutputPath = QStringLiteral("/out");
+    const OutputPlace place{QStringLiteral("/photos/a.jpg"), 3, QDate(2024, 2, 29)};
+    const QString name = outputName(place, options) + outputExtension(place.sourcePath, options);
+    promise(!name.contains(u'/') && name != QLatin1String("..") && name != QLatin1String("."),
+            "a name is no path");
+}
+
+// Arguments, one a line of the input, of which none may end the command or start another.
+void writeExiftoolCommand(QByteArrayView input) {
+    QStringList arguments;
+    for (const QByteArray& line : input.toByteArray().split('\1')) arguments.append(textOf(line));
+    const Result<QByteArray> command = exiftoolCommand(arguments, 5);
+    if (!command) return;
+    promise(command->endsWith("-execute5\n"), "a command is executed");
+    const QByteArray body = command->chopped(10);
+    promise(body.isEmpty() || body.endsWith('\n'), "each argument has a line");
+    for (const QByteArray& argument : body.split('\n'))
+        promise(!argument.startsWith("-execute") || arguments.contains(QString::fromUtf8(argument)),
+                "no value becomes an argument");
+}
+
+constexpr FuzzTarget Targets[] = {
+    {"jpeg", readPictureOf<PictureKind::Jpeg>},
+    {"png", readPictureOf<PictureKind::Png>},
+    {"tiff", readPictureOf<PictureKind::Tiff>},
+    {"gif", readPictureOf<PictureKind::Gif>},
+    {"bmp", readPictureOf<PictureKind::Bmp>},
+    {"webp", readPictureOf<PictureKind::Webp>},
+    {"profile", readProfile},
+    {"metadata", readMetadata},
+    {"macros", expandMacros},
+    {"setting", readSetting},
+    {"copyright", readCopyright},
+    {"options", readOptions},
+    {"rename", fillRenamePattern},
+    {"exiftool", writeExiftoolCommand},
+};
+
+}  // namespace
+
+std::span<const FuzzTarget> fuzzTargets() {
+    return Targets;
+}
+
+}  // namespace zelto
