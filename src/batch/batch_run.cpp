@@ -41,6 +41,7 @@ struct BatchRun::Job {
     std::unique_ptr<PhotoProcessor> processor;
     std::size_t NextImageNumberForProcessing = 0;
     QSet<std::size_t> writtenNames;  // by the first photo that has the name
+    std::shared_ptr<Job> continues;  // the stopped run this one goes on with
 };
 
 // One worker: from a start or a resume to the next pause or the end.
@@ -83,6 +84,11 @@ class BatchRun::Worker {
 
 void BatchRun::Worker::StartOrContinueWatermarking(bool resumed) {
     observer_.runStarted(resumed);
+    if (const auto stopped = std::exchange(job_.continues, nullptr)) {
+        job_.processor->takeOver(*stopped->processor);
+        job_.NextImageNumberForProcessing = stopped->NextImageNumberForProcessing;
+        job_.writtenNames = stopped->writtenNames;
+    }
     if (request_.saveLastWatermark) attempt("saving the last watermark", request_.saveLastWatermark);
     if (!request_.plan) {
         job_.request.plan =
@@ -266,16 +272,24 @@ BatchRun::~BatchRun() {
 bool BatchRun::ProcessImaging(BatchRequest request, std::unique_ptr<PhotoProcessor> processor) {
     const std::lock_guard lock(mutex_);
     if (state_ != State::Idle && state_ != State::Stopped) return false;
-    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor), 0, {}});
+    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor), 0, {}, nullptr});
     launch(false);
+    return true;
+}
+
+bool BatchRun::resumeStopped(BatchRequest request, std::unique_ptr<PhotoProcessor> processor) {
+    const std::lock_guard lock(mutex_);
+    if (state_ != State::Stopped) return false;
+    PauseProcessing_ = false;
+    job_ = std::make_shared<Job>(Job{std::move(request), std::move(processor), 0, {}, std::move(job_)});
+    launch(true);
     return true;
 }
 
 void BatchRun::PauseOrResumeProcessingAction() {
     const std::lock_guard lock(mutex_);
     PauseProcessing_ = !PauseProcessing_;
-    const bool resumes = !PauseProcessing_ && (state_ == State::Paused || state_ == State::Stopped);
-    if (resumes) launch(true);
+    if (!PauseProcessing_ && state_ == State::Paused) launch(true);
 }
 
 void BatchRun::CancelProcessingAction() {

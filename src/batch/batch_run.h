@@ -7,7 +7,7 @@
 //   Idle -> Running -> Idle               finished, with a summary
 //           Running -> Paused -> Running  the photo in hand at the pause is written again
 //           Running -> Asking -> Running  after three failures in a row
-//                      Asking -> Stopped  answered "No"; Pause and Resume would still go on
+//                      Asking -> Stopped  answered "No"; resumeStopped() goes on
 //           any     -> Idle               cancelled
 //
 // All public functions may be called from any thread.
@@ -38,7 +38,11 @@ class BatchRun {
     // when the cancelled one has finished its photo in hand.
     bool ProcessImaging(BatchRequest request, std::unique_ptr<PhotoProcessor> processor);
 
-    // Pauses after the photo in hand, or takes that back, or resumes. A pause that finds no photo to take
+    // Resumes a run that was stopped after failures, with the photos, options and processor of now, at the row where it
+    // stopped. False, and nothing done, in any other state.
+    bool resumeStopped(BatchRequest request, std::unique_ptr<PhotoProcessor> processor);
+
+    // Pauses after the photo in hand, or takes that back, or resumes a paused run. A pause that finds no photo to take
     // effect after stays and holds the next run after its first photo.
     void PauseOrResumeProcessingAction();
 

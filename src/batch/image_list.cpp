@@ -76,12 +76,17 @@ void ImageList::ToggleCheck() {
 }
 
 void ImageList::markUnprocessed() {
-    for (Image& image : images_) image.Status = PhotoStatus::NotProcessed;
+    for (Image& image : images_) {
+        image.Status = PhotoStatus::NotProcessed;
+        image.Warnings.clear();
+    }
 }
 
-void ImageList::setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage) {
+void ImageList::setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage,
+                           const QStringList& warnings) {
     Image& image = images_.at(row);
     image.Status = status;
+    image.Warnings = warnings;
     if (!errorMessage.isEmpty()) image.ErrorMessage = errorMessage;
 }
 

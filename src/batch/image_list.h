@@ -48,7 +48,8 @@ class ImageList {
     // them.
     void markUnprocessed();
     // How a run left a photo; an empty `errorMessage` keeps the text of an earlier failure.
-    void setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage);
+    void setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage,
+                    const QStringList& warnings = {});
 
     const std::vector<Image>& images() const { return images_; }
     // Every folder a photo was ever added from, without destinations.

@@ -104,6 +104,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
                                  scene->dpiX, scene->dpiY};
     const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
+    if (settings_.showGlance && !picture.isNull()) photo.glance = glanceOf(picture);
     if (options.ResizeImage) picture = resizedImage(picture, size);
     if (picture.isNull()) return tl::unexpected(notEnoughMemory(task.source));
     photo.size = picture.size();
@@ -133,7 +134,21 @@ void OutputWriter::addMetadata(PreparedPhoto& photo, const QImage& picture, doub
     }
 }
 
+// Whole pixels are picked first: smoothing all of a large photo would be felt.
+QImage OutputWriter::glanceOf(const QImage& picture) {
+    using namespace std::chrono;
+    constexpr QSize Largest(1600, 1200);
+    constexpr std::int64_t IntervalMilliseconds = 250;
+    const std::int64_t now = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    std::int64_t due = nextGlance_;
+    if (now < due || !nextGlance_.compare_exchange_strong(due, now + IntervalMilliseconds)) return {};
+    const QSize size = picture.size().scaled(picture.size().boundedTo(Largest), Qt::KeepAspectRatio);
+    return picture.scaled(picture.size().boundedTo(size * 2), Qt::IgnoreAspectRatio, Qt::FastTransformation)
+        .scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {
+    if (!photo.glance.isNull()) settings_.showGlance(task.row, photo.glance);
     // Held open rather than remembered by name: its output may be about to take its place.
     if (settings_.stack->Effects) {
         if (Result<KeptFile> kept = KeptFile::keep(task.source)) effectPhoto_ = *std::move(kept);
@@ -168,20 +183,16 @@ Result<QString> OutputWriter::finishCombinedPdf() {
     return pdf->document.finish().and_then([&] { return pdf->file.commit(path); }).map([&] { return path; });
 }
 
-// From the file once more, since keeping the pictures of every photo that might be the last would cost each run the
-// memory of one.
-Result<void> OutputWriter::writeEffectPictures(const KeptFile& photo) const {
-    const WatermarkStack& stack = *settings_.stack;
-    return readPicture(photo.path()).and_then([&](Picture read) {
-        return writeEffectDiagnostics(ApplyFilter(stack.SelectedFilter, std::move(read.image)),
-                                      *stack.Effects, true);
-    });
+void OutputWriter::takeOver(PhotoProcessor& earlier) {
+    if (auto* writer = dynamic_cast<OutputWriter*>(&earlier)) combinedPdf_ = std::move(writer->combinedPdf_);
 }
 
 void OutputWriter::settle() {
     if (const auto photo = std::exchange(effectPhoto_, std::nullopt)) {
-        // Nobody waits for these pictures: where the home folder takes none, the outputs are as good.
-        const Result<void> written = writeEffectPictures(*photo);
+        // Nobody waits for these pictures: where the home folder takes none, the outputs are as good. They are made from
+        // the file once more, since keeping those of every photo that might be the last would cost each run the memory
+        // of one.
+        const Result<void> written = writeEffectDiagnosticsOf(photo->path(), *settings_.stack);
         if (!written) qCInfo(outputLog, "%s", qUtf8Printable(written.error().message));
     }
 }

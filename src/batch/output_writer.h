@@ -17,7 +17,10 @@
 #include <QLocale>
 #include <QSet>
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -33,6 +36,9 @@ class OutputWriter : public PhotoProcessor {
         std::optional<CopyRightMetaData> copyright;
         int metadataJobs = 1;                                         // exiftool programs at a time
         std::chrono::milliseconds metadataTimeout = MetadataTimeout;  // for one output
+        // Called on the run's thread when a photo is about to be written, at most four times a second, with what is
+        // written scaled down to about a screen.
+        std::function<void(qint64 row, const QImage& glance)> showGlance = {};
     };
 
     explicit OutputWriter(Settings settings);
@@ -43,6 +49,8 @@ class OutputWriter : public PhotoProcessor {
     Result<void> commit(const PhotoTask& task, PreparedPhoto photo) override;
     // An unfinished PDF leaves no file.
     Result<QString> finishCombinedPdf() override;
+    // Takes over the combined PDF that has been begun.
+    void takeOver(PhotoProcessor& earlier) override;
     // Writes the effect's pictures too.
     void settle() override;
     void interrupt() override { exiftool_.interrupt(); }
@@ -50,12 +58,13 @@ class OutputWriter : public PhotoProcessor {
   private:
     struct CombinedPdf;
 
+    QImage glanceOf(const QImage& picture);
     Result<void> addPage(const PdfPage& page);
     void addMetadata(PreparedPhoto& photo, const QImage& picture, double dpi, const QString& source);
     Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
-    Result<void> writeEffectPictures(const KeptFile& photo) const;
 
     const Settings settings_;
+    std::atomic<std::int64_t> nextGlance_ = 0;  // not before this moment of the steady clock, milliseconds
     const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
     ExiftoolPool exiftool_;
     MetadataTransfer metadata_;  // uses exiftool_

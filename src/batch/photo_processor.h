@@ -10,6 +10,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QImage>
 #include <QSize>
 #include <QString>
 
@@ -34,6 +35,7 @@ struct PreparedPhoto {
     std::optional<PdfPage> page;           // a page of the combined PDF
     std::optional<qint64> lastAutoNumber;  // the running number to remember once the photo is committed
     std::vector<PhotoWarning> warnings;
+    QImage glance;  // a small copy for whoever watches the run; of a few photos a second only
 
     qint64 bytes() const { return file.size() + (page ? page->bytes() : 0); }
 };
@@ -55,6 +57,9 @@ class PhotoProcessor {
     // Completes the combined PDF and returns its path; an empty one when there is none to complete. Called
     // once, after the last commit of a run that was not broken off. May throw.
     virtual Result<QString> finishCombinedPdf() = 0;
+
+    // Goes on where another processor of the same kind left off. Called before anything else.
+    virtual void takeOver(PhotoProcessor& /*earlier*/) {}
 
     // Called after the last commit of a run, or of the part of it up to a pause.
     virtual void settle() = 0;

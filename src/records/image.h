@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <utility>
 
@@ -16,7 +17,9 @@ struct Image {
 
     QString ImagePath;  // as given when it was added; the entry's identity
     PhotoStatus Status = PhotoStatus::NotProcessed;
-    QString ErrorMessage;        // of the last failure; empty for none
+    QString ErrorMessage;  // of the last failure; empty for none
+    QStringList
+        Warnings;  // of the last run: why the output may not be as it was meant, sentences for the user
     bool ApplyWatermark = true;  // checked: a run processes this photo
 };
 

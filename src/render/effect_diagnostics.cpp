@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/effect_diagnostics.h"
 
+#include "pictures/picture_reader.h"
 #include "pictures/picture_writer.h"
 #include "platform/whole_file.h"
 #include "render/photo_effects.h"
+#include "render/photo_filters.h"
+
+#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,6 +57,14 @@ Result<void> writeEffectDiagnostics(const QImage& photo, const PhotoEffects& eff
     QRect image;
     QRect border;
     return writeEffectDiagnostics(framed, imagewithEffects(photo, effect, image, border, final), folder);
+}
+
+Result<void> writeEffectDiagnosticsOf(const QString& photo, const WatermarkStack& stack) {
+    if (!stack.Effects) return {};
+    return readPicture(photo).and_then([&](Picture read) {
+        return writeEffectDiagnostics(ApplyFilter(stack.SelectedFilter, std::move(read.image)),
+                                      *stack.Effects, true);
+    });
 }
 
 }  // namespace zelto

@@ -6,6 +6,7 @@
 
 #include "platform/result.h"
 #include "records/photo_effects.h"
+#include "records/watermark_stack.h"
 
 #include <QDir>
 #include <QImage>
@@ -22,5 +23,9 @@ Result<void> writeEffectDiagnostics(const QImage& framed, const QImage& result,
 // The same for a filtered photo whose effect pictures are no longer at hand. `final` as in imagewithEffects.
 Result<void> writeEffectDiagnostics(const QImage& photo, const PhotoEffects& effect, bool final,
                                     const QString& folder = QDir::homePath());
+
+// The same for a photo's file and the whole stack; nothing for a stack without an effect. The photo is read once more.
+// Error: also as readPicture.
+Result<void> writeEffectDiagnosticsOf(const QString& photo, const WatermarkStack& stack);
 
 }  // namespace zelto

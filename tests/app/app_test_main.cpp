@@ -12,9 +12,11 @@ class FirstDay : public ::testing::EmptyTestEventListener {
         QSettings preferences(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Zelto"),
                               QStringLiteral("Zelto"));
         preferences.clear();
-        for (const QString& left : QDir::home().entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            QDir(QDir::home().filePath(left)).removeRecursively();
+        QDir home = QDir::home();
+        for (const QString& left : home.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QDir(home.filePath(left)).removeRecursively();
         }
+        for (const QString& left : home.entryList(QDir::Files)) home.remove(left);
     }
 };
 

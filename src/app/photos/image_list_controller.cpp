@@ -187,8 +187,14 @@ void ImageListController::SelectImage() {
 }
 
 void ImageListController::ImageListDoubleClicked(int row) {
-    const QString message = model_.index(row).data(PhotoListModel::ErrorRole).toString();
-    if (!message.isEmpty()) Q_EMIT alert(QStringLiteral("Watermark Error"), message);
+    const QModelIndex photo = model_.index(row);
+    const QStringList warnings = photo.data(PhotoListModel::WarningsRole).toStringList();
+    const QString error = photo.data(PhotoListModel::ErrorRole).toString();
+    if (!warnings.isEmpty()) {
+        Q_EMIT alert(tr("Watermark Warning"), warnings.join(QLatin1Char('\n')));
+    } else if (!error.isEmpty()) {
+        Q_EMIT alert(QStringLiteral("Watermark Error"), error);
+    }
 }
 
 }  // namespace zelto

@@ -54,6 +54,7 @@ PhotoDelegate::PhotoDelegate(const ThumbnailLoader& thumbnails,
       pictureIcon_(lineIcon(QLatin1String("image"))),
       brokenIcon_(lineIcon(QLatin1String("broken"))),
       writtenIcon_(colorIcon(QLatin1String("written"))),
+      warnedIcon_(colorIcon(QLatin1String("warning"))),
       failedIcon_(colorIcon(QLatin1String("failed"))) {}
 
 QSize PhotoDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {
@@ -94,7 +95,8 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
 
     switch (static_cast<PhotoStatus>(index.data(PhotoListModel::StatusRole).toInt())) {
         case PhotoStatus::Written:
-            writtenIcon_.paint(painter, at.status);
+            (index.data(PhotoListModel::WarningsRole).toStringList().isEmpty() ? writtenIcon_ : warnedIcon_)
+                .paint(painter, at.status);
             break;
         case PhotoStatus::Failed:
             failedIcon_.paint(painter, at.status);

@@ -38,6 +38,7 @@ class PhotoDelegate : public QStyledItemDelegate {
     QIcon pictureIcon_;
     QIcon brokenIcon_;
     QIcon writtenIcon_;
+    QIcon warnedIcon_;
     QIcon failedIcon_;
 };
 

@@ -3,6 +3,8 @@
 
 #include "platform/path_parts.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -19,7 +21,8 @@ QString spoken(const Image& photo) {
     return PhotoListModel::tr("%1, %2, %3")
         .arg(lastPathComponent(photo.ImagePath),
              photo.ApplyWatermark ? PhotoListModel::tr("checked") : PhotoListModel::tr("not checked"),
-             PhotoListModel::tr(status));
+             photo.Warnings.isEmpty() ? PhotoListModel::tr(status)
+                                      : PhotoListModel::tr("written with warnings"));
 }
 
 // Whether the rows follow each other without a gap, as one range a view can be told of.
@@ -40,8 +43,9 @@ QVariant PhotoListModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return lastPathComponent(photo.ImagePath);
         case Qt::ToolTipRole:
-            return photo.ErrorMessage.isEmpty() ? photo.ImagePath
-                                                : photo.ImagePath + QLatin1Char('\n') + photo.ErrorMessage;
+            return (QStringList(photo.ImagePath) << photo.ErrorMessage << photo.Warnings)
+                .filter(QRegularExpression(QStringLiteral(".")))
+                .join(QLatin1Char('\n'));
         case Qt::CheckStateRole:
             return photo.ApplyWatermark ? Qt::Checked : Qt::Unchecked;
         case Qt::AccessibleTextRole:
@@ -52,6 +56,8 @@ QVariant PhotoListModel::data(const QModelIndex& index, int role) const {
             return static_cast<int>(photo.Status);
         case ErrorRole:
             return photo.ErrorMessage;
+        case WarningsRole:
+            return photo.Warnings;
         default:
             return {};
     }
@@ -110,7 +116,7 @@ void PhotoListModel::setOutcome(int row, PhotoStatus status, const QString& erro
 void PhotoListModel::setOutcomes(const std::vector<RowOutcome>& outcomes) {
     if (outcomes.empty()) return;
     for (const RowOutcome& each : outcomes) {
-        list_.setOutcome(static_cast<std::size_t>(each.row), each.status, each.errorMessage);
+        list_.setOutcome(static_cast<std::size_t>(each.row), each.status, each.errorMessage, each.warnings);
     }
     const auto [first, last] =
         std::minmax_element(outcomes.begin(), outcomes.end(),

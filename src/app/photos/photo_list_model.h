@@ -17,13 +17,14 @@ struct RowOutcome {
     int row = 0;
     PhotoStatus status = PhotoStatus::NotProcessed;
     QString errorMessage;
+    QStringList warnings = {};
 };
 
 class PhotoListModel : public QAbstractListModel {
     Q_OBJECT
 
   public:
-    enum Role { PathRole = Qt::UserRole, StatusRole, ErrorRole };
+    enum Role { PathRole = Qt::UserRole, StatusRole, ErrorRole, WarningsRole };
 
     using QAbstractListModel::QAbstractListModel;
 

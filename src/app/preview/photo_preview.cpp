@@ -79,7 +79,18 @@ PhotoRequest PhotoPreview::finalRequest() const {
     return requestFor(photos_.selectedRow(), true);
 }
 
+void PhotoPreview::showRunPicture(const QImage& picture) {
+    if (isRunning_) view_.showPicture(picture);
+}
+
+void PhotoPreview::endRun() {
+    if (!std::exchange(isRunning_, false)) return;
+    view_.showPicture({});
+    selectImage(photos_.selectedRow());
+}
+
 void PhotoPreview::selectImage(int row) {
+    if (isRunning_) return;
     neighboursOf_ = -1;
     if (row < 0) {
         builder_.clear();

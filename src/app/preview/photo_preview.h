@@ -30,6 +30,11 @@ class PhotoPreview : public QObject {
     // The request for the selected photo as the run would write it.
     PhotoRequest finalRequest() const;
 
+    // Between the two the canvas shows the pictures that a run hands over, and photos that are selected are not loaded.
+    void beginRun() { isRunning_ = true; }
+    void showRunPicture(const QImage& picture);
+    void endRun();
+
     // Whether the canvas shows everything as it is now.
     bool isSettled() const { return builder_.isSettled(); }
 
@@ -55,6 +60,7 @@ class PhotoPreview : public QObject {
     NewestWorker<QImage> diagnostics_;  // writes the framed photo into the home folder
     QTimer diagnosticsDue_;
     std::shared_ptr<LogoCache> logos_;
+    bool isRunning_ = false;
     int neighboursOf_ = -1;  // the row whose neighbours have been made ready
 };
 

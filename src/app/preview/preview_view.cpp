@@ -74,6 +74,11 @@ void PreviewView::showMessage(const QString& message) {
     viewport()->update();
 }
 
+void PreviewView::showPicture(const QImage& picture) {
+    picture_ = picture;
+    viewport()->update();
+}
+
 // ---- zoom
 
 void PreviewView::ZoomIn() {
@@ -317,7 +322,9 @@ void PreviewView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
     paintOnDevicePixels(painter);
     paintBackground(painter, geometry_.viewport, palette());
-    if (shown_) {
+    if (!picture_.isNull()) {
+        paintFittedPicture(painter);
+    } else if (shown_) {
         paintPicture(painter);
         paintMarks(painter);
     } else {
@@ -375,6 +382,14 @@ void PreviewView::paintMarks(QPainter& painter) const {
         const double y = geometry_.toView(QPointF(0, *guides.y)).y();
         paintGuide(painter, {area.left(), y, area.right(), y}, palette(), devicePixelRatio_);
     }
+}
+
+void PreviewView::paintFittedPicture(QPainter& painter) const {
+    const QRect view(QPoint(), geometry_.viewport);
+    QRect place(QPoint(), picture_.size().scaled(view.size(), Qt::KeepAspectRatio));
+    place.moveCenter(view.center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture_);
 }
 
 void PreviewView::paintMessage(QPainter& painter) const {

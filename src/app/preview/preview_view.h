@@ -26,6 +26,9 @@ class PreviewView : public QAbstractScrollArea {
     // Shows no photo but a message; the first line stands out.
     void showMessage(const QString& message);
     const QString& message() const { return message_; }
+    // Shows a picture in place of everything else, as much of it as fits; a null one ends that.
+    void showPicture(const QImage& picture);
+    const QImage& picture() const { return picture_; }
 
     // Device pixels a photo pixel takes.
     double scale() const { return geometry_.scale(); }
@@ -90,6 +93,7 @@ class PreviewView : public QAbstractScrollArea {
     void paintPicture(QPainter& painter) const;
     void paintPiece(QPainter& painter, const Piece& piece) const;
     void paintMarks(QPainter& painter) const;
+    void paintFittedPicture(QPainter& painter) const;
     void paintMessage(QPainter& painter) const;
 
     ViewGeometry geometry_;
@@ -98,6 +102,7 @@ class PreviewView : public QAbstractScrollArea {
     Piece piece_;  // what was composed last
     Piece whole_;  // the whole picture, for places the last piece does not cover
     QString message_;
+    QImage picture_;  // shown in place of the photo
     int selectedLayer_ = -1;
     std::optional<LayerDrag> drag_;
     bool isDragging_ = false;  // the pointer has gone far enough for a drag

@@ -9,22 +9,10 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
-namespace {
-
-constexpr qsizetype MostNames = 5;  // that a question lists
-
-QString listed(const QStringList& paths) {
-    QStringList names;
-    for (const QString& path : paths.mid(0, MostNames)) names.append(lastPathComponent(path));
-    const qsizetype more = paths.size() - names.size();
-    if (more > 0) names.append(RunController::tr("and %1 more").arg(more));
-    return names.join(QLatin1Char('\n'));
-}
-
-}  // namespace
 
 RunParts standardRunParts() {
     return {
@@ -33,7 +21,7 @@ RunParts standardRunParts() {
 }
 
 RunController::RunController(MainWindow& window, MyGlobalInstance& shared, RunParts parts)
-    : window_(window), shared_(shared), parts_(std::move(parts)), run_(feed_) {
+    : window_(window), shared_(shared), parts_(std::move(parts)), questions_(window), run_(feed_) {
     connect(&window_.controller(), &ZeltoController::ProcessImaging, this, &RunController::ProcessImaging);
     connect(&feed_, &RunFeed::arrived, this, &RunController::follow);
     const ProcessingBar& bar = window_.processing();
@@ -57,46 +45,43 @@ bool RunController::isUnderWay() const {
 void RunController::ProcessImaging(const OutputOptions& options) {
     if (isUnderWay()) return;
     window_.DisableControls();
-    const auto plan = std::make_shared<const RunPlan>(
-        planRun(window_.photos(), window_.document(), options, shared_.SettingDirectory));
-    // Looking for every photo on the disk takes a while.
-    inBackground(
-        this, [plan] { return planOutputs(plan->request, QDateTime::currentDateTime()).replacedPhotos; },
-        [this, plan](const QStringList& replaced) {
-            if (replaced.isEmpty()) {
-                launch(plan);
-            } else {
-                askBeforeReplacing(plan, replaced);
-            }
-        });
+    questions_.begin();
+    planAndAsk(options);
 }
 
-void RunController::askBeforeReplacing(const Plan& plan, const QStringList& replaced) {
-    enum Answer { Replace, ChooseAnotherFolder, Cancel };
-    const QString title = replaced.size() == 1 ? tr("A Photo Would Be Replaced")
-                                               : tr("%1 Photos Would Be Replaced").arg(replaced.size());
-    const QString text =
-        tr("Their watermarked copies would take the place of the originals, which would be lost:\n%1");
-    question_ = openMessageSheet(&window_,
-                                 {QMessageBox::Warning,
-                                  title,
-                                  text.arg(listed(replaced)),
-                                  {tr("Replace"), tr("Choose Another Folder"), tr("Cancel")},
-                                  Cancel,
-                                  Cancel},
-                                 [this, plan](int answer) {
-                                     if (answer == Replace) {
-                                         launch(plan);
-                                         return;
-                                     }
-                                     window_.EnableControls();
-                                     if (answer == ChooseAnotherFolder) {
-                                         // Not from within the closing of the question: the options are a dialog of their own.
-                                         QMetaObject::invokeMethod(&window_.controller(),
-                                                                   &ZeltoController::StartWatermarking,
-                                                                   Qt::QueuedConnection);
-                                     }
-                                 });
+RunController::Plan RunController::makePlan(const OutputOptions& options) {
+    RunPlan plan = planRun(window_.photos(), window_.document(), options,
+                           questions_.rulesFor(options.OutputPath), shared_.SettingDirectory);
+    plan.writing.showGlance = [this](qint64 row, const QImage& glance) { feed_.showGlance(row, glance); };
+    return std::make_shared<const RunPlan>(std::move(plan));
+}
+
+// Looking for every output on the disk takes a while.
+void RunController::planAndAsk(const OutputOptions& options) {
+    const Plan plan = makePlan(options);
+    inBackground(
+        this, [plan] { return planOutputs(plan->request, QDateTime::currentDateTime()); },
+        [this, plan](const OutputPlan& outputs) {
+            const OutputOptions& chosen = plan->request.options;
+            questions_.ask(outputs, chosen.OutputPath, [this, plan, chosen](RunQuestions::Answer answer) {
+                switch (answer) {
+                    case RunQuestions::Answer::Start:
+                        launch(plan);
+                        return;
+                    case RunQuestions::Answer::PlanAgain:
+                        planAndAsk(chosen);
+                        return;
+                    case RunQuestions::Answer::ChooseAnotherFolder:
+                        // Not from within the closing of the question: the options are a dialog of their own.
+                        QMetaObject::invokeMethod(&window_.controller(), &ZeltoController::StartWatermarking,
+                                                  Qt::QueuedConnection);
+                        break;
+                    case RunQuestions::Answer::Cancel:
+                        break;
+                }
+                window_.EnableControls();
+            });
+        });
 }
 
 void RunController::launch(const Plan& plan) {
@@ -104,33 +89,57 @@ void RunController::launch(const Plan& plan) {
     done_ = 0;
     photoInHand_ = 0;
     window_.photos().model().markUnprocessed();
-    window_.photos().ChangeImage(QStringLiteral("0"));
     window_.processing().begin(static_cast<int>(plan_->request.photos.size()));
     // A pause that took no effect in the last run holds this one after its first photo.
     window_.processing().setPaused(run_.PauseProcessing());
     workerStarts();
+    window_.photos().ChangeImage(QStringLiteral("0"));
+    feed_.expectRun();
     run_.ProcessImaging(plan_->request, parts_.makeProcessor(plan_->writing));
 }
 
 void RunController::workerStarts() {
+    isFollowed_ = true;
     window_.DisableControls();
+    window_.preview().beginRun();
     window_.ShowProcessingControls();
     window_.processing().PauseOrResumeProcessing()->setFocus();
     window_.processing().setPace({});
-    pace_.begin(plan_->photosFrom(done_));
+    pace_.begin(
+        plan_->photosFrom(std::min<qint64>(done_, static_cast<qint64>(plan_->request.photos.size()))));
+}
+
+// From here on the window shows what the user selects, whatever a cancelled run still tells.
+void RunController::stopFollowing() {
+    isFollowed_ = false;
+    window_.preview().endRun();
 }
 
 // ---- what the user asks for
 
 void RunController::PauseOrResumeProcessingAction() {
+    const bool isStopped = run_.state() == BatchRun::State::Stopped;
+    if (isStopped && run_.PauseProcessing()) {
+        resumeStopped();
+        return;
+    }
     run_.PauseOrResumeProcessingAction();
     const bool pauses = run_.PauseProcessing();
     window_.processing().setPaused(pauses);
-    if (pauses) {
-        window_.processing().setPace(tr("Pausing"));
-    } else {
+    if (!pauses) {
         workerStarts();
+    } else if (!isStopped) {
+        window_.processing().setPace(tr("Pausing"));
     }
+}
+
+// Since the run was stopped, the list and the stack may have changed: it goes on with what they are now.
+void RunController::resumeStopped() {
+    plan_ = makePlan(plan_->request.options);
+    window_.processing().ProcessingIndicator()->setMaximum(static_cast<int>(plan_->request.photos.size()));
+    window_.processing().setPaused(false);
+    workerStarts();
+    run_.resumeStopped(plan_->request, parts_.makeProcessor(plan_->writing));
 }
 
 void RunController::CancelProcessingAction() {
@@ -138,6 +147,7 @@ void RunController::CancelProcessingAction() {
     run_.CancelProcessingAction();
     window_.processing().setPaused(false);
     dropQuestion();
+    stopFollowing();
     window_.EnableControls();
     window_.photoList().setFocus();
 }
@@ -172,7 +182,9 @@ bool RunController::mayClose() {
 
 void RunController::follow(const RunNews& news) {
     if (!news.outcomes.empty()) showOutcomes(news.outcomes);
+    if (!isFollowed_) return;
     if (news.photoInHand) showPhotoInHand(*news.photoInHand);
+    if (news.glance && holdsPhoto(news.glance->row)) window_.preview().showRunPicture(news.glance->picture);
     if (news.done) showProgress(*news.done);
     if (news.pdfFailure) pdfFailure_ = *news.pdfFailure;
     if (news.asks && run_.state() == BatchRun::State::Asking) askWhetherToGoOn();
@@ -192,8 +204,11 @@ void RunController::showOutcomes(const std::vector<PhotoOutcome>& outcomes) {
     for (const PhotoOutcome& outcome : outcomes) {
         pace_.advance();
         if (!holdsPhoto(outcome.row)) continue;
+        QStringList warnings;
+        for (const PhotoWarning& warning : outcome.warnings) warnings.append(warning.text);
         rows.push_back({static_cast<int>(outcome.row),
-                        outcome.succeeded() ? PhotoStatus::Written : PhotoStatus::Failed, outcome.error});
+                        outcome.succeeded() ? PhotoStatus::Written : PhotoStatus::Failed, outcome.error,
+                        warnings});
     }
     window_.photos().model().setOutcomes(rows);
 }
@@ -203,6 +218,7 @@ void RunController::showPhotoInHand(qint64 row) {
     if (!holdsPhoto(row)) return;
     window_.processing().setPhoto(
         lastPathComponent(plan_->request.photos[static_cast<std::size_t>(row)].path));
+    window_.photos().ChangeImage(QString::number(row));
     window_.photoList().scrollTo(window_.photos().model().index(static_cast<int>(row)));
 }
 
@@ -223,7 +239,7 @@ void RunController::askWhetherToGoOn() {
 
 void RunController::ended(const RunReport& report) {
     if (report.end == RunEnd::Cancelled) return;
-    if (holdsPhoto(photoInHand_)) window_.photos().ChangeImage(QString::number(photoInHand_));
+    if (report.end != RunEnd::Paused) stopFollowing();
     if (report.end == RunEnd::Paused && run_.state() == BatchRun::State::Paused) {
         window_.processing().setPace(tr("Paused"));
     } else if (report.end == RunEnd::Stopped) {
@@ -240,11 +256,27 @@ void RunController::ended(const RunReport& report) {
     }
 }
 
+// "67 written, 3 failed, 2 with warnings"; what there is none of is left out.
+QString RunController::counts() const {
+    int written = 0;
+    int failed = 0;
+    int warned = 0;
+    for (const Image& photo : window_.photos().images()) {
+        written += photo.Status == PhotoStatus::Written ? 1 : 0;
+        failed += photo.Status == PhotoStatus::Failed ? 1 : 0;
+        warned += photo.Warnings.isEmpty() ? 0 : 1;
+    }
+    QStringList parts = {tr("%1 written").arg(written)};
+    if (failed > 0) parts.append(tr("%1 failed").arg(failed));
+    if (warned > 0) parts.append(tr("%1 with warnings").arg(warned));
+    return parts.join(QStringLiteral(", "));
+}
+
 void RunController::ShowResults(const RunReport& report) {
     dropQuestion();
     openMessageSheet(&window_,
                      {report.ProcessResult ? QMessageBox::Information : QMessageBox::Warning, SummaryTitle,
-                      report.message()},
+                      report.message() + QStringLiteral("\n\n") + counts()},
                      [this, report](int) { showTheEnd(report); });
 }
 

@@ -6,6 +6,7 @@
 #include "app/run/result_viewer.h"
 #include "app/run/run_feed.h"
 #include "app/run/run_plan.h"
+#include "app/run/run_questions.h"
 #include "batch/batch_run.h"
 #include "batch/run_pace.h"
 
@@ -37,7 +38,7 @@ class RunController : public QObject {
     // Cancels, and waits for the photo in hand.
     ~RunController() override;
 
-    // Starts a run, after asking where it would replace photos of the list.
+    // Starts a run, after asking where it would replace photos of the list or files that are there.
     void ProcessImaging(const OutputOptions& options);
     void PauseOrResumeProcessingAction();
     void CancelProcessingAction();
@@ -48,9 +49,12 @@ class RunController : public QObject {
   private:
     using Plan = std::shared_ptr<const RunPlan>;
 
+    Plan makePlan(const OutputOptions& options);
+    void planAndAsk(const OutputOptions& options);
     void launch(const Plan& plan);
-    void askBeforeReplacing(const Plan& plan, const QStringList& replaced);
     void workerStarts();
+    void stopFollowing();
+    void resumeStopped();
     void follow(const RunNews& news);
     void showOutcomes(const std::vector<PhotoOutcome>& outcomes);
     void showPhotoInHand(qint64 row);
@@ -59,6 +63,7 @@ class RunController : public QObject {
     void ended(const RunReport& report);
     void ShowResults(const RunReport& report);
     void showTheEnd(const RunReport& report);
+    QString counts() const;
     bool holdsPhoto(qint64 row) const;
     bool mayClose();
     void dropQuestion();
@@ -67,11 +72,13 @@ class RunController : public QObject {
     MyGlobalInstance& shared_;
     RunParts parts_;
     Plan plan_;
-    qint64 done_ = 0;         // rows that have had their turn
-    qint64 photoInHand_ = 0;  // its row
+    qint64 done_ = 0;          // rows that have had their turn
+    qint64 photoInHand_ = 0;   // its row
+    bool isFollowed_ = false;  // the window shows where the run is
     RunPace pace_;
     QString pdfFailure_;
     QPointer<QMessageBox> question_;  // that only makes sense while the run goes on
+    RunQuestions questions_;
     RunFeed feed_;
     BatchRun run_;  // tells feed_
 };

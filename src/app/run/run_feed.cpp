@@ -20,6 +20,7 @@ template <class Change>
 void RunFeed::note(Pending urgency, Change change) {
     {
         const std::lock_guard lock(mutex_);
+        if (awaitedStarts_ > 0) return;
         change(news_);
         if (pending_ >= urgency) return;
         pending_ = urgency;
@@ -27,11 +28,20 @@ void RunFeed::note(Pending urgency, Change change) {
     QMetaObject::invokeMethod(this, &RunFeed::schedule, Qt::QueuedConnection);
 }
 
-void RunFeed::runStarted(bool /*resumed*/) {
-    // A cancelled run before this one may still have told where it was.
+// A run begins only after the thread of the one before it has ended.
+void RunFeed::expectRun() {
     const std::lock_guard lock(mutex_);
-    news_.photoInHand.reset();
-    news_.done.reset();
+    news_ = {};
+    ++awaitedStarts_;
+}
+
+void RunFeed::runStarted(bool resumed) {
+    const std::lock_guard lock(mutex_);
+    if (!resumed) --awaitedStarts_;
+}
+
+void RunFeed::showGlance(qint64 row, const QImage& glance) {
+    note(Pending::News, [&](RunNews& news) { news.glance = Glance{row, glance}; });
 }
 
 void RunFeed::photoStarted(qint64 row) {

@@ -7,6 +7,7 @@
 #include "batch/batch_observer.h"
 
 #include <QElapsedTimer>
+#include <QImage>
 #include <QObject>
 #include <QTimer>
 
@@ -16,14 +17,21 @@
 
 namespace zelto {
 
+// What a photo becomes, about as large as a screen.
+struct Glance {
+    qint64 row = 0;
+    QImage picture;
+};
+
 // What has happened since it was last told.
 struct RunNews {
     std::vector<PhotoOutcome> outcomes;  // in the order they came about
     std::optional<qint64> photoInHand;   // its row
-    std::optional<qint64> done;          // rows that have had their turn
-    bool asks = false;                   // three photos in a row failed
-    std::optional<QString> pdfFailure;   // why the combined PDF could not be written
-    std::optional<RunReport> report;     // the worker has ended
+    std::optional<Glance> glance;
+    std::optional<qint64> done;         // rows that have had their turn
+    bool asks = false;                  // three photos in a row failed
+    std::optional<QString> pdfFailure;  // why the combined PDF could not be written
+    std::optional<RunReport> report;    // the worker has ended
 };
 
 class RunFeed : public QObject, public BatchObserver {
@@ -31,6 +39,11 @@ class RunFeed : public QObject, public BatchObserver {
 
   public:
     explicit RunFeed(QObject* parent = nullptr);
+
+    // A new run is about to be started: what one before it still tells is passed over.
+    void expectRun();
+    // The picture of the photo that is being written. Called on the run's thread.
+    void showGlance(qint64 row, const QImage& glance);
 
     void runStarted(bool resumed) override;
     void photoStarted(qint64 row) override;
@@ -51,7 +64,8 @@ class RunFeed : public QObject, public BatchObserver {
     void schedule();
     void deliver();
 
-    std::mutex mutex_;  // guards the next two
+    std::mutex mutex_;       // guards the next three
+    int awaitedStarts_ = 0;  // runs that have been announced and have not begun
     RunNews news_;
     Pending pending_ = Pending::Nothing;
 

@@ -16,13 +16,14 @@ qint64 RunPlan::photosFrom(qint64 row) const {
 }
 
 RunPlan planRun(const ImageListController& photos, const WatermarkDocument& document,
-                const OutputOptions& options, const QString& settingsFolder) {
+                const OutputOptions& options, const NameRules& names, const QString& settingsFolder) {
     RunPlan plan;
     for (const Image& photo : photos.images()) {
         plan.request.photos.push_back({photo.ImagePath, photo.ApplyWatermark});
     }
     plan.request.limits.givesWay = true;
     plan.request.options = options;
+    plan.request.names = names;
     plan.request.folders = photos.model().list().InputOutputDictionary();
     const auto stack = document.snapshot();
     if (!settingsFolder.isEmpty()) {

@@ -24,6 +24,6 @@ struct RunPlan {
 // A run keeps the stack as the setting "Last Watermark" in `settingsFolder`, where there is one, and the last photo's
 // running number among the preferences. Main thread.
 RunPlan planRun(const ImageListController& photos, const WatermarkDocument& document,
-                const OutputOptions& options, const QString& settingsFolder);
+                const OutputOptions& options, const NameRules& names, const QString& settingsFolder);
 
 }  // namespace zelto

@@ -4,8 +4,10 @@
 #include "app/common/icons.h"
 #include "app/common/in_background.h"
 #include "render/composition.h"
+#include "render/effect_diagnostics.h"
 
 #include <QKeyEvent>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -14,6 +16,11 @@
 #include <utility>
 
 namespace zelto {
+namespace {
+
+Q_LOGGING_CATEGORY(fullScreen, "zelto.fullscreen", QtWarningMsg)
+
+}  // namespace
 
 FullScreenView* FullScreenView::open(const PhotoRequest& request, QWidget* parent) {
     auto* view = new FullScreenView(parent);
@@ -58,6 +65,12 @@ void FullScreenView::compose(const PhotoRequest& request) {
             message_ = made.message;
             update();
             Q_EMIT composed();
+        });
+    // As a run does for its last photo.
+    inBackground(
+        this, [request] { return writeEffectDiagnosticsOf(request.path, *request.stack); },
+        [](const Result<void>& written) {
+            if (!written) qCInfo(fullScreen, "%s", qUtf8Printable(written.error().message));
         });
 }
 

@@ -7,6 +7,7 @@
 #include "platform/preferences.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -19,10 +20,10 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
 
-constexpr auto Succeeded = "Watermark process completed successfully";
-constexpr auto Failed =
-    "Watermark process completed but some Photos produced Error\n"
-    "Double Click the Image Entry to know the problem";
+const QString Succeeded = u"Watermark process completed successfully\n\n"_s;
+const QString Failed =
+    u"Watermark process completed but some Photos produced Error\n"
+    "Double Click the Image Entry to know the problem\n\n"_s;
 
 QByteArray contentOf(const QString& path) {
     QFile file(path);
@@ -35,7 +36,7 @@ TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
         QString photos;
         std::function<void(OutputOptions&)> choose;
         QString statuses;
-        const char* summary;
+        QString summary;
         QString opened;
         QStringList revealed;
     };
@@ -44,11 +45,17 @@ TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
          u"gug"_s,
          [](auto&) {},
          u"w.w"_s,
-         Succeeded,
+         Succeeded + u"2 written"_s,
          {},
          {u"photo0.png"_s, u"photo2.png"_s}},
-        {"one cannot be read", u"gb"_s, [](auto&) {}, u"wx"_s, Failed, {}, {u"photo0.png"_s}},
-        {"none is checked", u"uu"_s, [](auto&) {}, u".."_s, Succeeded, {}, {}},
+        {"one cannot be read",
+         u"gb"_s,
+         [](auto&) {},
+         u"wx"_s,
+         Failed + u"1 written, 1 failed"_s,
+         {},
+         {u"photo0.png"_s}},
+        {"none is checked", u"uu"_s, [](auto&) {}, u".."_s, Succeeded + u"0 written"_s, {}, {}},
         {"one document",
          u"gg"_s,
          [](OutputOptions& o) {
@@ -56,14 +63,14 @@ TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
              o.CombineToSinglePDF = true;
          },
          u"ww"_s,
-         Succeeded,
+         Succeeded + u"2 written"_s,
          u"WatermarkedPhotos.pdf"_s,
          {}},
         {"folders kept",
          u"gg"_s,
          [](OutputOptions& o) { o.KeepDirectoryStructure = true; },
          u"ww"_s,
-         Succeeded,
+         Succeeded + u"2 written"_s,
          {},
          {u"in"_s}},
     };
@@ -73,11 +80,13 @@ TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
         window->photos().RemoveAllImages();
         addPhotos(row.photos);
         options = plain;
+        options.OutputPath = path(QStringLiteral("out of ") + QLatin1String(row.what));
+        ASSERT_TRUE(QDir().mkpath(options.OutputPath));
         row.choose(options);
         opened.clear();
         revealed.clear();
         start();
-        EXPECT_EQ(summary(), QLatin1String(row.summary));
+        EXPECT_EQ(summary(), row.summary);
         EXPECT_EQ(statuses(), row.statuses);
         const auto below = [&](const QString& name) { return options.OutputPath + u'/' + name; };
         EXPECT_EQ(opened, row.opened.isEmpty() ? QString() : below(row.opened));
@@ -132,9 +141,10 @@ TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     letThrough(2);
     EXPECT_TRUE(waitFor(u"www."_s)) << "the photo in hand is finished";
 
+    for (const QString& left : outputs()) QFile::remove(options.OutputPath + u'/' + left);
     start();
     letThrough(4);
-    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_EQ(summary(), Succeeded + u"4 written"_s);
     EXPECT_EQ(statuses(), u"wwww"_s);
     EXPECT_EQ(revealed.size(), 4);
 }
@@ -154,16 +164,25 @@ TEST_F(RunWindow, ThreeFailuresInARowAskWhetherToGoOn) {
         EXPECT_EQ(statuses(), u"xxx.."_s);
         answer(goesOn ? u"OK"_s : u"No"_s);
         if (goesOn) {
-            EXPECT_EQ(summary(), QLatin1String(Failed));
+            EXPECT_EQ(summary(), Failed + u"1 written, 4 failed"_s);
             EXPECT_EQ(statuses(), u"xxxxw"_s);
+            QFile::remove(options.OutputPath + u"/photo4.png"_s);
             continue;
         }
         EXPECT_TRUE(QTest::qWaitFor([this] { return isEnabled(Act::Start); }, 10000));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no summary";
         EXPECT_TRUE(window->processing().isVisible());
-        QTest::mouseClick(window->processing().CancelProcessing(), Qt::LeftButton);
-        EXPECT_FALSE(window->processing().isVisible());
         EXPECT_EQ(statuses(), u"xxx.."_s);
+        // What is there when it is resumed counts.
+        addPhotos(u"bbbbgg"_s);
+        QPushButton* pause = window->processing().PauseOrResumeProcessing();
+        QTest::mouseClick(pause, Qt::LeftButton);
+        EXPECT_EQ(pause->text(), u"Resume"_s);
+        EXPECT_EQ(pace(), u"Stopped"_s);
+        QTest::mouseClick(pause, Qt::LeftButton);
+        EXPECT_EQ(summary(), Failed + u"2 written, 4 failed"_s);
+        EXPECT_EQ(statuses(), u"xxxxww"_s);
+        EXPECT_THAT(outputs(), ElementsAre(u"photo4.png"_s, u"photo5.png"_s));
     }
 }
 
@@ -202,15 +221,71 @@ TEST_F(RunWindow, PhotosOfTheListAreOnlyReplacedWhenToldSo) {
     start();
     options.OutputPath = elsewhere;
     answer(u"Choose Another Folder"_s);
-    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_EQ(summary(), Succeeded + u"2 written"_s);
     EXPECT_EQ(asked, 3);
     EXPECT_EQ(contentOf(source), original);
 
     options.OutputPath = path(u"in"_s);
     start();
     answer(u"Replace"_s);
-    EXPECT_EQ(summary(), QLatin1String(Succeeded));
+    EXPECT_EQ(summary(), Succeeded + u"2 written"_s);
     EXPECT_NE(contentOf(source), original);
+}
+
+TEST_F(RunWindow, TakenNamesAreAskedAboutOncePerFolder) {
+    addPhotos(u"gg"_s);
+    options.Rename = true;
+    options.RenameFormat = u"same"_s;
+    start();
+    EXPECT_EQ(message()->text(), u"2 Photos Would Become 1 File"_s);
+    QTest::keyClick(message(), Qt::Key_Return);
+    EXPECT_EQ(summary(), Succeeded + u"2 written"_s);
+    EXPECT_THAT(outputs(), ElementsAre(u"same.png"_s, u"same1.png"_s));
+    start();
+    EXPECT_EQ(message()->text(), u"2 Files Exist Already"_s);
+    QTest::keyClick(message(), Qt::Key_Escape);
+    EXPECT_TRUE(isEnabled(Act::Start));
+    start();
+    answer(u"Skip"_s);
+    EXPECT_EQ(summary(), Succeeded + u"0 written"_s);
+    start();
+    EXPECT_EQ(summary(), Succeeded + u"0 written"_s) << "nothing is asked again";
+    options.OutputPath = path(u"elsewhere"_s);
+    ASSERT_TRUE(QDir().mkpath(options.OutputPath));
+    start();
+    answer(u"Replace"_s);
+    EXPECT_EQ(summary(), Succeeded + u"2 written, 1 with warnings"_s);
+    EXPECT_THAT(outputs(), ElementsAre(u"same.png"_s));
+}
+
+TEST_F(RunWindow, ThePhotoInHandIsSelectedAloneAndShownAsItIsWritten) {
+    addPhotos(u"ggg"_s, {60, 40});
+    window->photoList().selectAll();
+    startGated();
+    letThrough(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->photos().selectedRow() == 1; }, 10000));
+    EXPECT_EQ(window->photos().selection().selectedIndexes().size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->previewView().picture().isNull(); }, 10000));
+    const QImage written(options.OutputPath + u"/photo0.png"_s);
+    EXPECT_EQ(window->previewView().picture().convertToFormat(written.format()), written);
+    letThrough(2);
+    summary();
+    EXPECT_TRUE(window->previewView().picture().isNull());
+    EXPECT_EQ(window->photos().selectedRow(), 2);
+}
+
+TEST_F(RunWindow, WhatACancelledRunStillTellsIsNotTakenForTheNextOnes) {
+    addPhotos(u"gg"_s);
+    startGated();
+    QTest::mouseClick(window->processing().CancelProcessing(), Qt::LeftButton);
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->processing().isVisible(); }, 10000));
+    letThrough(1);
+    ASSERT_TRUE(waitUntilHeld(2)) << "the first photo of the second run";
+    QTest::qWait(150);
+    EXPECT_EQ(statuses(), u".."_s);
+    letThrough(2);
+    EXPECT_EQ(summary(), Succeeded + u"2 written"_s);
 }
 
 TEST_F(RunWindow, KeepsTheStackAndTheLastNumber) {

@@ -93,7 +93,11 @@ void RunWindow::start() {
 void RunWindow::startGated() {
     isGated_ = true;
     start();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return gate_.arrived > 0; }, Patience));
+    EXPECT_TRUE(waitUntilHeld(1));
+}
+
+bool RunWindow::waitUntilHeld(int photos) const {
+    return QTest::qWaitFor([&] { return gate_.arrived >= photos; }, Patience);
 }
 
 QString RunWindow::statuses() const {

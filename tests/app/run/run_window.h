@@ -31,7 +31,8 @@ class RunWindow : public ::testing::Test {
     void start();       // presses Start
     void startGated();  // the same, until the first photo waits to be let through
     void letThrough(int photos) { gate_.open.release(photos); }
-    void destroyRun();  // as at the end of the program
+    bool waitUntilHeld(int photos) const;  // that many have come to the gate since the first start
+    void destroyRun();                     // as at the end of the program
 
     // A letter for each photo: w written, x failed, . not processed.
     QString statuses() const;

@@ -5,6 +5,7 @@
 #include "render/composition.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -20,6 +21,7 @@ TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
     mark.Width = mark.Height = 20.0F;
     mark.Transparency = 1.0F;
     window->watermarks().ReflectWatermark(mark);
+    window->watermarks().AddEffects(PhotoEffects());
     for (const bool byKey : {true, false}) {
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -40,6 +42,9 @@ TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
                               Qt::LeftButton);
         }
         EXPECT_TRUE(QTest::qWaitFor([&] { return view.isNull(); }, 10000));
+    }
+    for (const char* left : {"file.png", "effect.png"}) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QDir::home().exists(QLatin1String(left)); }, 10000)) << left;
     }
 }
 
