@@ -216,12 +216,11 @@ TEST(LazyImageProperties, AreReadOnceForAllWhoAsk) {
     for (int t = 0; t < 4; ++t) {
         threads.emplace_back([&] {
             right += shared.get().exif.value(u"FNumber"_s) == 4.0;
-            // Others read the same file for themselves meanwhile.
-            for (int i = 0; i < 20; ++i) right += readImageProperties(path).iptc.value(u"StarRating"_s) == 3;
+            right += readImageProperties(path).iptc.value(u"StarRating"_s) == 3;  // by others meanwhile
         });
     }
     threads.clear();
-    EXPECT_EQ(right, 4 + 4 * 20);
+    EXPECT_EQ(right, 8);
     ASSERT_TRUE(QFile::remove(path));
     EXPECT_EQ(shared.get().exif.value(u"FNumber"_s), 4.0);
 }

@@ -58,9 +58,9 @@ TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
         bool keepsAlpha;
     };
     const Row rows[] = {
-        {F::Jpeg, 5.0, 5.0, false},     {F::Png, 0.0, 0.0, true},
-        {F::Tiff, 0.0, 0.0, true},      {F::Bmp, 0.0, 0.0, false},  // a palette of 256 for a scene, dithered
-        {F::Gif, 12.0, INFINITY, true},
+        {F::Jpeg, 5.0, 5.0, false}, {F::Png, 0.0, 0.0, true},
+        {F::Tiff, 0.0, 0.0, true},  {F::Bmp, 0.0, 0.0, false},  // a palette of 256 for a scene, dithered
+        {F::Gif, 12.0, 20.0, true},
     };
     for (const Row& row : rows) {
         for (const QSize size : {QSize(1, 1), QSize(3, 5), QSize(257, 131), QSize(301, 1200)}) {
@@ -138,19 +138,11 @@ TEST(EncodeGif, KeepsUpTo256ColoursExactlyAndTransparencyAsAMask) {
     }
     const QImage alpha = drawnSceneWithAlpha({200, 150});
     const QImage result = readBack(encoded(alpha, F::Gif));
-    double error = 0;
-    int there = 0;
-    for (int y = 0; y < 150; ++y) {
-        for (int x = 0; x < 200; ++x) {
-            const QRgb wanted = alpha.pixel(x, y);  // premultiplied
-            const QRgb found = result.pixel(x, y);
-            ASSERT_EQ(qAlpha(found), qAlpha(wanted) >= 128 ? 255 : 0) << x << ' ' << y;
-            if (qAlpha(found) == 0) continue;
-            error += std::abs(qGreen(found) - qGreen(qUnpremultiply(wanted)));
-            ++there;
-        }
+    for (int i = 0; i < 200 * 150; ++i) {
+        const QPoint at(i % 200, i / 200);
+        ASSERT_EQ(qAlpha(result.pixel(at)), qAlpha(alpha.pixel(at)) >= 128 ? 255 : 0)
+            << at.x() << ' ' << at.y();
     }
-    EXPECT_LT(error / there, 10.0);
 }
 
 }  // namespace
