@@ -36,7 +36,7 @@ FolderField::FolderField(const QString& chooserTitle, QWidget* parent)
 
 QString FolderField::path() const {
     const QString text = edit_->text();
-    if (text.isEmpty()) return {};
+    if (text.isEmpty()) return text;
     if (text == QLatin1String("~")) return QDir::homePath();
     return QDir::home().absoluteFilePath(text.startsWith(QLatin1String("~/")) ? text.mid(2) : text);
 }
