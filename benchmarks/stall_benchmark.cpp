@@ -4,7 +4,7 @@
 #include "app/dialogs/standard_dialogs.h"
 #include "app/run/run_controller.h"
 #include "app/window/main_window.h"
-#include "support/stall_watchdog.h"
+#include "stall_watchdog.h"
 #include "support/test_pictures.h"
 
 #include <QApplication>
