@@ -85,7 +85,7 @@ void readMetadata(QByteArrayView input) {
     context.locale = QLocale::c();
     context.properties = std::make_shared<const LazyImageProperties>(context.photoPath);
     QString text;
-    for (const Macro& macro : metadataMacros(context.properties->get())) text += macro.Macro;
+    for (const Macro& macro : metadataMacros(context.properties->get())) text += macro.MacroName;
     ParseMacros(text, context);
 }
 

@@ -35,7 +35,7 @@ LogoKey keyOf(const Watermark& record) {
 
 // The picture that was read; null where there is none. That memory ran out says nothing of the file.
 QImage imageOf(Result<Picture> picture) {
-    if (!picture && picture.error().code == OutOfMemory) throw std::bad_alloc();
+    if (!picture && picture.error().code == ErrorCode::OutOfMemory) throw std::bad_alloc();
     return picture ? std::move(picture->image) : QImage();
 }
 

@@ -76,7 +76,7 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request) {
 }
 
 Error notEnoughMemory(const QString& path) {
-    return {OutOfMemory, QStringLiteral("There is not enough memory for this photo."), path};
+    return {ErrorCode::OutOfMemory, QStringLiteral("There is not enough memory for this photo."), path};
 }
 
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) try {
