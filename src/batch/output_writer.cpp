@@ -12,7 +12,6 @@
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"
 #include "render/photo_effects.h"
-#include "render/photo_filters.h"
 #include "render/photo_scene.h"
 
 #include <QDir>
@@ -84,7 +83,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
 
     const OutputOptions& options = settings_.options;
     if (!format) {
-        return fail(ErrorCode::Unsupported,
+        return fail(ErrorCode::CannotWrite,
                     QStringLiteral("“%1” has no extension of a format that can be written.").arg(task.output),
                     task.output);
     }

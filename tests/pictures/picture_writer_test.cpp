@@ -60,7 +60,7 @@ TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
     const Row rows[] = {
         {F::Jpeg, 5.0, 5.0, false}, {F::Png, 0.0, 0.0, true},
         {F::Tiff, 0.0, 0.0, true},  {F::Bmp, 0.0, 0.0, false},  // a palette of 256 for a scene, dithered
-        {F::Gif, 12.0, 20.0, true},
+        {F::Gif, 12.0, 40.0, true},                             // half-transparent pixels become opaque
     };
     for (const Row& row : rows) {
         for (const QSize size : {QSize(1, 1), QSize(3, 5), QSize(257, 131), QSize(301, 1200)}) {

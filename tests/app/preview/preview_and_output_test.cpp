@@ -137,6 +137,7 @@ TEST_F(RunWindow, ThePreviewAtActualSizeIsTheWrittenPicture) {
         const QImage shown = view.seenPicture().copy(seen);
 
         if (row.written) window->watermarks().replaceStack(*row.written, {}, u"Test"_s);
+        QFile::remove(options.OutputPath + u"/photo0.png"_s);
         start();
         summary();
         const QImage written(options.OutputPath + u"/photo0.png"_s);
