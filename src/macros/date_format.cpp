@@ -38,6 +38,14 @@ QString formatUserDate(const QDateTime& moment, const QString& format, const QLo
     return pattern.isEmpty() ? formatShortDate(moment, locale) : formatDate(moment, pattern, locale);
 }
 
+QString dateMacroText(const QString& macroName, const QString& format, const QDateTime& moment,
+                      const QLocale& locale) {
+    const bool isOfMetadata =
+        macroName.startsWith(QLatin1String("<<EXIF:")) || macroName.startsWith(QLatin1String("<<IPTC:"));
+    return isOfMetadata ? formatDate(moment, GetDateFormatFromMacro(format), locale)
+                        : formatUserDate(moment, format, locale);
+}
+
 QString macroWithDateFormat(QString macroName, const QString& format) {
     return macroName.replace(QLatin1String(">>"), QLatin1Char('[') + format + QLatin1String("]>>"));
 }

@@ -22,6 +22,11 @@ QString GetDateFormatFromMacro(const QString& format);
 // expansion both print this.
 QString formatUserDate(const QDateTime& moment, const QString& format, const QLocale& locale);
 
+// What the date macro `macroName` prints for `moment` with a user's format in it. They differ where the format is empty:
+// the dates of files and of today are then in the short date style, and those of the metadata are left out.
+QString dateMacroText(const QString& macroName, const QString& format, const QDateTime& moment,
+                      const QLocale& locale);
+
 // The token of a date macro with a user's format in it: "<<MODDATE>>" and "Y-M-D" give "<<MODDATE[Y-M-D]>>".
 QString macroWithDateFormat(QString macroName, const QString& format);
 

@@ -37,6 +37,7 @@ inline constexpr Preference<QString> DownloadAddress{QLatin1String("DownloadAddr
 inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
 inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
 inline constexpr Preference<QVariantMap> EditorPlaces{QLatin1String("Window/Editors")};  // geometry by name
+inline constexpr Preference<QVariantMap> LastTextStyle{QLatin1String("Editors/LastText")};
 inline constexpr Preference<QString> LastAddedFolder{QLatin1String("AddFolder/Folder")};
 inline constexpr Preference<bool> AddsSubFolders{QLatin1String("AddFolder/SubFolders")};
 inline constexpr Preference<QString> LastSettingsFolder{QLatin1String("Settings/LastFolder")};  // of a copy

@@ -128,7 +128,10 @@ QWidget* CopyrightEditor::makeControl(const TextRow& row) {
     line->setMinimumWidth(line->fontMetrics().averageCharWidth() * 42);
     line->setPlaceholderText(tr(row.example));
     line->setClearButtonEnabled(true);
-    binder_.bind(line, row.text);
+    // An emptied text is absent: it is not written.
+    binder_.bind(line, row.text, [text = row.text](CopyRightMetaData& metadata, const QString& typed) {
+        metadata.*text = typed.isEmpty() ? QString() : typed;
+    });
     return line;
 }
 

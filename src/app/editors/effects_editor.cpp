@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/effects_editor.h"
 
+#include "app/editors/controls/color_well.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "app/editors/controls/record_binder.h"
 #include "app/editors/effect_rules.h"
@@ -36,160 +37,188 @@ class EffectsSession : public EditorSession {
     void put(const std::optional<PhotoEffects>& effects) { controller().AddEffects(effects, step()); }
 };
 
-class EffectsEditor : public EditorDialog {
+class EffectsEditor : public EditorPanel {
     Q_DECLARE_TR_FUNCTIONS(zelto::EffectsEditor)
 
   public:
-    EffectsEditor(const EditorCall& call, EffectsSession& session);
+    explicit EffectsEditor(EffectsSession& session);
 
-  protected:
     void load() override;
 
   private:
     QWidget* makeBorder();
+    QLayout* makeThicknesses(QWidget* middle);
     QWidget* makeShadow();
-    NumberField* makeThickness(const char* name, const QString& label, std::int64_t PhotoEffects::*side);
-    ShadowSides chosenSides() const;
+    QLayout* makeSides(QWidget* box);
+    template <class Control>
+    Control* named(const char* name, Control* control);
+    // Usable only while the photo has a shadow.
+    void addShadowRow(QFormLayout& form, const QString& label, QWidget* control);
 
     EffectsSession& session_;
     RecordBinder<PhotoEffects> binder_;
     PhotoEffects last_;  // what switching the effects on again brings back
     QCheckBox* isOn_;
-    QWidget* border_ = nullptr;
-    QWidget* shadow_ = nullptr;
-    QCheckBox* same_ = nullptr;
-    NumberField* top_ = nullptr;
-    NumberField* left_ = nullptr;
-    NumberField* right_ = nullptr;
-    NumberField* bottom_ = nullptr;
-    QCheckBox* hasShadow_ = nullptr;
-    QCheckBox* shadowTop_ = nullptr;
-    QCheckBox* shadowLeft_ = nullptr;
-    QCheckBox* shadowRight_ = nullptr;
-    QCheckBox* shadowBottom_ = nullptr;
-    NumberField* blur_ = nullptr;
-    NumberField* distance_ = nullptr;
-    ColorWell* shadowColor_ = nullptr;
-    QLabel* unseen_ = nullptr;
+    QWidget* border_;
+    QWidget* shadow_;
 };
 
-EffectsEditor::EffectsEditor(const EditorCall& call, EffectsSession& session)
-    : EditorDialog(call, session, QStringLiteral("EffectsEditor"), tr("Border and Shadow")),
+EffectsEditor::EffectsEditor(EffectsSession& session)
+    : EditorPanel(QStringLiteral("EffectsEditor"), tr("Border and Shadow")),
       session_(session),
       binder_([&session](const Edit& edit) { session.edit(edit); }),
-      isOn_(new QCheckBox(tr("&Put a border and a shadow around the photos"), this)) {
-    border_ = makeBorder();
-    shadow_ = makeShadow();
-    isOn_->setObjectName(QStringLiteral("IsOn"));
-    connect(isOn_, &QCheckBox::clicked, this, [this](bool on) {
-        const std::optional<PhotoEffects> effects = on ? std::optional(last_) : std::nullopt;
-        session_.put(effects);
-    });
-    auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
+      isOn_(named("IsOn", new QCheckBox(tr("&Put a border and a shadow around the photos"), this))),
+      border_(makeBorder()),
+      shadow_(makeShadow()) {
+    connect(isOn_, &QCheckBox::clicked, this,
+            [this](bool on) { session_.put(on ? std::optional(last_) : std::nullopt); });
+    auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* part : std::initializer_list<QWidget*>{isOn_, border_, shadow_}) column->addWidget(part);
+    for (QWidget* part : {static_cast<QWidget*>(isOn_), border_, shadow_}) column->addWidget(part);
     column->addStretch();
-    setContent(content);
 }
 
-NumberField* EffectsEditor::makeThickness(const char* name, const QString& label,
-                                          std::int64_t PhotoEffects::*side) {
-    auto* field = new NumberField(Thickness, this);
-    field->setObjectName(QLatin1String(name));
-    field->setAccessibleName(label);
-    field->setToolTip(label);
-    connect(field, &NumberField::valueChanged, this, [this, side](double pixels) {
-        session_.edit([=](PhotoEffects& effects) { setThickness(effects, side, std::llround(pixels)); });
-    });
-    return field;
+template <class Control>
+Control* EffectsEditor::named(const char* name, Control* control) {
+    control->setObjectName(QLatin1String(name));
+    return control;
 }
 
 QWidget* EffectsEditor::makeBorder() {
     auto* box = new QGroupBox(tr("Border"), this);
-    same_ = new QCheckBox(tr("&Same width on all sides"), box);
-    same_->setObjectName(QStringLiteral("SameBorder"));
-    top_ = makeThickness("TopThickness", tr("Top"), &PhotoEffects::TopThickness);
-    left_ = makeThickness("LeftThickness", tr("Left"), &PhotoEffects::LeftThickness);
-    right_ = makeThickness("RightThickness", tr("Right"), &PhotoEffects::RightThickness);
-    bottom_ = makeThickness("BottomThickness", tr("Bottom"), &PhotoEffects::BottomThickness);
-    auto* color = new ColorWell(tr("Border colour"), box);
-    color->setObjectName(QStringLiteral("BorderColor"));
-    auto* over = new QCheckBox(tr("&Watermarks may cover the border"), box);
-    over->setObjectName(QStringLiteral("ApplyWatermarkOnBorder"));
-    connect(same_, &QCheckBox::clicked, this,
-            [this](bool on) { session_.edit([on](PhotoEffects& effects) { setSameBorder(effects, on); }); });
+    auto* same = named("SameBorder", new QCheckBox(tr("&Same width on all sides"), box));
+    auto* color = named("BorderColor", new ColorWell(tr("Border colour"), box));
+    auto* over = named("ApplyWatermarkOnBorder", new QCheckBox(tr("&Watermarks may cover the border"), box));
+    binder_.bind(same, &PhotoEffects::SameBorder, setSameBorder);
     binder_.bind(color, &PhotoEffects::BorderColor);
     binder_.bind(over, &PhotoEffects::ApplyWatermarkOnBorder);
-
-    // The fields stand around the photo as the sides do.
-    auto* sides = new QGridLayout;
-    sides->addWidget(top_, 0, 1);
-    sides->addWidget(left_, 1, 0);
-    sides->addWidget(color, 1, 1, Qt::AlignCenter);
-    sides->addWidget(right_, 1, 2);
-    sides->addWidget(bottom_, 2, 1);
     auto* column = new QVBoxLayout(box);
-    column->addWidget(same_);
-    column->addLayout(sides);
+    column->addWidget(same);
+    column->addLayout(makeThicknesses(color));
     column->addWidget(over);
     return box;
 }
 
+// The places around the photo where the controls of its sides stand.
+struct Place {
+    int row;
+    int column;
+};
+constexpr Place AtTop{0, 1};
+constexpr Place AtLeft{1, 0};
+constexpr Place AtRight{1, 2};
+constexpr Place AtBottom{2, 1};
+
+QLayout* EffectsEditor::makeThicknesses(QWidget* middle) {
+    struct Side {
+        const char* name;
+        QString label;
+        std::int64_t PhotoEffects::*thickness;
+        Place place;
+    };
+    const Side sides[] = {
+        {"TopThickness", tr("Top"), &PhotoEffects::TopThickness, AtTop},
+        {"LeftThickness", tr("Left"), &PhotoEffects::LeftThickness, AtLeft},
+        {"RightThickness", tr("Right"), &PhotoEffects::RightThickness, AtRight},
+        {"BottomThickness", tr("Bottom"), &PhotoEffects::BottomThickness, AtBottom},
+    };
+    auto* grid = new QGridLayout;
+    for (const Side& side : sides) {
+        auto* field = named(side.name, new NumberField(Thickness, middle->parentWidget()));
+        field->setAccessibleName(side.label);
+        field->setToolTip(side.label);
+        grid->addWidget(field, side.place.row, side.place.column);
+        binder_.bind(field, side.thickness,
+                     [thickness = side.thickness](PhotoEffects& effects, double pixels) {
+                         setThickness(effects, thickness, std::llround(pixels));
+                     });
+        // Where all widths are the same the top tells it.
+        if (side.thickness == &PhotoEffects::TopThickness) continue;
+        binder_.follow([field](const PhotoEffects& effects) { field->setEnabled(!effects.SameBorder); });
+    }
+    grid->addWidget(middle, 1, 1, Qt::AlignCenter);
+    return grid;
+}
+
+void EffectsEditor::addShadowRow(QFormLayout& form, const QString& label, QWidget* control) {
+    addRow(form, label, control);
+    binder_.follow([control](const PhotoEffects& effects) { control->setEnabled(effects.EnableShadow); });
+}
+
 QWidget* EffectsEditor::makeShadow() {
     auto* box = new QGroupBox(tr("Shadow"), this);
-    hasShadow_ = new QCheckBox(tr("S&hadow"), box);
-    hasShadow_->setObjectName(QStringLiteral("EnableShadow"));
-    binder_.bind(hasShadow_, &PhotoEffects::EnableShadow);
-    const auto addSide = [this, box](const char* name, const QString& label) {
-        auto* side = new QCheckBox(label, box);
-        side->setObjectName(QLatin1String(name));
-        connect(side, &QCheckBox::clicked, this, [this] {
-            session_.edit([sides = chosenSides()](PhotoEffects& effects) { setShadowSides(effects, sides); });
-        });
-        return side;
-    };
-    shadowTop_ = addSide("ShadowTop", tr("Top"));
-    shadowLeft_ = addSide("ShadowLeft", tr("Left"));
-    shadowRight_ = addSide("ShadowRight", tr("Right"));
-    shadowBottom_ = addSide("ShadowBottom", tr("Bottom"));
-    blur_ = new NumberField(Blur, box);
-    blur_->setObjectName(QStringLiteral("BlurRadius"));
-    distance_ = new NumberField(Blur, box);
-    distance_->setObjectName(QStringLiteral("Distance"));
-    shadowColor_ = new ColorWell(tr("Shadow colour"), box);
-    shadowColor_->setObjectName(QStringLiteral("ShadowColor"));
-    binder_.bind(blur_, &PhotoEffects::BlurRadius);
-    binder_.bind(distance_, &PhotoEffects::Distance);
-    binder_.bind(shadowColor_, &PhotoEffects::ShadowColor);
-    unseen_ = new QLabel(tr("The preview leaves the shadow out while watermarks may cover the border; the "
-                            "written photos have it."),
-                         box);
-    unseen_->setWordWrap(true);
-
-    auto* sides = new QGridLayout;
-    sides->addWidget(shadowTop_, 0, 1);
-    sides->addWidget(shadowLeft_, 1, 0);
-    sides->addWidget(shadowRight_, 1, 2);
-    sides->addWidget(shadowBottom_, 2, 1);
-    sides->setColumnStretch(3, 1);
-    auto* form = new QFormLayout;
-    addRow(*form, tr("B&lur:"), blur_);
-    addRow(*form, tr("&Distance:"), distance_);
-    addRow(*form, tr("Col&our:"), shadowColor_);
+    auto* hasShadow = named("EnableShadow", new QCheckBox(tr("S&hadow"), box));
+    binder_.bind(hasShadow, &PhotoEffects::EnableShadow);
     auto* column = new QVBoxLayout(box);
-    column->addWidget(hasShadow_);
-    column->addLayout(sides);
+    column->addWidget(hasShadow);
+    column->addLayout(makeSides(box));
+
+    auto* blur = named("BlurRadius", new NumberField(Blur, box));
+    auto* distance = named("Distance", new NumberField(Blur, box));
+    auto* color = named("ShadowColor", new ColorWell(tr("Shadow colour"), box));
+    binder_.bind(blur, &PhotoEffects::BlurRadius);
+    binder_.bind(distance, &PhotoEffects::Distance);
+    binder_.bind(color, &PhotoEffects::ShadowColor);
+    auto* form = new QFormLayout;
+    addShadowRow(*form, tr("B&lur:"), blur);
+    addShadowRow(*form, tr("&Distance:"), distance);
+    addShadowRow(*form, tr("Col&our:"), color);
     column->addLayout(form);
-    column->addWidget(unseen_);
+
+    auto* unseen =
+        new QLabel(tr("The preview leaves the shadow out while watermarks may cover the border; the "
+                      "written photos have it."),
+                   box);
+    unseen->setWordWrap(true);
+    column->addWidget(unseen);
+    binder_.follow([unseen](const PhotoEffects& effects) {
+        unseen->setVisible(effects.EnableShadow && effects.ApplyWatermarkOnBorder);
+    });
     return box;
 }
 
-ShadowSides EffectsEditor::chosenSides() const {
-    return {.top = shadowTop_->isChecked(),
-            .left = shadowLeft_->isChecked(),
-            .right = shadowRight_->isChecked(),
-            .bottom = shadowBottom_->isChecked()};
+QLayout* EffectsEditor::makeSides(QWidget* box) {
+    struct Side {
+        const char* name;
+        QString label;
+        bool ShadowSides::*isChosen;
+        Place place;
+        QCheckBox* box;
+    };
+    std::vector<Side> sides = {
+        {"ShadowTop", tr("Top"), &ShadowSides::top, AtTop, nullptr},
+        {"ShadowLeft", tr("Left"), &ShadowSides::left, AtLeft, nullptr},
+        {"ShadowRight", tr("Right"), &ShadowSides::right, AtRight, nullptr},
+        {"ShadowBottom", tr("Bottom"), &ShadowSides::bottom, AtBottom, nullptr},
+    };
+    auto* grid = new QGridLayout;
+    for (Side& side : sides) {
+        side.box = named(side.name, new QCheckBox(side.label, box));
+        grid->addWidget(side.box, side.place.row, side.place.column);
+    }
+    grid->setColumnStretch(3, 1);
+    const auto chosenSides = [sides] {
+        ShadowSides chosen;
+        for (const Side& side : sides) chosen.*side.isChosen = side.box->isChecked();
+        return chosen;
+    };
+    for (const Side& side : sides) {
+        binder_.onChosen(side.box, [chosenSides](PhotoEffects& effects, bool /*on*/) {
+            setShadowSides(effects, chosenSides());
+        });
+    }
+    binder_.follow([sides, chosenSides](const PhotoEffects& effects) {
+        // Several choices of sides mean one direction; what the user has chosen stays as it is.
+        const ShadowSides chosen = chosenSides();
+        const bool isShown =
+            shadowDirection(chosen) == effects.Direction && (chosen.any() || !effects.EnableShadow);
+        const ShadowSides shown = isShown ? chosen : shadowSides(effects.Direction);
+        for (const Side& side : sides) {
+            side.box->setChecked(shown.*side.isChosen);
+            side.box->setEnabled(effects.EnableShadow);
+        }
+    });
+    return grid;
 }
 
 void EffectsEditor::load() {
@@ -199,26 +228,6 @@ void EffectsEditor::load() {
     border_->setEnabled(isOn);
     shadow_->setEnabled(isOn);
     binder_.load(last_);
-    same_->setChecked(last_.SameBorder);
-    top_->load(static_cast<double>(last_.TopThickness));
-    left_->load(static_cast<double>(last_.LeftThickness));
-    right_->load(static_cast<double>(last_.RightThickness));
-    bottom_->load(static_cast<double>(last_.BottomThickness));
-    for (NumberField* side : {left_, right_, bottom_}) side->setEnabled(!last_.SameBorder);
-
-    // Several choices of sides mean one direction; what the user has chosen stays as it is.
-    const ShadowSides chosen = chosenSides();
-    const bool isShown = shadowDirection(chosen) == last_.Direction && (chosen.any() || !last_.EnableShadow);
-    const ShadowSides sides = isShown ? chosen : shadowSides(last_.Direction);
-    shadowTop_->setChecked(sides.top);
-    shadowLeft_->setChecked(sides.left);
-    shadowRight_->setChecked(sides.right);
-    shadowBottom_->setChecked(sides.bottom);
-    for (QWidget* control : std::initializer_list<QWidget*>{shadowTop_, shadowLeft_, shadowRight_,
-                                                            shadowBottom_, blur_, distance_, shadowColor_}) {
-        control->setEnabled(last_.EnableShadow);
-    }
-    unseen_->setVisible(last_.EnableShadow && last_.ApplyWatermarkOnBorder);
 }
 
 }  // namespace
@@ -226,7 +235,7 @@ void EffectsEditor::load() {
 void editEffects(const EditorCall& call) {
     EffectsSession session(call);
     if (!session.effects()) session.put(PhotoEffects());
-    EffectsEditor(call, session).run();
+    runEditor(call, session, new EffectsEditor(session));
 }
 
 }  // namespace zelto

@@ -12,6 +12,8 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QThreadPool>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -39,14 +41,13 @@ class Tiles : public QListWidget {
     }
 };
 
-class FilterWindow : public EditorDialog {
+class FilterWindow : public EditorPanel {
     Q_DECLARE_TR_FUNCTIONS(zelto::FilterWindow)
 
   public:
     FilterWindow(const EditorCall& call, EditorSession& session);
     ~FilterWindow() override { *cancelled_ = true; }
 
-  protected:
     void load() override;
 
   private:
@@ -60,9 +61,7 @@ class FilterWindow : public EditorDialog {
 };
 
 FilterWindow::FilterWindow(const EditorCall& call, EditorSession& session)
-    : EditorDialog(call, session, QStringLiteral("FilterWindow"), tr("Filter")),
-      session_(session),
-      tiles_(new Tiles(this)) {
+    : EditorPanel(QStringLiteral("FilterWindow"), tr("Filter")), session_(session), tiles_(new Tiles(this)) {
     tiles_->setObjectName(QStringLiteral("Filters"));
     tiles_->setAccessibleName(tr("Filters"));
     tiles_->setViewMode(QListView::IconMode);
@@ -79,9 +78,12 @@ FilterWindow::FilterWindow(const EditorCall& call, EditorSession& session)
         tile->setTextAlignment(Qt::AlignHCenter);
         tile->setSizeHint(TileSize + QSize(12, 12 + tiles_->fontMetrics().lineSpacing()));
     }
-    setContent(tiles_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tiles_);
+    setFocusProxy(tiles_);
     connect(tiles_, &QListWidget::currentItemChanged, this, &FilterWindow::choose);
-    connect(tiles_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+    connect(tiles_, &QListWidget::itemDoubleClicked, this, &EditorPanel::done);
     if (!call.photoPath.isEmpty()) makePictures(call.photoPath);
 }
 
@@ -137,7 +139,7 @@ void FilterWindow::showPicture(int row, const QImage& picture) {
 
 void chooseFilter(const EditorCall& call) {
     EditorSession session(call);
-    FilterWindow(call, session).run();
+    runEditor(call, session, new FilterWindow(call, session));
 }
 
 }  // namespace zelto

@@ -2,10 +2,10 @@
 #include "app/editors/shape_editor.h"
 
 #include "app/common/icons.h"
+#include "app/editors/controls/color_well.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "app/editors/controls/photo_reference.h"
 #include "app/editors/controls/position_group.h"
-#include "app/editors/controls/record_binder.h"
 #include "app/editors/controls/rotation_control.h"
 #include "app/editors/controls/size_field.h"
 #include "app/editors/controls/tile_button.h"
@@ -82,58 +82,58 @@ QIcon gradientIcon(const Watermark& record, int direction) {
     return QIcon(QPixmap::fromImage(drawnAlone(shape)));
 }
 
-class ShapeEditor : public EditorDialog {
+class ShapeEditor : public RecordPanel {
     Q_DECLARE_TR_FUNCTIONS(zelto::ShapeEditor)
 
   public:
     ShapeEditor(const EditorCall& call, WatermarkSession& session);
 
-  protected:
-    void load() override;
-
   private:
     QWidget* makeShape(QSizeF reference);
+    QLayout* makeKinds(QWidget* box);
     QWidget* makeFill();
+    QComboBox* makeDirections(QWidget* box);
     QWidget* makeLook();
+    ColorWell* makeColor(const char* name, const QString& title, std::optional<Color> Watermark::*field);
     SizeField* makeSize(const char* name, const QString& shareTitle, double reference,
                         float Watermark::*pixels, float Watermark::*share, bool Watermark::*isRelative);
-    void showGradients(const Watermark& record);
-
-    WatermarkSession& session_;
-    RecordBinder<Watermark> binder_;
-    QLabel* widthLabel_ = nullptr;
-    QLabel* heightLabel_ = nullptr;
-    NumberField* sides_ = nullptr;
-    SizeField* width_ = nullptr;
-    SizeField* height_ = nullptr;
-    QRadioButton* solid_ = nullptr;
-    QRadioButton* gradient_ = nullptr;
-    ColorWell* solidColor_ = nullptr;
-    ColorWell* firstColor_ = nullptr;
-    ColorWell* secondColor_ = nullptr;
-    QComboBox* direction_ = nullptr;
-    RotationControl* rotation_ = nullptr;
-    TransparencySlider* transparency_ = nullptr;
-    PositionGroup* position_ = nullptr;
-    std::optional<std::pair<std::optional<Color>, std::optional<Color>>> shownGradient_;
 };
 
 ShapeEditor::ShapeEditor(const EditorCall& call, WatermarkSession& session)
-    : EditorDialog(call, session, QStringLiteral("ShapeEditor"), tr("Shape")),
-      session_(session),
-      binder_([&session](const WatermarkEdit& edit) { session.edit(edit); }) {
-    auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
+    : RecordPanel(QStringLiteral("ShapeEditor"), tr("Shape"), session) {
+    auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part : {makeShape(photoReference(call)), makeFill(), makeLook()}) column->addWidget(part);
-    position_ = new PositionGroup(PositionGroup::Tiling::None, this);
-    connect(position_, &PositionGroup::edited, &session_, &WatermarkSession::edit);
-    column->addWidget(position_);
-    setContent(content);
+    column->addWidget(new PositionGroup(binder(), PositionGroup::Tiling::None, this));
 }
 
 QWidget* ShapeEditor::makeShape(QSizeF reference) {
     auto* box = new QGroupBox(tr("Shape"), this);
+    auto* form = new QFormLayout(box);
+    form->addRow(makeKinds(box));
+    auto* sides = new NumberField(SideCount, box);
+    sides->setObjectName(QStringLiteral("Sides"));
+    sides->setEmptyValue(static_cast<double>(FewestSides));
+    binder().bind(sides, &Watermark::Sides);
+    SizeField* width = makeSize("Width", tr("% of photo width"), reference.width(), &Watermark::Width,
+                                &Watermark::ResizeWidth, &Watermark::ResizeWidthByPercent);
+    SizeField* height = makeSize("Height", tr("% of photo height"), reference.height(), &Watermark::Height,
+                                 &Watermark::ResizeHeight, &Watermark::ResizeHeightByPercent);
+    addRow(*form, tr("Si&des:"), sides);
+    addRow(*form, tr("&Width:"), width);
+    addRow(*form, tr("&Height:"), height);
+    auto* widthLabel = qobject_cast<QLabel*>(form->labelForField(width));
+    auto* heightLabel = qobject_cast<QLabel*>(form->labelForField(height));
+    binder().follow([=](const Watermark& record) {
+        const bool isLine = record.ShapeType == shape_type::Line;
+        widthLabel->setText(isLine ? tr("&Length:") : tr("&Width:"));
+        heightLabel->setText(isLine ? tr("T&hickness:") : tr("&Height:"));
+        sides->setEnabled(record.ShapeType == shape_type::Polygon);
+    });
+    return box;
+}
+
+QLayout* ShapeEditor::makeKinds(QWidget* box) {
     auto* kinds = new QButtonGroup(box);
     auto* row = new QHBoxLayout;
     for (const Choice& kind : Kinds) {
@@ -144,31 +144,11 @@ QWidget* ShapeEditor::makeShape(QSizeF reference) {
         kinds->addButton(button, kind.code);
         row->addWidget(button);
     }
-    binder_.bind(kinds, &Watermark::ShapeType);
-
-    sides_ = new NumberField(SideCount, box);
-    sides_->setObjectName(QStringLiteral("Sides"));
-    sides_->setEmptyValue(static_cast<double>(FewestSides));
-    binder_.bind(sides_, &Watermark::Sides);
-    // A polygon needs its sides.
-    connect(kinds, &QButtonGroup::idClicked, this, [this](int kind) {
-        session_.edit([kind](Watermark& record) {
-            if (kind == shape_type::Polygon) record.Sides = std::max(record.Sides, FewestSides);
-        });
+    binder().bind(kinds, &Watermark::ShapeType, [](Watermark& record, int kind) {
+        record.ShapeType = kind;
+        if (kind == shape_type::Polygon) record.Sides = std::max(record.Sides, FewestSides);
     });
-    width_ = makeSize("Width", tr("% of photo width"), reference.width(), &Watermark::Width,
-                      &Watermark::ResizeWidth, &Watermark::ResizeWidthByPercent);
-    height_ = makeSize("Height", tr("% of photo height"), reference.height(), &Watermark::Height,
-                       &Watermark::ResizeHeight, &Watermark::ResizeHeightByPercent);
-
-    auto* form = new QFormLayout(box);
-    form->addRow(row);
-    addRow(*form, tr("Si&des:"), sides_);
-    addRow(*form, tr("&Width:"), width_);
-    addRow(*form, tr("&Height:"), height_);
-    widthLabel_ = qobject_cast<QLabel*>(form->labelForField(width_));
-    heightLabel_ = qobject_cast<QLabel*>(form->labelForField(height_));
-    return box;
+    return row;
 }
 
 SizeField* ShapeEditor::makeSize(const char* name, const QString& shareTitle, double reference,
@@ -176,113 +156,101 @@ SizeField* ShapeEditor::makeSize(const char* name, const QString& shareTitle, do
                                  bool Watermark::*isRelative) {
     auto* field = new SizeField(shareTitle, reference, this);
     field->setObjectName(QLatin1String(name));
-    connect(field, &SizeField::sizeChosen, this, [=, this](double length, bool relative) {
-        session_.edit([=](Watermark& record) {
-            record.*isRelative = relative;
-            record.*(relative ? share : pixels) = static_cast<float>(length);
+    binder().bind(
+        field,
+        [=](const Watermark& record) {
+            return Length{record.*(record.*isRelative ? share : pixels), record.*isRelative};
+        },
+        [=](Watermark& record, const Length& length) {
+            record.*isRelative = length.isRelative;
+            record.*(length.isRelative ? share : pixels) = static_cast<float>(length.value);
         });
-    });
     return field;
+}
+
+ColorWell* ShapeEditor::makeColor(const char* name, const QString& title,
+                                  std::optional<Color> Watermark::*field) {
+    auto* well = new ColorWell(title, this);
+    well->setObjectName(QLatin1String(name));
+    binder().bind(well, field);
+    return well;
 }
 
 QWidget* ShapeEditor::makeFill() {
     auto* box = new QGroupBox(tr("Fill"), this);
-    solid_ = new QRadioButton(tr("&One colour"), box);
-    solid_->setObjectName(QStringLiteral("Solid"));
-    gradient_ = new QRadioButton(tr("&Gradient"), box);
-    gradient_->setObjectName(QStringLiteral("Gradient"));
-    solidColor_ = new ColorWell(tr("Colour"), box);
-    solidColor_->setObjectName(QStringLiteral("SolidColor"));
-    firstColor_ = new ColorWell(tr("First colour of the gradient"), box);
-    firstColor_->setObjectName(QStringLiteral("FirstColor"));
-    secondColor_ = new ColorWell(tr("Second colour of the gradient"), box);
-    secondColor_->setObjectName(QStringLiteral("SecondColor"));
-    direction_ = new QComboBox(box);
-    direction_->setObjectName(QStringLiteral("GradeintType"));
-    direction_->setAccessibleName(tr("Direction of the gradient"));
-    for (const Choice& choice : Directions) {
-        direction_->addItem(tr(choice.title), QVariant::fromValue(std::int64_t{choice.code}));
-    }
-    binder_.bind(solidColor_, &Watermark::SolidColor);
-    binder_.bind(firstColor_, &Watermark::FirstColor);
-    binder_.bind(secondColor_, &Watermark::SecondColor);
-    for (QRadioButton* button : {solid_, gradient_}) {
-        connect(button, &QRadioButton::clicked, this, [this, isSolid = button == solid_] {
-            session_.edit([isSolid](Watermark& record) { record.SolidBackground = isSolid; });
-        });
-    }
-    connect(direction_, &QComboBox::activated, this, [this](int row) {
-        session_.edit([this, row](Watermark& record) {
-            record.GradeintType = direction_->itemData(row).value<std::int64_t>();
-        });
+    auto* solid = new QRadioButton(tr("&One colour"), box);
+    solid->setObjectName(QStringLiteral("Solid"));
+    ColorWell* solidColor = makeColor("SolidColor", tr("Colour"), &Watermark::SolidColor);
+    auto* gradient = new QRadioButton(tr("&Gradient"), box);
+    gradient->setObjectName(QStringLiteral("Gradient"));
+    ColorWell* first = makeColor("FirstColor", tr("First colour of the gradient"), &Watermark::FirstColor);
+    ColorWell* second =
+        makeColor("SecondColor", tr("Second colour of the gradient"), &Watermark::SecondColor);
+    QComboBox* directions = makeDirections(box);
+    auto* fills = new QButtonGroup(box);
+    fills->addButton(solid, 1);
+    fills->addButton(gradient, 0);
+    binder().bind(fills, &Watermark::SolidBackground);
+    binder().follow([=](const Watermark& record) {
+        solidColor->setEnabled(record.SolidBackground);
+        for (QWidget* control : std::initializer_list<QWidget*>{first, second, directions}) {
+            control->setEnabled(!record.SolidBackground);
+        }
     });
-
     auto* grid = new QGridLayout(box);
-    grid->addWidget(solid_, 0, 0);
-    grid->addWidget(solidColor_, 0, 1);
-    grid->addWidget(gradient_, 1, 0);
-    grid->addWidget(firstColor_, 1, 1);
-    grid->addWidget(secondColor_, 1, 2);
-    grid->addWidget(direction_, 1, 3);
+    grid->addWidget(solid, 0, 0);
+    grid->addWidget(solidColor, 0, 1);
+    grid->addWidget(gradient, 1, 0);
+    grid->addWidget(first, 1, 1);
+    grid->addWidget(second, 1, 2);
+    grid->addWidget(directions, 1, 3);
     grid->setColumnStretch(3, 1);
     return box;
 }
 
+// Each direction with a picture of the record's gradient.
+QComboBox* ShapeEditor::makeDirections(QWidget* box) {
+    auto* list = new QComboBox(box);
+    list->setObjectName(QStringLiteral("GradeintType"));
+    list->setAccessibleName(tr("Direction of the gradient"));
+    for (const Choice& choice : Directions) list->addItem(tr(choice.title), choice.code);
+    // Records that name no direction go from left to right.
+    const auto direction = [list](const Watermark& record) {
+        const QVariant code = QVariant::fromValue(record.GradeintType);
+        return list->findData(code) < 0 ? list->itemData(0) : code;
+    };
+    binder().bind(list, direction, [](Watermark& record, const QVariant& code) {
+        record.GradeintType = code.value<std::int64_t>();
+    });
+    using Colors = std::pair<std::optional<Color>, std::optional<Color>>;
+    binder().follow([list, shown = std::optional<Colors>()](const Watermark& record) mutable {
+        const Colors colors(record.FirstColor, record.SecondColor);
+        if (shown == colors) return;
+        shown = colors;
+        for (int row = 0; row < list->count(); ++row) {
+            list->setItemIcon(row, gradientIcon(record, list->itemData(row).toInt()));
+        }
+    });
+    return list;
+}
+
 QWidget* ShapeEditor::makeLook() {
     auto* box = new QGroupBox(tr("Look"), this);
-    rotation_ = new RotationControl(box);
-    rotation_->setObjectName(QStringLiteral("Rotation"));
-    transparency_ = new TransparencySlider(box);
-    transparency_->setObjectName(QStringLiteral("Transparency"));
-    connect(rotation_, &RotationControl::rotationChosen, this, [this](qint64 degrees) {
-        session_.edit([degrees](Watermark& record) { record.Rotation = degrees; });
+    auto* rotation = new RotationControl(box);
+    rotation->setObjectName(QStringLiteral("Rotation"));
+    binder().bind(rotation, &Watermark::Rotation);
+    binder().follow([rotation](const Watermark& record) {
+        const bool isCircle = record.ShapeType == shape_type::Ellipse && record.Width == record.Height;
+        rotation->setEnabled(!isCircle);
+        rotation->setToolTip(isCircle ? tr("A circle looks the same however it is turned") : QString());
     });
-    connect(transparency_, &TransparencySlider::transparencyChosen, this, [this](float transparency) {
-        session_.edit([transparency](Watermark& record) { record.Transparency = transparency; });
-    });
+    auto* transparency = new TransparencySlider(box);
+    transparency->setObjectName(QStringLiteral("Transparency"));
+    binder().bind(transparency, &Watermark::Transparency);
     auto* form = new QFormLayout(box);
-    addRow(*form, tr("&Rotation:"), rotation_);
-    addRow(*form, tr("Tra&nsparency:"), transparency_);
+    addRow(*form, tr("&Rotation:"), rotation);
+    addRow(*form, tr("Tra&nsparency:"), transparency);
     return box;
-}
-
-void ShapeEditor::load() {
-    const Watermark record = session_.record();
-    binder_.load(record);
-    const bool isLine = record.ShapeType == shape_type::Line;
-    widthLabel_->setText(isLine ? tr("&Length:") : tr("&Width:"));
-    heightLabel_->setText(isLine ? tr("T&hickness:") : tr("&Height:"));
-    width_->load(record.ResizeWidthByPercent ? record.ResizeWidth : record.Width,
-                 record.ResizeWidthByPercent);
-    height_->load(record.ResizeHeightByPercent ? record.ResizeHeight : record.Height,
-                  record.ResizeHeightByPercent);
-    sides_->setEnabled(record.ShapeType == shape_type::Polygon);
-
-    (record.SolidBackground ? solid_ : gradient_)->setChecked(true);
-    solidColor_->setEnabled(record.SolidBackground);
-    for (QWidget* control : std::initializer_list<QWidget*>{firstColor_, secondColor_, direction_}) {
-        control->setEnabled(!record.SolidBackground);
-    }
-    showGradients(record);
-
-    const bool isCircle = record.ShapeType == shape_type::Ellipse && record.Width == record.Height;
-    rotation_->setEnabled(!isCircle);
-    rotation_->setToolTip(isCircle ? tr("A circle looks the same however it is turned") : QString());
-    rotation_->load(record.Rotation);
-    transparency_->load(record.Transparency);
-    position_->load(record);
-}
-
-void ShapeEditor::showGradients(const Watermark& record) {
-    // Records that name no direction go from left to right.
-    const bool isNamed = record.GradeintType >= 1 && record.GradeintType <= 5;
-    direction_->setCurrentIndex(isNamed ? static_cast<int>(record.GradeintType - 1) : 0);
-    const auto colors = std::pair(record.FirstColor, record.SecondColor);
-    if (shownGradient_ == colors) return;
-    shownGradient_ = colors;
-    for (const Choice& choice : Directions) {
-        direction_->setItemIcon(choice.code - 1, gradientIcon(record, choice.code));
-    }
 }
 
 }  // namespace
@@ -290,7 +258,7 @@ void ShapeEditor::showGradients(const Watermark& record) {
 void editShape(const EditorCall& call) {
     WatermarkSession session(call, watermark_type::Shape);
     if (session.isNew()) session.reflect();
-    ShapeEditor(call, session).run();
+    runEditor(call, session, new ShapeEditor(call, session));
 }
 
 }  // namespace zelto

@@ -6,7 +6,8 @@
 #include "app/editors/filter_window.h"
 #include "app/editors/qr_code_editor.h"
 #include "app/editors/shape_editor.h"
-#include "app/editors/text/watermark_window_controller.h"
+#include "app/editors/text/logo_editor.h"
+#include "app/editors/text/text_editor.h"
 
 namespace zelto {
 

@@ -2,9 +2,9 @@
 #include "app/dialogs/folder_window_controller.h"
 
 #include "app/dialogs/standard_dialogs.h"
+#include "app/hands.h"
 #include "app/photos/folder_import.h"
 #include "app/window/main_window.h"
-#include "support/dialogs.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -62,7 +62,7 @@ TEST(AddFolder, TheWindowAddsWhatTheFolderHolds) {
     MainWindow window(shared, standardDialogs(), {});
     window.show();
     for (const bool withSubFolders : {false, true}) {
-        onModal<FolderWindowController>([&](FolderWindowController& dialog) {
+        whenOpened<FolderWindowController>([&](FolderWindowController& dialog) {
             if (withSubFolders) {
                 EXPECT_EQ(dialog.GetIputFoldername(), folder.path()) << "where photos were last added from";
                 click(dialog, "Include sub-folders");

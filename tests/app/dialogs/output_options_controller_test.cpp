@@ -4,12 +4,12 @@
 #include "app/dialogs/example_view.h"
 #include "app/dialogs/resize_field.h"
 #include "app/dialogs/standard_dialogs.h"
+#include "app/hands.h"
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/window/dialog_set.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
-#include "support/dialogs.h"
 #include "support/test_pictures.h"
 
 #include <QCheckBox>
@@ -272,7 +272,7 @@ TEST_F(OutputOptionsDialog, TheExampleFollowsEveryEdit) {
 }
 
 TEST_F(OutputOptionsDialog, TheChosenFolderIsRemembered) {
-    onModal<QFileDialog>([this](QFileDialog& chooser) {
+    whenOpened<QFileDialog>([this](QFileDialog& chooser) {
         chooser.setDirectory(out());
         chooser.selectFile(out());
         QMetaObject::invokeMethod(&chooser, "accept");
@@ -285,7 +285,7 @@ TEST_F(OutputOptionsDialog, TheChosenFolderIsRemembered) {
 TEST_F(OutputOptionsDialog, TheNextRunStartsFromTheOptionsOfTheLast) {
     QWidget window;
     const auto run = [&](const std::function<void(OutputOptionsController&)>& act) {
-        onModal<OutputOptionsController>(act);
+        whenOpened<OutputOptionsController>(act);
         return standardDialogs().outputOptions(&window, photos, watermarks, true);
     };
     const auto started = run([this](OutputOptionsController& shown) {

@@ -4,12 +4,12 @@
 #include "app/dialogs/import_export_window_controller.h"
 #include "app/dialogs/save_settings_dialog.h"
 #include "app/dialogs/standard_dialogs.h"
+#include "app/hands.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/window/dialog_set.h"
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
-#include "support/dialogs.h"
 
 #include <QDir>
 #include <QFile>
@@ -72,7 +72,7 @@ TEST_F(SettingsDialogs, SavingAsksBeforeItOverwrites) {
     for (const Row& row : rows) {
         watermarks.replaceStack(stackOf(QLatin1String(row.text)), {}, {});
         messages.answerWith(row.answer);
-        onModal<SaveSettingsDialog>([&](SaveSettingsDialog& dialog) {
+        whenOpened<SaveSettingsDialog>([&](SaveSettingsDialog& dialog) {
             auto& name = control<QLineEdit>(dialog, "Name of the setting");
             EXPECT_FALSE(button(dialog, "Save").isEnabled()) << "an empty name does nothing";
             retype(name, u"a/b"_s);
@@ -97,7 +97,7 @@ class SettingsList : public SettingsDialogs {
     }
 
     void open(const std::function<void(ExistingSettingsWindowController&)>& act) {
-        onModal<ExistingSettingsWindowController>([&act](ExistingSettingsWindowController& dialog) {
+        whenOpened<ExistingSettingsWindowController>([&act](ExistingSettingsWindowController& dialog) {
             EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.selectedName().isEmpty(); }));
             act(dialog);
             if (dialog.isVisible()) dialog.reject();
@@ -194,7 +194,7 @@ TEST_F(SettingsList, SaysWhatASettingHoldsAndWhatIsWrong) {
 class SettingsCopy : public SettingsDialogs {
   protected:
     void copy(CopyMode mode, const QString& path, const QString& prompt = {}) {
-        onModal<ImportExportWindowController>([&](ImportExportWindowController& dialog) {
+        whenOpened<ImportExportWindowController>([&](ImportExportWindowController& dialog) {
             const char* text = mode == CopyMode::Import ? "Import" : "Export";
             EXPECT_TRUE(says(dialog, prompt)) << prompt.toStdString();
             EXPECT_FALSE(button(dialog, text).isEnabled()) << "no folder";

@@ -2,8 +2,8 @@
 #include "app/dialogs/tips_dialog.h"
 
 #include "app/common/my_global_instance.h"
+#include "app/hands.h"
 #include "platform/preferences.h"
-#include "support/dialogs.h"
 
 #include <QLabel>
 

@@ -1,72 +1,70 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/editors/editor_test.h"
+#include "app/editor_fixture.h"
 #include "persistence/copyright_file.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
 
 namespace zelto {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 struct LineRow {
     const char* name;
     QString CopyRightMetaData::*text;
 };
-#define LINE(field)                       \
-    LineRow {                             \
-#field, &CopyRightMetaData::field \
-    }
+using Data = CopyRightMetaData;
 constexpr LineRow Lines[] = {
-    LINE(CopyrightText),  LINE(CopyrightURL), LINE(RightsUsageTerms),  LINE(Creator),
-    LINE(CreatorAddress), LINE(CreatorCity),  LINE(CreatorCountry),    LINE(CreatorJobTitle),
-    LINE(CreatorMail),    LINE(CreatorPhone), LINE(CreatorPostalCode), LINE(CreatorState),
-    LINE(CreatorWebsite),
+    {"CopyrightText", &Data::CopyrightText},
+    {"CopyrightURL", &Data::CopyrightURL},
+    {"RightsUsageTerms", &Data::RightsUsageTerms},
+    {"Creator", &Data::Creator},
+    {"CreatorAddress", &Data::CreatorAddress},
+    {"CreatorCity", &Data::CreatorCity},
+    {"CreatorCountry", &Data::CreatorCountry},
+    {"CreatorJobTitle", &Data::CreatorJobTitle},
+    {"CreatorMail", &Data::CreatorMail},
+    {"CreatorPhone", &Data::CreatorPhone},
+    {"CreatorPostalCode", &Data::CreatorPostalCode},
+    {"CreatorState", &Data::CreatorState},
+    {"CreatorWebsite", &Data::CreatorWebsite},
 };
-#undef LINE
 
 class CopyrightEditorTest : public EditorTest {
   protected:
-    const std::optional<CopyRightMetaData>& metadata() { return window.watermarks().Metadata(); }
-
-    static CopyRightMetaData kept() {
-        CopyRightMetaData read;
+    const std::optional<Data>& metadata() { return window.watermarks().Metadata(); }
+    static Data kept() {
+        Data read;
         EXPECT_TRUE(LoadMetadata(read, copyrightFilePath().value()).has_value());
         return read;
     }
+    void editData(const Drive& drive) { edit(Act::AddCopyright, drive, Qt::Key_Return); }
 };
 
 TEST_F(CopyrightEditorTest, AllThatIsEnteredIsSetAndKept) {
-    CopyRightMetaData expected;
+    Data expected;
     expected.Enabled = true;
-    expected.CopyrightTextStatus = QStringLiteral("Protected");
-    edit(
-        Act::AddCopyright,
-        [&expected](QDialog& editor) {
-            for (const LineRow& line : Lines) {
-                const QString text = QLatin1String(line.name) + QStringLiteral(" <1> & more");
-                type(editor, line.name, text);
-                expected.*line.text = text;
-            }
-            choose(editor, "CopyrightTextStatus", 2);
-        },
-        Qt::Key_Return);
+    expected.CopyrightTextStatus = u"Protected"_s;
+    editData([&expected](QDialog& editor) {
+        for (const LineRow& line : Lines) {
+            expected.*line.text = QLatin1String(line.name) + u" <1> & more"_s;
+            type(editor, line.name, expected.*line.text);
+        }
+        choose(editor, "CopyrightTextStatus", 2);
+    });
     EXPECT_TRUE(metadata() == expected);
     EXPECT_TRUE(kept() == expected);
 
-    edit(
-        Act::AddCopyright,
-        [&expected](QDialog& editor) {
-            for (const LineRow& line : Lines) {
-                EXPECT_EQ(static_cast<QLineEdit&>(control(editor, line.name)).text(), expected.*line.text);
-            }
-            type(editor, "CreatorCity", {});
-            click(editor, "Enabled");
-        },
-        Qt::Key_Return);
-    expected.CreatorCity = QString();
-    expected.Enabled = false;
-    EXPECT_TRUE(metadata() == expected);
+    editData([&expected](QDialog& editor) {
+        for (const LineRow& line : Lines) {
+            EXPECT_EQ(control<QLineEdit>(editor, line.name).text(), expected.*line.text);
+        }
+        type(editor, "CreatorCity", {});
+        click(editor, "Enabled");
+    });
+    EXPECT_FALSE(metadata()->Enabled);
     EXPECT_TRUE(metadata()->CreatorCity.isNull()) << "an emptied text is not written";
     EXPECT_FALSE(window.document().state().Stack.Metadata);
     history().undo();
@@ -74,28 +72,25 @@ TEST_F(CopyrightEditorTest, AllThatIsEnteredIsSetAndKept) {
     history().undo();
     EXPECT_FALSE(metadata().has_value());
 
-    edit(
-        Act::AddCopyright, [](QDialog&) {}, Qt::Key_Return);
-    expected.Enabled = true;
+    editData([](QDialog&) {});
+    expected.CreatorCity.clear();
     EXPECT_TRUE(metadata() == expected) << "what was kept is offered again";
 }
 
-TEST_F(CopyrightEditorTest, CancellingChangesNothing) {
-    edit(Act::AddCopyright, [](QDialog& editor) { type(editor, "Creator", QStringLiteral("nobody")); });
+TEST_F(CopyrightEditorTest, CancelledOrNotWritableItChangesNothing) {
+    edit(Act::AddCopyright, [](QDialog& editor) { type(editor, "Creator", u"nobody"_s); });
     EXPECT_FALSE(metadata().has_value());
-    EXPECT_NE(kept().Creator, QStringLiteral("nobody"));
-    EXPECT_EQ(history().undoText(), QStringLiteral("Add Photo"));
-}
+    EXPECT_NE(kept().Creator, u"nobody"_s);
+    EXPECT_EQ(history().undoText(), u"Add Photo"_s);
 
-TEST_F(CopyrightEditorTest, WhereTheFileCannotBeWrittenTheFormStays) {
     const QString file = copyrightFilePath().value();
     QFile::remove(file);
-    ASSERT_TRUE(QDir().mkpath(file + QStringLiteral("/in the way")));
+    ASSERT_TRUE(QDir().mkpath(file + u"/in the way"_s));
     edit(Act::AddCopyright, [this](QDialog& editor) {
-        type(editor, "Creator", QStringLiteral("somebody"));
-        const auto told = whenOpened<QMessageBox>([](QMessageBox& box) { box.accept(); });
+        type(editor, "Creator", u"somebody"_s);
+        AnsweredMessages messages;
         press(editor, "Creator", Qt::Key_Return);
-        EXPECT_TRUE(*told);
+        EXPECT_EQ(messages.take().size(), 1);
         EXPECT_TRUE(editor.isVisible());
         EXPECT_FALSE(metadata().has_value());
     });

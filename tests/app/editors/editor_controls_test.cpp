@@ -3,7 +3,7 @@
 #include "app/editors/controls/position_group.h"
 #include "app/editors/controls/rotation_control.h"
 #include "app/editors/controls/transparency_slider.h"
-#include "app/editors/editor_test.h"
+#include "app/hands.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -15,6 +15,7 @@
 namespace zelto {
 namespace {
 
+using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
 
 class Field : public ::testing::Test {
@@ -22,17 +23,12 @@ class Field : public ::testing::Test {
     Field() {
         auto* column = new QVBoxLayout(&dialog);
         for (QWidget* widget : {static_cast<QWidget*>(field), other}) column->addWidget(widget);
-        field->setObjectName(QStringLiteral("field"));
+        field->setObjectName(u"field"_s);
         field->load(5.0);
         QObject::connect(field, &NumberField::valueChanged, &dialog,
                          [this](double value) { told.push_back(value); });
         dialog.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    }
-
-    QString hint() const {
-        const auto* label = dialog.findChild<QLabel*>(QStringLiteral("InputHint"));
-        return label != nullptr && label->isVisible() ? label->text() : QString();
     }
 
     QWidget dialog;
@@ -42,18 +38,18 @@ class Field : public ::testing::Test {
 };
 
 TEST_F(Field, WrongInputStaysIsExplainedAndChangesNothing) {
-    const QString expected = QStringLiteral("A number from 1 to 100000");
+    const QString expected = u"A number from 1 to 100000"_s;
     for (const char* wrong : {"x", "1x", "0", "-3", "0.5.5"}) {
         type(dialog, "field", QLatin1String(wrong));
-        EXPECT_EQ(hint(), expected) << wrong;
+        EXPECT_TRUE(says(dialog, expected)) << wrong;
         EXPECT_EQ(field->cleanText(), QLatin1String(wrong));
     }
     EXPECT_THAT(told, ElementsAre(1.0)) << "the 1 of 1x";
     other->setFocus();
-    EXPECT_EQ(field->text(), QStringLiteral("1 px"));
-    EXPECT_EQ(hint(), QString());
-    type(dialog, "field", QStringLiteral("12"));
-    EXPECT_EQ(hint(), QString());
+    EXPECT_EQ(field->text(), u"1 px"_s);
+    EXPECT_FALSE(says(dialog, expected));
+    type(dialog, "field", u"12"_s);
+    EXPECT_FALSE(says(dialog, expected));
     EXPECT_THAT(told, ElementsAre(1.0, 12.0));
 }
 
@@ -74,77 +70,146 @@ TEST_F(Field, OnlyTheFieldInUseScrolls) {
 TEST(RotationControl, ItsPartsShowWhatTheOthersChoose) {
     RotationControl rotation;
     std::vector<qint64> told;
-    QObject::connect(&rotation, &RotationControl::rotationChosen, &rotation,
+    QObject::connect(&rotation, &RotationControl::chosen, &rotation,
                      [&told](qint64 degrees) { told.push_back(degrees); });
     const auto shown = [&rotation] {
-        return QStringLiteral("%1 %2 %3")
-            .arg(rotation.field().value())
+        return u"%1 %2 %3"_s.arg(rotation.field().value())
             .arg((rotation.dial().value() + 180) % 360)
             .arg(rotation.presets().currentText());
     };
-    struct Row {
-        qint64 degrees;
-        const char* shown;
-    };
-    for (const Row& row : {Row{0, "0 0 Straight"}, Row{-45, "-45 315 Rising diagonally"},
-                           Row{315, "315 315 Rising diagonally"}, Row{360, "360 0 Straight"},
-                           Row{33, "33 33 "}, Row{-3600 + 90, "90 90 Downward"}}) {
-        rotation.load(row.degrees);
-        EXPECT_EQ(shown(), QLatin1String(row.shown)) << row.degrees;
+    for (const auto& [degrees, expected] : {std::pair(0, "0 0 Straight"),
+                                            {-45, "-45 315 Rising diagonally"},
+                                            {315, "315 315 Rising diagonally"},
+                                            {360, "360 0 Straight"},
+                                            {33, "33 33 "},
+                                            {-3600 + 90, "90 90 Downward"}}) {
+        rotation.load(degrees);
+        EXPECT_EQ(shown(), QLatin1String(expected)) << degrees;
     }
     EXPECT_TRUE(told.empty());
     rotation.load(0);
     QTest::keyClick(&rotation.dial(), Qt::Key_Down);
     QTest::keyClick(&rotation.dial(), Qt::Key_PageUp);
-    EXPECT_EQ(shown(), QStringLiteral("14 14 "));
+    EXPECT_EQ(shown(), u"14 14 "_s);
     QTest::keyClick(&rotation.presets(), Qt::Key_End);
-    EXPECT_EQ(shown(), QStringLiteral("180 180 Upside down"));
+    EXPECT_EQ(shown(), u"180 180 Upside down"_s);
     EXPECT_THAT(told, ElementsAre(359, 14, 180));
 }
 
-TEST(PositionGroup, TilingIsOfferedWithItsRules) {
-    PositionGroup group(PositionGroup::Tiling::Offered);
-    Watermark record(watermark_type::Text);
-    record.Position = 7;
-    QObject::connect(&group, &PositionGroup::edited, &group, [&](const WatermarkEdit& edit) {
+// Rotation, transparency and position as every editor binds them.
+TEST(RecordBinder, EachControlChangesItsFieldsAndNoOthers) {
+    Watermark record(watermark_type::Shape);
+    int loads = 0;
+    std::unique_ptr<RecordBinder<Watermark>> binder;
+    binder = std::make_unique<RecordBinder<Watermark>>([&](const auto& edit) {
         edit(record);
-        group.load(record);
+        binder->load(record);
+        ++loads;
     });
-    group.load(record);
-    group.show();
-    EXPECT_FALSE(control(group, "HorizontalSpacing").isVisible());
-    click(group, "HorizontalTiling");
-    EXPECT_EQ(record.Position, 2);
-    EXPECT_TRUE(group.grid().cell(2).isChecked());
-    EXPECT_FALSE(group.grid().cell(1).isEnabled());
-    EXPECT_FALSE(control(group, "CustomPosition").isEnabled());
-    type(group, "HorizontalSpacing", QStringLiteral("-15"));
-    EXPECT_EQ(record.HorizontalSpacing, -15);
-    group.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&group));
-    group.grid().cell(2).setFocus();
-    QTest::keyClick(&group.grid().cell(2), Qt::Key_Down);
-    EXPECT_EQ(record.Position, 5) << "from cell to cell with the keyboard";
-    click(group, "VerticalTiling");
-    type(group, "VerticalSpacing", QStringLiteral("20"));
-    type(group, "PaddingRight", QStringLiteral("3"));
-    EXPECT_TRUE(record.VerticalTiling);
-    EXPECT_EQ(record.VerticalSpacing, 20);
-    EXPECT_EQ(record.PaddingRight, 3);
-    EXPECT_EQ(record.Position, 5);
+    QWidget editor;
+    auto* rotation = new RotationControl(&editor);
+    rotation->setObjectName(u"Rotation"_s);
+    binder->bind(rotation, &Watermark::Rotation);
+    auto* transparency = new TransparencySlider(&editor);
+    transparency->setObjectName(u"Transparency"_s);
+    transparency->field().setObjectName(u"Percent"_s);
+    binder->bind(transparency, &Watermark::Transparency);
+    auto* position = new PositionGroup(*binder, PositionGroup::Tiling::Offered, &editor);
+    auto* column = new QVBoxLayout(&editor);
+    for (QWidget* part : std::initializer_list<QWidget*>{rotation, transparency, position}) {
+        column->addWidget(part);
+    }
+    editor.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+
+    struct Row {
+        const char* name;
+        const char* typed;  // none for a click
+        std::function<void(Watermark&)> expected;
+        std::function<void(Watermark&)> start = [](Watermark&) {};
+    };
+    using W = Watermark;
+    const auto custom = [](W& w) { w.Position = CustomPosition; };
+    const auto tiled = [](W& w) { w.HorizontalTiling = w.VerticalTiling = true; };
+    const Row rows[] = {
+        {"Rotation", "-30", [](W& w) { w.Rotation = -30; }},
+        {"Percent", "35", [](W& w) { w.Transparency = 0.65F; }},
+        {"Cell9", nullptr, [](W& w) { w.Position = 9; }},
+        {"Cell5", nullptr, [](W& w) { w.Position = 5, w.Alignment = 2; },
+         [](W& w) { w.Type = watermark_type::Text; }},
+        {"PaddingTop", "7", [](W& w) { w.PaddingTop = 7; }},
+        {"PaddingLeft", "-8", [](W& w) { w.PaddingLeft = -8; }},
+        {"PaddingBottom", "5", [](W& w) { w.PaddingBottom = 5; }, tiled},
+        {"PaddingRight", "3", [](W& w) { w.PaddingRight = 3; }, tiled},
+        {"CustomPosition", nullptr, custom},
+        {"CustomPositionLeft", "40", [](W& w) { w.CustomPositionLeft = 40; }, custom},
+        {"CustomPositionTop", "30", [](W& w) { w.CustomPositionTop = 30; }, custom},
+        {"HorizontalTiling", nullptr, [](W& w) { w.HorizontalTiling = true, w.Position = 2; }},
+        {"VerticalTiling", nullptr, [](W& w) { w.VerticalTiling = true, w.Position = 4; }},
+        {"HorizontalSpacing", "-15", [](W& w) { w.HorizontalSpacing = -15; }, tiled},
+        {"VerticalSpacing", "20", [](W& w) { w.VerticalSpacing = 20; }, tiled},
+    };
+    for (const Row& row : rows) {
+        record = Watermark(watermark_type::Shape);
+        row.start(record);
+        binder->load(record);
+        Watermark expected = record;
+        row.expected(expected);
+        loads = 0;
+        row.typed != nullptr ? type(editor, row.name, QLatin1String(row.typed)) : click(editor, row.name);
+        EXPECT_TRUE(record == expected) << row.name;
+        EXPECT_GT(loads, 0) << row.name;
+    }
 }
 
-TEST(TransparencySlider, TheFigureIsThatOfTheRecord) {
+TEST(RecordBinder, ThePlaceShowsWhatCanBeUsed) {
+    Watermark record(watermark_type::Text);
+    RecordBinder<Watermark>* self = nullptr;
+    RecordBinder<Watermark> binder([&](const auto& edit) {
+        edit(record);
+        self->load(record);
+    });
+    self = &binder;
+    PositionGroup group(binder, PositionGroup::Tiling::Offered);
+    group.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&group));
+    record.Position = 7;
+    record.Alignment = 2;
+    binder.load(record);
+    EXPECT_TRUE(control(group, "PaddingBottom").isEnabled() && !control(group, "PaddingTop").isEnabled());
+    click(group, "CustomPosition");
+    EXPECT_TRUE(control(group, "CustomPositionTop").isEnabled() && !control(group, "Cell7").isEnabled());
+    click(group, "PresetPosition");
+    EXPECT_EQ(record.Position, 7) << "back where it was";
+    EXPECT_EQ(record.Alignment, 2U) << "which chooses no alignment";
+    EXPECT_TRUE(group.grid().cell(7).isChecked());
+
+    EXPECT_FALSE(control(group, "HorizontalSpacing").isVisible());
+    click(group, "HorizontalTiling");
+    EXPECT_TRUE(control(group, "HorizontalSpacing").isVisible());
+    EXPECT_TRUE(group.grid().cell(2).isChecked() && !group.grid().cell(1).isEnabled());
+    EXPECT_FALSE(control(group, "CustomPosition").isEnabled());
+    press(group, "Cell2", Qt::Key_Down);
+    EXPECT_EQ(record.Position, 5) << "from cell to cell with the keyboard";
+}
+
+TEST(TransparencySlider, SliderAndFieldShowTheRecord) {
     TransparencySlider slider;
-    float told = -1.0F;
-    QObject::connect(&slider, &TransparencySlider::transparencyChosen, &slider,
-                     [&told](float transparency) { told = transparency; });
+    std::vector<float> told;
+    QObject::connect(&slider, &TransparencySlider::chosen, &slider,
+                     [&told](float transparency) { told.push_back(transparency); });
     slider.load(0.333F);
-    EXPECT_EQ(slider.label(), QStringLiteral("67%"));
-    EXPECT_EQ(told, -1.0F);
+    EXPECT_EQ(slider.field().text(), u"67%"_s);
+    EXPECT_TRUE(told.empty());
     QTest::keyClick(&slider.slider(), Qt::Key_End);
-    EXPECT_EQ(slider.label(), QStringLiteral("100%"));
-    EXPECT_EQ(told, 0.0F);
+    EXPECT_EQ(slider.field().text(), u"100%"_s);
+    slider.field().setValue(50.0);
+    EXPECT_EQ(slider.slider().value(), 50);
+    EXPECT_THAT(told, ElementsAre(0.0F, 0.5F));
+    for (int percent = 0; percent <= 100; ++percent) {
+        EXPECT_EQ(transparencyPercent(transparencyOf(percent)), percent);
+    }
+    EXPECT_EQ(transparencyPercent(2.0F), 0) << "more than opaque";
 }
 
 }  // namespace

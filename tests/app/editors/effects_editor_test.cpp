@@ -1,49 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/editors/editor_test.h"
+#include "app/editor_fixture.h"
 #include "app/editors/effect_rules.h"
-
-#include <QCheckBox>
-
-#include <functional>
 
 namespace zelto {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 TEST(EffectRules, EverySetOfSidesHasADirection) {
-    constexpr unsigned Top = 1;
-    constexpr unsigned Left = 2;
-    constexpr unsigned Right = 4;
-    constexpr unsigned Bottom = 8;
     struct Row {
-        unsigned sides;
+        const char* sides;
         std::int64_t direction;
         bool isOneOfNine;  // the others count as one of the nine
     };
     constexpr Row Rows[] = {
-        {Top | Left | Right | Bottom, 0, true},
-        {Top | Right, 45, true},
-        {Top, 90, true},
-        {Top | Left, 135, true},
-        {Left, 180, true},
-        {Bottom | Left, 225, true},
-        {Bottom, 270, true},
-        {Bottom | Right, 315, true},
-        {Right, 360, true},
-        {0, 0, false},
-        {Left | Right, 0, false},
-        {Top | Bottom, 0, false},
-        {Top | Left | Right, 90, false},
-        {Top | Left | Bottom, 180, false},
-        {Bottom | Left | Right, 270, false},
-        {Top | Right | Bottom, 360, false},
+        {"TLRB", 0, true},  {"TR", 45, true},    {"T", 90, true},     {"TL", 135, true},
+        {"L", 180, true},   {"BL", 225, true},   {"B", 270, true},    {"BR", 315, true},
+        {"R", 360, true},   {"", 0, false},      {"LR", 0, false},    {"TB", 0, false},
+        {"TLR", 90, false}, {"TLB", 180, false}, {"BLR", 270, false}, {"TRB", 360, false},
     };
     for (const Row& row : Rows) {
-        const auto has = [&row](unsigned side) { return (row.sides & side) != 0; };
-        const ShadowSides sides{has(Top), has(Left), has(Right), has(Bottom)};
+        const auto has = [&row](char side) { return QLatin1String(row.sides).contains(QLatin1Char(side)); };
+        const ShadowSides sides{.top = has('T'), .left = has('L'), .right = has('R'), .bottom = has('B')};
         PhotoEffects effects;
         setShadowSides(effects, sides);
         EXPECT_EQ(effects.Direction, row.direction) << row.sides;
-        EXPECT_EQ(effects.EnableShadow, row.sides != 0) << row.sides;
+        EXPECT_EQ(effects.EnableShadow, *row.sides != '\0') << row.sides;
         EXPECT_EQ(shadowSides(row.direction) == sides, row.isOneOfNine) << row.sides;
     }
     EXPECT_FALSE(shadowSides(30).any());
@@ -57,40 +39,32 @@ class EffectsEditorTest : public EditorTest {
 TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
     struct Row {
         const char* what;
-        std::function<void(QWidget&)> drive;
+        Drive drive;
         std::function<void(PhotoEffects&)> expected;
     };
     const Row rows[] = {
         {"nothing", [](QWidget&) {}, [](PhotoEffects&) {}},
         {"sides",
          [](QWidget& d) {
-             type(d, "TopThickness", QStringLiteral("1"));
-             type(d, "LeftThickness", QStringLiteral("2"));
-             type(d, "RightThickness", QStringLiteral("3"));
-             type(d, "BottomThickness", QStringLiteral("4"));
+             type(d, "TopThickness", u"1"_s), type(d, "LeftThickness", u"2"_s);
+             type(d, "RightThickness", u"3"_s), type(d, "BottomThickness", u"4"_s);
          },
          [](PhotoEffects& e) {
-             e.TopThickness = 1;
-             e.LeftThickness = 2;
-             e.RightThickness = 3;
-             e.BottomThickness = 4;
+             e.TopThickness = 1, e.LeftThickness = 2, e.RightThickness = 3, e.BottomThickness = 4;
          }},
         {"the same for all",
          [](QWidget& d) {
-             type(d, "LeftThickness", QStringLiteral("99"));
+             type(d, "LeftThickness", u"99"_s);
              click(d, "SameBorder");
              EXPECT_FALSE(control(d, "LeftThickness").isEnabled());
-             type(d, "TopThickness", QStringLiteral("25"));
+             type(d, "TopThickness", u"25"_s);
          },
          [](PhotoEffects& e) {
              e.SameBorder = true;
              e.TopThickness = e.LeftThickness = e.RightThickness = e.BottomThickness = 25;
          }},
         {"colours",
-         [](QWidget& d) {
-             pickColor(d, "BorderColor", Qt::red);
-             pickColor(d, "ShadowColor", Qt::blue);
-         },
+         [](QWidget& d) { pickColor(d, "BorderColor", Qt::red), pickColor(d, "ShadowColor", Qt::blue); },
          [](PhotoEffects& e) {
              e.BorderColor = Color{1.0F, 0.0F, 0.0F};
              e.ShadowColor = Color{0.0F, 0.0F, 1.0F};
@@ -99,16 +73,10 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
          [](PhotoEffects& e) { e.ApplyWatermarkOnBorder = true; }},
         {"shadow",
          [](QWidget& d) {
-             click(d, "ShadowTop");
-             click(d, "ShadowLeft");
-             type(d, "BlurRadius", QStringLiteral("8"));
-             type(d, "Distance", QStringLiteral("6"));
+             click(d, "ShadowTop"), click(d, "ShadowLeft");
+             type(d, "BlurRadius", u"8"_s), type(d, "Distance", u"6"_s);
          },
-         [](PhotoEffects& e) {
-             e.Direction = 315;
-             e.BlurRadius = 8;
-             e.Distance = 6;
-         }},
+         [](PhotoEffects& e) { e.Direction = 315, e.BlurRadius = 8, e.Distance = 6; }},
         {"all sides again",
          [](QWidget& d) {
              for (const char* side : {"ShadowTop", "ShadowLeft", "ShadowRight"}) click(d, side);
@@ -117,18 +85,13 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
          [](PhotoEffects&) {}},
         {"no side is no shadow",
          [](QWidget& d) {
-             for (const char* side : {"ShadowTop", "ShadowLeft", "ShadowBottom", "ShadowRight"}) {
+             for (const char* side : {"ShadowTop", "ShadowLeft", "ShadowBottom", "ShadowRight"})
                  click(d, side);
-             }
              EXPECT_FALSE(control(d, "ShadowRight").isEnabled());
          },
          [](PhotoEffects& e) { e.EnableShadow = false; }},
         {"no shadow for a while",
-         [](QWidget& d) {
-             click(d, "ShadowTop");
-             click(d, "EnableShadow");
-             click(d, "EnableShadow");
-         },
+         [](QWidget& d) { click(d, "ShadowTop"), click(d, "EnableShadow"), click(d, "EnableShadow"); },
          [](PhotoEffects& e) { e.Direction = 270; }},
     };
     for (const Row& row : rows) {
@@ -146,7 +109,7 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
 TEST_F(EffectsEditorTest, ThePhotoFollowsAndTheBorderCanBeTakenAway) {
     edit(Act::AddEffects, [this](QDialog& editor) {
         click(editor, "SameBorder");
-        type(editor, "TopThickness", QStringLiteral("30"));
+        type(editor, "TopThickness", u"30"_s);
         pickColor(editor, "BorderColor", Qt::red);
         EXPECT_EQ(seen().pixelColor(29, 29), QColor(Qt::red));
         EXPECT_EQ(seen().pixel(30, 30), PhotoColor);

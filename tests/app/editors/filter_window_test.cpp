@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/editors/editor_test.h"
+#include "app/editor_fixture.h"
 #include "render/photo_filters.h"
 
 #include <QListWidget>

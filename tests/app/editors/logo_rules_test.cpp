@@ -3,25 +3,23 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace zelto {
 namespace {
 
-Watermark logoOf(float width, float height) {
+Watermark logoOf(int width, int height) {
     Watermark logo(watermark_type::Image);
     logo.Resize = true;
     logo.ResizeFormat = logo_resize::Absolute;
-    setLogo(logo, QStringLiteral("/logo.png"), {}, {static_cast<int>(width), static_cast<int>(height)});
+    setLogo(logo, QStringLiteral("/logo.png"), {}, {width, height});
     return logo;
 }
 
 TEST(LogoRules, OneSideFollowsTheOther) {
     struct Row {
-        float width, height;  // of the file
+        int width, height;  // of the file
         bool keepsAspect;
-        void (*change)(Watermark&, float);
-        float typed;
+        void (*change)(Watermark&, double);
+        double typed;
         float resizeWidth, resizeHeight;
     };
     const Row rows[] = {
@@ -46,30 +44,16 @@ TEST(LogoRules, OneSideFollowsTheOther) {
     }
 }
 
-TEST(LogoRules, SizesInPerCentBelowOneArePassedOver) {
-    Watermark logo(watermark_type::Image);
-    for (const auto& [percent, width] : {std::pair(30.0, 0.3F), {1.0, 0.01F}, {0.0, 0.01F}, {0.9, 0.01F}}) {
-        PropSizeDidChange(logo, percent);
-        EXPECT_EQ(logo.ResizeWidth, width) << percent;
-    }
-}
-
 TEST(LogoRules, SizeControlsFollowTheSwitchAndTheKind) {
-    struct Row {
-        bool resize;
-        std::int64_t format;
-        ResizeControls controls;
-    };
-    const Row rows[] = {{false, 0, {false, false, false}},
-                        {false, 2, {false, false, false}},
-                        {true, 0, {true, true, false}},
-                        {true, 1, {true, true, false}},
-                        {true, 2, {true, false, true}}};
-    for (const Row& row : rows) {
+    for (const auto& [resize, format, controls] : {std::tuple(false, 0, ResizeControls{false, false, false}),
+                                                   {false, 2, {false, false, false}},
+                                                   {true, 0, {true, true, false}},
+                                                   {true, 1, {true, true, false}},
+                                                   {true, 2, {true, false, true}}}) {
         Watermark logo(watermark_type::Image);
-        logo.Resize = row.resize;
-        logo.ResizeFormat = row.format;
-        EXPECT_EQ(resizeControls(logo), row.controls) << row.resize << row.format;
+        logo.Resize = resize;
+        logo.ResizeFormat = format;
+        EXPECT_EQ(resizeControls(logo), controls) << resize << format;
     }
 }
 
@@ -81,9 +65,12 @@ TEST(LogoRules, EachKindOfSizeKeepsItsNumbers) {
     EXPECT_EQ(fields, (ResizeFields{25.0F, 400.0F, 100.0F}));
     chkResizeChecked(logo, true, fields);
     EXPECT_EQ(logo.ResizeWidth, 0.25F);
+    EXPECT_EQ(logo.ResizeFormat, logo_resize::Proportional);
+    PropSizeDidChange(logo, 0.9);
+    EXPECT_EQ(logo.ResizeWidth, 0.25F) << "less than 1 per cent is passed over";
     ResizeTypeChanged(logo, logo_resize::Absolute, fields);
     EXPECT_EQ(logo.ResizeWidth, 400.0F);
-    AbsWidthDidChange(logo, 200.0F);
+    AbsWidthDidChange(logo, 200.0);
     fields = resizeFields(logo, fields);
     ResizeTypeChanged(logo, logo_resize::Proportional, fields);
     EXPECT_EQ(logo.ResizeWidth, 0.25F);

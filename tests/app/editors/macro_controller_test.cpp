@@ -5,18 +5,17 @@
 #include "app/editors/macros/auto_number_window_controller.h"
 #include "app/editors/macros/date_format_window_controller.h"
 #include "app/editors/macros/special_character_window_controller.h"
-#include "app/modal_dialog.h"
+#include "app/hands.h"
+#include "platform/dates.h"
 #include "platform/preferences.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
@@ -41,18 +40,12 @@ class MacroControllerTest : public ::testing::Test {
         EXPECT_TRUE(QTest::qWaitFor([this] { return macros->isComplete(); }, 10000));
     }
 
-    void search(const QString& words) {
-        auto* field = macros->findChild<QLineEdit*>(u"searchMacros"_s);
-        field->selectAll();
-        QTest::keyClicks(field, words);
-    }
+    void search(const QString& words) { type(*macros, "searchMacros", words); }
     QTreeView& list() { return *macros->findChild<QTreeView*>(u"macros"_s); }
     QString valueOfFirst() { return list().model()->index(0, 1).data().toString(); }
 
-    void pressReturn() { QTest::keyClick(macros->findChild<QLineEdit*>(u"searchMacros"_s), Qt::Key_Return); }
-    void pressInsert() {
-        QTest::mouseClick(macros->findChild<QPushButton*>(u"InsertMacro"_s), Qt::LeftButton);
-    }
+    void pressReturn() { press(*macros, "searchMacros", Qt::Key_Return); }
+    void pressInsert() { click(*macros, "InsertMacro"); }
     void doubleClick() {
         const QPoint first = list().visualRect(list().model()->index(0, 0)).center();
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, first);
@@ -94,10 +87,10 @@ TEST_F(MacroControllerTest, DatesAskForTheirFormatAndRememberIt) {
     const auto insertDate = [this](const QString& words, const QString& typed, QString& sample) {
         search(words);
         const auto came = whenOpened<DateFormatWindowControlller>([&](DateFormatWindowControlller& dialog) {
-            auto* field = dialog.findChild<QComboBox*>(u"DateFormat"_s);
-            QTest::keyClicks(field, typed);
-            sample = dialog.findChild<QLabel*>(u"DateFormatSample"_s)->text();
-            QTest::keyClick(field, Qt::Key_Return);
+            auto& field = control<QComboBox>(dialog, "DateFormat");
+            typed.isNull() ? void() : retype(*field.lineEdit(), typed);
+            sample = control<QLabel>(dialog, "DateFormatSample").text();
+            QTest::keyClick(&field, Qt::Key_Return);
         });
         pressReturn();
         return *came;
@@ -108,6 +101,11 @@ TEST_F(MacroControllerTest, DatesAskForTheirFormatAndRememberIt) {
     EXPECT_EQ(sample, QDate::currentDate().toString(u"dd.MM.yyyy"_s));
     EXPECT_TRUE(insertDate(u"iptc:date"_s, {}, sample));
     EXPECT_EQ(text.toPlainText(), u"a<<TODAYDATE[d.m.y]>><<IPTC:DateCreated[d.m.y]>>b"_s);
+    // Without a format the sample, too, is what the macro prints.
+    EXPECT_TRUE(insertDate(u"iptc:date"_s, u""_s, sample));
+    EXPECT_EQ(sample, QString());
+    EXPECT_TRUE(insertDate(u"today"_s, u""_s, sample));
+    EXPECT_EQ(sample, formatShortDate(QDateTime::currentDateTime(), userDateLocale()));
 }
 
 TEST_F(MacroControllerTest, RunningNumbersAreComposed) {
@@ -115,24 +113,25 @@ TEST_F(MacroControllerTest, RunningNumbersAreComposed) {
     search(u"auto"_s);
     QString shown;
     const auto came = whenOpened<AutoNumberWindowController>([&](AutoNumberWindowController& dialog) {
-        const auto type = [&](const QString& name, const QString& typed) {
-            auto* field = dialog.findChild<QLineEdit*>(name);
-            field->selectAll();
-            QTest::keyClicks(field, typed);
-            return field->text();
-        };
-        EXPECT_EQ(type(u"txtIncrement"_s, u"0"_s), u"1"_s);
-        EXPECT_EQ(type(u"txtIncrement"_s, u"-"_s), u"1"_s);
-        EXPECT_EQ(type(u"txtIncrement"_s, u"5"_s), u"5"_s);
-        EXPECT_EQ(type(u"txtDigits"_s, u"4"_s), u"4"_s);
-        auto* again = dialog.findChild<QCheckBox*>(u"chkContinue"_s);
+        for (const auto& [name, typed, shows] : {std::tuple("txtIncrement", u"0"_s, u"1"_s),
+                                                 {"txtIncrement", u"-"_s, u"1"_s},
+                                                 {"txtIncrement", u"5"_s, u"5"_s},
+                                                 {"txtStartingNumber", u"+7"_s, u"7"_s},
+                                                 {"txtStartingNumber", u"1"_s, u"1"_s},
+                                                 {"txtDigits", u"101"_s, u"100"_s},
+                                                 {"txtDigits", u"4"_s, u"4"_s}}) {
+            auto& field = control<QLineEdit>(dialog, name);
+            field.selectAll();
+            QTest::keyClicks(&field, typed);
+            EXPECT_EQ(field.text(), shows) << name;
+        }
         const QString macro = dialog.MacroName();
-        QTest::keyClick(again, Qt::Key_Space);
+        press(dialog, "chkContinue", Qt::Key_Space);
         EXPECT_EQ(dialog.MacroName(), u"<<AUTO:##58+5>>"_s);
-        QTest::keyClick(again, Qt::Key_Space);
+        press(dialog, "chkContinue", Qt::Key_Space);
         EXPECT_EQ(dialog.MacroName(), macro) << "counting starts at 1 again";
-        shown = dialog.findChild<QLabel*>(u"lblMacro"_s)->text();
-        QTest::mouseClick(dialog.findChild<QPushButton*>(u"btnInsertMacro"_s), Qt::LeftButton);
+        shown = control<QLabel>(dialog, "lblMacro").text();
+        click(dialog, "btnInsertMacro");
     });
     pressInsert();
     EXPECT_TRUE(*came);
@@ -144,19 +143,18 @@ TEST_F(MacroControllerTest, SpecialCharactersAreFoundByName) {
     const auto came =
         whenOpened<SpecialCharacterWindowController>([](SpecialCharacterWindowController& dialog) {
             EXPECT_EQ(dialog.character(), u"€"_s) << "the table begins with it";
-            auto* field = dialog.findChild<QLineEdit*>(u"search"_s);
-            auto* list = dialog.findChild<QListView*>(u"items"_s);
-            EXPECT_EQ(list->model()->rowCount(), 128);
-            QTest::keyClicks(field, u"grinning face"_s);
+            auto& list = control<QListView>(dialog, "items");
+            EXPECT_EQ(list.model()->rowCount(), 128);
+            type(dialog, "search", u"grinning face"_s);
             EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.character() == u"😀"_s; }, 10000));
-            QTest::keyClick(field, Qt::Key_Down);
-            QTest::keyClick(list, Qt::Key_Right);
+            press(dialog, "search", Qt::Key_Down);
+            QTest::keyClick(&list, Qt::Key_Right);
             EXPECT_NE(dialog.character(), u"😀"_s);
-            QTest::keyClick(list, Qt::Key_Left);
-            EXPECT_TRUE(dialog.findChild<QLabel*>(u"name"_s)->text().contains(u"GRINNING FACE\nU+1F600"_s));
-            QTest::keyClick(list, Qt::Key_Return);
+            QTest::keyClick(&list, Qt::Key_Left);
+            EXPECT_TRUE(says(dialog, u"GRINNING FACE\nU+1F600"_s));
+            QTest::keyClick(&list, Qt::Key_Return);
         });
-    QTest::mouseClick(macros->findChild<QPushButton*>(u"SpecialCharacter"_s), Qt::LeftButton);
+    click(*macros, "SpecialCharacter");
     EXPECT_TRUE(*came);
     EXPECT_EQ(text.toPlainText(), u"a😀b"_s);
 }

@@ -6,47 +6,36 @@
 namespace zelto {
 namespace {
 
-// What can be used, as letters: y the type, c the custom fields, cells by number, t l b r the paddings.
-QString enabled(const Watermark& record) {
-    const PositionControls controls = EnableDisablePositionControls(record);
-    QString letters;
-    const auto add = [&letters](bool on, char letter) {
-        if (on) letters += QLatin1Char(letter);
-    };
-    add(controls.type, 'y');
-    add(controls.custom, 'c');
-    for (int cell = 1; cell <= 9; ++cell) add(controls.hasCell(cell), static_cast<char>('0' + cell));
-    const PaddingControls padding = controls.padding;
-    add(padding.top, 't');
-    add(padding.left, 'l');
-    add(padding.bottom, 'b');
-    add(padding.right, 'r');
-    return letters;
-}
-
 TEST(PositionRules, ControlsFollowThePositionAndTheTiling) {
     struct Row {
-        std::int32_t position;
-        bool across;
-        bool down;
-        const char* expected;
+        const char* what;    // the position; a and d for tiling across and down
+        const char* usable;  // y the type, c the custom fields, cells by number, t l b r the paddings
     };
     constexpr Row Rows[] = {
-        {1, false, false, "y123456789tl"}, {2, false, false, "y123456789tl"},
-        {3, false, false, "y123456789tr"}, {4, false, false, "y123456789tl"},
-        {5, false, false, "y123456789tl"}, {6, false, false, "y123456789tr"},
-        {7, false, false, "y123456789lb"}, {8, false, false, "y123456789lb"},
-        {9, false, false, "y123456789br"}, {10, false, false, "yc"},
-        {0, false, false, "y123456789"},   {2, true, false, "258tlbr"},
-        {4, false, true, "456tlbr"},       {7, true, true, "tlbr"},
-        {10, true, true, "tlbr"},
+        {"1", "y123456789tl"}, {"2", "y123456789tl"}, {"3", "y123456789tr"}, {"4", "y123456789tl"},
+        {"5", "y123456789tl"}, {"6", "y123456789tr"}, {"7", "y123456789lb"}, {"8", "y123456789lb"},
+        {"9", "y123456789br"}, {"10", "yc"},          {"0", "y123456789"},   {"2a", "258tlbr"},
+        {"4d", "456tlbr"},     {"7ad", "tlbr"},       {"10ad", "tlbr"},
     };
     for (const Row& row : Rows) {
+        const QLatin1String what(row.what);
         Watermark record(watermark_type::Text);
-        record.Position = row.position;
-        record.HorizontalTiling = row.across;
-        record.VerticalTiling = row.down;
-        EXPECT_EQ(enabled(record), QLatin1String(row.expected)) << row.position << row.across << row.down;
+        record.Position = QString(what).remove(u'a').remove(u'd').toInt();
+        record.HorizontalTiling = what.contains(u'a');
+        record.VerticalTiling = what.contains(u'd');
+        const PositionControls controls = EnableDisablePositionControls(record);
+        QString usable;
+        const auto add = [&usable](bool on, int letter) {
+            if (on) usable += QChar(letter);
+        };
+        add(controls.type, 'y');
+        add(controls.custom, 'c');
+        for (int cell = 1; cell <= 9; ++cell) add(controls.hasCell(cell), '0' + cell);
+        add(controls.padding.top, 't');
+        add(controls.padding.left, 'l');
+        add(controls.padding.bottom, 'b');
+        add(controls.padding.right, 'r');
+        EXPECT_EQ(usable, QLatin1String(row.usable)) << row.what;
     }
 }
 
@@ -77,14 +66,6 @@ TEST(PositionRules, TextsAreAlignedToTheirColumn) {
         setPresetPosition(shape, cell);
         EXPECT_EQ(shape.Alignment, 0U);
     }
-}
-
-TEST(PositionRules, EveryPercentOfTransparencyComesBack) {
-    for (int percent = 0; percent <= 100; ++percent) {
-        EXPECT_EQ(transparencyPercent(transparencyOf(percent)), percent);
-    }
-    EXPECT_EQ(transparencyOf(100), 0.0F);
-    EXPECT_EQ(transparencyPercent(2.0F), 0) << "more than opaque";
 }
 
 }  // namespace

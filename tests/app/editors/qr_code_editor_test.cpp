@@ -1,38 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/editors/editor_test.h"
+#include "app/editor_fixture.h"
 #include "app/editors/macros/macro_controller.h"
 #include "support/qr_reader.h"
 
-#include <QLabel>
+#include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 
 namespace zelto {
 namespace {
 
-using QrCodeEditorTest = EditorTest;
+using namespace Qt::StringLiterals;
 
-// Whether the editor comes to say something about the code.
-bool says(QWidget& editor, const QString& words) {
-    const auto* label = editor.findChild<QLabel*>(QStringLiteral("Judgement"));
-    return QTest::qWaitFor([&] { return label->text().contains(words); }, 5000);
-}
+using QrCodeEditorTest = EditorTest;
 
 TEST_F(QrCodeEditorTest, WhatIsTypedCanBeReadFromThePhoto) {
     edit(Act::AddQrCode, [this](QDialog& editor) {
         EXPECT_TRUE(records().empty()) << "a code of nothing";
-        QTest::keyClicks(&control(editor, "Text"), QStringLiteral("https://example.com/<<IMGNAME>>"));
-        EXPECT_EQ(readQrCodes(seen()), QStringList(QStringLiteral("https://example.com/photo")));
-        EXPECT_TRUE(says(editor, QStringLiteral("squares")));
-        type(editor, "Size", QStringLiteral("10"));
-        EXPECT_TRUE(says(editor, QStringLiteral("Too small")));
+        QTest::keyClicks(&control(editor, "Text"), u"https://example.com/<<IMGNAME>>"_s);
+        EXPECT_EQ(readQrCodes(seen()), QStringList(u"https://example.com/photo"_s));
+        const auto comesToSay = [&editor](const QString& words) {
+            return QTest::qWaitFor([&] { return says(editor, words); }, 5000);
+        };
+        EXPECT_TRUE(comesToSay(u"25 × 25 squares"_s));
+        type(editor, "Size", u"10"_s);
+        EXPECT_TRUE(comesToSay(u"Too small"_s));
         choose(editor, "Size", 0);
-        type(editor, "Size", QStringLiteral("250"));
+        type(editor, "Size", u"250"_s);
         click(editor, "Cell5");
         pickColor(editor, "ShadowColor", Qt::yellow);
         const QImage photo = seen();
-        EXPECT_EQ(readQrCodes(photo), QStringList(QStringLiteral("https://example.com/photo")));
+        EXPECT_EQ(readQrCodes(photo), QStringList(u"https://example.com/photo"_s));
         EXPECT_EQ(photo.pixelColor(180, 200), QColor(Qt::yellow));
         click(editor, "HasBackground");
         EXPECT_EQ(seen().pixel(180, 200), PhotoColor);
@@ -46,39 +43,40 @@ TEST_F(QrCodeEditorTest, WhatIsTypedCanBeReadFromThePhoto) {
 }
 
 TEST_F(QrCodeEditorTest, AnEmptiedCodeKeepsItsPlaceUntilTheEditorIsClosed) {
-    for (const char* text : {"first", "second"}) {
-        edit(Act::AddQrCode,
-             [text](QDialog& editor) { QTest::keyClicks(&control(editor, "Text"), QLatin1String(text)); });
+    for (const QString& text : {u"first"_s, u"second"_s}) {
+        edit(Act::AddQrCode, [text](QDialog& editor) { type(editor, "Text", text); });
     }
-    window.watermarks().selectWatermark(0);
-    edit(Act::EditWatermark, [this](QDialog& editor) {
+    const auto texts = [this] {
+        QStringList all;
+        for (const Watermark& record : records()) all += record.Text;
+        return all.join(u' ');
+    };
+    editRecord(0, [&](QDialog& editor) {
         type(editor, "Text", {});
-        EXPECT_EQ(records().size(), 2U);
-        QTest::keyClicks(&control(editor, "Text"), QStringLiteral("third"));
+        EXPECT_EQ(texts(), u" second"_s);
+        type(editor, "Text", u"third"_s);
     });
-    ASSERT_EQ(records().size(), 2U);
-    EXPECT_EQ(records()[0].Text, QStringLiteral("third"));
-    edit(Act::EditWatermark, [](QDialog& editor) { type(editor, "Text", {}); });
-    ASSERT_EQ(records().size(), 1U);
-    EXPECT_EQ(records()[0].Text, QStringLiteral("second"));
+    EXPECT_EQ(texts(), u"third second"_s);
+    editRecord(0, [](QDialog& editor) { type(editor, "Text", {}); });
+    EXPECT_EQ(texts(), u"second"_s);
     history().undo();
-    ASSERT_EQ(records().size(), 2U);
-    EXPECT_EQ(records()[0].Text, QStringLiteral("third"));
+    EXPECT_EQ(texts(), u"third second"_s);
 }
 
-TEST_F(QrCodeEditorTest, MacrosAreInsertedAtTheCursor) {
-    edit(Act::AddQrCode, [](QDialog& editor) {
-        QTest::keyClicks(&control(editor, "Text"), QStringLiteral("ab"));
+TEST_F(QrCodeEditorTest, HardBlanksAndMacrosGoToTheCursor) {
+    edit(Act::AddQrCode, [this](QDialog& editor) {
+        QInputMethodEvent typed;
+        typed.setCommitString(u"a\u00A0b"_s);
+        QApplication::sendEvent(&control(editor, "Text"), &typed);
         press(editor, "Text", Qt::Key_Left);
         click(editor, "Macros");
         auto* macros = editor.findChild<MacroController*>();
         ASSERT_NE(macros, nullptr);
         EXPECT_TRUE(QTest::qWaitFor([macros] { return macros->isComplete(); }, 10000));
-        auto* search = macros->findChild<QLineEdit*>(QStringLiteral("searchMacros"));
-        QTest::keyClicks(search, QStringLiteral("photo.png"));
-        QTest::keyClick(search, Qt::Key_Return);
-        EXPECT_EQ(editor.findChild<QPlainTextEdit*>(QStringLiteral("Text"))->toPlainText(),
-                  QStringLiteral("a<<IMGNAMEEXT>>b"));
+        auto& search = control<QLineEdit>(*macros, "searchMacros");
+        QTest::keyClicks(&search, u"photo.png"_s);
+        QTest::keyClick(&search, Qt::Key_Return);
+        EXPECT_EQ(record().Text, u"a\u00A0<<IMGNAMEEXT>>b"_s);
         macros->window()->close();
     });
 }

@@ -1,199 +1,177 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The text editor, driven with mouse and keys.
-#include "app/editors/controls/position_grid.h"
-#include "app/editors/editor_window.h"
+#include "app/editor_fixture.h"
+#include "platform/preferences.h"
 
 #include <QFontDatabase>
 #include <QInputMethodEvent>
-#include <QLabel>
 #include <QTabWidget>
-
-#include <functional>
 
 namespace zelto {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-Watermark sampleText() {
-    Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
-    text.Text = u"Shore"_s;
-    text.FontFamily = u"DejaVu Sans"_s;
-    text.IsRelative = true;
-    text.FontSize = 8;
-    text.FontRelativeSize = u"Width"_s;
-    text.TextColor = Color::white();
-    text.ShadowColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
-    text.Position = 7;
-    return text;
-}
+class TextEditorTest : public EditorTest {
+  protected:
+    TextEditorTest() { removePreference(preference::LastTextStyle); }
 
-using TextEditorTest = EditorWindowTest;
+    static Watermark sampleText(const QString& words = u"Shore"_s) {
+        Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
+        text.Text = words;
+        text.FontFamily = u"DejaVu Sans"_s;
+        text.IsRelative = true;
+        text.FontSize = 8;
+        text.FontRelativeSize = u"Width"_s;
+        text.TextColor = Color::white();
+        text.ShadowColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
+        text.Position = 7;
+        return text;
+    }
+};
 
 TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
-    struct Row {
-        const char* what;
-        std::function<void(QWidget&)> drive;
-        std::function<void(Watermark&)> expected;
-        std::function<void(Watermark&)> start = [](Watermark&) {};
-    };
-    const auto embossed = [](Watermark& text) { text.TextEffect = 3; };
-    const auto fixed = [](Watermark& text) { text.IsRelative = false; };
-    const Row rows[] = {
-        {"text",
-         [](QWidget& e) {
-             type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return),
+    using W = Watermark;
+    const auto embossed = [](W& text) { text.TextEffect = 3; };
+    const auto fixed = [](W& text) { text.IsRelative = false; };
+    checkControls(
+        sampleText(),
+        {
+            {"text",
+             [](QWidget& e) {
+                 type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return);
                  QTest::keyClicks(&control(e, "Text"), u"b"_s);
-         },
-         [](Watermark& w) { w.Text = u"a\nb"_s; }},
-        {"font",
-         [](QWidget& e) { type(e, "searchFonts", u"sans mono"_s), press(e, "searchFonts", Qt::Key_Return); },
-         [](Watermark& w) { w.FontFamily = u"DejaVu Sans Mono"_s; }},
-        {"next font", [](QWidget& e) { press(e, "searchFonts", Qt::Key_Down); },
-         [](Watermark& w) {
-             const QStringList families = QFontDatabase::families();
-             w.FontFamily = families.value(families.indexOf(w.FontFamily) + 1);
-         }},
-        {"size", [](QWidget& e) { type(e, "RelativeFontSize", u"12"_s); },
-         [](Watermark& w) { w.FontSize = 12; }},
-        {"side", [](QWidget& e) { press(e, "FontRelativeSize", Qt::Key_End); },
-         [](Watermark& w) { w.FontRelativeSize = u"Longer Side"_s; }},
-        {"size type", [](QWidget& e) { press(e, "FontSizeType", Qt::Key_Down); },
-         [](Watermark& w) { w.IsRelative = false, w.FontSize = 72; }},
-        {"pixels", [](QWidget& e) { type(e, "FontSize", u"31"_s); }, [](Watermark& w) { w.FontSize = 31; },
-         fixed},
-        {"usual size", [](QWidget& e) { press(e, "UsualSizes", Qt::Key_Home); },
-         [](Watermark& w) { w.FontSize = 12; }, fixed},
-        {"bold", [](QWidget& e) { click(e, "FontBold"); }, [](Watermark& w) { w.FontBold = true; }},
-        {"italic", [](QWidget& e) { click(e, "FontItalic"); }, [](Watermark& w) { w.FontItalic = true; }},
-        {"underline", [](QWidget& e) { click(e, "FontUnderline"); },
-         [](Watermark& w) { w.FontUnderline = true; }},
-        {"strike", [](QWidget& e) { click(e, "FontStrikethrough"); },
-         [](Watermark& w) { w.FontStrikethrough = true; }},
-        {"centre", [](QWidget& e) { click(e, "align-center"); }, [](Watermark& w) { w.Alignment = 2; }},
-        {"right", [](QWidget& e) { click(e, "align-right"); }, [](Watermark& w) { w.Alignment = 1; }},
-        {"shadow", [](QWidget& e) { click(e, "Shadow"); }, [](Watermark& w) { w.Shadow = true; }},
-        {"shadow in the well's colour", [](QWidget& e) { click(e, "Shadow"); },
-         [](Watermark& w) { w.Shadow = true, w.ShadowColor = Color::black(); },
-         [](Watermark& w) { w.ShadowColor.reset(); }},
-        {"emboss", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Down); }, embossed},
-        {"plain", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Up); },
-         [](Watermark& w) { w.TextEffect = 0; }, embossed},
-        {"hollow", [](QWidget& e) { click(e, "IsTextTransparent"); },
-         [](Watermark& w) { w.UseTransparentColor = true; }, embossed},
-        {"transparency", [](QWidget& e) { press(e, "Transparency", Qt::Key_PageUp); },
-         [](Watermark& w) { w.Transparency = 0.4F; }},
-        {"rotation", [](QWidget& e) { type(e, "Rotation", u"-30"_s); },
-         [](Watermark& w) { w.Rotation = -30; }},
-        {"cell",
-         [](QWidget& e) { QTest::mouseClick(&e.findChild<PositionGrid*>()->cell(5), Qt::LeftButton); },
-         [](Watermark& w) { w.Position = 5, w.Alignment = 2; }},
-        {"padding", [](QWidget& e) { type(e, "PaddingBottom", u"17"_s); },
-         [](Watermark& w) { w.PaddingBottom = 17; }},
-        {"own place", [](QWidget& e) { click(e, "CustomPosition"), type(e, "CustomPositionTop", u"40"_s); },
-         [](Watermark& w) { w.Position = 10, w.CustomPositionTop = 40; }},
-        {"tiling", [](QWidget& e) { click(e, "HorizontalTiling"), type(e, "HorizontalSpacing", u"25"_s); },
-         [](Watermark& w) { w.HorizontalTiling = true, w.HorizontalSpacing = 25, w.Position = 2; }},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        Watermark before = sampleText();
-        row.start(before);
-        Watermark after = before;
-        row.expected(after);
-        add(before);
-        editRow(0, [&](QWidget& editor) {
-            EXPECT_EQ(record(), before) << "opening changes nothing";
-            for (int page : {2, 0}) editor.findChild<QTabWidget*>()->setCurrentIndex(page);
-            row.drive(editor);
-            EXPECT_EQ(record(), after);
-            EXPECT_TRUE(showsWhatIsWritten());
+             },
+             [](W& w) { w.Text = u"a\nb"_s; }},
+            {"font",
+             [](QWidget& e) {
+                 type(e, "searchFonts", u"sans mono"_s), press(e, "searchFonts", Qt::Key_Return);
+             },
+             [](W& w) { w.FontFamily = u"DejaVu Sans Mono"_s; }},
+            {"next font", [](QWidget& e) { press(e, "searchFonts", Qt::Key_Down); },
+             [](W& w) {
+                 const QStringList families = QFontDatabase::families();
+                 w.FontFamily = families.value(families.indexOf(w.FontFamily) + 1);
+             }},
+            {"size", [](QWidget& e) { type(e, "FontSize", u"12"_s); }, [](W& w) { w.FontSize = 12; }},
+            {"side", [](QWidget& e) { press(e, "FontRelativeSize", Qt::Key_End); },
+             [](W& w) { w.FontRelativeSize = u"Longer Side"_s; }},
+            {"kind of size", [](QWidget& e) { press(e, "FontSizeType", Qt::Key_Down); },
+             [](W& w) { w.IsRelative = false; }},
+            {"the other kind", [](QWidget& e) { press(e, "FontSizeType", Qt::Key_Up); },
+             [](W& w) { w.IsRelative = true; }, fixed},
+            {"pixels", [](QWidget& e) { type(e, "FontSize", u"3100"_s); }, [](W& w) { w.FontSize = 3100; },
+             fixed},
+            {"usual size", [](QWidget& e) { press(e, "UsualSizes", Qt::Key_Home); },
+             [](W& w) { w.FontSize = 12; }, fixed},
+            {"bold", [](QWidget& e) { click(e, "FontBold"); }, [](W& w) { w.FontBold = true; }},
+            {"italic", [](QWidget& e) { click(e, "FontItalic"); }, [](W& w) { w.FontItalic = true; }},
+            {"underline", [](QWidget& e) { click(e, "FontUnderline"); },
+             [](W& w) { w.FontUnderline = true; }},
+            {"strike", [](QWidget& e) { click(e, "FontStrikethrough"); },
+             [](W& w) { w.FontStrikethrough = true; }},
+            {"centre", [](QWidget& e) { click(e, "align-center"); }, [](W& w) { w.Alignment = 2; }},
+            {"right", [](QWidget& e) { click(e, "align-right"); }, [](W& w) { w.Alignment = 1; }},
+            {"shadow", [](QWidget& e) { click(e, "Shadow"); }, [](W& w) { w.Shadow = true; }},
+            {"shadow in the well's colour", [](QWidget& e) { click(e, "Shadow"); },
+             [](W& w) { w.Shadow = true, w.ShadowColor = Color::black(); },
+             [](W& w) { w.ShadowColor.reset(); }},
+            {"emboss", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Down); }, embossed},
+            {"plain", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Up); }, [](W& w) { w.TextEffect = 0; },
+             embossed},
+            {"hollow", [](QWidget& e) { click(e, "IsTextTransparent"); },
+             [](W& w) { w.UseTransparentColor = true; }, embossed},
+            {"transparency", [](QWidget& e) { press(e, "Transparency", Qt::Key_PageUp); },
+             [](W& w) { w.Transparency = 0.4F; }},
+            {"place",
+             [](QWidget& e) {
+                 e.findChild<QTabWidget*>()->setCurrentIndex(2);
+                 click(e, "HorizontalTiling"), type(e, "HorizontalSpacing", u"25"_s);
+             },
+             [](W& w) { w.HorizontalTiling = true, w.HorizontalSpacing = 25, w.Position = 2; }},
         });
-        EXPECT_EQ(record(), after) << "closing keeps it";
-        window.document().history().undo();
-        EXPECT_EQ(record(), before);
-        EXPECT_TRUE(showsWhatIsWritten());
-        window.watermarks().RemoveAllWatermarks();
-    }
+}
+
+TEST_F(TextEditorTest, ANewTextLooksLikeTheLastOne) {
+    const auto write = [](QDialog& editor) { type(editor, "Text", u"a"_s); };
+    edit(Act::AddText, write);
+    EXPECT_EQ(record(0).FontSize, 5);
+    EXPECT_EQ(record(0).TextColor, Color::white());
+    editRecord(0, [](QDialog& editor) {
+        click(editor, "FontBold");
+        choose(editor, "FontSizeType", 1);
+        type(editor, "FontSize", u"64"_s);
+        pickColor(editor, "TextColor", QColor(255, 0, 0, 51));
+        type(editor, "searchFonts", u"sans mono"_s);
+        press(editor, "searchFonts", Qt::Key_Return);
+    });
+    add(sampleText());
+    editRecord(1, [](QDialog&) {});  // looked at, not used
+    edit(Act::AddText, write);
+    Watermark expected = record(0);
+    expected.FontBold = false;
+    EXPECT_EQ(record(2), expected);
 }
 
 TEST_F(TextEditorTest, FastTypingLosesNothing) {
     QString typed;
     for (int i = 0; i < 40; ++i) typed += u"quick %1, "_s.arg(i);
-    edit(Act::AddText, [&](QWidget& editor) {
-        EXPECT_EQ(count(), 0U) << "a new text is in the list once it says something";
+    edit(Act::AddText, [&](QDialog& editor) {
+        EXPECT_EQ(records().size(), 0U) << "a new text is in the list once it says something";
         QTest::keyClicks(&control(editor, "Text"), typed);
-        EXPECT_EQ(count(), 1U);
+        EXPECT_EQ(records().size(), 1U);
         EXPECT_EQ(record().Text, typed);
         EXPECT_TRUE(showsWhatIsWritten());
     });
-    EXPECT_EQ(count(), 1U);
-    window.document().history().undo();
-    EXPECT_EQ(count(), 0U) << "the session is one step";
-    window.document().history().redo();
+    EXPECT_EQ(records().size(), 1U);
+    history().undo();
+    EXPECT_EQ(records().size(), 0U) << "the session is one step";
+    history().redo();
     EXPECT_EQ(record().Text, typed);
 }
 
 TEST_F(TextEditorTest, KeepsEveryKindOfCharacter) {
     const QString text = u"\u00A9 a\u00A0b \U0001F600 \u0634\u0627\u0637\u0626 <<IMGNAME>>#"_s;
-    edit(Act::AddText, [&](QWidget& editor) {
+    edit(Act::AddText, [&](QDialog& editor) {
         QInputMethodEvent event;
         event.setCommitString(text);
         QApplication::sendEvent(&control(editor, "Text"), &event);
     });
-    ASSERT_EQ(count(), 1U);
+    ASSERT_EQ(records().size(), 1U);
     EXPECT_EQ(record().Text, text);
-    editRow(0, [&](QWidget&) { EXPECT_EQ(record().Text, text); });
+    editRecord(0, [&](QDialog&) { EXPECT_EQ(record().Text, text); });
     EXPECT_EQ(record().Text, text) << "opening the editor again rewrites nothing";
 }
 
 TEST_F(TextEditorTest, AnEmptiedTextKeepsItsPlaceUntilTheEditorCloses) {
-    Watermark other = sampleText();
-    other.Text = u"Other"_s;
-    const auto empty = [](QWidget& editor) { type(editor, "Text", {}); };
+    const auto empty = [](QDialog& editor) { type(editor, "Text", {}); };
     add(sampleText());
-    add(other);
-    editRow(0, [&](QWidget& editor) {
+    add(sampleText(u"Other"_s));
+    editRecord(0, [&](QDialog& editor) {
         empty(editor);
         QTest::keyClicks(&control(editor, "Text"), u"New"_s);
     });
-    ASSERT_EQ(count(), 2U);
+    ASSERT_EQ(records().size(), 2U);
     EXPECT_EQ(record(0).Text, u"New"_s);
-    editRow(0, empty);
-    ASSERT_EQ(count(), 1U);
+    editRecord(0, empty);
+    ASSERT_EQ(records().size(), 1U);
     EXPECT_EQ(record(0).Text, u"Other"_s);
 }
 
 TEST_F(TextEditorTest, ControlsThatDoNothingCannotBeUsed) {
     struct Row {
-        std::function<void(Watermark&)> start;
-        QStringList usable;
-        QStringList notUsable;
+        bool isEmbossed, hasShadow, shadow, shadowColor, hollow;
     };
-    const Row rows[] = {
-        {[](Watermark&) {}, {u"Shadow"_s}, {u"ShadowColor"_s, u"IsTextTransparent"_s}},
-        {[](Watermark& w) { w.Shadow = true; }, {u"Shadow"_s, u"ShadowColor"_s}, {u"IsTextTransparent"_s}},
-        {[](Watermark& w) { w.TextEffect = 3, w.Shadow = true; },
-         {u"IsTextTransparent"_s},
-         {u"Shadow"_s, u"ShadowColor"_s}},
-        {[](Watermark& w) { w.Position = 9; },
-         {u"PaddingBottom"_s, u"PaddingRight"_s},
-         {u"PaddingTop"_s, u"PaddingLeft"_s, u"CustomPositionLeft"_s}},
-        {[](Watermark& w) { w.VerticalTiling = true; },
-         {u"PaddingTop"_s, u"PaddingRight"_s, u"VerticalSpacing"_s},
-         {u"CustomPosition"_s}},
-    };
-    for (const Row& row : rows) {
+    for (const Row& row : {Row{false, false, true, false, false}, Row{false, true, true, true, false},
+                           Row{true, true, false, false, true}}) {
         Watermark text = sampleText();
-        row.start(text);
+        text.TextEffect = row.isEmbossed ? 3 : 0;
+        text.Shadow = row.hasShadow;
         add(text);
-        editRow(0, [&](QWidget& editor) {
-            for (const QString& name : row.usable) {
-                EXPECT_TRUE(control(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
-            }
-            for (const QString& name : row.notUsable) {
-                EXPECT_FALSE(control(editor, qPrintable(name)).isEnabled()) << qPrintable(name);
-            }
+        editRecord(0, [&](QDialog& editor) {
+            EXPECT_EQ(control(editor, "Shadow").isEnabled(), row.shadow);
+            EXPECT_EQ(control(editor, "ShadowColor").isEnabled(), row.shadowColor);
+            EXPECT_EQ(control(editor, "IsTextTransparent").isEnabled(), row.hollow);
         });
         window.watermarks().RemoveAllWatermarks();
     }
@@ -203,11 +181,8 @@ TEST_F(TextEditorTest, AFontThatIsNotInstalledIsNamedAndKept) {
     Watermark text = sampleText();
     text.FontFamily = u"Nobody Has This"_s;
     add(text);
-    editRow(0, [&](QWidget& editor) {
-        const auto labels = editor.findChildren<QLabel*>();
-        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-            return label->isVisible() && label->text().contains(u"Nobody Has This"_s);
-        }));
+    editRecord(0, [&](QDialog& editor) {
+        EXPECT_TRUE(says(editor, u"“Nobody Has This”"_s));
         type(editor, "searchFonts", u"serif"_s);
         EXPECT_EQ(record().FontFamily, text.FontFamily) << "looking for a font chooses none";
     });
@@ -216,7 +191,7 @@ TEST_F(TextEditorTest, AFontThatIsNotInstalledIsNamedAndKept) {
 
 TEST_F(TextEditorTest, TabFollowsTheEye) {
     add(sampleText());
-    editRow(0, [&](QWidget& editor) {
+    editRecord(0, [&](QDialog& editor) {
         for (int page = 0; page < 3; ++page) {
             editor.findChild<QTabWidget*>()->setCurrentIndex(page);
             auto& first = control(editor, "Text");

@@ -2,7 +2,7 @@
 #include "app/program/app_delegate.h"
 
 #include "app/dialogs/standard_dialogs.h"
-#include "app/modal_dialog.h"
+#include "app/hands.h"
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
@@ -155,7 +155,8 @@ TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
         const WatermarkStack left = delegate->window().document().state().Stack;
         ASSERT_TRUE(delegate->window().close());
         start();
-        EXPECT_EQ(writeSettingDocument(delegate->window().document().state().Stack), writeSettingDocument(left));
+        EXPECT_EQ(writeSettingDocument(delegate->window().document().state().Stack),
+                  writeSettingDocument(left));
         EXPECT_EQ(delegate->window().statusBar()->currentMessage().isEmpty(), left == WatermarkStack());
     }
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Everything a setting can hold, put together in the editors, kept, and taken up again.
-#include "app/editors/editor_test.h"
+#include "app/editor_fixture.h"
 #include "persistence/setting_file.h"
 
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QTabWidget>
 
@@ -19,35 +17,8 @@ class StackByHand : public EditorTest {
         if (pages != nullptr) pages->setCurrentIndex(pages->count() - 1);
     }
 
-    // The editor of a new logo begins with asking for the file.
-    template <class Drive>
-    void addLogo(const Drive& drive) {
-        const QString file = folder.filePath(QStringLiteral("logo.png"));
-        QImage logo(40, 20, QImage::Format_RGB32);
-        logo.fill(Qt::cyan);
-        ASSERT_TRUE(logo.save(file));
-        bool isChosen = false;
-        QTimer watch;
-        watch.callOnTimeout([&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (auto* files = qobject_cast<QFileDialog*>(dialog); files != nullptr && !isChosen) {
-                isChosen = true;
-                auto* name = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-                name->setText(file);
-                QTest::keyClick(name, Qt::Key_Return);
-            } else if (dialog != nullptr && files == nullptr && isChosen) {
-                watch.stop();
-                drive(*dialog);
-                QTest::keyClick(dialog, Qt::Key_Escape);
-            }
-        });
-        watch.start(5);
-        window.actions()[Act::AddImage]->trigger();
-        EXPECT_TRUE(isChosen);
-    }
-
     void compose() {
-        addLogo([](QDialog& editor) {
+        addLogo(makeLogo(), [](QDialog& editor) {
             click(editor, "CreateBW");
             click(editor, "IsTransparent");
             pickColor(editor, "TransparentColor", QColor(1, 2, 3));

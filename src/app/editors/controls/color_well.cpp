@@ -74,7 +74,7 @@ void ColorWell::choose(const Color& color) {
     // A colour of a file may lie between those of 8 bits; choosing what is seen leaves it so.
     if (color_ && (color == *color_ || color == toColor(toQColor(*color_)))) return;
     load(color);
-    Q_EMIT colorChosen(color);
+    Q_EMIT chosen(color);
 }
 
 void ColorWell::paintEvent(QPaintEvent* event) {

@@ -28,7 +28,7 @@ class ColorWell : public QToolButton {
     QSize sizeHint() const override;
 
   Q_SIGNALS:
-    void colorChosen(const zelto::Color& color);
+    void chosen(const zelto::Color& color);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

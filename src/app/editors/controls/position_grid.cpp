@@ -2,10 +2,12 @@
 #include "app/editors/controls/position_grid.h"
 
 #include "app/common/icons.h"
+#include "app/editors/controls/record_binder.h"
 #include "app/editors/controls/tile_button.h"
 
 #include <QGridLayout>
 #include <QPainter>
+#include <QSignalBlocker>
 
 #include <array>
 
@@ -64,23 +66,17 @@ PositionGrid::PositionGrid(QWidget* parent) : QWidget(parent), cells_(new QButto
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(3, 1);
     connect(cells_, &QButtonGroup::idToggled, this, [this](int tag, bool on) {
-        if (on) Q_EMIT cellChosen(tag);
+        if (on) Q_EMIT chosen(tag);
     });
 }
 
 void PositionGrid::load(int cell) {
     if (cell == cells_->checkedId() || (cell < 1 && cells_->checkedId() < 1)) return;
     const QSignalBlocker quiet(cells_);
-    if (QAbstractButton* button = cells_->button(cell)) {
-        button->setChecked(true);
-        return;
-    }
-    if (QAbstractButton* checked = cells_->checkedButton()) {
-        cells_->setExclusive(false);
-        checked->setChecked(false);
-        cells_->setExclusive(true);
-        for (QAbstractButton* button : cells_->buttons()) button->setFocusPolicy(Qt::StrongFocus);
-    }
+    binding::show(*cells_, cell);
+    if (cells_->checkedId() > 0) return;
+    // Without a marked cell each can be reached with Tab.
+    for (QAbstractButton* button : cells_->buttons()) button->setFocusPolicy(Qt::StrongFocus);
 }
 
 void PositionGrid::enableCells(const PositionControls& controls) {

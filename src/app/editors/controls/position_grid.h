@@ -24,7 +24,7 @@ class PositionGrid : public QWidget {
     QAbstractButton& cell(int cell) { return *cells_->button(cell); }
 
   Q_SIGNALS:
-    void cellChosen(int cell);
+    void chosen(int cell);
 
   private:
     QButtonGroup* cells_;

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/position_rules.h"
 
-#include "render/opacity.h"
-
 #include <array>
-#include <cmath>
 
 namespace zelto {
 namespace {
@@ -74,14 +71,6 @@ void setHorizontalTiling(Watermark& record, bool on) {
 void setVerticalTiling(Watermark& record, bool on) {
     record.VerticalTiling = on;
     startTiling(record);
-}
-
-int transparencyPercent(float transparency) {
-    return static_cast<int>(std::lround((1.0 - opacityOf(transparency)) * 100.0));
-}
-
-float transparencyOf(int percent) {
-    return static_cast<float>(100 - percent) / 100.0F;
 }
 
 }  // namespace zelto

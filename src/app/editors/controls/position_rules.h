@@ -41,9 +41,4 @@ void setPresetPosition(Watermark& record, int cell);
 void setHorizontalTiling(Watermark& record, bool on);
 void setVerticalTiling(Watermark& record, bool on);
 
-// A record's opacity as the per cent of transparency that users choose, and back. Halves of a per cent are
-// rounded up.
-int transparencyPercent(float transparency);
-float transparencyOf(int percent);
-
 }  // namespace zelto

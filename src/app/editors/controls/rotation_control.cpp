@@ -61,8 +61,7 @@ RotationControl::RotationControl(QWidget* parent)
     row->addWidget(presets_, 1);
     load(0);
 
-    connect(field_, &NumberField::valueChanged, this,
-            [this](double value) { choose(static_cast<qint64>(std::llround(value))); });
+    connect(field_, &NumberField::valueChanged, this, [this](double value) { choose(std::llround(value)); });
     connect(dial_, &QDial::valueChanged, this, [this](int value) { choose(withinTurn(value - 180)); });
     connect(presets_, &QComboBox::activated, this,
             [this](int chosen) { choose(presets_->itemData(chosen).toInt()); });
@@ -82,7 +81,7 @@ void RotationControl::load(qint64 degrees) {
 
 void RotationControl::choose(qint64 degrees) {
     load(degrees);
-    Q_EMIT rotationChosen(degrees);
+    Q_EMIT chosen(degrees);
 }
 
 }  // namespace zelto

@@ -25,7 +25,7 @@ class RotationControl : public QWidget {
     QComboBox& presets() { return *presets_; }
 
   Q_SIGNALS:
-    void rotationChosen(qint64 degrees);
+    void chosen(qint64 degrees);
 
   private:
     void choose(qint64 degrees);

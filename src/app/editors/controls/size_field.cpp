@@ -27,15 +27,15 @@ SizeField::SizeField(const QString& shareTitle, double reference, QWidget* paren
     row->addWidget(unit_, 3);
     connect(number_, &NumberField::valueChanged, this, [this](double value) {
         const bool isRelative = unit_->currentIndex() == Share;
-        Q_EMIT sizeChosen(isRelative ? value / 100.0 : value, isRelative);
+        Q_EMIT chosen({isRelative ? value / 100.0 : value, isRelative});
     });
     connect(unit_, &QComboBox::activated, this, [this](int unit) { changeUnit(unit == Share); });
 }
 
-void SizeField::load(double length, bool isRelative) {
-    unit_->setCurrentIndex(isRelative ? Share : Pixels);
-    number_->setKind(isRelative ? number_kind::Percent : number_kind::Size);
-    number_->load(isRelative ? length * 100.0 : length);
+void SizeField::load(const Length& length) {
+    unit_->setCurrentIndex(length.isRelative ? Share : Pixels);
+    number_->setKind(length.isRelative ? number_kind::Percent : number_kind::Size);
+    number_->load(length.isRelative ? length.value * 100.0 : length.value);
 }
 
 void SizeField::changeUnit(bool toRelative) {
@@ -47,8 +47,8 @@ void SizeField::changeUnit(bool toRelative) {
         length = toRelative ? std::round(number_->value() / reference_ * 1e6) / 1e6
                             : std::round(number_->value() / 100.0 * reference_);
     }
-    load(length, toRelative);
-    Q_EMIT sizeChosen(length, toRelative);
+    load({length, toRelative});
+    Q_EMIT chosen({length, toRelative});
 }
 
 }  // namespace zelto

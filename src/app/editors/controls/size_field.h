@@ -10,6 +10,12 @@
 
 namespace zelto {
 
+// A length in pixels, or as a fraction of a length of the photo.
+struct Length {
+    double value = 0.0;
+    bool isRelative = false;
+};
+
 class SizeField : public QWidget {
     Q_OBJECT
 
@@ -17,14 +23,14 @@ class SizeField : public QWidget {
     // `shareTitle` says what the share is of; `reference` is that length in pixels, 0 where it is not known.
     SizeField(const QString& shareTitle, double reference, QWidget* parent = nullptr);
 
-    // Shows a length in pixels, or as a fraction of the reference, without telling anyone.
-    void load(double length, bool isRelative);
+    // Shows a length without telling anyone.
+    void load(const Length& length);
 
     NumberField& number() { return *number_; }
     QComboBox& unit() { return *unit_; }
 
   Q_SIGNALS:
-    void sizeChosen(double length, bool isRelative);
+    void chosen(const zelto::Length& length);
 
   private:
     void changeUnit(bool toRelative);

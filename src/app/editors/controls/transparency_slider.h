@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The slider for how much of the photo shows through a watermark, in per cent, with the figure beside it. Main
-// thread only.
+// How much of the photo shows through a watermark, in per cent: a slider, and a field to type it into. Main thread only.
 #pragma once
 
-#include <QLabel>
+#include "app/editors/controls/number_field.h"
+
 #include <QSlider>
 #include <QWidget>
 
 namespace zelto {
+
+// A record's `Transparency`, which is its opacity from 0 to 1, as the per cent of transparency that users choose, and
+// back. Halves of a per cent are rounded up.
+int transparencyPercent(float transparency);
+float transparencyOf(int percent);
 
 class TransparencySlider : public QWidget {
     Q_OBJECT
@@ -19,17 +24,17 @@ class TransparencySlider : public QWidget {
     void load(float transparency);
 
     QSlider& slider() { return *slider_; }
-    QString label() const { return label_->text(); }
+    NumberField& field() { return *field_; }
 
   Q_SIGNALS:
     // What the record's `Transparency` is to be.
-    void transparencyChosen(float transparency);
+    void chosen(float transparency);
 
   private:
-    void showPercent(int percent);
+    void choose(int percent);
 
     QSlider* slider_;
-    QLabel* label_;
+    NumberField* field_;
 };
 
 }  // namespace zelto

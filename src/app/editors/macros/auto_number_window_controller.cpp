@@ -20,10 +20,10 @@ qint64 lastAutoNumber() {
     return storedPreference(preference::LastAutoNumber).value_or(0);
 }
 
-// A field for a whole number; a sign can be typed, the rule of the fields then does away with it.
+// A field for a whole number. A minus sign can be typed, but no number below 1 stays.
 QLineEdit* makeField(const QString& name, const QString& text, QWidget* parent) {
     auto* field = new QLineEdit(text, parent);
-    static const QRegularExpression wholeNumber(QStringLiteral("[-+]?[0-9]{0,18}"));
+    static const QRegularExpression wholeNumber(QStringLiteral("-?[0-9]{0,18}"));
     field->setValidator(new QRegularExpressionValidator(wholeNumber, field));
     field->setObjectName(name);
     return field;
@@ -77,10 +77,13 @@ AutoNumberWindowController::AutoNumberWindowController(QWidget* parent)
 }
 
 void AutoNumberWindowController::fieldDidChange(QLineEdit& field) {
-    const QString corrected = autoNumberField(field.text());
+    QString corrected = autoNumberField(field.text());
+    if (&field == txtDigits_ && corrected.toLongLong() > MaximumAutoDigits) {
+        corrected = QString::number(MaximumAutoDigits);
+    }
     if (corrected != field.text()) {
         field.setText(corrected);
-        // What is typed next takes the place of a number nobody has typed.
+        // What is typed next replaces a number that nobody has typed.
         field.selectAll();
     }
     GenerateAutoMacro();

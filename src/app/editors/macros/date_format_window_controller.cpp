@@ -88,7 +88,7 @@ DateFormatWindowControlller::DateFormatWindowControlller(QString macroName, cons
 }
 
 void DateFormatWindowControlller::GetDatePreview() {
-    dateFormatSample_->setText(formatUserDate(now_, dateFormat_->currentText(), locale_));
+    dateFormatSample_->setText(dateMacroText(macroName_, dateFormat_->currentText(), now_, locale_));
 }
 
 void DateFormatWindowControlller::SetMacroandClose() {

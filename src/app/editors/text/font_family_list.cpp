@@ -112,7 +112,7 @@ void FontFamilyList::choose(const QModelIndex& row) {
     if (isShowing_ || !row.isValid()) return;
     family_ = row.data().toString();
     missing_->hide();
-    Q_EMIT familyChosen(family_);
+    Q_EMIT chosen(family_);
 }
 
 // The arrow keys choose among what was found without leaving the search, Enter the first of it.

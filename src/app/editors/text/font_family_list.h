@@ -27,7 +27,7 @@ class FontFamilyList : public QWidget {
     QListView& list() { return *list_; }
 
   Q_SIGNALS:
-    void familyChosen(const QString& family);
+    void chosen(const QString& family);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

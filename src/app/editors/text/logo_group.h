@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which picture a logo is and how it is treated: its file, the colour taken out of it, grey, and its size. It
-// asks for edits and shows what it is loaded with: its owner loads it after each change of the record. Main
-// thread only.
+// Which picture a logo is and how it is treated: its file, the colour taken out of it, grey, and its size. Main thread
+// only; files are read in the background.
 #pragma once
 
-#include "app/editors/controls/color_well.h"
-#include "app/editors/controls/number_field.h"
-#include "app/editors/controls/watermark_edit.h"
+#include "app/editors/controls/record_binder.h"
 #include "app/editors/text/logo_rules.h"
 #include "app/editors/text/logo_sample.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLineEdit>
+#include <QWidget>
 
 namespace zelto {
 
@@ -25,36 +18,30 @@ class LogoGroup : public QWidget {
     Q_OBJECT
 
   public:
-    explicit LogoGroup(QWidget* parent = nullptr);
+    // Its controls are bound to the record of `binder`.
+    explicit LogoGroup(RecordBinder<Watermark>& binder, QWidget* parent = nullptr);
 
-    void load(const Watermark& record);
-
-    // Lets the user choose a file. False where none was chosen.
-    bool SelectImageWatermark();
-
-  Q_SIGNALS:
-    void edited(const zelto::WatermarkEdit& edit);
+    // Lets the user choose a file, which becomes the record's once it has been read.
+    void SelectImageWatermark();
 
   private:
     QWidget* makePath();
     QWidget* makeColors();
     QWidget* makeResize();
-    NumberField* makeAbsolute(const QString& name, const QString& label, void (*change)(Watermark&, float));
+    NumberField* makeSize(const NumberKind& kind, const char* name, const QString& label);
     ResizeFields fields() const;
+    void showSizes(const Watermark& record);
     QString startFolder() const;
+    void take(const QString& path);
 
+    RecordBinder<Watermark>& binder_;
     QLineEdit* path_ = nullptr;
     LogoSample* sample_;
-    QCheckBox* transparent_ = nullptr;
-    ColorWell* transparentColor_ = nullptr;
-    QCheckBox* grayscale_ = nullptr;
-    QGroupBox* resize_ = nullptr;
-    QButtonGroup* resizeType_ = nullptr;
-    NumberField* propSize_ = nullptr;
-    QComboBox* propSide_ = nullptr;
-    NumberField* absWidth_ = nullptr;
-    NumberField* absHeight_ = nullptr;
-    QCheckBox* keepAspect_ = nullptr;
+    NumberField* percent_ = nullptr;
+    NumberField* width_ = nullptr;
+    NumberField* height_ = nullptr;
+    QString sizedPath_;  // of the logo whose size the fields show
+    QString asked_;      // the file chosen last: one chosen before it comes too late
 };
 
 }  // namespace zelto

@@ -6,10 +6,6 @@
 namespace zelto {
 namespace {
 
-bool isAbsolute(const Watermark& logo) {
-    return logo.ResizeFormat == logo_resize::Absolute;
-}
-
 // The side that keeps the proportion of `other` to `own` where this one is `length`.
 float inProportion(float length, float other, float own) {
     return std::ceil(length * other / own);
@@ -20,11 +16,16 @@ void takeFields(Watermark& logo, const ResizeFields& fields) {
         logo.ResizeWidth = fields.width;
         logo.ResizeHeight = fields.height;
     } else {
+        logo.ResizeFormat = logo_resize::Proportional;
         PropSizeDidChange(logo, static_cast<double>(fields.percent));
     }
 }
 
 }  // namespace
+
+bool isAbsolute(const Watermark& logo) {
+    return logo.ResizeFormat == logo_resize::Absolute;
+}
 
 ResizeControls resizeControls(const Watermark& logo) {
     return {.type = logo.Resize,
@@ -53,27 +54,31 @@ void ResizeTypeChanged(Watermark& logo, std::int64_t format, const ResizeFields&
     takeFields(logo, fields);
 }
 
-void AbsWidthDidChange(Watermark& logo, float width) {
-    if (width < 1.0F) {
-        width = logo.Width;
+void AbsWidthDidChange(Watermark& logo, double width) {
+    auto pixels = static_cast<float>(width);
+    if (pixels < 1.0F) {
+        pixels = logo.Width;
     } else if (logo.PreserverAspectRatio && logo.Width > 0.0F) {
-        logo.ResizeHeight = inProportion(width, logo.Height, logo.Width);
+        logo.ResizeHeight = inProportion(pixels, logo.Height, logo.Width);
     }
-    logo.ResizeWidth = width;
+    logo.ResizeWidth = pixels;
 }
 
-void AbsHeightDidChange(Watermark& logo, float height) {
-    if (height < 1.0F) {
-        height = logo.Height;
+void AbsHeightDidChange(Watermark& logo, double height) {
+    auto pixels = static_cast<float>(height);
+    if (pixels < 1.0F) {
+        pixels = logo.Height;
     } else if (logo.PreserverAspectRatio && logo.Height > 0.0F) {
-        logo.ResizeWidth = inProportion(height, logo.Width, logo.Height);
+        logo.ResizeWidth = inProportion(pixels, logo.Width, logo.Height);
     }
-    logo.ResizeHeight = height;
+    logo.ResizeHeight = pixels;
 }
 
 void chkAspectRatioChanged(Watermark& logo, bool on) {
     logo.PreserverAspectRatio = on;
-    if (isAbsolute(logo) && logo.ResizeWidth >= 1.0F) AbsWidthDidChange(logo, logo.ResizeWidth);
+    if (isAbsolute(logo) && logo.ResizeWidth >= 1.0F) {
+        AbsWidthDidChange(logo, static_cast<double>(logo.ResizeWidth));
+    }
 }
 
 void PropSizeDidChange(Watermark& logo, double percent) {

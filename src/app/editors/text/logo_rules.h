@@ -13,6 +13,9 @@
 
 namespace zelto {
 
+// Whether the logo's size is one in pixels; any format but Absolute is a share of a side of the photo.
+bool isAbsolute(const Watermark& logo);
+
 // Which of the size controls can be used.
 struct ResizeControls {
     bool type = false;
@@ -31,22 +34,23 @@ struct ResizeFields {
 
     bool operator==(const ResizeFields&) const = default;
 };
-// The fields of `logo`. What it does not tell, the fields keep as they are in `now`; absolute sizes that never
-// were chosen are the logo's own.
+// The fields of `logo`. What it does not tell stays as it is in `now`; an absolute size that is not there, or below 1
+// pixel, is that of the logo's file.
 ResizeFields resizeFields(const Watermark& logo, const ResizeFields& now);
 
-// Switches resizing on or off, or to `format`, and takes the size from the fields of that format.
+// Switch resizing on or off, or to `format`, and take the size from the fields of that format. A relative size always
+// is of the format Proportional.
 void chkResizeChecked(Watermark& logo, bool on, const ResizeFields& fields);
 void ResizeTypeChanged(Watermark& logo, std::int64_t format, const ResizeFields& fields);
 
 // A width or height was chosen, pixels; below 1 it is the logo's own. Where the aspect ratio is kept the other
 // one follows, rounded up.
-void AbsWidthDidChange(Watermark& logo, float width);
-void AbsHeightDidChange(Watermark& logo, float height);
+void AbsWidthDidChange(Watermark& logo, double width);
+void AbsHeightDidChange(Watermark& logo, double height);
 // Switches keeping the aspect ratio on or off; the height then follows the width.
 void chkAspectRatioChanged(Watermark& logo, bool on);
 
-// A size in per cent of the photo's side was chosen; below 1 it is passed over.
+// A size in per cent of the photo's side was chosen; one below 1 is passed over.
 void PropSizeDidChange(Watermark& logo, double percent);
 
 // Another file was chosen: its bytes and its size in pixels.

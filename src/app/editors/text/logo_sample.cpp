@@ -103,7 +103,7 @@ void LogoSample::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->pos() - area.topLeft();
     const QColor color = picture_.pixelColor(at.x() * picture_.width() / area.width(),
                                              at.y() * picture_.height() / area.height());
-    if (color.alpha() != 0) Q_EMIT colorPicked(toColor(QColor(color.rgb())));
+    if (color.alpha() != 0) Q_EMIT chosen(toColor(QColor(color.rgb())));
 }
 
 }  // namespace zelto

@@ -27,7 +27,8 @@ class LogoSample : public QWidget {
     QRect place() const;
 
   Q_SIGNALS:
-    void colorPicked(const zelto::Color& color);
+    // The colour clicked.
+    void chosen(const zelto::Color& color);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -2,11 +2,12 @@
 #include "app/editors/text/text_style_group.h"
 
 #include "app/common/icons.h"
-#include "app/editors/controls/editor_dialog.h"
+#include "app/editors/controls/color_well.h"
+#include "app/editors/controls/editor_panel.h"
+#include "app/editors/text/font_family_list.h"
 
-#include <QFontInfo>
+#include <QCheckBox>
 #include <QHBoxLayout>
-#include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -17,8 +18,6 @@ namespace {
 
 constexpr NumberKind PercentOfSide{1, 1'000, 0, QLatin1String(" %")};
 constexpr NumberKind Pixels{1, 10'000, 0, QLatin1String(" px")};
-constexpr int StartPercent = 5;
-constexpr int StartPixels = 72;
 constexpr int UsualSizes[] = {12, 18, 24, 36, 48, 72, 96, 144, 200, 300, 400};
 constexpr QLatin1String Sides[] = {QLatin1String("Width"), QLatin1String("Height"),
                                    QLatin1String("Longer Side")};
@@ -54,6 +53,12 @@ constexpr AlignmentRow Alignments[] = {
 
 constexpr std::int32_t Emboss = 3;
 
+template <class Control>
+Control* named(const char* name, Control* control) {
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
 QHBoxLayout* rowOf(QWidget* widget) {
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(0, 0, 0, 0);
@@ -72,73 +77,57 @@ QToolButton* makeToggle(const QString& name, const QString& tip, QWidget* parent
 
 }  // namespace
 
-void startText(Watermark& record) {
-    record.Text = QLatin1String("");
-    record.FontFamily = QFontInfo(QFont()).family();
-    record.IsRelative = true;
-    record.FontSize = StartPercent;
-    record.FontRelativeSize = Sides[0];
-    record.TextColor = Color::white();
-    record.ShadowColor = Color::black();
-}
-
 // Controls are made in the order the eye and the Tab key go through them.
-TextStyleGroup::TextStyleGroup(QWidget* parent) : QWidget(parent), family_(new FontFamilyList(this)) {
+TextStyleGroup::TextStyleGroup(RecordBinder<Watermark>& binder, QWidget* parent)
+    : QWidget(parent), binder_(binder) {
+    auto* family = new FontFamilyList(this);
+    binder_.bind(family, &Watermark::FontFamily);
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    addRow(*form, tr("&Font:"), family_);
+    addRow(*form, tr("&Font:"), family);
     addRow(*form, tr("Si&ze:"), makeSize());
     addRow(*form, tr("Style:"), makeStyles());
-    addRow(*form, tr("&Colour:"), makeShadow());
+    addRow(*form, tr("&Colour:"), makeColors());
     addRow(*form, tr("&Effect:"), makeEffect());
-    connect(family_, &FontFamilyList::familyChosen, this, [this](const QString& family) {
-        Q_EMIT edited([family](Watermark& record) { record.FontFamily = family; });
-    });
 }
 
+// One number, which is per cent of a side of the photo or pixels; the kind of size changes what it means, not the number.
 QWidget* TextStyleGroup::makeSize() {
     auto* widget = new QWidget(this);
-    sizeType_ = new QComboBox(widget);
-    relativeSize_ = new NumberField(PercentOfSide, widget);
-    relativeTo_ = new QComboBox(widget);
-    fixedSize_ = new NumberField(Pixels, widget);
-    usualSizes_ = new QComboBox(widget);
-    widget->setFocusProxy(sizeType_);
-    sizeType_->setObjectName(QStringLiteral("FontSizeType"));
-    sizeType_->setAccessibleName(tr("Kind of size"));
-    sizeType_->addItem(tr("Proportional"), true);
-    sizeType_->addItem(tr("Fixed"), false);
-    relativeSize_->setObjectName(QStringLiteral("RelativeFontSize"));
-    relativeSize_->setAccessibleName(tr("Size in per cent"));
-    relativeSize_->load(StartPercent);
-    relativeTo_->setObjectName(QStringLiteral("FontRelativeSize"));
-    relativeTo_->setAccessibleName(tr("Side of the photo the size follows"));
-    for (const QLatin1String side : Sides) relativeTo_->addItem(side);
-    fixedSize_->setObjectName(QStringLiteral("FontSize"));
-    fixedSize_->setAccessibleName(tr("Size in pixels"));
-    fixedSize_->load(StartPixels);
-    usualSizes_->setObjectName(QStringLiteral("UsualSizes"));
-    usualSizes_->setAccessibleName(tr("Usual sizes"));
-    usualSizes_->setPlaceholderText(tr("Custom"));
-    for (const int size : UsualSizes) usualSizes_->addItem(QString::number(size), size);
-
+    auto* kind = named("FontSizeType", new QComboBox(widget));
+    kind->setAccessibleName(tr("Kind of size"));
+    kind->addItem(tr("Proportional"), true);
+    kind->addItem(tr("Fixed"), false);
+    auto* size = named("FontSize", new NumberField(Pixels, widget));
+    size->setAccessibleName(tr("Size"));
+    auto* side = named("FontRelativeSize", new QComboBox(widget));
+    side->setAccessibleName(tr("Side of the photo the size follows"));
+    for (const QLatin1String title : Sides) side->addItem(title, QString(title));
+    auto* usual = named("UsualSizes", new QComboBox(widget));
+    usual->setAccessibleName(tr("Usual sizes"));
+    usual->setPlaceholderText(tr("Custom"));
+    for (const int pixels : UsualSizes) usual->addItem(QString::number(pixels), pixels);
+    widget->setFocusProxy(kind);
     QHBoxLayout* row = rowOf(widget);
-    for (QWidget* part :
-         std::initializer_list<QWidget*>{sizeType_, relativeSize_, relativeTo_, fixedSize_, usualSizes_}) {
-        row->addWidget(part);
-    }
-    connect(sizeType_, &QComboBox::activated, this,
-            [this](int chosen) { SetFontSizeType(sizeType_->itemData(chosen).toBool()); });
-    for (const NumberField* field : {relativeSize_, fixedSize_}) {
-        connect(field, &NumberField::valueChanged, this, [this](double size) {
-            Q_EMIT edited([size](Watermark& record) { record.FontSize = std::llround(size); });
-        });
-    }
-    connect(usualSizes_, &QComboBox::activated, this,
-            [this](int chosen) { fixedSize_->setValue(usualSizes_->itemData(chosen).toInt()); });
-    connect(relativeTo_, &QComboBox::activated, this, [this](int chosen) {
-        Q_EMIT edited([side = QString(Sides[chosen])](Watermark& record) { record.FontRelativeSize = side; });
+    for (QWidget* part : std::initializer_list<QWidget*>{kind, size, side, usual}) row->addWidget(part);
+
+    binder_.bind(kind, &Watermark::IsRelative);
+    binder_.follow(
+        [size](const Watermark& record) { size->setKind(record.IsRelative ? PercentOfSide : Pixels); });
+    binder_.bind(size, &Watermark::FontSize);
+    binder_.bind(usual, &Watermark::FontSize);
+    binder_.bind(
+        side,
+        [side](const Watermark& record) {
+            // Any other word means the height.
+            const bool isKnown = side->findData(record.FontRelativeSize) >= 0;
+            return isKnown ? record.FontRelativeSize : QString(Sides[1]);
+        },
+        [](Watermark& record, const QVariant& title) { record.FontRelativeSize = title.toString(); });
+    binder_.follow([=](const Watermark& record) {
+        side->setVisible(record.IsRelative);
+        usual->setVisible(!record.IsRelative);
     });
     return widget;
 }
@@ -147,9 +136,6 @@ QWidget* TextStyleGroup::makeStyles() {
     auto* widget = new QWidget(this);
     QHBoxLayout* row = rowOf(widget);
     row->setSpacing(2);
-    styles_ = new QButtonGroup(widget);
-    styles_->setExclusive(false);
-    alignment_ = new QButtonGroup(widget);
     for (const StyleRow& style : Styles) {
         QToolButton* button = makeToggle(QLatin1String(style.name), tr(style.tip), widget);
         button->setText(QLatin1String(style.letter));
@@ -158,128 +144,79 @@ QWidget* TextStyleGroup::makeStyles() {
         button->setFont(font);
         const int side = 2 * fontMetrics().height();
         button->setMinimumWidth(side);
-        styles_->addButton(button);
         row->addWidget(button);
-        connect(button, &QToolButton::clicked, this, [this, field = style.field](bool on) {
-            Q_EMIT edited([field, on](Watermark& record) { record.*field = on; });
-        });
+        binder_.bind(button, style.field);
     }
     row->addSpacing(12);
+    auto* alignments = new QButtonGroup(widget);
     for (const AlignmentRow& alignment : Alignments) {
         QToolButton* button = makeToggle(alignment.icon, tr(alignment.tip), widget);
         button->setIcon(lineIcon(alignment.icon));
-        alignment_->addButton(button, static_cast<int>(alignment.code));
+        alignments->addButton(button, static_cast<int>(alignment.code));
         row->addWidget(button);
     }
+    binder_.bind(alignments, &Watermark::Alignment);
     row->addStretch();
-    connect(alignment_, &QButtonGroup::idClicked, this, [this](int code) {
-        Q_EMIT edited([code](Watermark& record) { record.Alignment = static_cast<std::uint64_t>(code); });
-    });
     return widget;
 }
 
-QWidget* TextStyleGroup::makeShadow() {
+QWidget* TextStyleGroup::makeColors() {
     auto* widget = new QWidget(this);
-    color_ = new ColorWell(tr("Text Colour"), widget);
-    shadow_ = new QCheckBox(tr("Sha&dow"), widget);
-    shadowColor_ = new ColorWell(tr("Shadow Colour"), widget);
-    widget->setFocusProxy(color_);
-    color_->setObjectName(QStringLiteral("TextColor"));
-    shadow_->setObjectName(QStringLiteral("Shadow"));
-    shadowColor_->setObjectName(QStringLiteral("ShadowColor"));
+    auto* color = named("TextColor", new ColorWell(tr("Text Colour"), widget));
+    auto* shadow = named("Shadow", new QCheckBox(tr("Sha&dow"), widget));
+    auto* shadowColor = named("ShadowColor", new ColorWell(tr("Shadow Colour"), widget));
+    widget->setFocusProxy(color);
     QHBoxLayout* row = rowOf(widget);
-    row->addWidget(color_);
+    row->addWidget(color);
     row->addSpacing(12);
-    row->addWidget(shadow_);
-    row->addWidget(shadowColor_);
+    row->addWidget(shadow);
+    row->addWidget(shadowColor);
     row->addStretch();
-    connect(color_, &ColorWell::colorChosen, this, [this](const Color& color) {
-        Q_EMIT edited([color](Watermark& record) { record.TextColor = color; });
+
+    // Colours that a record lacks are black.
+    const auto bindColor = [this](ColorWell* well, std::optional<Color> Watermark::*field) {
+        binder_.bind(
+            well,
+            [field](const Watermark& record) {
+                return std::optional((record.*field).value_or(Color::black()));
+            },
+            [field](Watermark& record, const Color& chosen) { record.*field = chosen; });
+    };
+    bindColor(color, &Watermark::TextColor);
+    bindColor(shadowColor, &Watermark::ShadowColor);
+    binder_.bind(shadow, &Watermark::Shadow, [shadowColor](Watermark& record, bool on) {
+        record.Shadow = on;
+        if (on) record.ShadowColor = shadowColor->color();
     });
-    connect(shadow_, &QCheckBox::clicked, this, [this](bool on) {
-        Q_EMIT edited([on, color = shadowColor_->color()](Watermark& record) {
-            record.Shadow = on;
-            if (on) record.ShadowColor = color;
-        });
-    });
-    connect(shadowColor_, &ColorWell::colorChosen, this, [this](const Color& color) {
-        Q_EMIT edited([color](Watermark& record) { record.ShadowColor = color; });
+    binder_.follow([=](const Watermark& record) {
+        const bool isEmbossed = record.TextEffect != 0;
+        shadow->setEnabled(!isEmbossed);
+        shadow->setToolTip(isEmbossed ? tr("Embossed letters cast no shadow") : QString());
+        shadowColor->setEnabled(!isEmbossed && record.Shadow);
     });
     return widget;
 }
 
 QWidget* TextStyleGroup::makeEffect() {
     auto* widget = new QWidget(this);
-    effect_ = new QComboBox(widget);
-    transparentText_ = new QCheckBox(tr("Transparent &letters"), widget);
-    widget->setFocusProxy(effect_);
-    effect_->setObjectName(QStringLiteral("TextEffect"));
-    effect_->addItem(tr("None"), 0);
-    effect_->addItem(tr("Emboss"), Emboss);
-    transparentText_->setObjectName(QStringLiteral("IsTextTransparent"));
-    transparentText_->setToolTip(tr("Only the light and dark edges of embossed letters are drawn"));
+    auto* effect = named("TextEffect", new QComboBox(widget));
+    effect->addItem(tr("None"), 0);
+    effect->addItem(tr("Emboss"), Emboss);
+    auto* transparent = named("IsTextTransparent", new QCheckBox(tr("Transparent &letters"), widget));
+    transparent->setToolTip(tr("Only the light and dark edges of embossed letters are drawn"));
+    widget->setFocusProxy(effect);
     QHBoxLayout* row = rowOf(widget);
-    row->addWidget(effect_);
+    row->addWidget(effect);
     row->addSpacing(12);
-    row->addWidget(transparentText_);
+    row->addWidget(transparent);
     row->addStretch();
-    connect(effect_, &QComboBox::activated, this, [this](int chosen) {
-        const std::int32_t effect = effect_->itemData(chosen).toInt();
-        Q_EMIT edited([effect](Watermark& record) { record.TextEffect = effect; });
-    });
-    connect(transparentText_, &QCheckBox::clicked, this,
-            [this](bool on) { Q_EMIT edited([on](Watermark& record) { record.UseTransparentColor = on; }); });
+    binder_.bind(
+        effect, [](const Watermark& record) { return record.TextEffect == 0 ? 0 : Emboss; },
+        [](Watermark& record, const QVariant& code) { record.TextEffect = code.toInt(); });
+    binder_.bind(transparent, &Watermark::UseTransparentColor);
+    binder_.follow(
+        [transparent](const Watermark& record) { transparent->setEnabled(record.TextEffect != 0); });
     return widget;
-}
-
-// Each kind of size has a field of its own, which keeps its number while the other one is used.
-void TextStyleGroup::SetFontSizeType(bool isRelative) {
-    const double size = (isRelative ? relativeSize_ : fixedSize_)->value();
-    Q_EMIT edited([isRelative, size](Watermark& record) {
-        if (record.IsRelative == isRelative) return;
-        record.IsRelative = isRelative;
-        record.FontSize = std::llround(size);
-        if (isRelative && record.FontRelativeSize.isEmpty()) record.FontRelativeSize = Sides[0];
-    });
-}
-
-void TextStyleGroup::loadSize(const Watermark& record) {
-    sizeType_->setCurrentIndex(sizeType_->findData(record.IsRelative));
-    (record.IsRelative ? relativeSize_ : fixedSize_)->load(static_cast<double>(record.FontSize));
-    // Any other word means the height.
-    const int side = relativeTo_->findText(record.FontRelativeSize);
-    relativeTo_->setCurrentIndex(side < 0 ? 1 : side);
-    usualSizes_->setCurrentIndex(usualSizes_->findData(QVariant(static_cast<int>(record.FontSize))));
-    relativeSize_->setVisible(record.IsRelative);
-    relativeTo_->setVisible(record.IsRelative);
-    fixedSize_->setVisible(!record.IsRelative);
-    usualSizes_->setVisible(!record.IsRelative);
-}
-
-void TextStyleGroup::load(const Watermark& record) {
-    family_->load(record.FontFamily);
-    loadSize(record);
-    for (std::size_t i = 0; i < std::size(Styles); ++i) {
-        styles_->buttons().at(static_cast<qsizetype>(i))->setChecked(record.*Styles[i].field);
-    }
-    if (QAbstractButton* button = alignment_->button(static_cast<int>(record.Alignment))) {
-        button->setChecked(true);
-    } else if (QAbstractButton* checked = alignment_->checkedButton()) {
-        alignment_->setExclusive(false);
-        checked->setChecked(false);
-        alignment_->setExclusive(true);
-    }
-    color_->load(record.TextColor.value_or(Color::black()));
-    shadow_->setChecked(record.Shadow);
-    shadowColor_->load(record.ShadowColor.value_or(Color::black()));
-    effect_->setCurrentIndex(record.TextEffect == 0 ? 0 : 1);
-    transparentText_->setChecked(record.UseTransparentColor);
-
-    const bool isEmbossed = record.TextEffect != 0;
-    transparentText_->setEnabled(isEmbossed);
-    shadow_->setEnabled(!isEmbossed);
-    shadow_->setToolTip(isEmbossed ? tr("Embossed letters cast no shadow") : QString());
-    shadowColor_->setEnabled(!isEmbossed && record.Shadow);
 }
 
 }  // namespace zelto

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/text/text_start.h"
+
+#include "persistence/color_text.h"
+#include "platform/preferences.h"
+
+#include <QFontInfo>
+
+namespace zelto {
+namespace {
+
+constexpr std::int64_t StartPercent = 5;
+
+// Keys of preference::LastTextStyle.
+constexpr QLatin1String Family("Family");
+constexpr QLatin1String Size("Size");
+constexpr QLatin1String IsRelative("IsRelative");
+constexpr QLatin1String Side("Side");
+constexpr QLatin1String TextColor("Color");
+
+}  // namespace
+
+void startText(Watermark& record) {
+    const QVariantMap last = storedPreference(preference::LastTextStyle).value_or(QVariantMap());
+    record.Text = QLatin1String("");
+    record.FontFamily = last.value(Family, QFontInfo(QFont()).family()).toString();
+    record.FontSize = last.value(Size, qint64{StartPercent}).toLongLong();
+    record.IsRelative = last.value(IsRelative, true).toBool();
+    record.FontRelativeSize = last.value(Side, QStringLiteral("Width")).toString();
+    record.TextColor = colorFromString(last.value(TextColor).toString()).value_or(Color::white());
+    record.ShadowColor = Color::black();
+}
+
+void rememberTextStyle(const Watermark& text) {
+    setPreference(preference::LastTextStyle,
+                  {{Family, text.FontFamily},
+                   {Size, qint64{text.FontSize}},
+                   {IsRelative, text.IsRelative},
+                   {Side, text.FontRelativeSize},
+                   {TextColor, exactColorText(text.TextColor.value_or(Color::black()))}});
+}
+
+}  // namespace zelto
