@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/photo_macros.h"
 
-#include "macros/macro_expander.h"
 #include "macros/macro_list.h"
 #include "pictures/picture_reader.h"
 #include "platform/dates.h"
@@ -9,9 +8,8 @@
 #include <memory>
 
 namespace zelto {
-namespace {
 
-MacroContext contextOf(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
+MacroContext photoMacroContext(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
     MacroContext context;
     context.photoPath = path;
     context.row = row;
@@ -27,8 +25,6 @@ MacroContext contextOf(const QString& path, qint64 row, const QDateTime& now, co
     return context;
 }
 
-}  // namespace
-
 PhotoMacros macrosOfPhoto(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
     PhotoMacros macros{fixedMacros(), {}};
     if (path.isEmpty()) {
@@ -37,7 +33,7 @@ PhotoMacros macrosOfPhoto(const QString& path, qint64 row, const QDateTime& now,
         macros.values[1] = formatShortDate(now, locale);
         return macros;
     }
-    const MacroContext context = contextOf(path, row, now, locale);
+    const MacroContext context = photoMacroContext(path, row, now, locale);
     macros.list += metadataMacros(context.properties->get());
     const QString countByOne = GenerateAutoMacro({});
     for (const Macro& macro : macros.list) {

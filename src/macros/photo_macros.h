@@ -3,6 +3,7 @@
 // photo.
 #pragma once
 
+#include "macros/macro_expander.h"
 #include "records/macro.h"
 
 #include <QDateTime>
@@ -17,6 +18,10 @@ struct PhotoMacros {
     QList<Macro> list;   // the fixed rows, then the photo's EXIF and IPTC properties
     QStringList values;  // of each row; the running number's is that of a count by one from 1
 };
+
+// What texts expand with on one photo outside a run: in an editor, a value is the one that the preview shows. `row` is the
+// photo's place in the photo list, from 0.
+MacroContext photoMacroContext(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale);
 
 // `row` is the photo's place in the photo list, from 0. An empty path, for no photo, gives the fixed rows with
 // what can be told without one.

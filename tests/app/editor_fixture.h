@@ -42,6 +42,31 @@ class EditorTest : public ::testing::Test {
         std::function<void(Watermark&)> expected;
         std::function<void(Watermark&)> start = [](Watermark&) {};
     };
+    // Rows of controls that set one field: by a click, by typing, by a key.
+    using Start = std::function<void(Watermark&)>;
+    template <class Value>
+    static ControlRow clicked(
+        const char* name, Value Watermark::*field, const std::type_identity_t<Value>& value = true,
+        const Start& start = [](Watermark&) {}) {
+        return {name, [name](QDialog& editor) { click(editor, name); }, set(field, value), start};
+    }
+    template <class Value>
+    static ControlRow typed(
+        const char* name, const QString& text, Value Watermark::*field,
+        const std::type_identity_t<Value>& value, const Start& start = [](Watermark&) {}) {
+        return {name, [name, text](QDialog& editor) { type(editor, name, text); }, set(field, value), start};
+    }
+    template <class Value>
+    static ControlRow pressed(
+        const char* name, Qt::Key key, Value Watermark::*field, const std::type_identity_t<Value>& value,
+        const Start& start = [](Watermark&) {}) {
+        return {name, [name, key](QDialog& editor) { press(editor, name, key); }, set(field, value), start};
+    }
+    template <class Value>
+    static std::function<void(Watermark&)> set(Value Watermark::*field,
+                                               const std::type_identity_t<Value>& value) {
+        return [field, value](Watermark& record) { record.*field = value; };
+    }
     void checkControls(const Watermark& start, const std::vector<ControlRow>& rows);
 
     // Puts a record into the list, as a step that is over.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/qr_code_editor.h"
 
+#include "app/common/in_background.h"
+#include "app/common/newest_worker.h"
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/editor_dialog.h"
 #include "app/editors/controls/photo_reference.h"
@@ -9,7 +11,8 @@
 #include "app/editors/controls/typed_text.h"
 #include "app/editors/macros/macro_controller.h"
 #include "app/editors/qr_rules.h"
-#include "macros/macro_expander.h"
+#include "macros/photo_macros.h"
+#include "platform/dates.h"
 #include "render/qr_code.h"
 
 #include <QCheckBox>
@@ -17,16 +20,13 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zelto {
 namespace {
-
-// A pause in typing after which the code is judged: that takes longer than a keystroke may.
-constexpr int JudgeAfter = 150;  // milliseconds
 
 class QrCodeEditor : public RecordPanel {
     Q_DECLARE_TR_FUNCTIONS(zelto::QrCodeEditor)
@@ -39,38 +39,43 @@ class QrCodeEditor : public RecordPanel {
     QLayout* makeJudgement(QWidget* box);
     QWidget* makeLook();
     void openMacros();
-    void judge();
+    std::function<void(const Watermark&)> judge();
+    void say(const QrJudgement& judgement);
 
+    const QString photoPath_;
+    const qint64 photoRow_;
     const QSizeF reference_;
-    const MacroContext macros_;  // of the selected photo
     TypedText* text_ = nullptr;
     QLabel* judgementIcon_ = nullptr;
     QLabel* judgement_ = nullptr;
-    QTimer judgeSoon_;
+    // Reading the photo for its macros and judging a code take longer than a keystroke may.
+    NewestWorker<Watermark> judge_;
 };
 
 QrCodeEditor::QrCodeEditor(const EditorCall& call, WatermarkSession& session)
     : RecordPanel(QStringLiteral("QrCodeEditor"), tr("QR Code"), session),
+      photoPath_(call.photoPath),
+      photoRow_(call.photoRow),
       reference_(photoReference(call)),
-      macros_({.photoPath = call.photoPath,
-               .pixelSize = reference_.toSize(),
-               .pointSize = reference_,
-               .row = call.photoRow,
-               .listSize = call.photoRow + 1,
-               .now = QDateTime::currentDateTime(),
-               .locale = {},
-               .properties = std::make_shared<LazyImageProperties>(call.photoPath)}) {
-    judgeSoon_.setSingleShot(true);
-    judgeSoon_.setInterval(JudgeAfter);
-    connect(&judgeSoon_, &QTimer::timeout, this, &QrCodeEditor::judge);
+      judge_(judge()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(makeContent(), 1);
     column->addWidget(makeLook());
     column->addWidget(new PositionGroup(binder(), PositionGroup::Tiling::None, this));
-    binder().follow([this](const Watermark&) { judgeSoon_.start(); });
+    binder().follow([this](const Watermark& record) { judge_.post(record); });
     setFocusProxy(text_);
-    judge();
+}
+
+// For the worker's thread: judges the record it is given and has the panel say so.
+std::function<void(const Watermark&)> QrCodeEditor::judge() {
+    return [self = QPointer(this), path = photoPath_, row = photoRow_, reference = reference_,
+            macros = std::optional<MacroContext>()](const Watermark& code) mutable {
+        if (!macros) macros = photoMacroContext(path, row, QDateTime::currentDateTime(), userDateLocale());
+        const QrJudgement judgement(ParseMacros(code.Text, *macros).text, qrSide(code, reference), reference,
+                                    code.ShadowColor);
+        answerOnMainThread(self, [self, judgement] { self->say(judgement); });
+    };
 }
 
 QWidget* QrCodeEditor::makeContent() {
@@ -145,14 +150,11 @@ void QrCodeEditor::openMacros() {
     auto* dialog = new RememberedDialog(QStringLiteral("QrCodeMacros"), tr("Macros"), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     auto* column = new QVBoxLayout(dialog);
-    column->addWidget(new MacroController(macros_.photoPath, macros_.row, *text_, dialog));
+    column->addWidget(new MacroController(photoPath_, photoRow_, *text_, dialog));
     dialog->open();
 }
 
-void QrCodeEditor::judge() {
-    const Watermark record = session().record();
-    const QrJudgement judgement(ParseMacros(record.Text, macros_).text, qrSide(record, reference_),
-                                reference_, record.ShadowColor);
+void QrCodeEditor::say(const QrJudgement& judgement) {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     judgementIcon_->setPixmap(style()
                                   ->standardIcon(judgement.isProblem() ? QStyle::SP_MessageBoxWarning

@@ -30,7 +30,7 @@ constexpr NumberKind SideCount{static_cast<double>(FewestSides), 100};
 
 struct Choice {
     const char* title;
-    int code;
+    std::int64_t code;
 };
 constexpr std::array Kinds = {
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Rectangle"), shape_type::Rectangle},
@@ -40,11 +40,13 @@ constexpr std::array Kinds = {
 };
 // By `Watermark::GradeintType`.
 constexpr std::array Directions = {
-    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Left to right"), 1},
-    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Top to bottom"), 2},
-    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Lower right to upper left"), 3},
-    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Upper right to lower left"), 4},
-    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "From the centre"), 5},
+    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Left to right"), gradient_type::LeftToRight},
+    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Top to bottom"), gradient_type::TopToBottom},
+    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Lower right to upper left"),
+           gradient_type::LowerRightToUpperLeft},
+    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Upper right to lower left"),
+           gradient_type::UpperRightToLowerLeft},
+    Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "From the centre"), gradient_type::FromCentre},
 };
 
 QImage drawnAlone(const Watermark& record) {
@@ -53,7 +55,7 @@ QImage drawnAlone(const Watermark& record) {
 }
 
 // The drawing of a kind of shape for its button.
-QImage kindDrawing(int kind) {
+QImage kindDrawing(std::int32_t kind) {
     Watermark shape(watermark_type::Shape);
     shape.ShapeType = kind;
     shape.Sides = 6;
@@ -68,7 +70,7 @@ QImage kindDrawing(int kind) {
 }
 
 // What a gradient looks like, for the list of directions.
-QIcon gradientIcon(const Watermark& record, int direction) {
+QIcon gradientIcon(const Watermark& record, std::int64_t direction) {
     Watermark shape = record;
     shape.ShapeType = shape_type::Rectangle;
     shape.SolidBackground = false;
@@ -137,11 +139,12 @@ QLayout* ShapeEditor::makeKinds(QWidget* box) {
     auto* kinds = new QButtonGroup(box);
     auto* row = new QHBoxLayout;
     for (const Choice& kind : Kinds) {
-        auto* button = new TileButton(lineIcon(kindDrawing(kind.code)), tr(kind.title), box);
+        auto* button =
+            new TileButton(lineIcon(kindDrawing(static_cast<std::int32_t>(kind.code))), tr(kind.title), box);
         button->setObjectName(QLatin1String(kind.title));
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        kinds->addButton(button, kind.code);
+        kinds->addButton(button, static_cast<int>(kind.code));
         row->addWidget(button);
     }
     binder().bind(kinds, &Watermark::ShapeType, [](Watermark& record, int kind) {
@@ -213,7 +216,7 @@ QComboBox* ShapeEditor::makeDirections(QWidget* box) {
     auto* list = new QComboBox(box);
     list->setObjectName(QStringLiteral("GradeintType"));
     list->setAccessibleName(tr("Direction of the gradient"));
-    for (const Choice& choice : Directions) list->addItem(tr(choice.title), choice.code);
+    for (const Choice& choice : Directions) list->addItem(tr(choice.title), QVariant::fromValue(choice.code));
     // Records that name no direction go from left to right.
     const auto direction = [list](const Watermark& record) {
         const QVariant code = QVariant::fromValue(record.GradeintType);
@@ -228,7 +231,7 @@ QComboBox* ShapeEditor::makeDirections(QWidget* box) {
         if (shown == colors) return;
         shown = colors;
         for (int row = 0; row < list->count(); ++row) {
-            list->setItemIcon(row, gradientIcon(record, list->itemData(row).toInt()));
+            list->setItemIcon(row, gradientIcon(record, list->itemData(row).value<std::int64_t>()));
         }
     });
     return list;

@@ -13,44 +13,38 @@ class ShapeEditorTest : public EditorTest {
 
 TEST_F(ShapeEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
     using W = Watermark;
+    const auto polygon = [](W& w) { w.ShapeType = shape_type::Polygon, w.Sides = 3; };
     checkControls(
         start(),
         {
-            {"kind", [](QWidget& d) { click(d, "Ellipse"); },
-             [](W& w) { w.ShapeType = shape_type::Ellipse; }},
-            {"kind by keyboard", [](QWidget& d) { press(d, "Rectangle", Qt::Key_Right); },
-             [](W& w) { w.ShapeType = shape_type::Ellipse; }},
-            {"polygon", [](QWidget& d) { click(d, "Polygon"); },
-             [](W& w) { w.ShapeType = shape_type::Polygon, w.Sides = 3; }},
+            clicked("Ellipse", &W::ShapeType, shape_type::Ellipse),
+            pressed("Rectangle", Qt::Key_Right, &W::ShapeType, shape_type::Ellipse),
+            {"polygon", [](QWidget& d) { click(d, "Polygon"); }, polygon},
             {"no sides",
              [](QWidget& d) {
-                 click(d, "Polygon"), type(d, "Sides", u"5"_s);
-                 type(d, "Sides", {}), press(d, "Sides", Qt::Key_Tab);
+                 click(d, "Polygon"), type(d, "Sides", u"5"_s), type(d, "Sides", {}),
+                     press(d, "Sides", Qt::Key_Tab);
              },
-             [](W& w) { w.ShapeType = shape_type::Polygon, w.Sides = 3; }},
-            {"width", [](QWidget& d) { type(d, "Width", u"150"_s); }, [](W& w) { w.Width = 150.0F; }},
+             polygon},
+            typed("Width", u"150"_s, &W::Width, 150.0F),
             {"the same height as a share", [](QWidget& d) { choose(d, "Height", 1); },
              [](W& w) { w.ResizeHeightByPercent = true, w.ResizeHeight = 0.5F; }},
             {"width as a share and back",
              [](QWidget& d) { choose(d, "Width", 1), type(d, "Width", u"25"_s), choose(d, "Width", 0); },
              [](W& w) { w.ResizeWidth = 0.25F, w.Width = 150.0F; }},
             {"colour", [](QWidget& d) { pickColor(d, "SolidColor", QColor(255, 0, 0, 51)); },
-             [](W& w) {
-                 w.SolidColor = Color{1.0F, 0.0F, 0.0F, 0.2F};
-             }},
+             set(&W::SolidColor, Color{1.0F, 0.0F, 0.0F, 0.2F})},
             {"gradient",
              [](QWidget& d) {
-                 click(d, "Gradient");
+                 click(d, "Gradient"), choose(d, "GradeintType", 4);
                  pickColor(d, "FirstColor", Qt::blue), pickColor(d, "SecondColor", Qt::red);
-                 choose(d, "GradeintType", 4);
              },
              [](W& w) {
                  w.SolidBackground = false, w.GradeintType = 5;
-                 w.FirstColor = Color{0.0F, 0.0F, 1.0F};
-                 w.SecondColor = Color{1.0F, 0.0F, 0.0F};
+                 w.FirstColor = Color{0.0F, 0.0F, 1.0F}, w.SecondColor = Color{1.0F, 0.0F, 0.0F};
              }},
-            {"place", [](QWidget& d) { click(d, "Cell9"), type(d, "Rotation", u"-30"_s); },
-             [](W& w) { w.Position = 9, w.Rotation = -30; }},
+            clicked("Cell9", &W::Position, 9),
+            typed("Rotation", u"-30"_s, &W::Rotation, -30),
         });
 }
 

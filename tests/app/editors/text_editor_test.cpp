@@ -32,63 +32,48 @@ class TextEditorTest : public EditorTest {
 
 TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
     using W = Watermark;
-    const auto embossed = [](W& text) { text.TextEffect = 3; };
-    const auto fixed = [](W& text) { text.IsRelative = false; };
+    const auto embossed = set(&W::TextEffect, 3);
+    const auto fixed = set(&W::IsRelative, false);
+    const QStringList families = QFontDatabase::families();
+    const QString nextFamily = families.value(families.indexOf(sampleText().FontFamily) + 1);
     checkControls(
         sampleText(),
         {
-            {"text",
+            {"lines",
              [](QWidget& e) {
                  type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return);
                  QTest::keyClicks(&control(e, "Text"), u"b"_s);
              },
-             [](W& w) { w.Text = u"a\nb"_s; }},
+             set(&W::Text, u"a\nb"_s)},
             {"font",
              [](QWidget& e) {
                  type(e, "searchFonts", u"sans mono"_s), press(e, "searchFonts", Qt::Key_Return);
              },
-             [](W& w) { w.FontFamily = u"DejaVu Sans Mono"_s; }},
-            {"next font", [](QWidget& e) { press(e, "searchFonts", Qt::Key_Down); },
-             [](W& w) {
-                 const QStringList families = QFontDatabase::families();
-                 w.FontFamily = families.value(families.indexOf(w.FontFamily) + 1);
-             }},
-            {"size", [](QWidget& e) { type(e, "FontSize", u"12"_s); }, [](W& w) { w.FontSize = 12; }},
-            {"side", [](QWidget& e) { press(e, "FontRelativeSize", Qt::Key_End); },
-             [](W& w) { w.FontRelativeSize = u"Longer Side"_s; }},
-            {"kind of size", [](QWidget& e) { press(e, "FontSizeType", Qt::Key_Down); },
-             [](W& w) { w.IsRelative = false; }},
-            {"the other kind", [](QWidget& e) { press(e, "FontSizeType", Qt::Key_Up); },
-             [](W& w) { w.IsRelative = true; }, fixed},
-            {"pixels", [](QWidget& e) { type(e, "FontSize", u"3100"_s); }, [](W& w) { w.FontSize = 3100; },
-             fixed},
-            {"usual size", [](QWidget& e) { press(e, "UsualSizes", Qt::Key_Home); },
-             [](W& w) { w.FontSize = 12; }, fixed},
-            {"bold", [](QWidget& e) { click(e, "FontBold"); }, [](W& w) { w.FontBold = true; }},
-            {"italic", [](QWidget& e) { click(e, "FontItalic"); }, [](W& w) { w.FontItalic = true; }},
-            {"underline", [](QWidget& e) { click(e, "FontUnderline"); },
-             [](W& w) { w.FontUnderline = true; }},
-            {"strike", [](QWidget& e) { click(e, "FontStrikethrough"); },
-             [](W& w) { w.FontStrikethrough = true; }},
-            {"centre", [](QWidget& e) { click(e, "align-center"); }, [](W& w) { w.Alignment = 2; }},
-            {"right", [](QWidget& e) { click(e, "align-right"); }, [](W& w) { w.Alignment = 1; }},
-            {"shadow", [](QWidget& e) { click(e, "Shadow"); }, [](W& w) { w.Shadow = true; }},
+             set(&W::FontFamily, u"DejaVu Sans Mono"_s)},
             {"shadow in the well's colour", [](QWidget& e) { click(e, "Shadow"); },
              [](W& w) { w.Shadow = true, w.ShadowColor = Color::black(); },
              [](W& w) { w.ShadowColor.reset(); }},
-            {"emboss", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Down); }, embossed},
-            {"plain", [](QWidget& e) { press(e, "TextEffect", Qt::Key_Up); }, [](W& w) { w.TextEffect = 0; },
-             embossed},
-            {"hollow", [](QWidget& e) { click(e, "IsTextTransparent"); },
-             [](W& w) { w.UseTransparentColor = true; }, embossed},
-            {"transparency", [](QWidget& e) { press(e, "Transparency", Qt::Key_PageUp); },
-             [](W& w) { w.Transparency = 0.4F; }},
-            {"place",
-             [](QWidget& e) {
-                 e.findChild<QTabWidget*>()->setCurrentIndex(2);
-                 click(e, "HorizontalTiling"), type(e, "HorizontalSpacing", u"25"_s);
-             },
-             [](W& w) { w.HorizontalTiling = true, w.HorizontalSpacing = 25, w.Position = 2; }},
+            {"tiling",
+             [](QWidget& e) { e.findChild<QTabWidget*>()->setCurrentIndex(2), click(e, "HorizontalTiling"); },
+             [](W& w) { w.HorizontalTiling = true, w.Position = 2; }},
+            pressed("searchFonts", Qt::Key_Down, &W::FontFamily, nextFamily),
+            typed("FontSize", u"12"_s, &W::FontSize, 12),
+            typed("FontSize", u"3100"_s, &W::FontSize, 3100, fixed),
+            pressed("UsualSizes", Qt::Key_Home, &W::FontSize, 12, fixed),
+            pressed("FontRelativeSize", Qt::Key_End, &W::FontRelativeSize, u"Longer Side"_s),
+            pressed("FontSizeType", Qt::Key_Down, &W::IsRelative, false),
+            pressed("FontSizeType", Qt::Key_Up, &W::IsRelative, true, fixed),
+            clicked("FontBold", &W::FontBold),
+            clicked("FontItalic", &W::FontItalic),
+            clicked("FontUnderline", &W::FontUnderline),
+            clicked("FontStrikethrough", &W::FontStrikethrough),
+            clicked("align-center", &W::Alignment, 2),
+            clicked("align-right", &W::Alignment, 1),
+            clicked("Shadow", &W::Shadow),
+            pressed("TextEffect", Qt::Key_Down, &W::TextEffect, 3),
+            pressed("TextEffect", Qt::Key_Up, &W::TextEffect, 0, embossed),
+            clicked("IsTextTransparent", &W::UseTransparentColor, true, embossed),
+            pressed("Transparency", Qt::Key_PageUp, &W::Transparency, 0.4F),
         });
 }
 

@@ -59,7 +59,8 @@ PositionControls EnableDisablePositionControls(const Watermark& record) {
 void setPresetPosition(Watermark& record, int cell) {
     record.Position = cell;
     if (record.Type != watermark_type::Text && record.Type != watermark_type::Image) return;
-    constexpr std::array<std::uint64_t, 3> AlignmentByColumn = {1, 0, 2};  // right, left, centre
+    constexpr std::array<std::uint64_t, 3> AlignmentByColumn = {text_alignment::Right, text_alignment::Left,
+                                                                text_alignment::Centre};
     record.Alignment = AlignmentByColumn.at(static_cast<std::size_t>(cell % 3));
 }
 

@@ -24,8 +24,7 @@ namespace {
 
 constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
 constexpr double StartPercent = 25.0;
-constexpr QLatin1String Sides[] = {QLatin1String("Width"), QLatin1String("Height"),
-                                   QLatin1String("Longer Side")};
+constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
 constexpr QLatin1String LogoTypes(
     "(*.jpg *.JPG *.gif *.GIF *.jpeg *.JPEG *.png *.PNG *.tif *.TIF *.tiff *.TIFF)");
 

@@ -26,7 +26,7 @@ void startText(Watermark& record) {
     record.FontFamily = last.value(Family, QFontInfo(QFont()).family()).toString();
     record.FontSize = last.value(Size, qint64{StartPercent}).toLongLong();
     record.IsRelative = last.value(IsRelative, true).toBool();
-    record.FontRelativeSize = last.value(Side, QStringLiteral("Width")).toString();
+    record.FontRelativeSize = last.value(Side, QString(photo_side::Width)).toString();
     record.TextColor = colorFromString(last.value(TextColor).toString()).value_or(Color::white());
     record.ShadowColor = Color::black();
 }

@@ -19,8 +19,7 @@ namespace {
 constexpr NumberKind PercentOfSide{1, 1'000, 0, QLatin1String(" %")};
 constexpr NumberKind Pixels{1, 10'000, 0, QLatin1String(" px")};
 constexpr int UsualSizes[] = {12, 18, 24, 36, 48, 72, 96, 144, 200, 300, 400};
-constexpr QLatin1String Sides[] = {QLatin1String("Width"), QLatin1String("Height"),
-                                   QLatin1String("Longer Side")};
+constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
 
 struct StyleRow {
     const char* letter;
@@ -46,12 +45,13 @@ struct AlignmentRow {
     std::uint64_t code;
 };
 constexpr AlignmentRow Alignments[] = {
-    {QLatin1String("align-left"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Align left"), 0},
-    {QLatin1String("align-center"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Centre"), 2},
-    {QLatin1String("align-right"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Align right"), 1},
+    {QLatin1String("align-left"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Align left"),
+     text_alignment::Left},
+    {QLatin1String("align-center"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Centre"),
+     text_alignment::Centre},
+    {QLatin1String("align-right"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Align right"),
+     text_alignment::Right},
 };
-
-constexpr std::int32_t Emboss = 3;
 
 template <class Control>
 Control* named(const char* name, Control* control) {
@@ -122,7 +122,7 @@ QWidget* TextStyleGroup::makeSize() {
         [side](const Watermark& record) {
             // Any other word means the height.
             const bool isKnown = side->findData(record.FontRelativeSize) >= 0;
-            return isKnown ? record.FontRelativeSize : QString(Sides[1]);
+            return isKnown ? record.FontRelativeSize : QString(photo_side::Height);
         },
         [](Watermark& record, const QVariant& title) { record.FontRelativeSize = title.toString(); });
     binder_.follow([=](const Watermark& record) {
@@ -189,7 +189,7 @@ QWidget* TextStyleGroup::makeColors() {
         if (on) record.ShadowColor = shadowColor->color();
     });
     binder_.follow([=](const Watermark& record) {
-        const bool isEmbossed = record.TextEffect != 0;
+        const bool isEmbossed = record.TextEffect != text_effect::None;
         shadow->setEnabled(!isEmbossed);
         shadow->setToolTip(isEmbossed ? tr("Embossed letters cast no shadow") : QString());
         shadowColor->setEnabled(!isEmbossed && record.Shadow);
@@ -200,8 +200,8 @@ QWidget* TextStyleGroup::makeColors() {
 QWidget* TextStyleGroup::makeEffect() {
     auto* widget = new QWidget(this);
     auto* effect = named("TextEffect", new QComboBox(widget));
-    effect->addItem(tr("None"), 0);
-    effect->addItem(tr("Emboss"), Emboss);
+    effect->addItem(tr("None"), text_effect::None);
+    effect->addItem(tr("Emboss"), text_effect::Emboss);
     auto* transparent = named("IsTextTransparent", new QCheckBox(tr("Transparent &letters"), widget));
     transparent->setToolTip(tr("Only the light and dark edges of embossed letters are drawn"));
     widget->setFocusProxy(effect);
@@ -211,11 +211,15 @@ QWidget* TextStyleGroup::makeEffect() {
     row->addWidget(transparent);
     row->addStretch();
     binder_.bind(
-        effect, [](const Watermark& record) { return record.TextEffect == 0 ? 0 : Emboss; },
+        effect,
+        [](const Watermark& record) {
+            return record.TextEffect == text_effect::None ? text_effect::None : text_effect::Emboss;
+        },
         [](Watermark& record, const QVariant& code) { record.TextEffect = code.toInt(); });
     binder_.bind(transparent, &Watermark::UseTransparentColor);
-    binder_.follow(
-        [transparent](const Watermark& record) { transparent->setEnabled(record.TextEffect != 0); });
+    binder_.follow([transparent](const Watermark& record) {
+        transparent->setEnabled(record.TextEffect != text_effect::None);
+    });
     return widget;
 }
 
