@@ -33,6 +33,12 @@ Error asError(const std::exception& exception) {
     return {ErrorCode::CannotWrite, QString::fromLocal8Bit(exception.what()), {}};
 }
 
+// Whether the message says what the user can understand and change; others are told in general words.
+bool isForUsers(const Error& error) {
+    return error.code == ErrorCode::Damaged || error.code == ErrorCode::Unsupported ||
+           error.code == ErrorCode::OutOfMemory;
+}
+
 }  // namespace
 
 // What a run keeps from its start to its end, pauses included.
@@ -173,8 +179,7 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
         job_.writtenNames.insert(planned(row).sharesNameOf.value_or(row));
     } else {
         const Error& error = written.error();
-        const bool isForUsers = error.code == ErrorCode::Damaged || error.code == ErrorCode::Unsupported;
-        outcome.error = isForUsers ? error.message : QString(WatermarkingFailedMessage);
+        outcome.error = isForUsers(error) ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;
     }
     recordOutcome(std::move(outcome));

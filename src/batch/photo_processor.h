@@ -47,8 +47,8 @@ class PhotoProcessor {
     // A generous guess of the bytes prepare() will hold at its peak. Any thread.
     virtual qint64 memoryNeeded(const PhotoTask& task) = 0;
 
-    // Several photos are prepared at once, on any thread. An error of ErrorCode::Damaged or Unsupported has a
-    // message for the user; every other is told as a general failure. May throw, which is a failure as well.
+    // Several photos are prepared at once, on any thread. An error of ErrorCode::Damaged, Unsupported or OutOfMemory
+    // has a message for the user; every other is told as a general failure. May throw, which is a failure as well.
     virtual Result<PreparedPhoto> prepare(const PhotoTask& task) = 0;
 
     // Writes the photo. One call at a time, in list order; errors as prepare().

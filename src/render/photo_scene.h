@@ -66,8 +66,8 @@ struct PhotoScene {
     std::optional<qint64> lastAutoNumber;  // see MacroExpansion
 };
 
-// Error: as readPicture; ErrorCode::Unsupported, with a message for the user, where memory does not suffice or border
-// and shadow would make the photo larger than any may be.
+// Error: as readPicture; ErrorCode::OutOfMemory where memory does not suffice, ErrorCode::Unsupported where border and
+// shadow would make the photo larger than any may be.
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 
 // The same for a photo already in memory. Move the photo in: without a filter and a frame its pixels are then
