@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 MacroContext photoContext() {
     return {.photoPath = u"/home/someone/Pictures/2024/05 Garden/IMG_20240503_094107.jpg"_s,
             .pixelSize = {6000, 4000},
-            .pointSize = {1440, 960},
+            .dpiX = 300,
+            .dpiY = 300,
             .row = 41,
             .listSize = 500,
             .batchRunning = true,

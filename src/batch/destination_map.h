@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the photos of each source folder go when a run keeps the directory structure: below the output
-// folder, under the name of the topmost folder of theirs that holds photos. Folders are compared as the texts
-// they are. Values in, values out; any thread.
+// Where the photos of each source folder go when a run keeps the directory structure: below the output folder, at the
+// path they have from the topmost of their folders that holds photos itself. Folders are compared as plain text. Values
+// in, values out; any thread.
 #pragma once
 
 #include <QMap>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/folder_scan.h"
 
+#include "pictures/picture_names.h"
 #include "platform/path_parts.h"
 
 #include <QFile>
@@ -26,12 +27,6 @@ constexpr std::array FormatPieces = {
     FormatPiece{&ScanFormats::Tiff, QLatin1String(".tiff;.tif;")},
     FormatPiece{&ScanFormats::Gif, QLatin1String(".gif;")},
     FormatPiece{&ScanFormats::Bmp, QLatin1String(".bmp;")},
-};
-
-// ".giff" is meant as it stands: with it no list of GetExtensionList finds a GIF.
-constexpr std::array ScannedExtensions = {
-    QLatin1String(".jpg"), QLatin1String(".jpeg"), QLatin1String(".giff"), QLatin1String(".tiff"),
-    QLatin1String(".tif"), QLatin1String(".png"),  QLatin1String(".bmp"),
 };
 
 // How many entries of a folder are listed between two questions whether to go on.
@@ -119,10 +114,9 @@ QString GetExtensionList(const ScanFormats& formats) {
 }
 
 bool isScannedName(const QString& fileName, const QString& extensionList) {
-    const QString extension = QLatin1Char('.') + pathExtension(fileName).toLower();
-    return std::find(ScannedExtensions.begin(), ScannedExtensions.end(), extension) !=
-               ScannedExtensions.end() &&
-           extensionList.contains(extension, Qt::CaseInsensitive);
+    const QString extension = pathExtension(fileName);
+    return isScannedExtension(extension) &&
+           extensionList.contains(QLatin1Char('.') + extension, Qt::CaseInsensitive);
 }
 
 Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,

@@ -20,18 +20,6 @@ void ImageList::note(const QString& path) {
     if (!folders_.contains(folder)) folders_.insert(folder, QLatin1String(""));
 }
 
-std::optional<std::size_t> ImageList::RemoveImage(std::size_t row) {
-    paths_.remove(images_.at(row).ImagePath);
-    images_.erase(std::next(images_.begin(), static_cast<std::ptrdiff_t>(row)));
-    if (images_.empty()) return std::nullopt;
-    return std::min(row, images_.size() - 1);
-}
-
-void ImageList::RemoveAllImages() {
-    images_.clear();
-    paths_.clear();
-}
-
 ImageList::Placed ImageList::takeImages(const std::vector<std::size_t>& rows) {
     Placed taken;
     std::vector<Image> kept;
@@ -61,18 +49,6 @@ void ImageList::insertImages(const Placed& photos) {
     }
     all.insert(all.end(), old, std::make_move_iterator(images_.end()));
     images_ = std::move(all);
-}
-
-void ImageList::CheckAllImages() {
-    for (Image& image : images_) image.ApplyWatermark = true;
-}
-
-void ImageList::UncheckAllImages() {
-    for (Image& image : images_) image.ApplyWatermark = false;
-}
-
-void ImageList::ToggleCheck() {
-    for (Image& image : images_) image.ApplyWatermark = !image.ApplyWatermark;
 }
 
 void ImageList::markUnprocessed() {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list of photos a run works on, in the order they were added, and the folders they came from. It knows
-// nothing of tables, selections or files on disk: paths are compared as the texts they are, and a path that
-// is no photo is found out by whoever opens it. One thread at a time.
+// The list of photos a run works on, in the order they were added, and the folders they came from. Paths are compared as
+// plain text and nothing is looked up on disk, so a path need not be that of a photo. One thread at a time.
 #pragma once
 
 #include "batch/destination_map.h"
@@ -24,11 +23,6 @@ class ImageList {
     // Constant time.
     bool CheckIfImageExists(const QString& path) const { return paths_.contains(path); }
 
-    // Removes a photo and returns the row to select then: the one that took its place, or the new last one;
-    // nothing when the list has become empty. Its folder stays known.
-    std::optional<std::size_t> RemoveImage(std::size_t row);
-    void RemoveAllImages();
-
     // Photos and the rows they have in the list, ascending.
     struct Placed {
         std::vector<std::size_t> rows;
@@ -39,9 +33,6 @@ class ImageList {
     Placed takeImages(const std::vector<std::size_t>& rows);
     void insertImages(const Placed& photos);
 
-    void CheckAllImages();
-    void UncheckAllImages();
-    void ToggleCheck();
     void setApplyWatermark(std::size_t row, bool apply) { images_.at(row).ApplyWatermark = apply; }
 
     // The start of a run: every photo shows as not processed. Error texts stay until a new failure replaces

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a run would make of one photo, told before anything is written: what the user sees while choosing the
-// output options. Any thread.
+// What a run would make of one photo: what the user sees while choosing the output options. Any thread.
 #pragma once
 
 #include "batch/destination_map.h"
@@ -20,8 +19,8 @@ struct OutputExample {
     QSize size;    // pixels
 };
 
-// `photo` is the size of the photo (an invalid one gives an invalid size), `effects` what frames it, `folders` the source folders of the photo list.
-// Looks at the disk only for a combined PDF.
+// `photo` is the photo's size in upright pixels (an invalid one gives an invalid size), `effects` its frame, `folders`
+// the source folders of the whole photo list. Looks at the disk only for the name of a combined PDF.
 OutputExample outputExample(const OutputPlace& place, QSize photo, const OutputOptions& options,
                             const std::optional<PhotoEffects>& effects, const FolderDestinations& folders);
 

@@ -11,12 +11,12 @@
 
 namespace zelto {
 
-// The size to write a photo of `photo` upright pixels at, every value cut to whole pixels. Either side may
-// come out as 0 or less where the options ask for that; sides beyond what QSize holds come out as its largest
-// number.
+// The size at which a photo of `photo` upright pixels is written; fractions of a pixel are cut off. A side is 0 or less
+// where the options ask for that, and the largest number QSize holds where they ask for more.
 QSize outputSize(QSize photo, const OutputOptions& options);
 
-// The size of the written picture: outputSize, but a photo that is not resized grows by its border and shadow.
+// The size of the written picture: outputSize(), or, for a photo that is not resized, its own size with the border and
+// the shadow around it.
 QSize writtenSize(QSize photo, const OutputOptions& options, const std::optional<PhotoEffects>& effects);
 
 }  // namespace zelto

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// From a command line to everything one run needs: the setting, the options, the photo list, the copyright data. All
-// that can be wrong with them is found here, before anything is written.
+// From a command line to everything one run needs: the setting, the options, the photo list, the copyright data. What is
+// wrong with any of them is found here, before anything is written.
 #pragma once
 
 #include "batch/batch_request.h"

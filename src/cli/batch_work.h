@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Doing what a plan says, or telling what it would do.
+// Running a plan, or telling what running it would do.
 #pragma once
 
 #include "cli/batch_plan.h"

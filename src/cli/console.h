@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What zelto-batch shows while it works: on a terminal a bar that stays on one line, elsewhere a line a photo.
+// What zelto-batch shows while it works: on a terminal a progress bar, elsewhere one line for each photo.
 // Everything here goes to standard error, with control characters escaped. Any thread.
 #pragma once
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Running numbers: composing their macro from what a user types, the rule of the fields it is typed into,
-// carrying on from the last number used, and the number a macro stands for at a row of the photo list. Any
-// thread.
+// Running numbers: what their fields hold, the macro composed from these, and the number a macro stands for at a row of
+// the photo list. Any thread.
 #pragma once
 
 #include <QString>
@@ -20,8 +19,8 @@ struct AutoNumberFields {
 // What a field holds once `typed` has been typed into it: "1" where its number is below 1.
 QString autoNumberField(const QString& typed);
 
-// The macro of `fields`: digits 4, start 1, increment 1 give "<<AUTO:###1+1>>". Digits never cut the start
-// number; more than MaximumAutoDigits count as that many.
+// The macro of `fields`: digits 4, start 1, increment 1 give "<<AUTO:###1+1>>". A start number with more digits keeps them
+// all. More than MaximumAutoDigits count as that many.
 QString GenerateAutoMacro(const AutoNumberFields& fields);
 inline constexpr qsizetype MaximumAutoDigits = 100;
 

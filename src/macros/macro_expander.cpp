@@ -7,6 +7,7 @@
 #include "macros/metadata_value.h"
 #include "platform/dates.h"
 #include "platform/file_times.h"
+#include "platform/path_parts.h"
 
 #include <QLoggingCategory>
 
@@ -26,7 +27,7 @@ class Photo {
 
     const MacroContext& context() const { return context_; }
 
-    QString fileName() const { return context_.photoPath.sliced(context_.photoPath.lastIndexOf(u'/') + 1); }
+    QString fileName() const { return lastPathComponent(context_.photoPath); }
 
     const FileTimes& fileTimes() {
         if (!fileTimes_) fileTimes_ = readFileTimes(context_.photoPath);
@@ -47,21 +48,14 @@ class Photo {
     std::shared_ptr<const LazyImageProperties> properties_;
 };
 
-QString baseName(const QString& fileName) {
-    const qsizetype dot = fileName.lastIndexOf(u'.');
-    return dot > 0 ? fileName.first(dot) : fileName;
-}
-
 QString folder(const QString& path, const QString& fileName) {
     // Every occurrence goes, a folder of the same name included.
     return fileName.isEmpty() ? path : QString(path).remove(fileName);
 }
 
-QString dotsPerInch(int pixels, double points) {
-    // No size in points means no resolution is known, and then a pixel is a point.
-    if (!(points > 0)) points = pixels;
-    const float dpi = static_cast<float>(qint64{pixels} * 72 / points);
-    return QString::number(std::ceil(dpi), 'f', 0);
+// A whole number, in single precision: 299.99999999 is 300.
+QString dotsPerInch(double dpi) {
+    return QString::number(std::ceil(static_cast<float>(dpi)), 'f', 0);
 }
 
 struct PlainMacro {
@@ -70,7 +64,7 @@ struct PlainMacro {
 };
 
 constexpr PlainMacro PlainMacros[] = {
-    {"<<IMGNAME>>"_L1, [](Photo& photo) { return baseName(photo.fileName()); }},
+    {"<<IMGNAME>>"_L1, [](Photo& photo) { return withoutPathExtension(photo.fileName()); }},
     {"<<IMGNAMEEXT>>"_L1, [](Photo& photo) { return photo.fileName(); }},
     {"<<FOLDER>>"_L1, [](Photo& photo) { return folder(photo.context().photoPath, photo.fileName()); }},
     {"<<FULLPATH>>"_L1, [](Photo& photo) { return photo.context().photoPath; }},
@@ -79,14 +73,8 @@ constexpr PlainMacro PlainMacros[] = {
     {"<<TODAYDATE>>"_L1, [](Photo& photo) { return photo.shortDate(photo.context().now); }},
     {"<<PHOTOWIDTH>>"_L1, [](Photo& photo) { return QString::number(photo.context().pixelSize.width()); }},
     {"<<PHOTOHEIGHT>>"_L1, [](Photo& photo) { return QString::number(photo.context().pixelSize.height()); }},
-    {"<<PHOTODPIX>>"_L1,
-     [](Photo& photo) {
-         return dotsPerInch(photo.context().pixelSize.width(), photo.context().pointSize.width());
-     }},
-    {"<<PHOTODPIY>>"_L1,
-     [](Photo& photo) {
-         return dotsPerInch(photo.context().pixelSize.height(), photo.context().pointSize.height());
-     }},
+    {"<<PHOTODPIX>>"_L1, [](Photo& photo) { return dotsPerInch(photo.context().dpiX); }},
+    {"<<PHOTODPIY>>"_L1, [](Photo& photo) { return dotsPerInch(photo.context().dpiY); }},
 };
 
 struct DatedMacro {

@@ -8,7 +8,6 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QSize>
-#include <QSizeF>
 #include <QString>
 
 #include <memory>
@@ -19,8 +18,9 @@ namespace zelto {
 // What an expansion knows of the photo and its place in the list.
 struct MacroContext {
     QString photoPath;
-    QSize pixelSize;      // upright pixels
-    QSizeF pointSize;     // the same in points of 1/72 inch
+    QSize pixelSize;     // of the photo itself, upright, without a border
+    double dpiX = 72.0;  // of the upright photo; 72 where none is recorded
+    double dpiY = 72.0;
     qint64 row = 0;       // place in the photo list, from 0
     qint64 listSize = 0;  // photos in the list
     bool batchRunning = false;

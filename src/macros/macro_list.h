@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The macros and special characters an editor offers, and what choosing one does; showing them is the
-// editor's. Any thread.
+// The macros and special characters an editor offers, and what choosing one does. Any thread.
 #pragma once
 
 #include "metadata/image_properties.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// From a photo's property dictionary (see platform/image_properties.h) to the text a metadata macro prints,
-// short of words for codes (exif_words.h) and date formats. Any thread.
+// From a photo's property dictionary (metadata/image_properties.h) to the text of a value. Words for codes are
+// exif_words.h's, date formats date_format.h's. Any thread.
 #pragma once
 
 #include <QString>

@@ -17,10 +17,9 @@ MacroContext photoMacroContext(const QString& path, qint64 row, const QDateTime&
     context.locale = locale;
     context.properties = std::make_shared<LazyImageProperties>(path);
     if (const Result<Picture> photo = readPicture(path)) {
-        constexpr double PointsPerInch = 72.0;
         context.pixelSize = photo->image.size();
-        context.pointSize = {context.pixelSize.width() * PointsPerInch / photo->dpiX,
-                             context.pixelSize.height() * PointsPerInch / photo->dpiY};
+        context.dpiX = photo->dpiX;
+        context.dpiY = photo->dpiY;
     }
     return context;
 }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a photo's metadata tells, as dictionaries by property name: EXIF (of the photo only: no maker notes,
-// nothing of the position or the camera) and IPTC with its XMP companions. A value is a QString, a qlonglong,
-// a double, a QVariantList or a QVariantMap of such values. Metadata is anybody's: values are bounded, what
-// cannot be understood is left out, and what could be read of a damaged file counts. All functions may be
-// called on any thread.
+// A photo's metadata as dictionaries by property name: EXIF (the properties of the exposure, without maker notes, the
+// position and the camera's name) and IPTC with the XMP properties that belong to it. A value is a QString, a qlonglong,
+// a double, a QVariantList or a QVariantMap of such values. Metadata may come from strangers: lengths are bounded, what
+// cannot be understood is left out, and of a damaged file what can be read is used. Any thread.
 #pragma once
 
 #include <QString>

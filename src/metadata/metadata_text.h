@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Text out of metadata, whose declared encodings are often wrong or missing. For the property dictionaries
-// only.
+// Text from metadata, whose declared encoding is often wrong or missing. For the property dictionaries only.
 #pragma once
 
 #include <QByteArray>

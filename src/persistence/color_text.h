@@ -20,9 +20,8 @@ QString stringRepresentationofColor(const Color& color);
 // The text form used in files: nine significant digits, so that it reads back to the very same components.
 QString exactColorText(const Color& color);
 
-// The colour of a text form; components are clamped to 0..1, and one that is not a number is 0. Nothing when
-// there are fewer than five tokens. Two blanks in a row enclose an empty token. `colorSpace` has no
-// influence.
+// The colour of a text form. Components are clamped to 0..1; one that is not a number is 0. Nothing when there are fewer
+// than five tokens; two blanks in a row enclose an empty one. `colorSpace` has no influence.
 std::optional<Color> colorFromString(const QString& text,
                                      const QString& colorSpace = CalibratedRgbColorSpace);
 

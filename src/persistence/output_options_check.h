@@ -18,8 +18,8 @@ struct OptionsProblem {
     bool operator==(const OptionsProblem&) const = default;
 };
 
-// The first thing that keeps a run from starting with `options`; nothing when it may. A longer side of 0 or
-// less is an empty one.
+// The first thing that keeps a run from starting with `options`, if any. A longer side of 0 or less counts as an empty
+// field. Looks at the disk.
 std::optional<OptionsProblem> outputOptionsProblem(const OutputOptions& options);
 
 }  // namespace zelto

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The setting file: one XML document per saved watermark stack. Reading accepts what this program and its
-// older versions wrote; files may come from strangers, so no entity is expanded, sizes are bounded and a bad
-// file changes nothing. Any thread.
+// The setting file: one XML document for each saved watermark stack. Reading accepts what this program and its older
+// versions wrote. What files of strangers cannot do is told in xml_document.h. Any thread.
 #pragma once
 
 #include "platform/result.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The saved settings: one folder of setting files, each known by its file's name without the extension, which
-// may have any letter case. Reading and writing the files themselves is setting_file.h's. Any thread; two
-// programs may share the folder.
+// The saved settings: one folder of setting files. A setting's name is its file's name without the extension, which may
+// be written in any letter case. setting_file.h reads and writes the files. Any thread; two programs may share the
+// folder.
 #pragma once
 
 #include "platform/result.h"

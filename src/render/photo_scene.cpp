@@ -14,11 +14,10 @@ namespace zelto {
 namespace {
 
 MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) {
-    constexpr double PointsPerInch = 72.0;
     return {.photoPath = request.path,
             .pixelSize = scene.photoSize,
-            .pointSize = {scene.photoSize.width() * PointsPerInch / scene.dpiX,
-                          scene.photoSize.height() * PointsPerInch / scene.dpiY},
+            .dpiX = scene.dpiX,
+            .dpiY = scene.dpiY,
             .row = request.row,
             .listSize = request.listSize,
             .batchRunning = request.batchRunning,

@@ -42,11 +42,9 @@ TEST(ImageList, KeepsEachExactPathOnceInTheOrderOfAdding) {
 
 TEST(ImageList, ARemovedPhotoCanBeAddedAgainAndItsFolderStaysKnown) {
     ImageList list = listOf({u"/x/a.jpg"_s, u"/y/b.jpg"_s, u"/x/c.jpg"_s});
-    EXPECT_EQ(list.RemoveImage(1), std::optional<std::size_t>(1));
-    EXPECT_EQ(list.RemoveImage(1), std::optional<std::size_t>(0)) << "the last one: the new last row";
-    EXPECT_EQ(list.RemoveImage(0), std::nullopt);
-    EXPECT_TRUE(list.AddImage(u"/y/b.jpg"_s));
-    list.RemoveAllImages();
+    list.takeImages({1, 2});
+    EXPECT_TRUE(list.AddImage(u"/x/c.jpg"_s));
+    list.takeImages({0, 1});
     EXPECT_TRUE(list.AddImage(u"/x/a.jpg"_s));
     EXPECT_EQ(list.InputOutputDictionary().keys(), QStringList({u"/x"_s, u"/y"_s}));
 }
@@ -65,17 +63,6 @@ TEST(ImageList, PhotosTakenOutGoBackToTheirRowsAsTheyWere) {
         EXPECT_THAT(checksOf(list), ElementsAre(true, true, false, true));
         EXPECT_TRUE(list.CheckIfImageExists(u"/1"_s));
     }
-}
-
-TEST(ImageList, ChecksAreSetForAllOrTurnedOver) {
-    ImageList list = listOf({u"/1"_s, u"/2"_s, u"/3"_s});
-    list.setApplyWatermark(1, false);
-    list.ToggleCheck();
-    EXPECT_THAT(checksOf(list), ElementsAre(false, true, false));
-    list.CheckAllImages();
-    EXPECT_THAT(checksOf(list), ElementsAre(true, true, true));
-    list.UncheckAllImages();
-    EXPECT_THAT(checksOf(list), ElementsAre(false, false, false));
 }
 
 TEST(ImageList, AnErrorTextStaysUntilANewFailureReplacesIt) {

@@ -19,7 +19,7 @@ MacroContext contextOf(const QString& path) {
     MacroContext context;
     context.photoPath = path;
     context.pixelSize = {3000, 2000};
-    context.pointSize = {720, 480};
+    context.dpiX = context.dpiY = 300;
     context.row = 2;
     context.listSize = 5;
     context.now = QDateTime({2024, 5, 3}, {9, 41, 7}, Qt::UTC);
@@ -59,9 +59,9 @@ TEST(ParseMacros, PrintsNamesSizesAndResolution) {
     expectRows({{u"[<<IMGNAME>>|<<IMGNAMEEXT>>|<<FOLDER>>|<<CREATEDATE>>|<<MODDATE[Y]>>]"_s, u"[||||]"_s}},
                contextOf({}));
     MacroContext context = contextOf(u"/a.jpg"_s);
-    context.pixelSize = {4001, 4001};
-    context.pointSize = {4001 * 72 / 299.2, 0};
-    expectRows({{u"<<PHOTODPIX>> <<PHOTODPIY>>"_s, u"300 72"_s}}, context);  // rounded up; none known
+    context.dpiX = 299.2;
+    context.dpiY = 71.99999999;
+    expectRows({{u"<<PHOTODPIX>> <<PHOTODPIY>>"_s, u"300 72"_s}}, context);  // rounded up
 }
 
 TEST(ParseMacros, PrintsDates) {

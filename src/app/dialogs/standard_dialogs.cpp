@@ -10,6 +10,7 @@
 #include "app/dialogs/version_check.h"
 #include "app/watermarks/watermark_controller.h"
 #include "persistence/setting_file.h"
+#include "pictures/picture_names.h"
 #include "platform/application_folders.h"
 
 #include <QFileDialog>
@@ -18,10 +19,8 @@ namespace zelto {
 namespace {
 
 QStringList choosePhotos(QWidget* parent, const QString& startFolder) {
-    static const QString types =
-        QStringLiteral("(*.jpg *.JPG *.gif *.GIF *.jpeg *.JPEG *.png *.PNG *.tif *.TIF *.tiff *.TIFF)");
     return QFileDialog::getOpenFileNames(parent, QFileDialog::tr("Add Photos"), startFolder,
-                                         QFileDialog::tr("Photos") + QLatin1Char(' ') + types);
+                                         QFileDialog::tr("Photos") + QLatin1Char(' ') + chooserPattern());
 }
 
 std::optional<FolderChoice> chooseFolder(QWidget* parent) {

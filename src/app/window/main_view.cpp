@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/main_view.h"
 
-#include "platform/path_parts.h"
+#include "pictures/picture_names.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMimeData>
 #include <QPainter>
-#include <QSet>
 
 #include <algorithm>
 
@@ -32,19 +30,8 @@ class DropFrame : public QWidget {
     }
 };
 
-// Whether the name is that of a picture the program can open.
-bool hasPictureName(const QString& path) {
-    static const QSet<QString> extensions = [] {
-        QSet<QString> known;
-        for (const QByteArray& format : QImageReader::supportedImageFormats())
-            known.insert(QString::fromLatin1(format));
-        return known;
-    }();
-    return extensions.contains(pathExtension(lastPathComponent(path)).toLower());
-}
-
 bool isPhoto(const QUrl& url) {
-    return url.isLocalFile() && hasPictureName(url.toLocalFile()) && !QFileInfo(url.toLocalFile()).isDir();
+    return url.isLocalFile() && isPictureName(url.toLocalFile()) && !QFileInfo(url.toLocalFile()).isDir();
 }
 
 }  // namespace
