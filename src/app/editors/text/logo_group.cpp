@@ -4,6 +4,7 @@
 #include "app/common/in_background.h"
 #include "app/common/messages.h"
 #include "app/editors/controls/color_well.h"
+#include "pictures/picture_names.h"
 #include "pictures/picture_reader.h"
 #include "platform/preferences.h"
 
@@ -25,8 +26,6 @@ namespace {
 constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
 constexpr double StartPercent = 25.0;
 constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
-constexpr QLatin1String LogoTypes(
-    "(*.jpg *.JPG *.gif *.GIF *.jpeg *.JPEG *.png *.PNG *.tif *.TIF *.tiff *.TIFF)");
 
 struct LogoFile {
     QByteArray bytes;
@@ -197,7 +196,7 @@ QString LogoGroup::startFolder() const {
 
 void LogoGroup::SelectImageWatermark() {
     const QString path = QFileDialog::getOpenFileName(window(), tr("Choose Image"), startFolder(),
-                                                      tr("Images") + QLatin1Char(' ') + LogoTypes);
+                                                      tr("Images") + QLatin1Char(' ') + chooserPattern());
     if (!path.isEmpty()) take(path);
 }
 
