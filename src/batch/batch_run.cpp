@@ -69,7 +69,7 @@ class BatchRun::Worker {
     Result<void> commit(const PhotoTask& task, PreparedPhoto photo);
     void refuse(std::size_t row);
     bool replacesAnEarlierOutput(std::size_t row) const;
-    void recordOutcome(PhotoOutcome outcome);
+    void recordOutcome(const PhotoOutcome& outcome);
     std::optional<RunEnd> askWhetherToGoOn();
     std::optional<RunEnd> interruption();
     void finishCombinedPdf();
@@ -182,7 +182,7 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
         outcome.error = isForUsers(error) ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;
     }
-    recordOutcome(std::move(outcome));
+    recordOutcome(outcome);
 }
 
 // A photo whose output is not to be written, by the rules for names.
@@ -197,7 +197,7 @@ bool BatchRun::Worker::replacesAnEarlierOutput(std::size_t row) const {
     return first && (request_.photos[*first].isElsewhere || job_.writtenNames.contains(*first));
 }
 
-void BatchRun::Worker::recordOutcome(PhotoOutcome outcome) {
+void BatchRun::Worker::recordOutcome(const PhotoOutcome& outcome) {
     const OutputOptions& options = request_.options;
     asked_ = false;
     if (outcome.succeeded()) {

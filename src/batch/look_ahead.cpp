@@ -49,9 +49,9 @@ LookAhead::LookAhead(PhotoProcessor& processor, std::function<std::optional<Phot
                      LookAheadLimits limits)
     : processor_(processor), nextTask_(std::move(nextTask)), limits_(limits) {
     for (int i = 0; i < limits_.jobs; ++i) {
-        threads_.emplace_back([this](std::stop_token stop) {
+        threads_.emplace_back([this](const std::stop_token& stop) {
             if (limits_.givesWay) giveWay();
-            work(std::move(stop));
+            work(stop);
         });
     }
 }
@@ -77,7 +77,7 @@ void LookAhead::release() {
     changed_.notify_all();
 }
 
-void LookAhead::work(std::stop_token stop) {
+void LookAhead::work(const std::stop_token& stop) {
     while (Slot* const slot = admit(stop)) {
         Result<PreparedPhoto> result = prepared(processor_, slot->task);
         const std::lock_guard lock(mutex_);
@@ -91,7 +91,7 @@ void LookAhead::work(std::stop_token stop) {
 
 // The slot of the next photo, once there is room for it; null when there is none or the thread is to end.
 // Others queue behind the one thread in here, so that a large photo is not overtaken by small ones for ever.
-LookAhead::Slot* LookAhead::admit(std::stop_token stop) {
+LookAhead::Slot* LookAhead::admit(const std::stop_token& stop) {
     const std::lock_guard turn(admission_);
     if (stop.stop_requested()) return nullptr;
     std::optional<PhotoTask> task = nextTask_();

@@ -56,8 +56,8 @@ class LookAhead {
         std::optional<Result<PreparedPhoto>> result;
     };
 
-    void work(std::stop_token stop);
-    Slot* admit(std::stop_token stop);
+    void work(const std::stop_token& stop);
+    Slot* admit(const std::stop_token& stop);
     bool hasRoomFor(qint64 bytes, const FileIdentity& sourceFile) const;
 
     PhotoProcessor& processor_;

@@ -7,10 +7,10 @@
 #include "render/photo_effects.h"
 #include "render/photo_filters.h"
 
-#include <utility>
-
 #include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace zelto {
 namespace {
