@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/look_ahead.h"
 
+#include "pictures/picture_memory.h"
 #include "platform/machine_limits.h"
 
 #include <sys/resource.h>
@@ -20,6 +21,8 @@ constexpr std::size_t PhotosInFlightPerJob = 8;
 Result<PreparedPhoto> prepared(PhotoProcessor& processor, const PhotoTask& task) {
     try {
         return processor.prepare(task);
+    } catch (const std::bad_alloc&) {
+        return outOfMemory(task.source);
     } catch (const std::exception& exception) {
         return fail(ErrorCode::InvalidValue, QString::fromLocal8Bit(exception.what()), task.source);
     }

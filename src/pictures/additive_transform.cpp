@@ -124,7 +124,7 @@ bool AdditiveTransform::fill(cmsHPROFILE profile) {
 
 bool AdditiveTransform::agreesWith(cmsHPROFILE profile) const {
     const bool isGrey = cmsGetColorSpace(profile) == cmsSigGrayData;
-    const Profile srgb(cmsCreate_sRGBProfile());
+    const Profile srgb = srgbProfile();
     const TransformHandle exact(cmsCreateTransform(profile, isGrey ? GreyInBgrx8 : TYPE_BGRA_8, srgb.get(),
                                                    TYPE_BGRA_8, INTENT_PERCEPTUAL,
                                                    cmsFLAGS_NOCACHE | cmsFLAGS_NOOPTIMIZE));

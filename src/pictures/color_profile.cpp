@@ -56,12 +56,14 @@ void convertCmykToSrgb(QImage& picture, InkScale inks, const QByteArray& profile
 
 const QByteArray& adobeRgb1998Profile() {
     static const QByteArray bytes = [] {
+        const LcmsMemory memory;
         // Adobe RGB (1998) Color Image Encoding, section 4.3.1: these primaries, gamma 2 51/256.
         const Profile profile = rgbProfile(AdobeRgbPrimaries, 2.19921875);
         cmsUInt32Number length = 0;
         cmsSaveProfileToMem(profile.get(), nullptr, &length);
         QByteArray saved(static_cast<qsizetype>(length), '\0');
         cmsSaveProfileToMem(profile.get(), saved.data(), &length);
+        memory.check();
         return saved;
     }();
     return bytes;

@@ -68,8 +68,9 @@ class Cache {
         if (found != entries_.end()) {
             entries_.splice(entries_.begin(), entries_, found);
         } else {
+            SharedTransform made = make();
             if (entries_.size() == Capacity) entries_.pop_back();
-            entries_.push_front({key, make()});
+            entries_.push_front({key, std::move(made)});
         }
         return entries_.front().transform;
     }
@@ -92,7 +93,7 @@ SharedTransform ColorTransform::make(const QByteArray& profile, SourcePixels pix
     if (!source) return nullptr;
     const cmsUInt32Number format = inputFormat(pixels, cmsGetColorSpace(source.get()));
     if (format == 0) return nullptr;
-    const Profile srgb(cmsCreate_sRGBProfile());
+    const Profile srgb = srgbProfile();
     const bool isRgb = T_COLORSPACE(format) == PT_RGB;
     if (isRgb && isIdentity(source.get(), srgb.get())) return nullptr;
 
@@ -112,7 +113,12 @@ SharedTransform ColorTransform::toSrgb(const QByteArray& profile, SourcePixels p
     static Cache cache;
     const QByteArray key =
         QCryptographicHash::hash(profile, QCryptographicHash::Sha1) + static_cast<char>(pixels);
-    return cache.find(key, [&] { return make(profile, pixels); });
+    return cache.find(key, [&] {
+        const LcmsMemory memory;
+        SharedTransform transform = make(profile, pixels);
+        memory.check();
+        return transform;
+    });
 }
 
 void ColorTransform::apply(const uchar* source, qsizetype stride, QImage& target) const {

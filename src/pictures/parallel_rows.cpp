@@ -8,9 +8,11 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <exception>
 #include <latch>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -29,12 +31,19 @@ class Bands {
 
     void work() {
         for (int band = next_++; band < count_; band = next_++) {
-            (*body_)(edge(band), edge(band + 1));
+            try {
+                (*body_)(edge(band), edge(band + 1));
+            } catch (const std::bad_alloc&) {
+                ranOutOfMemory_ = true;
+            }
             unfinished_.count_down();
         }
     }
 
-    void waitUntilDone() { unfinished_.wait(); }
+    void waitUntilDone() {
+        unfinished_.wait();
+        if (ranOutOfMemory_) throw std::bad_alloc();
+    }
 
   private:
     int edge(int band) const { return static_cast<int>(std::int64_t{rows_} * band / count_); }
@@ -43,6 +52,7 @@ class Bands {
     const int count_;
     const std::function<void(int, int)>* const body_;  // outlives every band, though not a late helper
     std::atomic<int> next_ = 0;
+    std::atomic<bool> ranOutOfMemory_ = false;
     std::latch unfinished_;
 };
 
@@ -50,7 +60,11 @@ class Bands {
 class Helpers {
   public:
     Helpers() {
-        for (int i = 1; i < QThread::idealThreadCount(); ++i) threads_.emplace_back([this] { run(); });
+        try {
+            for (int i = 1; i < QThread::idealThreadCount(); ++i) threads_.emplace_back([this] { run(); });
+        } catch (const std::exception&) {
+            // Fewer of them do as well.
+        }
     }
 
     ~Helpers() {
@@ -68,9 +82,11 @@ class Helpers {
     int count() const { return static_cast<int>(threads_.size()); }
 
     void call(const std::shared_ptr<Bands>& bands, int helpers) {
-        {
+        try {
             const std::lock_guard lock(mutex_);
             for (int i = 0; i < helpers; ++i) waiting_.push_back(bands);
+        } catch (const std::bad_alloc&) {
+            // The caller does all of them.
         }
         wake_.notify_all();
     }

@@ -10,7 +10,8 @@ namespace zelto {
 // Calls `body(first, end)` for bands of rows [first, end) that together cover [0, rows) exactly once, on the
 // calling thread and on idle cores, and returns when all are done. `rowWidth` is the pixels of a row: small
 // pictures stay on the calling thread, where handing out work would cost more than it saves. The body must
-// not throw and must write only what belongs to its rows. Any thread, any number at a time, also from within
+// write only what belongs to its rows. Where it throws std::bad_alloc, so does this once all bands are done with;
+// it may throw nothing else. Any thread, any number at a time, also from within
 // a body.
 void parallelRows(int rows, int rowWidth, const std::function<void(int first, int end)>& body);
 

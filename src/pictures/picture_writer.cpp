@@ -2,6 +2,7 @@
 #include "pictures/picture_writer.h"
 
 #include "pictures/picture_encoders.h"
+#include "pictures/picture_memory.h"
 
 #include <algorithm>
 #include <array>
@@ -75,11 +76,13 @@ Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, co
     }
     const bool readable =
         picture.format() == QImage::Format_RGB32 || picture.format() == QImage::Format_ARGB32_Premultiplied;
-    if (readable) return entry.encode(picture, options);
-    return entry.encode(
-        picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                          : QImage::Format_RGB32),
-        options);
+    const QImage::Format pixels =
+        picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    try {
+        return entry.encode(readable ? picture : converted(picture.convertToFormat(pixels)), options);
+    } catch (const std::bad_alloc&) {
+        return outOfMemory();
+    }
 }
 
 }  // namespace zelto

@@ -26,7 +26,7 @@ struct EncodeOptions {
 
 // The bytes of a complete file. A PDF is one page of the picture's size, one point a pixel. Error:
 // ErrorCode::InvalidValue for a picture without pixels or too large for the format, ErrorCode::CannotWrite when the
-// encoder fails.
+// encoder fails, ErrorCode::OutOfMemory.
 Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, const EncodeOptions& options);
 
 }  // namespace zelto

@@ -82,26 +82,25 @@ Tiff openIn(MemoryFile& file) {
             TIFFClose};
 }
 
-void describe(TIFF* tiff, const QImage& picture, const EncodeOptions& options, int channels,
+// False where not all of it could be noted.
+bool describe(TIFF* tiff, const QImage& picture, const EncodeOptions& options, int channels,
               int rowsPerStrip) {
-    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(picture.width()));
-    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(picture.height()));
-    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
-    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, channels);
-    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
-    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-    TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
-    TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_ADOBE_DEFLATE);
-    TIFFSetField(tiff, TIFFTAG_ZIPQUALITY, DeflateLevel);
-    TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
-    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(rowsPerStrip));
-    TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, options.dpiX);
-    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, options.dpiY);
-    if (channels == 4) {
-        const uint16_t kind = EXTRASAMPLE_UNASSALPHA;
-        TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &kind);
-    }
+    const uint16_t kind = EXTRASAMPLE_UNASSALPHA;
+    return TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(picture.width())) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(picture.height())) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, channels) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_ADOBE_DEFLATE) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_ZIPQUALITY, DeflateLevel) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(rowsPerStrip)) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_XRESOLUTION, options.dpiX) == 1 &&
+           TIFFSetField(tiff, TIFFTAG_YRESOLUTION, options.dpiY) == 1 &&
+           (channels == 3 || TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &kind) == 1);
 }
 
 bool writeStrips(TIFF* tiff, const QImage& picture, int channels, int rowsPerStrip) {
@@ -130,10 +129,10 @@ Result<QByteArray> encodeTiff(const QImage& picture, const EncodeOptions& option
         static_cast<int>(std::clamp<qsizetype>(StripBytes / stride, 1, picture.height()));
     MemoryFile file;
     Tiff tiff = openIn(file);
-    bool done = tiff != nullptr;
-    if (done) {
-        describe(tiff.get(), picture, options, channels, rowsPerStrip);
-        done = writeStrips(tiff.get(), picture, channels, rowsPerStrip) && TIFFFlush(tiff.get()) != 0;
+    bool done = false;
+    if (tiff != nullptr) {
+        done = describe(tiff.get(), picture, options, channels, rowsPerStrip) &&
+               writeStrips(tiff.get(), picture, channels, rowsPerStrip) && TIFFFlush(tiff.get()) != 0;
     }
     tiff.reset();
     if (!done)
