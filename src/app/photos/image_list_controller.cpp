@@ -7,7 +7,6 @@
 #include <QUndoCommand>
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace zelto {
@@ -45,19 +44,66 @@ class SplicePhotos : public QUndoCommand {
     Take take_;
 };
 
+bool fits(const Image& photo, PhotoFilter filter) {
+    const bool failed = photo.Status == PhotoStatus::Failed;
+    const bool warned = !photo.Warnings.isEmpty();
+    switch (filter) {
+        case PhotoFilter::All:
+            return true;
+        case PhotoFilter::FailedOrWarned:
+            return failed || warned;
+        case PhotoFilter::Failed:
+            return failed;
+        case PhotoFilter::Warned:
+            return warned;
+    }
+    return true;
+}
+
 }  // namespace
 
+// Takes no row that is not shown: views select ranges, and go to the first and last row, across hidden ones.
+class ImageListController::ShownSelection : public QItemSelectionModel {
+  public:
+    explicit ShownSelection(ImageListController& photos)
+        : QItemSelectionModel(&photos.model_), photos_(photos) {}
+
+    using QItemSelectionModel::select;
+    void select(const QItemSelection& wanted, SelectionFlags command) override {
+        if (photos_.filter() == PhotoFilter::All) {
+            QItemSelectionModel::select(wanted, command);
+            return;
+        }
+        QItemSelection shown;
+        for (const QModelIndex& index : wanted.indexes()) {
+            if (photos_.isShown(index.row())) shown.select(index, index);
+        }
+        QItemSelectionModel::select(shown, command);
+    }
+
+    void setCurrentIndex(const QModelIndex& index, SelectionFlags command) override {
+        QItemSelectionModel::setCurrentIndex(
+            index.isValid() ? photos_.model_.index(photos_.shownRowNear(index.row())) : index, command);
+    }
+
+  private:
+    ImageListController& photos_;
+};
+
 ImageListController::ImageListController(QUndoStack& history, QObject* parent)
-    : QObject(parent), history_(history), selection_(&model_) {
-    connect(&selection_, &QItemSelectionModel::currentChanged, this, &ImageListController::SelectImage);
+    : QObject(parent), history_(history), selection_(std::make_unique<ShownSelection>(*this)) {
+    connect(selection_.get(), &QItemSelectionModel::currentChanged, this, &ImageListController::SelectImage);
+    connect(&model_, &QAbstractItemModel::dataChanged, this, [this] {
+        if (filter_ != PhotoFilter::All) showPhotos(filter_);
+    });
 }
 
 int ImageListController::selectedRow() const {
-    return selection_.currentIndex().row();
+    return selection_->currentIndex().row();
 }
 
 QString ImageListController::selectedPath() const {
-    return selection_.currentIndex().data(PhotoListModel::PathRole).toString();
+    return selection_->currentIndex().data(PhotoListModel::PathRole).toString();
 }
 
 void ImageListController::AddImage(const QString& path) {
@@ -89,6 +135,30 @@ void ImageListController::addImagesFromUrls(const QList<QUrl>& urls) {
     AddImages(paths);
 }
 
+void ImageListController::showPhotos(PhotoFilter filter) {
+    filter_ = hasPhotosFor(filter) ? filter : PhotoFilter::All;
+    Q_EMIT filtered();
+    selection_->select(selection_->selection(), QItemSelectionModel::ClearAndSelect);
+    if (selectedRow() >= 0 && !isShown(selectedRow())) selectRow(selectedRow());
+}
+
+bool ImageListController::isShown(int row) const {
+    return fits(images()[static_cast<std::size_t>(row)], filter_);
+}
+
+std::vector<int> ImageListController::shownRows() const {
+    std::vector<int> rows;
+    for (int row = 0; row < count(); ++row) {
+        if (isShown(row)) rows.push_back(row);
+    }
+    return rows;
+}
+
+bool ImageListController::hasPhotosFor(PhotoFilter filter) const {
+    return std::any_of(images().begin(), images().end(),
+                       [filter](const Image& photo) { return fits(photo, filter); });
+}
+
 void ImageListController::CheckAllImages() {
     setChecks(tr("Check All Photos"), [](int, bool) { return true; });
 }
@@ -110,17 +180,29 @@ void ImageListController::setApplyWatermark(const std::vector<int>& rows, bool a
 void ImageListController::setChecks(const QString& name, const std::function<bool(int, bool)>& check) {
     const std::vector<bool> before = model_.checks();
     std::vector<bool> after = before;
-    for (std::size_t row = 0; row < after.size(); ++row)
-        after[row] = check(static_cast<int>(row), before[row]);
+    for (const int row : shownRows()) {
+        const auto at = static_cast<std::size_t>(row);
+        after[at] = check(row, before[at]);
+    }
     if (after == before) return;
     history_.push(new ChangeValue<std::vector<bool>>(
-        name, [this](const std::vector<bool>& checks) { model_.setChecks(checks); }, before,
-        std::move(after)));
+        name, [this](const std::vector<bool>& checks) { takeChecks(checks); }, before, std::move(after)));
+}
+
+void ImageListController::takeChecks(const std::vector<bool>& checks) {
+    const std::vector<bool> before = model_.checks();
+    for (int row = 0; row < count(); ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        if (checks[at] == before[at] || isShown(row)) continue;
+        showPhotos(PhotoFilter::All);
+        break;
+    }
+    model_.setChecks(checks);
 }
 
 void ImageListController::RemoveSelectedImage() {
     std::vector<int> rows;
-    for (const QModelIndex& index : selection_.selectedIndexes()) rows.push_back(index.row());
+    for (const QModelIndex& index : selection_->selectedIndexes()) rows.push_back(index.row());
     removeRows(rows.size() == 1 ? tr("Remove Photo") : tr("Remove %1 Photos").arg(rows.size()), rows);
 }
 
@@ -129,16 +211,14 @@ void ImageListController::RemoveImage(int row) {
 }
 
 void ImageListController::RemoveAllImages() {
-    std::vector<int> rows(model_.images().size());
-    std::iota(rows.begin(), rows.end(), 0);
-    removeRows(tr("Remove All Photos"), std::move(rows));
+    removeRows(tr("Remove All Photos"), shownRows());
 }
 
 void ImageListController::removeRows(const QString& name, std::vector<int> rows) {
     std::sort(rows.begin(), rows.end());
     ImageList::Placed photos;
     for (const int row : rows) {
-        if (row < 0 || row >= count()) continue;
+        if (row < 0 || row >= count() || !isShown(row)) continue;
         photos.rows.push_back(static_cast<std::size_t>(row));
         photos.images.push_back(model_.images()[static_cast<std::size_t>(row)]);
     }
@@ -150,6 +230,9 @@ void ImageListController::removeRows(const QString& name, std::vector<int> rows)
 }
 
 void ImageListController::insertPhotos(const ImageList::Placed& photos) {
+    const bool isSeen = std::all_of(photos.images.begin(), photos.images.end(),
+                                    [this](const Image& photo) { return fits(photo, filter_); });
+    if (!isSeen) showPhotos(PhotoFilter::All);
     int shown = selectedRow();
     model_.insert(photos);
     if (shown < 0) {
@@ -162,7 +245,10 @@ void ImageListController::insertPhotos(const ImageList::Placed& photos) {
 }
 
 void ImageListController::takePhotos(const std::vector<std::size_t>& rows) {
+    const bool isSeen = std::all_of(rows.begin(), rows.end(),
+                                    [this](std::size_t row) { return isShown(static_cast<int>(row)); });
     model_.take(rows);
+    showPhotos(isSeen ? filter_ : PhotoFilter::All);
     // The row that took the place of the first one removed, or the new last row.
     selectRow(std::min(static_cast<int>(rows.front()), count() - 1));
 }
@@ -173,13 +259,24 @@ void ImageListController::ChangeImage(const QString& row) {
 
 void ImageListController::selectRow(int row) {
     if (row < 0 || row >= count()) {
-        selection_.clear();
+        selection_->clear();
         return;
     }
-    const QModelIndex index = model_.index(row);
-    const bool wasCurrent = selection_.currentIndex() == index;
-    selection_.setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    const QModelIndex index = model_.index(shownRowNear(row));
+    const bool wasCurrent = selection_->currentIndex() == index;
+    selection_->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     if (wasCurrent) SelectImage();
+}
+
+// The first row from `row` on that is shown, or the last one above it.
+int ImageListController::shownRowNear(int row) const {
+    for (int below = row; below < count(); ++below) {
+        if (isShown(below)) return below;
+    }
+    for (int above = std::min(row, count()) - 1; above >= 0; --above) {
+        if (isShown(above)) return above;
+    }
+    return -1;
 }
 
 void ImageListController::SelectImage() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What can be done to the photo list: adding, removing, checking and selecting photos, each an undo step, and
-// telling whoever shows the selected photo that it must be shown anew. The rules of the list itself are the
-// batch folder's, its looks are the view's. Main thread only.
+// What can be done to the photo list: adding, removing, checking and selecting photos, each an undo step, choosing
+// which of them are shown, and telling whoever shows the selected photo that it must be shown anew. The rules of the
+// list itself are the batch folder's, its looks are the view's. Main thread only.
 #pragma once
 
 #include "app/photos/photo_list_model.h"
@@ -13,9 +13,13 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace zelto {
+
+// Which photos the list shows, by how the last run left them.
+enum class PhotoFilter { All, FailedOrWarned, Failed, Warned };
 
 class ImageListController : public QObject {
     Q_OBJECT
@@ -27,7 +31,7 @@ class ImageListController : public QObject {
     PhotoListModel& model() { return model_; }
     const PhotoListModel& model() const { return model_; }
     // Which rows are selected; the current one is the photo on the preview.
-    QItemSelectionModel& selection() { return selection_; }
+    QItemSelectionModel& selection() { return *selection_; }
 
     const std::vector<Image>& images() const { return model_.images(); }
     int count() const { return model_.rowCount(); }
@@ -40,6 +44,18 @@ class ImageListController : public QObject {
     void AddImages(const QStringList& paths);
     bool CheckIfImageExists(const QString& path) const { return model_.list().CheckIfImageExists(path); }
     void addImagesFromUrls(const QList<QUrl>& urls);
+
+    // ---- what is shown
+    //
+    // Photos that are not shown are never selected, checked or removed; steps that are undone or done again show all
+    // photos first where they reach others. The list goes back to all when none is left that `filter` lets through.
+    void showPhotos(PhotoFilter filter);
+    PhotoFilter filter() const { return filter_; }
+    bool isShown(int row) const;
+    std::vector<int> shownRows() const;  // ascending
+    bool hasPhotosFor(PhotoFilter filter) const;
+
+    // ---- changes
 
     void CheckAllImages();
     void UncheckAllImages();
@@ -62,17 +78,24 @@ class ImageListController : public QObject {
     void photoSelected(int row);
     // The user is to be told something.
     void alert(const QString& title, const QString& text);
+    // Other photos may be shown.
+    void filtered();
 
   private:
+    class ShownSelection;
+
     void setChecks(const QString& name, const std::function<bool(int row, bool checked)>& check);
     void removeRows(const QString& name, std::vector<int> rows);
     void insertPhotos(const ImageList::Placed& photos);
     void takePhotos(const std::vector<std::size_t>& rows);
+    void takeChecks(const std::vector<bool>& checks);
     void selectRow(int row);
+    int shownRowNear(int row) const;
 
     QUndoStack& history_;
     PhotoListModel model_;
-    QItemSelectionModel selection_;
+    PhotoFilter filter_ = PhotoFilter::All;
+    std::unique_ptr<QItemSelectionModel> selection_;
 };
 
 }  // namespace zelto

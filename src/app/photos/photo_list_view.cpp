@@ -36,6 +36,7 @@ PhotoListView::PhotoListView(ImageListController& photos, QWidget* parent)
         this));
     connect(this, &QListView::doubleClicked, &photos_,
             [this](const QModelIndex& index) { photos_.ImageListDoubleClicked(index.row()); });
+    connect(&photos_, &ImageListController::filtered, this, &PhotoListView::hideFilteredOut);
     settled_.setSingleShot(true);
     settled_.setInterval(SettleMilliseconds);
     connect(&settled_, &QTimer::timeout, this, &PhotoListView::wantVisible);
@@ -52,6 +53,19 @@ QRect PhotoListView::checkBoxRect(int row) const {
 // Whatever a row shows, it keeps its height: nothing is laid out anew, as the list view would do for all rows.
 void PhotoListView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
     QAbstractItemView::dataChanged(first, last, roles);
+}
+
+// With all its rows the list view forgets which ones were hidden.
+void PhotoListView::reset() {
+    QListView::reset();
+    hideFilteredOut();
+}
+
+void PhotoListView::hideFilteredOut() {
+    for (int row = 0; row < photos_.count(); ++row) {
+        if (isRowHidden(row) == photos_.isShown(row)) setRowHidden(row, !photos_.isShown(row));
+    }
+    settled_.start();
 }
 
 void PhotoListView::keyPressEvent(QKeyEvent* event) {
@@ -80,19 +94,21 @@ void PhotoListView::showEvent(QShowEvent* event) {
 }
 
 void PhotoListView::wantVisible() {
-    const int last = model()->rowCount() - 1;
+    const std::vector<int> rows = photos_.shownRows();
+    const int last = static_cast<int>(rows.size()) - 1;
     if (last < 0 || !isVisible()) {
         return;
     }
-    const int height = std::max(1, sizeHintForRow(0));
+    const int height = std::max(1, sizeHintForRow(rows.front()));
     const int first = verticalScrollBar()->value() / height;
     const int end = (verticalScrollBar()->value() + viewport()->height()) / height;
     QStringList paths;
-    const auto add = [&](int row) {
-        if (row >= 0 && row <= last)
-            paths.append(model()->index(row, 0).data(PhotoListModel::PathRole).toString());
+    const auto add = [&](int place) {
+        if (place < 0 || place > last) return;
+        const int row = rows[static_cast<std::size_t>(place)];
+        paths.append(model()->index(row, 0).data(PhotoListModel::PathRole).toString());
     };
-    for (int row = first; row <= end; ++row) add(row);
+    for (int place = first; place <= end; ++place) add(place);
     for (int more = 1; more <= RowsAhead; ++more) {
         add(end + more);
         add(first - more);

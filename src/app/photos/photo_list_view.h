@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The photo list on the screen: one row a photo with its check box, thumbnail, name, folder and the outcome
-// of the last run. Rows are painted, not widgets, and of one height, so that the list is as quick with a
-// hundred thousand photos as with ten. Main thread only.
+// The photo list on the screen: one row a photo with its check box, thumbnail, name, folder and the outcome of the last
+// run; photos that are filtered out have a hidden row. Rows are painted, not widgets, and of one height, so that the
+// list is as quick with a hundred thousand photos as with ten. Main thread only.
 #pragma once
 
 #include "app/photos/thumbnail_loader.h"
@@ -22,6 +22,8 @@ class PhotoListView : public QListView {
     // Where the check box of a row is, in viewport coordinates.
     QRect checkBoxRect(int row) const;
 
+    void reset() override;
+
   protected:
     void dataChanged(const QModelIndex& first, const QModelIndex& last,
                      const QList<int>& roles = {}) override;
@@ -31,6 +33,7 @@ class PhotoListView : public QListView {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void hideFilteredOut();
     void wantVisible();
 
     ImageListController& photos_;

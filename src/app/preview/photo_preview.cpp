@@ -43,6 +43,7 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     connect(&view_, &PreviewView::viewChanged, &builder_, &SceneBuilder::setView);
     connect(&builder_, &SceneBuilder::updated, this, &PhotoPreview::take);
     connect(&builder_, &SceneBuilder::failed, this, [this](const QString& /*path*/, const QString& message) {
+        watermarks_.model().setWarnings({});
         view_.showMessage(tr("This photo cannot be shown") + QLatin1Char('\n') + message);
     });
 
@@ -79,6 +80,11 @@ PhotoRequest PhotoPreview::finalRequest() const {
     return requestFor(photos_.selectedRow(), true);
 }
 
+void PhotoPreview::beginRun() {
+    isRunning_ = true;
+    watermarks_.model().setWarnings({});
+}
+
 void PhotoPreview::showRunPicture(const QImage& picture) {
     if (isRunning_) view_.showPicture(picture);
 }
@@ -94,6 +100,7 @@ void PhotoPreview::selectImage(int row) {
     neighboursOf_ = -1;
     if (row < 0) {
         builder_.clear();
+        watermarks_.model().setWarnings({});
         view_.showMessage({});
     } else {
         builder_.showPhoto(request());
@@ -121,6 +128,7 @@ void PhotoPreview::take(const PreviewUpdate& update) {
     if (update.isOtherPicture) diagnosticsDue_.start();
     view_.apply(update);
     const bool isCurrent = update.shown->stack == document_.snapshot();
+    if (isCurrent && !isRunning_) showWarnings(scene);
     for (std::size_t i = 0; isCurrent && i < scene.layers.size(); ++i) {
         if (!scene.layers[i] || scene.layers[i]->logoSize.isEmpty()) continue;
         document_.amendRecord(static_cast<int>(i), [size = scene.layers[i]->logoSize](Watermark& logo) {
@@ -130,6 +138,14 @@ void PhotoPreview::take(const PreviewUpdate& update) {
     }
     prefetchNeighbours();
     Q_EMIT shown();
+}
+
+void PhotoPreview::showWarnings(const PhotoScene& scene) {
+    QStringList texts;
+    for (const std::optional<PhotoWarning>& warning : scene.warnings) {
+        texts.append(warning ? warning->text : QString());
+    }
+    watermarks_.model().setWarnings(texts);
 }
 
 // The effect step leaves its picture in the home folder; the preview takes that step where watermarks may lie on the

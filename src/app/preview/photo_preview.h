@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keeps the preview up to date with the selected photo, with every change of the stack, and with what the user does to
-// layers on the canvas. Each of these becomes a request to the scene builder, and the results go to the canvas. Main
-// thread only.
+// layers on the canvas. Each of these becomes a request to the scene builder, and the results go to the canvas, with a
+// warning to each row of the watermark list that draws nothing there. Main thread only.
 #pragma once
 
 #include "app/preview/preview_view.h"
@@ -31,7 +31,7 @@ class PhotoPreview : public QObject {
     PhotoRequest finalRequest() const;
 
     // Between the two the canvas shows the pictures that a run hands over, and photos that are selected are not loaded.
-    void beginRun() { isRunning_ = true; }
+    void beginRun();
     void showRunPicture(const QImage& picture);
     void endRun();
 
@@ -48,6 +48,7 @@ class PhotoPreview : public QObject {
     void selectImage(int row);
     void follow(const StackChange& change);
     void take(const PreviewUpdate& update);
+    void showWarnings(const PhotoScene& scene);
     void prefetchNeighbours();
     void writeDiagnostics();
     void nudge(int index, QPoint step);

@@ -101,6 +101,7 @@ void RunController::launch(const Plan& plan) {
 void RunController::workerStarts() {
     isFollowed_ = true;
     window_.DisableControls();
+    window_.photos().showPhotos(PhotoFilter::All);
     window_.preview().beginRun();
     window_.ShowProcessingControls();
     window_.processing().PauseOrResumeProcessing()->setFocus();
@@ -274,10 +275,15 @@ QString RunController::counts() const {
 
 void RunController::ShowResults(const RunReport& report) {
     dropQuestion();
+    QStringList buttons = {tr("OK")};
+    if (window_.photos().hasPhotosFor(PhotoFilter::FailedOrWarned)) buttons.append(tr("Show"));
     openMessageSheet(&window_,
                      {report.ProcessResult ? QMessageBox::Information : QMessageBox::Warning, SummaryTitle,
-                      report.message() + QStringLiteral("\n\n") + counts()},
-                     [this, report](int) { showTheEnd(report); });
+                      report.message() + QStringLiteral("\n\n") + counts(), buttons},
+                     [this, report](int answer) {
+                         showTheEnd(report);
+                         if (answer == 1) window_.photos().showPhotos(PhotoFilter::FailedOrWarned);
+                     });
 }
 
 void RunController::showTheEnd(const RunReport& report) {

@@ -2,9 +2,10 @@
 #include "app/watermarks/watermark_delegate.h"
 
 #include "app/common/check_mark.h"
+#include "app/common/icons.h"
+#include "app/watermarks/watermark_list_model.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,8 +16,12 @@ namespace {
 constexpr int RowHeight = 38;
 constexpr int Margin = 10;
 constexpr int IconSide = 22;
+constexpr int WarningSide = 18;
 
 }  // namespace
+
+WatermarkDelegate::WatermarkDelegate(QObject* parent)
+    : QStyledItemDelegate(parent), warningIcon_(colorIcon(QLatin1String("warning"))) {}
 
 QSize WatermarkDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {
     return {120, std::max(RowHeight, option.fontMetrics.height() + Margin)};
@@ -45,8 +50,15 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
                                                                                     : QIcon::Normal;
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon, Qt::AlignCenter, mode);
 
-    const QRect text(icon.right() + 1 + Margin, option.rect.top(),
-                     option.rect.right() - icon.right() - 2 * Margin, option.rect.height());
+    QRect text(icon.right() + 1 + Margin, option.rect.top(), option.rect.right() - icon.right() - 2 * Margin,
+               option.rect.height());
+    if (!index.data(WatermarkListModel::WarningRole).toString().isEmpty()) {
+        const QRect sign(text.right() - WarningSide,
+                         option.rect.top() + (option.rect.height() - WarningSide) / 2, WarningSide,
+                         WarningSide);
+        warningIcon_.paint(painter, sign);
+        text.setRight(sign.left() - Margin);
+    }
     QColor color = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
     if (!isOn) color.setAlphaF(0.55F);
     painter->setPen(color);

@@ -2,6 +2,7 @@
 // Paints a row of the watermark list and takes clicks on its check box, and the space bar. Main thread only.
 #pragma once
 
+#include <QIcon>
 #include <QStyledItemDelegate>
 
 namespace zelto {
@@ -10,7 +11,7 @@ class WatermarkDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
   public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit WatermarkDelegate(QObject* parent);
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -20,6 +21,9 @@ class WatermarkDelegate : public QStyledItemDelegate {
 
     // The check box of a row that is painted into `row`.
     static QRect checkBoxRect(const QRect& row);
+
+  private:
+    QIcon warningIcon_;
 };
 
 }  // namespace zelto

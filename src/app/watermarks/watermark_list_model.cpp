@@ -54,8 +54,14 @@ QVariant WatermarkListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole:
             return label(index.row());
+        case Qt::ToolTipRole: {
+            const QString warns = warning(index.row());
+            return warns.isEmpty() ? label(index.row()) : label(index.row()) + QLatin1Char('\n') + warns;
+        }
+        case Qt::AccessibleDescriptionRole:
+        case WarningRole:
+            return warning(index.row());
         case Qt::DecorationRole:
             return lineIcon(drawing(index.row()));
         case Qt::CheckStateRole:
@@ -89,6 +95,17 @@ QString WatermarkListModel::label(int row) const {
             break;
     }
     return watermarkLabel(watermarkAt(row));
+}
+
+void WatermarkListModel::setWarnings(const QStringList& warnings) {
+    if (warnings == warnings_) return;
+    warnings_ = warnings;
+    announceAll();
+}
+
+QString WatermarkListModel::warning(int row) const {
+    const bool isCurrent = warnings_.size() == static_cast<qsizetype>(shown_.Stack.Watermarks.size());
+    return isCurrent && kindOf(row) == RowKind::Watermark ? warnings_[watermarkOf(row)] : QString();
 }
 
 QImage WatermarkListModel::drawing(int row) const {
@@ -142,6 +159,10 @@ void WatermarkListModel::follow() {
     if (!hasMetadataRow() && now.Metadata) insertRows(metadataRow, 1, takeMetadata);
     followWatermarks(now.Stack.Watermarks);
     shown_ = now;
+    announceAll();
+}
+
+void WatermarkListModel::announceAll() {
     if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 

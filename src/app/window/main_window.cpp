@@ -62,6 +62,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       keeper_(new StackKeeper(watermarks_, shared, this)),
       mainView_(new MainView(this)),
       photoList_(new PhotoListView(photos_, this)),
+      photoFilter_(new PhotoFilterBox(photos_, this)),
       watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, this)),
       processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
@@ -238,7 +239,10 @@ void MainWindow::layOut() {
     auto* photoRows = new QVBoxLayout(photoColumn);
     photoRows->setContentsMargins(0, 0, 0, 0);
     photoRows->setSpacing(0);
-    photoRows->addWidget(makeHeading(tr("Photos"), photoColumn));
+    auto* photoHeading = new QHBoxLayout;
+    photoHeading->addWidget(makeHeading(tr("Photos"), photoColumn), 1);
+    photoHeading->addWidget(photoFilter_);
+    photoRows->addLayout(photoHeading);
     photoRows->addWidget(photoList_);
 
     middle_->addWidget(new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], middle_));
@@ -272,6 +276,7 @@ void MainWindow::EnableDisableWatermarkControls() {
                       .isRunning = isRunning_});
     middle_->setCurrentIndex(hasPhotos ? 1 : 0);
     photoList_->setEnabled(!isRunning_);
+    photoFilter_->setEnabled(!isRunning_);
     watermarkPanel_->setEnabled(!isRunning_);
     previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());

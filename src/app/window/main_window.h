@@ -6,6 +6,7 @@
 
 #include "app/common/my_global_instance.h"
 #include "app/photos/image_list_controller.h"
+#include "app/photos/photo_filter_box.h"
 #include "app/photos/photo_list_view.h"
 #include "app/preview/photo_preview.h"
 #include "app/preview/preview_view.h"
@@ -45,6 +46,7 @@ class MainWindow : public QMainWindow {
     PhotoPreview& preview() { return *preview_; }
     PreviewView& previewView() { return *previewView_; }
     PhotoListView& photoList() { return *photoList_; }
+    PhotoFilterBox& photoFilter() { return *photoFilter_; }
     QListView& watermarkList() { return watermarkPanel_->list(); }
     MainView& mainView() { return *mainView_; }
     WindowActions& actions() { return *actions_; }
@@ -88,6 +90,7 @@ class MainWindow : public QMainWindow {
     StackKeeper* keeper_;
     MainView* mainView_;
     PhotoListView* photoList_;
+    PhotoFilterBox* photoFilter_;
     WatermarkPanel* watermarkPanel_;
     ProcessingBar* processing_;
     QSplitter* columns_;

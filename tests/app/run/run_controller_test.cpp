@@ -98,10 +98,11 @@ TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
     }
 }
 
-TEST_F(RunWindow, AFailedRowTellsWhyWhenItIsDoubleClicked) {
-    addPhotos(u"gb"_s);
+TEST_F(RunWindow, WhatFailedIsShownAloneAndTellsWhyWhenItIsDoubleClicked) {
+    addPhotos(u"gbg"_s);
     start();
-    summary();
+    EXPECT_FALSE(window->photoFilter().isVisible());
+    answer(u"Show"_s);
     QString text;
     QTimer::singleShot(100, window.get(), [&] {
         text = message()->informativeText();
@@ -112,6 +113,30 @@ TEST_F(RunWindow, AFailedRowTellsWhyWhenItIsDoubleClicked) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row);
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row);
     EXPECT_EQ(text, QString(DamagedPictureMessage));
+
+    const auto shown = [&] {
+        std::vector<int> rows;
+        for (int each = 0; each < list.model()->rowCount(); ++each) {
+            if (!list.isRowHidden(each)) rows.push_back(each);
+        }
+        return rows;
+    };
+    EXPECT_THAT(shown(), ElementsAre(1));
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Down}) {
+        QTest::keyClick(&list, key);
+        EXPECT_EQ(window->photos().selectedRow(), 1) << key;
+    }
+    list.selectAll();
+    window->photos().UncheckAllImages();
+    EXPECT_THAT(window->photos().model().checks(), ElementsAre(true, false, true));
+    window->photos().RemoveSelectedImage();
+    EXPECT_THAT(shown(), ElementsAre(0, 1)) << "none is left to show: back to all";
+    EXPECT_FALSE(window->photoFilter().isVisible());
+    window->document().history().undo();
+    QTest::keyClick(&window->photoFilter(), Qt::Key_Down);
+    EXPECT_THAT(shown(), ElementsAre(1));
+    QTest::keyClick(&window->photoFilter(), Qt::Key_Up);
+    EXPECT_THAT(shown(), ElementsAre(0, 1, 2));
 }
 
 TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {

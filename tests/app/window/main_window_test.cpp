@@ -152,6 +152,37 @@ TEST_F(MainWindowTest, AClickOnACheckBoxChecksAndDoesNotSelect) {
     EXPECT_TRUE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
 }
 
+TEST_F(MainWindowTest, ARecordThatDrawsNothingCarriesASignWhileItDoes) {
+    addPhotos(1);
+    window->watermarks().AddFilter(3);
+    addWatermark(plainShape());
+    Watermark text(watermark_type::Text);
+    addWatermark(text);
+    const auto rowsWithSign = [this] {
+        const QImage list = window->watermarkList().viewport()->grab().toImage();
+        std::vector<int> rows;
+        for (int row = 0; row < window->watermarks().model().rowCount(); ++row) {
+            const QRect place = window->watermarkList().visualRect(window->watermarks().model().index(row));
+            const QColor amber = list.pixelColor(place.right() - 15, place.center().y() + 4);
+            if (amber.red() > amber.blue() + 100) rows.push_back(row);
+        }
+        return rows;
+    };
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_THAT(rowsWithSign(), ::testing::ElementsAre(2));
+    EXPECT_TRUE(window->watermarks()
+                    .model()
+                    .index(2)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("The text is empty")));
+    text.Text = QStringLiteral("words");
+    text.FontSize = 20;
+    window->watermarks().ReflectWatermark(text);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_THAT(rowsWithSign(), ::testing::IsEmpty());
+}
+
 TEST_F(MainWindowTest, ADoubleClickOnAWatermarkOpensItsEditor) {
     addPhotos(1);
     addWatermark(plainShape());
