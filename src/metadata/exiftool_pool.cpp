@@ -51,7 +51,7 @@ void ExiftoolPool::giveBack(std::unique_ptr<ExiftoolProcess> process) {
 }
 
 tl::unexpected<Error> ExiftoolPool::failed(const QString& what) const {
-    return fail(ErrorCode::ProgramFailed, QStringLiteral("\"%1\" %2.").arg(program_, what), program_);
+    return fail(ErrorCode::ProgramFailed, QStringLiteral("“%1” %2.").arg(program_, what), program_);
 }
 
 void ExiftoolPool::warmUp() {
@@ -71,7 +71,7 @@ ExiftoolPool::Clock::time_point ExiftoolPool::deadline(Clock::time_point asked) 
 Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::milliseconds timeout) {
     if (!QFileInfo(program_).isExecutable()) {
         std::call_once(missingIsLogged_, [this] {
-            qCWarning(exiftoolLog, "exiftool is missing (\"%s\"): outputs are written without metadata.",
+            qCWarning(exiftoolLog, "exiftool is missing (“%s”): outputs are written without metadata.",
                       qUtf8Printable(program_));
         });
         return failed(QStringLiteral("is missing"));

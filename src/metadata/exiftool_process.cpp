@@ -119,7 +119,7 @@ Result<QByteArray> exiftoolCommand(const QStringList& arguments, int number) {
             lines += argument;
         } else {
             return fail(ErrorCode::InvalidValue,
-                        QStringLiteral("exiftool cannot be told \"%1\".").arg(argument));
+                        QStringLiteral("exiftool cannot be told “%1”.").arg(argument));
         }
     }
     lines += QStringLiteral("-execute%1\n").arg(number);
@@ -129,7 +129,7 @@ Result<QByteArray> exiftoolCommand(const QStringList& arguments, int number) {
 Result<std::unique_ptr<ExiftoolProcess>> ExiftoolProcess::start(const QString& program) {
     const auto failed = [&program](int code) {
         return fail(ErrorCode::ProgramFailed,
-                    QStringLiteral("\"%1\" cannot be started: %2").arg(program, qt_error_string(code)),
+                    QStringLiteral("“%1” cannot be started: %2").arg(program, qt_error_string(code)),
                     program);
     };
     std::array<int, 2> ends{};

@@ -289,7 +289,7 @@ Result<void> writeSettingFile(const WatermarkStack& stack, const QString& path) 
     const QByteArray document = writeSettingDocument(stack);
     if (document.size() > MaximumXmlSize) {
         return fail(ErrorCode::CannotWrite,
-                    u"\"%1\" was not written: the logos are too large for a setting file."_s.arg(path), path);
+                    u"“%1” was not written: the logos are too large for a setting file."_s.arg(path), path);
     }
     return writeWholeFile(path, document);
 }

@@ -32,7 +32,7 @@ QString settingName(const QString& fileName) {
 Result<QStringList> settingFiles(const QString& folder) {
     const QDir directory(folder);
     if (!directory.exists() || !directory.isReadable()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("The folder \"%1\" cannot be read.").arg(folder),
+        return fail(ErrorCode::NotFound, QStringLiteral("The folder “%1” cannot be read.").arg(folder),
                     folder);
     }
     QStringList files = directory.entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -62,7 +62,7 @@ Result<qsizetype> copySettings(const QString& source, const QString& target) {
         return tl::unexpected(targetFiles.error());
     if (QFileInfo(source).canonicalFilePath() == QFileInfo(target).canonicalFilePath()) {
         return fail(ErrorCode::InvalidValue,
-                    QStringLiteral("The settings are already in \"%1\".").arg(target), target);
+                    QStringLiteral("The settings are already in “%1”.").arg(target), target);
     }
     QStringList taken = takenNames(target);
     qsizetype copied = 0;
@@ -103,7 +103,7 @@ Result<QStringList> SettingsLibrary::names() const {
 Result<QString> SettingsLibrary::path(const QString& name) const {
     const auto isForbidden = [](QChar c) { return c == u'/' || c == u'\\' || c.isNull(); };
     if (name.isEmpty() || std::any_of(name.cbegin(), name.cend(), isForbidden)) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("A setting cannot be named \"%1\".").arg(name));
+        return fail(ErrorCode::InvalidValue, QStringLiteral("A setting cannot be named “%1”.").arg(name));
     }
     const QDir directory(folder_);
     const QString usual = directory.filePath(name + SettingFileExtension);
@@ -124,11 +124,11 @@ Result<void> SettingsLibrary::remove(const QString& name) const {
     if (!found) return tl::unexpected(found.error());
     QFile file(*found);
     if (!QFileInfo(*found).isFile()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no setting \"%1\".").arg(name), *found);
+        return fail(ErrorCode::NotFound, QStringLiteral("There is no setting “%1”.").arg(name), *found);
     }
     if (!file.remove()) {
         return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("The setting \"%1\" cannot be deleted: %2").arg(name, file.errorString()),
+                    QStringLiteral("The setting “%1” cannot be deleted: %2").arg(name, file.errorString()),
                     *found);
     }
     return {};

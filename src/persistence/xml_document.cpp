@@ -233,19 +233,19 @@ Result<XmlElement> readXml(const QByteArray& document, QLatin1String root, const
     if (element.name.compare(root, Qt::CaseInsensitive) != 0) {
         return failAtLine(
             fileName, element.line,
-            QStringLiteral("the file's root is \"%1\" instead of \"%2\"").arg(element.name, root));
+            QStringLiteral("the file's root is “%1” instead of “%2”").arg(element.name, root));
     }
     return element;
 }
 
 Result<QByteArray> readXmlFile(const QString& path) {
     if (!QFileInfo(path).isFile()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file \"%1\".").arg(path), path);
+        return fail(ErrorCode::NotFound, QStringLiteral("There is no file “%1”.").arg(path), path);
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return fail(ErrorCode::InvalidFile,
-                    QStringLiteral("\"%1\" cannot be read: %2").arg(path, file.errorString()), path);
+                    QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()), path);
     }
     if (file.size() > MaximumXmlSize) return failAtLine(path, 1, QStringLiteral("the file is too large"));
     return file.readAll();

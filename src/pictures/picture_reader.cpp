@@ -51,7 +51,7 @@ Result<void> open(QFile& file) {
     const int descriptor =
         ::open(QFile::encodeName(file.fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file \"%1\".").arg(file.fileName()));
+        return fail(ErrorCode::NotFound, QStringLiteral("There is no file “%1”.").arg(file.fileName()));
     }
     struct stat status {};
     if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&

@@ -9,7 +9,7 @@ namespace zelto {
 Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, const QString& relativePath) {
     const QString path = QDir::cleanPath(QStandardPaths::writableLocation(kind) + u'/' + relativePath);
     if (!QDir().mkpath(path)) {
-        return fail(ErrorCode::CannotWrite, QStringLiteral("The folder \"%1\" cannot be made.").arg(path),
+        return fail(ErrorCode::CannotWrite, QStringLiteral("The folder “%1” cannot be made.").arg(path),
                     path);
     }
     return path + u'/';

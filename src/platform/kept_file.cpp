@@ -10,7 +10,7 @@ namespace zelto {
 Result<KeptFile> KeptFile::keep(const QString& path) {
     auto file = std::make_unique<QFile>(path);
     if (!QFileInfo(path).isFile() || !file->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return fail(ErrorCode::NotFound, QStringLiteral("\"%1\" cannot be read.").arg(path), path);
+        return fail(ErrorCode::NotFound, QStringLiteral("“%1” cannot be read.").arg(path), path);
     }
     return KeptFile(std::move(file));
 }
