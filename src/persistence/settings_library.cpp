@@ -61,8 +61,8 @@ Result<qsizetype> copySettings(const QString& source, const QString& target) {
     if (const auto targetFiles = settingFiles(target); !targetFiles)
         return tl::unexpected(targetFiles.error());
     if (QFileInfo(source).canonicalFilePath() == QFileInfo(target).canonicalFilePath()) {
-        return fail(ErrorCode::InvalidValue,
-                    QStringLiteral("The settings are already in “%1”.").arg(target), target);
+        return fail(ErrorCode::InvalidValue, QStringLiteral("The settings are already in “%1”.").arg(target),
+                    target);
     }
     QStringList taken = takenNames(target);
     qsizetype copied = 0;

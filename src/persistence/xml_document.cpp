@@ -231,9 +231,8 @@ Result<XmlElement> readXml(const QByteArray& document, QLatin1String root, const
     if (reader.hasError()) return failAtLine(fileName, reader.lineNumber(), reader.errorString());
     XmlElement element = tree.takeRoot();
     if (element.name.compare(root, Qt::CaseInsensitive) != 0) {
-        return failAtLine(
-            fileName, element.line,
-            QStringLiteral("the file's root is “%1” instead of “%2”").arg(element.name, root));
+        return failAtLine(fileName, element.line,
+                          QStringLiteral("the file's root is “%1” instead of “%2”").arg(element.name, root));
     }
     return element;
 }
