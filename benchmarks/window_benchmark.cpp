@@ -124,7 +124,7 @@ void TypedLetter(benchmark::State& state) {
     text.Text = QStringLiteral("©");
     window->watermarks().ReflectWatermark(text);
     window->document().setCurrentWatermark(0);
-    if (state.range(1) != 0) window->controller().ActualSize();
+    if (state.range(1) != 0) window->previewView().ActualSize();
     window.settle();
     std::vector<double> times;
     for (auto _ : state) {
@@ -132,7 +132,7 @@ void TypedLetter(benchmark::State& state) {
             QStringLiteral("© Zelto ") + QString(static_cast<int>(times.size()) % 20, QLatin1Char('x'));
         QElapsedTimer timer;
         timer.start();
-        window->watermarks().ReflectWatermark(text, true, QStringLiteral("Text"));
+        window->watermarks().ReflectWatermark(text, QStringLiteral("Text"));
         window.settle();
         times.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
         state.SetIterationTime(times.back());
@@ -152,7 +152,7 @@ BENCHMARK(TypedLetter)
 // The same with the editor: from the key until the screen shows it, the editor itself included.
 void LetterTypedIntoEditor(benchmark::State& state) {
     Window window(1, standardEditors());
-    if (state.range(0) != 0) window->controller().ActualSize();
+    if (state.range(0) != 0) window->previewView().ActualSize();
     window.settle();
     std::vector<double> times;
     QTimer::singleShot(0, &*window, [&] {

@@ -45,7 +45,7 @@ class Soak {
         Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
         text.Text = QStringLiteral("Zelto <<IMGNAME>>");
         text.FontSize = 40;
-        window_.watermarks().ReflectWatermark(text, true);
+        window_.watermarks().ReflectWatermark(text);
     }
 
     void run(double minutes) {
@@ -100,7 +100,7 @@ class Soak {
                     added.Text = QStringLiteral("added");
                     added.Position = random_.bounded(1, 10);
                     window_.document().setCurrentWatermark(WatermarkDocument::NoWatermark);
-                    watermarks.ReflectWatermark(added, true);
+                    watermarks.ReflectWatermark(added);
                 }
                 break;
             case 4:
@@ -132,7 +132,7 @@ class Soak {
                 Watermark changed = window_.document().watermarks()[static_cast<std::size_t>(index)];
                 changed.Rotation = random_.bounded(-180, 180);
                 window_.document().setCurrentWatermark(index);
-                watermarks.ReflectWatermark(changed, true);
+                watermarks.ReflectWatermark(changed);
             }
         }
     }
