@@ -136,8 +136,8 @@ void OutputWriter::addMetadata(PreparedPhoto& photo, const QImage& picture, doub
 // Whole pixels are picked first: smoothing all of a large photo would be felt.
 QImage OutputWriter::glanceOf(const QImage& picture) {
     using namespace std::chrono;
-    constexpr QSize Largest(1600, 1200);
-    constexpr std::int64_t IntervalMilliseconds = 250;
+    constexpr QSize Largest(960, 720);
+    constexpr std::int64_t IntervalMilliseconds = 500;
     const std::int64_t now = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
     std::int64_t due = nextGlance_;
     if (now < due || !nextGlance_.compare_exchange_strong(due, now + IntervalMilliseconds)) return {};

@@ -36,7 +36,7 @@ class OutputWriter : public PhotoProcessor {
         std::optional<CopyRightMetaData> copyright;
         int metadataJobs = 1;                                         // exiftool programs at a time
         std::chrono::milliseconds metadataTimeout = MetadataTimeout;  // for one output
-        // Called on the run's thread when a photo is about to be written, at most four times a second, with what is
+        // Called on the run's thread when a photo is about to be written, at most twice a second, with what is
         // written scaled down to about a screen.
         std::function<void(qint64 row, const QImage& glance)> showGlance = {};
     };
