@@ -56,7 +56,7 @@ PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinat
 // What becomes of every output by the rules of the request. Names are given out over the whole list, in list order;
 // a photo that fails later keeps its name. A number is free when no photo of the list has the name it makes; files
 // that stand there count where the rule for them is to number. Paths are compared as the file system does. Pages of a
-// combined PDF have no names of their own. Looks at the disk, a few times a photo.
+// combined PDF have no names of their own. Looks at the disk, a few times per photo.
 OutputPlan planOutputs(const BatchRequest& request, const QDateTime& now);
 
 }  // namespace zelto

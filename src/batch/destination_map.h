@@ -17,7 +17,7 @@ namespace zelto {
 using FolderDestinations = QMap<QString, QString>;
 
 // The path of `folder` below the parent of `candidate`, so with candidate's own name in front ("/p/a" and
-// "/p/a/b" give "a/b"); nothing where `candidate` is no ancestor of `folder`. The root never counts as one.
+// "/p/a/b" give "a/b"); nothing where `candidate` is not an ancestor of `folder`. The root never counts as one.
 std::optional<QString> GetRelativePath(const QString& candidate, const QString& folder);
 
 // Whether a key of `inDictionary` is an ancestor of `folder`. If so, and if `destinations` has the folder,

@@ -25,7 +25,7 @@ struct LookAheadLimits {
     qint64 memoryBudget = 0;  // bytes
     bool givesWay = false;    // whether everything else on the machine goes before it: a window stays quick
 
-    // One thread a core and a quarter of the available memory.
+    // One thread per core and a quarter of the available memory.
     static LookAheadLimits forThisMachine();
 };
 

@@ -40,7 +40,7 @@ struct PlannedOutput {
 };
 
 struct OutputPlan {
-    std::vector<PlannedOutput> outputs;  // one a photo, unchecked ones included
+    std::vector<PlannedOutput> outputs;  // one per photo, unchecked ones included
 
     qint64 photos = 0;           // that are written
     qint64 files = 0;            // that they become

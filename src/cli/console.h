@@ -20,7 +20,7 @@ struct ConsoleChoices {
 
 class Console {
   public:
-    // A choice only holds where standard error can serve it: no bar and no color where it is no terminal or a dumb
+    // A choice only holds where standard error can serve it: no bar and no color where it is not a terminal or a dumb
     // one, no color where NO_COLOR is set.
     explicit Console(const ConsoleChoices& choices);
 
@@ -29,7 +29,7 @@ class Console {
     // One more photo is done. `line`, unless it is empty, is shown where there is no bar.
     void advance(const QString& line);
     void problem(const QString& text);
-    // Something worth knowing that is no problem.
+    // Something worth knowing that is not a problem.
     void note(const QString& text);
     // Takes the bar away.
     void end();

@@ -42,7 +42,7 @@ class ExiftoolProcess {
     ExiftoolProcess& operator=(const ExiftoolProcess&) = delete;
 
     // What the program printed for a command made by exiftoolCommand() with `number`, which must be another one for
-    // each command. Blocks until then, but not past the `deadline`, which is asked for again several times a second.
+    // each command. Blocks until then, but not past the `deadline`, which is asked for again several times per second.
     using Deadline = std::function<std::chrono::steady_clock::time_point()>;
     tl::expected<QByteArray, Failure> run(const QByteArray& command, int number, const Deadline& deadline);
 

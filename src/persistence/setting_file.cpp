@@ -231,7 +231,7 @@ void writeWatermark(QXmlStreamWriter& writer, const Watermark& w) {
     writer.writeEndElement();
 }
 
-// The watermark of an element; nothing when its type is no number.
+// The watermark of an element; nothing when its type is not a number.
 std::optional<Watermark> readWatermark(const XmlElement& element) {
     bool isNumber = false;
     const int type = element.type.trimmed().toInt(&isNumber);

@@ -25,7 +25,7 @@ class SettingsLibrary {
     Result<QStringList> names() const;
 
     // The path of the setting `name`: of its file where there is one, else of the file to be made for it.
-    // Error: ErrorCode::InvalidValue for a name that is empty, holds a path separator or is no file's name.
+    // Error: ErrorCode::InvalidValue for a name that is empty, holds a path separator or is not a file name.
     Result<QString> path(const QString& name) const;
 
     // Whether there is a file for `name`; a folder of that name is none.

@@ -25,7 +25,7 @@ class AdditiveTransform {
     // Nothing where `profile` is not additive.
     static std::optional<AdditiveTransform> make(cmsHPROFILE profile, Depth depth);
 
-    // Writes red, green and blue of every pixel of `target` (32 bits a pixel), whose fourth byte stays. Pixels of 8
+    // Writes red, green and blue of every pixel of `target` (32 bits per pixel), whose fourth byte stays. Pixels of 8
     // bits may be converted in place. Any thread.
     void apply(const uchar* source, qsizetype stride, QImage& target) const;
 

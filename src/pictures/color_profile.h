@@ -12,7 +12,7 @@ namespace zelto {
 enum class InkScale { FullIs255, FullIs0 };
 
 // `picture` as RGB32, or as unpremultiplied ARGB32 where it has alpha, converted from the RGB or grey ICC
-// profile `profile` (empty: it is sRGB already). Pictures of 16 bits a channel are converted before they lose
+// profile `profile` (empty: it is sRGB already). Pictures of 16 bits per channel are converted before they lose
 // the lower eight; those of 8 bits are converted in place when they are moved in.
 QImage convertedToSrgb(QImage picture, const QByteArray& profile);
 

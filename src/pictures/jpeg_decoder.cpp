@@ -165,7 +165,7 @@ class JpegFile {
     bool isCmyk() const { return info_.jpeg_color_space == JCS_CMYK || info_.jpeg_color_space == JCS_YCCK; }
     InkScale inkScale() const { return info_.saw_Adobe_marker ? InkScale::FullIs0 : InkScale::FullIs255; }
 
-    // All pixels, upright: RGB32, or the four CMYK bytes a pixel where isCmyk(). A null picture for a damaged
+    // All pixels, upright: RGB32, or the four CMYK bytes per pixel where isCmyk(). A null picture for a damaged
     // file.
     QImage decode(int orientation) {
         jpeg_calc_output_dimensions(&info_);

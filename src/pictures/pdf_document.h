@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A PDF of pictures, one a page. Each page is written out as it is added, so a document of a thousand photos
+// A PDF of pictures, one per page. Each page is written out as it is added, so a document of a thousand photos
 // costs no more memory than its largest page, compressed. Compressing a page is most of the work and may be
 // done ahead, on any thread. Where the bytes go is the caller's: a buffer, or a
 // WholeFile, which makes abandoning an unfinished document safe. One document is used by one thread at a
@@ -26,7 +26,7 @@ namespace zelto {
 struct PdfPage {
     QSize size;          // pixels
     QByteArray colours;  // a JPEG file
-    QByteArray alpha;    // one byte a pixel as a zlib stream; empty for an opaque picture
+    QByteArray alpha;    // one byte per pixel as a zlib stream; empty for an opaque picture
 
     qint64 bytes() const { return colours.size() + alpha.size(); }
 };
@@ -42,7 +42,7 @@ class PdfDocument {
     PdfDocument(const PdfDocument&) = delete;
     PdfDocument& operator=(const PdfDocument&) = delete;
 
-    // Adds a page of the picture's size, one point a pixel, and draws the picture over all of it. Error:
+    // Adds a page of the picture's size, one point per pixel, and draws the picture over all of it. Error:
     // ErrorCode::CannotWrite: nothing more can be added.
     Result<void> addPage(const PdfPage& page);
 

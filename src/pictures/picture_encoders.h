@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The encoder of each file format, one a file. encodePicture() chooses among them after it has checked what
+// The encoder of each file format, one per file. encodePicture() chooses among them after it has checked what
 // they all rely on: a picture of pixels, RGB32 or premultiplied ARGB32, within the format's limits. They read
 // it row by row, so that no second whole picture is ever made. Errors: ErrorCode::CannotWrite with the
 // library's own words. Any thread.

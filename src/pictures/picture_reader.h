@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reading photos and logos. Whatever a file holds (CMYK, grey, palette, 16 bits, any ICC profile, any EXIF orientation),
-// what comes out is one kind of picture: upright, sRGB, 8 bits a channel, Format_RGB32 where the file has no
+// what comes out is one kind of picture: upright, sRGB, 8 bits per channel, Format_RGB32 where the file has no
 // transparency and Format_ARGB32_Premultiplied where it has, rows from the top.
 //
 //     const Result<Picture> photo = readPicture(path);

@@ -24,7 +24,7 @@ struct EncodeOptions {
     double dpiY = 72.0;
 };
 
-// The bytes of a complete file. A PDF is one page of the picture's size, one point a pixel. Error:
+// The bytes of a complete file. A PDF is one page of the picture's size, one point per pixel. Error:
 // ErrorCode::InvalidValue for a picture without pixels or too large for the format, ErrorCode::CannotWrite when the
 // encoder fails, ErrorCode::OutOfMemory.
 Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, const EncodeOptions& options);

@@ -62,7 +62,7 @@ class PngFile {
     }
 
     qint64 memory() const {
-        constexpr qint64 RowBuffers = 64;  // bytes a pixel, generously, for libpng's own rows
+        constexpr qint64 RowBuffers = 64;  // bytes per pixel, generously, for libpng's own rows
         // Wide pictures are converted to 64-bit pixels and from there to 32.
         return pixelCount(storedSize()) * (isWide() ? 12 : 4) + RowBuffers * storedSize().width();
     }

@@ -22,7 +22,7 @@ struct ResampleAxis {
 // sums[i] = sum of rows[k][i] * weights[k] over the `taps` rows, for `bytes` values (a multiple of 4).
 void sumRows(const std::uint8_t* const* rows, const float* weights, int taps, float* sums, std::size_t bytes);
 
-// A row of new pixels from a row of four floats a pixel, rounded and valid as pixels: no component above its
+// A row of new pixels from a row of four floats per pixel, rounded and valid as pixels: no component above its
 // alpha, and the alpha of `opaque` pictures 255.
 void sumColumns(const float* sums, const ResampleAxis& columns, bool opaque, QRgb* out);
 

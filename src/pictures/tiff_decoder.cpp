@@ -249,7 +249,7 @@ void addTiffChunks(QIODevice& device, PictureNeeds& needs) {
     const double down = std::ceil(layout.height / chunkHeight);
     const double planes = layout.separatePlanes ? layout.samples : 1.0;
     // Whole chunks are kept twice at most, here and in their decompressor. Where a sample is wider than 8 bits, the
-    // picture passes through 64 or 128 bits a pixel.
+    // picture passes through 64 or 128 bits per pixel.
     constexpr qint64 WidePixel = 20;
     if (layout.bits > 8) needs.memory = std::max(needs.memory, pixelCount(needs.size) * WidePixel);
     constexpr double Most = 1e18;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The TIFF pictures that Qt's plugin would flatten: CMYK, which it turns into RGB without a thought for the
 // profile, and grey with alpha, whose alpha it drops. Strips and tiles, joined and separate planes, 8 and 16
-// bits a channel. Any thread.
+// bits per channel. Any thread.
 #pragma once
 
 #include "pictures/picture_facts.h"

@@ -9,7 +9,7 @@
 namespace zelto {
 namespace {
 
-// Longer than any date a photo carries: what exceeds it is no date, however long it takes to say so.
+// Longer than any date a photo carries: what exceeds it is not a date, however long it takes to say so.
 constexpr qsizetype LongestDate = 64;
 
 icu::UnicodeString toIcu(QStringView text) {

@@ -13,7 +13,7 @@
 
 namespace zelto {
 
-// `moment` by `pattern` ("EEEE, dd MMMM yyyy"). A run of letters that is no date field, or that prints
+// `moment` by `pattern` ("EEEE, dd MMMM yyyy"). A run of letters that is not a date field, or that prints
 // nothing, is printed as it stands: a pattern is never refused and nothing of it is lost. Empty for an
 // invalid moment.
 QString formatDate(const QDateTime& moment, QStringView pattern, const QLocale& locale);

@@ -6,7 +6,7 @@
 
 namespace zelto {
 
-// Between 0 and 1; what is no number is 0.
+// Between 0 and 1; what is not a number is 0.
 inline double opacityOf(float transparency) {
     return transparency > 0.0F ? std::min(static_cast<double>(transparency), 1.0) : 0.0;
 }

@@ -55,7 +55,7 @@ struct PhotoScene {
     QRect imageRect;   // the photo inside `picture`, pixels, y up
     QRect borderRect;  // the framed photo inside `picture`, pixels, y up
     // The area watermarks are placed in, pixels of `picture`, y down: the photo, or the framed photo where watermarks
-    // may lie on the border. A shadow around the photo is no part of it.
+    // may lie on the border. A shadow around the photo is not part of it.
     QRect referenceRect;
     // The photo's metadata, for the texts that print some; kept so that an edit does not read the file again.
     std::shared_ptr<const LazyImageProperties> properties;

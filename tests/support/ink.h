@@ -18,7 +18,7 @@ QRect colorBox(const QImage& picture, QColor color, int tolerance = 8);
 // The largest difference of two colours in any channel.
 int largestDifference(QRgb a, QRgb b);
 
-// `picture` (32 bits a pixel) with its stored values as they are, so that pixel() of a premultiplied picture
+// `picture` (32 bits per pixel) with its stored values as they are, so that pixel() of a premultiplied picture
 // gives the premultiplied colour.
 QImage storedValues(QImage picture);
 

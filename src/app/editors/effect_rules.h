@@ -22,7 +22,7 @@ struct ShadowSides {
 // `PhotoEffects::Direction` for a choice of sides; opposite sides outweigh each other.
 std::int64_t shadowDirection(const ShadowSides& sides);
 
-// The sides a direction stands for; none for a number that is no direction.
+// The sides a direction stands for; none for a number that is not a direction.
 ShadowSides shadowSides(std::int64_t direction);
 
 // Chooses the sides; a shadow on no side is switched off.

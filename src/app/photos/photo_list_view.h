@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The photo list on the screen: one row a photo with its check box, thumbnail, name, folder and the outcome of the last
+// The photo list on the screen: one row per photo with its check box, thumbnail, name, folder and the outcome of the last
 // run; photos that are filtered out have a hidden row. Rows are painted, not widgets, and of one height, so that the
 // list is as quick with a hundred thousand photos as with ten. Main thread only.
 #pragma once

@@ -22,9 +22,9 @@ class ThumbnailLoader : public QObject {
     ~ThumbnailLoader() override;
 
     // The picture of the photo at `path`, no larger than the size last wanted; null before it is made, and
-    // for a file that is no picture.
+    // for a file that is not a picture.
     QImage thumbnail(const QString& path) const;
-    // Whether the file has been looked at and is no picture.
+    // Whether the file has been looked at and is not a picture.
     bool isBroken(const QString& path) const;
 
     // These photos are seen now; `size` in device pixels bounds their thumbnails.

@@ -70,7 +70,7 @@ PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
 }
 
 PhotoRequest PhotoPreview::request() const {
-    // Where watermarks may lie on the border, the shadow around it is not shown: it is no part of the place
+    // Where watermarks may lie on the border, the shadow around it is not shown: it is not part of the place
     // they may take.
     const std::optional<PhotoEffects>& effects = watermarks_.GetEffect();
     return requestFor(photos_.selectedRow(), !(effects && effects->ApplyWatermarkOnBorder));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Brings what a run tells on its own thread to the main thread: gathered, and a few times a second at most, so that
+// Brings what a run tells on its own thread to the main thread: gathered, and a few times per second at most, so that
 // the window keeps up with any number of photos. What the user has to see at once, a question or the end, is not
 // held back. Lives on the main thread; the observer's functions are called by the run.
 #pragma once

@@ -19,7 +19,7 @@ class MainView : public QWidget {
   public:
     explicit MainView(QWidget* parent = nullptr);
 
-    // Takes the dropped files: photos, by their names, that are no folders.
+    // Takes the dropped files: photos, by their names, that are not folders.
     void setDelegate(std::function<void(const QList<QUrl>&)> addImagesFromUrls) {
         add_ = std::move(addImagesFromUrls);
     }

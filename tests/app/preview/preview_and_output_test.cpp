@@ -141,7 +141,7 @@ TEST_F(RunWindow, ThePreviewAtActualSizeIsTheWrittenPicture) {
         start();
         summary();
         const QImage written(options.OutputPath + u"/photo0.png"_s);
-        // The shadow is no part of what watermarks on the border are placed in, and only seen in the file.
+        // The shadow is not part of what watermarks on the border are placed in, and only seen in the file.
         const Result<PhotoScene> scene = buildPhotoScene(window->preview().finalRequest());
         QRect place = written.rect();
         if (shown.size() != written.size()) {

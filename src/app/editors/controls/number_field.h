@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A field for one number with its unit. Whatever is typed stays as it was typed; while it is no number in the
+// A field for one number with its unit. Whatever is typed stays as it was typed; while it is not a number in the
 // range the value does not change and a hint under the field says what is expected. Main thread only.
 #pragma once
 
