@@ -50,7 +50,7 @@ TEST(XmlDocument, RefusesWhatIsHostileOrNoXmlAndSaysWhere) {
         {"no xml at all", "line 1: "},
         {"<Root>\n<a>cut sho", "line 2: "},
         {"<Root/>\n\n<Root/>", "line 3: "},
-        {"<?xml version=\"1.0\"?>\n<Other/>", "line 2: the file's root is \"Other\" instead of \"Root\""},
+        {"<?xml version=\"1.0\"?>\n<Other/>", "line 2: the file's root is “Other” instead of “Root”"},
         {"<!DOCTYPE Root [<!ENTITY x \"y\">]><Root>&x;</Root>", "line 1: a document type declaration"},
         {"<!-- > --><?p ?>\n<!DOCTYPE Root SYSTEM \"http://x/\"><Root/>",
          "line 2: a document type declaration"},
