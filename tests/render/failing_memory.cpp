@@ -23,6 +23,8 @@ bool largeAllocationFailed() {
 
 }  // namespace zelto
 
+// The sanitizers bring an allocator of their own; the tests that need this one are left out there.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 // The C library's own allocator under the name it keeps for programs that replace malloc.
 extern "C" void* __libc_malloc(std::size_t bytes);
 
@@ -30,3 +32,4 @@ extern "C" void* malloc(std::size_t bytes) {
     const bool fails = bytes >= Large && before.load() >= 0 && before.fetch_sub(1) == 0;
     return fails ? nullptr : __libc_malloc(bytes);
 }
+#endif
