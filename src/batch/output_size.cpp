@@ -32,9 +32,10 @@ Extent pixelsInProportion(Extent photo, Extent asked) {
     if (asked.height == 0) return withWidth(photo, asked.width);
     if (asked.width == 0) return withHeight(photo, asked.height);
     // The asked proportion is a whole number here: 800 x 600 counts as 1.
+    const std::int64_t askedProportion = asked.width / asked.height;
     const double proportion = static_cast<double>(photo.width) / static_cast<double>(photo.height);
-    return proportion > static_cast<double>(asked.width / asked.height) ? withWidth(photo, asked.width)
-                                                                        : withHeight(photo, asked.height);
+    return proportion > static_cast<double>(askedProportion) ? withWidth(photo, asked.width)
+                                                             : withHeight(photo, asked.height);
 }
 
 Extent longerSide(Extent photo, std::int64_t side, bool inProportion) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/run_pace.h"
 
+#include <cmath>
+
 namespace zelto {
 namespace {
 
@@ -27,7 +29,7 @@ QString RunPace::Figures::rate() const {
 }
 
 QString RunPace::Figures::timeLeft() const {
-    const auto whole = static_cast<qint64>(secondsLeft + 0.5);
+    const auto whole = std::llround(secondsLeft);
     const auto twoDigits = [](qint64 number) {
         return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
     };

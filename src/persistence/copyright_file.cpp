@@ -17,6 +17,8 @@ template <class Bool>
 struct OnUnlessFalse {
     Bool& value;
 };
+template <class Bool>
+OnUnlessFalse(Bool&) -> OnUnlessFalse<Bool>;
 
 template <class Bool>
 QString toText(const OnUnlessFalse<Bool>& on) {

@@ -26,18 +26,24 @@ template <class Number>
 struct Quality {
     Number& value;
 };
+template <class Number>
+Quality(Number&) -> Quality<Number>;
 
 // A size in pixels; an empty field is 0.
 template <class Number>
 struct Size {
     Number& value;
 };
+template <class Number>
+Size(Number&) -> Size<Number>;
 
 // Negative ones count as 100.
 template <class Number>
 struct Percentage {
     Number& value;
 };
+template <class Number>
+Percentage(Number&) -> Percentage<Number>;
 
 // A number from 0 to `last`; any other is passed over.
 template <class Number>
@@ -45,18 +51,24 @@ struct Choice {
     Number& value;
     qint64 last;
 };
+template <class Number>
+Choice(Number&, qint64) -> Choice<Number>;
 
 // A format that can be written, in any letter case; any other is passed over.
 template <class Text>
 struct FormatName {
     Text& value;
 };
+template <class Text>
+FormatName(Text&) -> FormatName<Text>;
 
 // A reference to the output folder, whose path takes the place of the stored one while it leads somewhere.
 template <class Options>
 struct FolderReference {
     Options& options;
 };
+template <class Options>
+FolderReference(Options&) -> FolderReference<Options>;
 
 qint64 limitedSize(const QString& text) {
     return std::clamp<qint64>(toInteger(text, 0), 0, MaximumSize);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/filter_pass.h"
 
+#include "pictures/rounding.h"
 #include "pictures/srgb_transfer.h"
 
 #include <algorithm>
@@ -103,7 +104,7 @@ std::array<std::uint32_t, 256> table(double factor, double offset, std::size_t c
     for (std::size_t level = 0; level < values.size(); ++level) {
         const double linear = factor * linearFromSrgb(static_cast<double>(level) / 255.0) + offset;
         const double encoded = srgbFromLinear(std::clamp(linear, 0.0, 1.0));
-        values[level] = static_cast<std::uint32_t>(encoded * 255.0 + 0.5) << (16U - 8U * channel);
+        values[level] = static_cast<std::uint32_t>(rounded(encoded * 255.0)) << (16U - 8U * channel);
     }
     return values;
 }

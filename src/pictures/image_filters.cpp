@@ -14,10 +14,14 @@ QImage applyFilterChain(QImage picture, const FilterChain& chain) {
     if (picture.format() != format) picture.convertTo(format);
 
     // A shared picture is read where it is and written elsewhere: detaching it would copy every pixel first.
-    const bool inPlace = picture.isDetached();
-    QImage result = inPlace ? std::move(picture) : QImage(picture.size(), format);
+    QImage result;
+    if (picture.isDetached()) {
+        result.swap(picture);
+    } else {
+        result = QImage(picture.size(), format);
+    }
     if (result.isNull()) return {};
-    const QImage& from = inPlace ? result : picture;
+    const QImage& from = picture.isNull() ? result : picture;
     const FilterPass pass = fuse(chain, result.size());
     const uchar* const source = from.constBits();
     uchar* const target = result.bits();

@@ -2,6 +2,7 @@
 #include "render/blurred_alpha.h"
 
 #include "pictures/parallel_rows.h"
+#include "pictures/rounding.h"
 #include "pictures/weighted_sums.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ void BlurredAlpha::gatherCells(const QImage& picture) {
             }
             std::uint16_t* const cells = cells_.data() + index(cellRow + margin_) * index(columns_) + margin_;
             for (std::size_t i = 0; i < sums.size(); ++i) {
-                cells[i] = static_cast<std::uint16_t>(static_cast<float>(sums[i]) * scale + 0.5F);
+                cells[i] = static_cast<std::uint16_t>(rounded(static_cast<float>(sums[i]) * scale));
             }
         }
     });
@@ -100,9 +101,8 @@ void BlurredAlpha::blurAcross() {
             std::uint16_t* const cells = cells_.data() + index(y) * index(columns_);
             std::copy(cells, cells + columns_, source.data() + reach);
             weightedSums(shifted, weights_, sums);
-            std::transform(sums.begin(), sums.end(), cells, [](float sum) {
-                return static_cast<std::uint16_t>(static_cast<int>(sum + 0.5F));
-            });
+            std::transform(sums.begin(), sums.end(), cells,
+                           [](float sum) { return static_cast<std::uint16_t>(rounded(sum)); });
         }
     });
 }

@@ -2,6 +2,7 @@
 #include "render/photo_shadow.h"
 
 #include "pictures/parallel_rows.h"
+#include "pictures/rounding.h"
 #include "render/blurred_alpha.h"
 #include "render/qt_color.h"
 #include "render/source_over.h"
@@ -23,7 +24,7 @@ std::array<QRgb, 256> tints(const Color& color) {
     std::array<QRgb, 256> levels{};
     for (std::size_t level = 0; level < levels.size(); ++level) {
         const float alpha = c.alphaF() * static_cast<float>(level);
-        const auto part = [alpha](float component) { return static_cast<int>(component * alpha + 0.5F); };
+        const auto part = [alpha](float component) { return rounded(component * alpha); };
         levels[level] = qRgba(part(c.redF()), part(c.greenF()), part(c.blueF()), part(1.0F));
     }
     return levels;
@@ -73,7 +74,7 @@ void drawRectangleShadow(QImage& canvas, const QRect& rectangle, const DropShado
             const auto draw = [&](int from, int to) {
                 for (int x = from; x < to; ++x) {
                     pixels[x] =
-                        tint[static_cast<std::size_t>(across[static_cast<std::size_t>(x)] * level + 0.5F)];
+                        tint[static_cast<std::size_t>(rounded(across[static_cast<std::size_t>(x)] * level))];
                 }
             };
             const bool beside = y >= rectangle.top() && y <= rectangle.bottom();

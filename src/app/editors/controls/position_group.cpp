@@ -75,9 +75,9 @@ QWidget* PositionGroup::makePosition() {
         grid_,
         [](const Watermark& record) { return record.Position == CustomPosition ? 0 : record.Position; },
         setPresetPosition);
-    for (const auto& [field, length] :
+    for (const auto& pair :
          {std::pair(left, &Watermark::CustomPositionLeft), std::pair(top, &Watermark::CustomPositionTop)}) {
-        binder_.bind(field, length, [length](Watermark& record, double pixels) {
+        binder_.bind(pair.first, pair.second, [length = pair.second](Watermark& record, double pixels) {
             record.*length = std::llround(pixels);
             record.Position = CustomPosition;
         });
