@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/image_list.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace zelto {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-using ::testing::ElementsAre;
 
 ImageList listOf(const QStringList& paths) {
     ImageList list;
@@ -21,12 +18,6 @@ QStringList pathsOf(const ImageList& list) {
     QStringList paths;
     for (const Image& image : list.images()) paths.append(image.ImagePath);
     return paths;
-}
-
-std::vector<bool> checksOf(const ImageList& list) {
-    std::vector<bool> checks;
-    for (const Image& image : list.images()) checks.push_back(image.ApplyWatermark);
-    return checks;
 }
 
 TEST(ImageList, KeepsEachExactPathOnceInTheOrderOfAdding) {
@@ -47,22 +38,6 @@ TEST(ImageList, ARemovedPhotoCanBeAddedAgainAndItsFolderStaysKnown) {
     list.takeImages({0, 1});
     EXPECT_TRUE(list.AddImage(u"/x/a.jpg"_s));
     EXPECT_EQ(list.InputOutputDictionary().keys(), QStringList({u"/x"_s, u"/y"_s}));
-}
-
-TEST(ImageList, PhotosTakenOutGoBackToTheirRowsAsTheyWere) {
-    const QStringList all = {u"/1"_s, u"/2"_s, u"/3"_s, u"/4"_s};
-    for (const std::vector<std::size_t>& rows :
-         {std::vector<std::size_t>{}, {0}, {3}, {1, 2}, {0, 2}, {0, 1, 2, 3}}) {
-        ImageList list = listOf(all);
-        list.setApplyWatermark(2, false);
-        const ImageList::Placed taken = list.takeImages(rows);
-        EXPECT_EQ(list.images().size(), all.size() - rows.size());
-        for (const std::size_t row : rows) EXPECT_FALSE(list.CheckIfImageExists(all[static_cast<int>(row)]));
-        list.insertImages(taken);
-        EXPECT_EQ(pathsOf(list), all);
-        EXPECT_THAT(checksOf(list), ElementsAre(true, true, false, true));
-        EXPECT_TRUE(list.CheckIfImageExists(u"/1"_s));
-    }
 }
 
 TEST(ImageList, AnErrorTextStaysUntilANewFailureReplacesIt) {

@@ -3,6 +3,7 @@
 
 #include "persistence/setting_file.h"
 #include "support/ink.h"
+#include "support/records.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -17,21 +18,10 @@ constexpr int MarkSide = 10;
 constexpr QRgb MarkColor = 0xFFFF0000;
 constexpr QRgb PhotoColor = 0xFFD0D0D0;
 
-WatermarkStack markStack() {
-    Watermark mark(watermark_type::Shape);
-    mark.Width = mark.Height = MarkSide;
-    mark.SolidColor = Color{1.0F, 0.0F, 0.0F, 1.0F};
-    mark.Transparency = 1.0F;
-    mark.Position = 9;
-    WatermarkStack stack;
-    stack.Watermarks.push_back(mark);
-    return stack;
-}
-
 }  // namespace
 
 BatchProgram::BatchProgram() {
-    useSetting(markStack());
+    useSetting({{boxRecord(MarkSide, MarkSide, 9)}, {}, 0, false});
 }
 
 void BatchProgram::useSetting(const WatermarkStack& stack) const {

@@ -2,7 +2,7 @@
 // Long lists, damaged photos and sudden ends: what is written is whole, in order, and the same however it comes about.
 #include "cli/batch_program.h"
 #include "support/exiftool.h"
-#include "support/test_pictures.h"
+#include "support/records.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -34,13 +34,7 @@ TEST_F(Endurance, MixedAndDamagedPhotosComeOutTheSameForAnyNumberOfJobs) {
         ASSERT_TRUE(isDamaged(row) || scene.save(photos.last()));
     }
     // A number of its own for each photo, so that none can stand for another.
-    WatermarkStack stack;
-    stack.Watermarks.emplace_back(watermark_type::Text);
-    stack.Watermarks.back().Text = u"<<AUTO:##1+1>>"_s;
-    stack.Watermarks.back().FontSize = 14;
-    stack.Watermarks.back().TextColor = Color::black();
-    stack.Watermarks.back().Transparency = 1.0F;
-    useSetting(stack);
+    useSetting({{textRecord(u"<<AUTO:##1+1>>"_s, 14)}, {}, 0, false});
 
     ProgramRun first;
     Files firstFiles;

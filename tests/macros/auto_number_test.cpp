@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/auto_number.h"
 
-#include "macros/macro_expander.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -30,25 +28,6 @@ TEST(GenerateAutoMacro, TakesNumbersFromOneAndGoesOnAfterTheLast) {
     EXPECT_EQ(ContinueLastNumber(true, 0), u"1"_s);
     EXPECT_EQ(ContinueLastNumber(false, 57), u"1"_s);
     EXPECT_EQ(ContinueLastNumber(true, std::numeric_limits<qint64>::max()), u"9223372036854775807"_s);
-}
-
-TEST(AutoNumberAt, ReadsAnyPieceOfText) {
-    struct Row {
-        QString piece;
-        qint64 number;
-        QString text;
-    };
-    // At row 3.
-    const Row rows[] = {
-        {u"1234567-9+1>>"_s, -6, u"-6"_s}, {u"1234567-99  >>"_s, -96, u"00-96"_s},
-        {u"abcdefghi"_s, 3, u"03"_s},      {u"1234567+"_s, 0, u"0"_s},
-        {u"12345678++++"_s, 8, u"8"_s},
-    };
-    for (const Row& row : rows) {
-        const AutoNumber value = autoNumberAt(row.piece, 3);
-        EXPECT_EQ(value.number, row.number) << row.piece.toStdString();
-        EXPECT_EQ(value.text, row.text) << row.piece.toStdString();
-    }
 }
 
 }  // namespace

@@ -19,11 +19,6 @@ TEST(GetDateFormatFromMacro, TranslatesTheLetters) {
         EXPECT_EQ(GetDateFormatFromMacro(format), pattern) << format.toStdString();
 }
 
-TEST(DateFormat, CompletesAMacroAsTyped) {
-    EXPECT_EQ(macroWithDateFormat(u"<<MODDATE>>"_s, u"y-M-d"_s), u"<<MODDATE[y-M-d]>>"_s);
-    EXPECT_EQ(macroWithDateFormat(u"<<EXIF:DateTimeOriginal>>"_s, u""_s), u"<<EXIF:DateTimeOriginal[]>>"_s);
-}
-
 TEST(DateFormat, ExplainsItsLetters) {
     const QStringList lines = dateFormatLegend(QDateTime({2024, 5, 3}, {9, 41, 7}), QLocale(u"en_US"_s));
     EXPECT_THAT(lines,

@@ -3,8 +3,6 @@
 
 #include "macros/macro_expander.h"
 
-#include <QSet>
-
 #include <gtest/gtest.h>
 
 namespace zelto {
@@ -62,14 +60,6 @@ TEST(MacroList, AsksForADateFormatWhereADateIsChosen) {
         EXPECT_EQ(macroAction(list, row.row, MacroGesture::InsertMacro), row.insert) << row.row;
         EXPECT_EQ(macroAction(list, row.row, MacroGesture::DoubleClick), row.doubleClick) << row.row;
     }
-}
-
-TEST(MacroList, OffersUsefulSpecialCharacters) {
-    const QStringList characters = specialCharacters();
-    EXPECT_EQ(characters.value(0) + characters.value(0x99 - 128) + characters.value(0xFF - 128), u"€™ÿ"_s);
-    EXPECT_EQ(QSet<QString>(characters.begin(), characters.end()).size(), 128);
-    for (const QString& character : characters)
-        EXPECT_NE(character.front().category(), QChar::Other_Control) << characters.indexOf(character) + 128;
 }
 
 }  // namespace

@@ -125,23 +125,46 @@ TEST_F(TransferTest, EachChoiceCarriesWhatItSaysFromAnyResolutionBlockIntoJpegAn
     }
 }
 
-TEST_F(TransferTest, CopyrightRecordIsWrittenOverTheSourcesOwn) {
+TEST_F(TransferTest, EveryFieldOfACopyrightRecordIsWrittenOverTheSourcesOwn) {
     const QString source = cameraPhoto(u"s.jpg"_s);
-    CopyRightMetaData c;
-    c.Enabled = true;
-    c.Creator = u"Zoë & \"Sons\""_s;
-    c.CopyrightText = u"-all=\n© 2024 $me@home"_s;
-    c.CopyrightTextStatus = u"Copyrighted"_s;
-    c.CreatorMail = u"z@example.org"_s;
-    c.RightsUsageTerms = u"#none"_s;
-    for (const std::int64_t choice : {0, 1, 2}) {
-        const QJsonObject found = tags(output(source, choice, 72.0, c), {u"all:all"_s});
-        EXPECT_EQ(found[u"IFD0:Artist"_s].toString(), c.Creator);
-        EXPECT_EQ(found[u"XMP-dc:Rights"_s].toString(), c.Creator);
-        EXPECT_EQ(found[u"IFD0:Copyright"_s].toString(), c.CopyrightText);
-        EXPECT_EQ(found[u"XMP-plus:CopyrightStatus"_s].toString(), u"CS-PRO"_s);
-        EXPECT_EQ(found[u"XMP-xmpRights:UsageTerms"_s].toString(), c.RightsUsageTerms);
-        EXPECT_EQ(found[u"XMP-iptcCore:CreatorWorkEmail"_s].toString(), c.CreatorMail);
+    using C = CopyRightMetaData;
+    const std::pair<QString C::*, const char*> fields[] = {
+        {&C::Creator, "IFD0:Artist IPTC:By-line XMP-dc:Creator XMP-dc:Rights"},
+        {&C::CopyrightText, "IFD0:Copyright IPTC:CopyrightNotice"},
+        {&C::CreatorJobTitle, "IPTC:By-lineTitle XMP-photoshop:AuthorsPosition"},
+        {&C::CreatorWebsite, "XMP-iptcCore:CreatorWorkURL"},
+        {&C::CopyrightURL, "XMP-xmpRights:WebStatement"},
+        {&C::RightsUsageTerms, "XMP-xmpRights:UsageTerms"},
+        {&C::CreatorCountry, "XMP-iptcCore:CreatorCountry"},
+        {&C::CreatorCity, "XMP-iptcCore:CreatorCity"},
+        {&C::CreatorMail, "XMP-iptcCore:CreatorWorkEmail"},
+        {&C::CreatorPostalCode, "XMP-iptcCore:CreatorPostalCode"},
+        {&C::CreatorPhone, "XMP-iptcCore:CreatorWorkTelephone"},
+        {&C::CreatorState, "XMP-iptcCore:CreatorRegion"},
+        {&C::CreatorAddress, "XMP-iptcCore:CreatorAddress"}};
+    C c;
+    for (const auto& [field, names] : fields)
+        c.*field = u"-all=\n© #1 \"%1\" $me & co"_s.arg(QLatin1String(names).left(9));
+    const struct {
+        std::int64_t choice;
+        bool enabled;
+        const char *word, *status;
+    } rows[] = {{0, true, "Copyrighted", "CS-PRO"},
+                {1, true, "Unknown", "CS-UNK"},
+                {2, true, "Public Domain", "CS-PUB"},
+                {0, false, "Copyrighted", "CS-UNK"},
+                {3, true, "Copyrighted", ""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.word);
+        c.Enabled = row.enabled;
+        c.CopyrightTextStatus = QLatin1String(row.word);
+        const QJsonObject found = tags(output(source, row.choice, 72.0, c), {u"all:all"_s});
+        EXPECT_EQ(found[u"XMP-plus:CopyrightStatus"_s].toString(), QLatin1String(row.status));
+        const bool isWritten = row.enabled && row.choice != exif_data::ExcludeAll;
+        for (const auto& [field, names] : fields) {
+            for (const QString& name : QString::fromLatin1(names).split(u' '))
+                EXPECT_EQ(found[name].toString() == c.*field, isWritten) << qPrintable(name);
+        }
     }
 }
 

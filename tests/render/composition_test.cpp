@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/composition.h"
 
-#include "composed.h"
+#include "support/records.h"
 #include "support/ink.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_scene.h"
 
-#include "composed.h"
 #include "failing_memory.h"
 #include "platform/whole_file.h"
 #include "support/ink.h"
+#include "support/records.h"
 #include "support/test_pictures.h"
 
 #include <QTemporaryDir>
@@ -57,26 +57,6 @@ TEST(PhotoScene, ReadsThePhotoUprightAndTellsTheMacrosOfIt) {
     EXPECT_EQ(scene->photoSize, QSize(40, 60));
     const auto& content = std::get<LayerContent>(scene->layers.at(0)->child);
     EXPECT_EQ(std::get<TextBlock>(content).text, QStringLiteral("beach 40x60 300"));
-}
-
-TEST(PhotoScene, RecordsWithoutALayerLeaveTheirPlaceEmpty) {
-    WatermarkStack stack;
-    stack.Watermarks.assign(8, boxRecord(10, 30, 7));
-    stack.Watermarks[0].VerticalTiling = true;
-    stack.Watermarks[1] = stack.Watermarks[2] = Watermark(watermark_type::QrCode);
-    stack.Watermarks[1].Rotation = 90;
-    stack.Watermarks[2].HorizontalTiling = true;
-    stack.Watermarks[3].Type = 7;
-    stack.Watermarks[4].Rotation = 90;
-    stack.Watermarks[5] = stack.Watermarks[6] = Watermark(watermark_type::Image);
-    stack.Watermarks[6].HorizontalTiling = true;
-    stack.Watermarks[7].IsEnabled = false;
-    const PhotoScene scene = sceneOf(stack, plainPhoto({100, 80}));
-    for (std::size_t i = 0; i < 8; ++i) {
-        ASSERT_EQ(scene.layers[i].has_value(), i >= 4) << i;
-    }
-    EXPECT_EQ(scene.layers[4]->frame, QRectF(0, 0, 30, 10)) << "a shape turns before it is placed";
-    EXPECT_EQ(inkBox(MakeWatermarkImage(scene, stack)), QRect(0, 70, 30, 10));
 }
 
 TEST(PhotoScene, QrCodesTakeTheirSideFromTheWidthOrInPixels) {
@@ -142,37 +122,15 @@ TEST(PhotoScene, TellsOfEachRecordWhyNothingOfItCanBeSeen) {
         EXPECT_EQ(warning ? warning->kind : QString(), QLatin1String(rows[i].kind)) << i;
         EXPECT_TRUE(!warning || warning->watermark == static_cast<std::int64_t>(i)) << i;
     }
+    for (const std::size_t none : {std::size_t{16}, std::size_t{17}, rows.size() - 1})
+        EXPECT_FALSE(scene.layers[none]) << none;
     EXPECT_TRUE(scene.warnings[8]->text.contains(QChar(0x378)));
     for (Watermark& record : stack.Watermarks) record.IsEnabled = false;
     EXPECT_TRUE(warningsOf(sceneOf(stack, plainPhoto({100, 80}))).empty());
 }
 
-// One of every kind, turned, tiled, shadowed and embossed.
-WatermarkStack everything() {
-    WatermarkStack stack;
-    stack.Watermarks = {textRecord(QStringLiteral("<<IMGNAME>> \u05e9\u05dc\u05d5\u05dd"), 30, 5),
-                        textRecord(QStringLiteral("tile"), 14), logoRecord(drawnSceneWithAlpha({80, 60})),
-                        Watermark(watermark_type::QrCode), boxRecord(30, 20, 3)};
-    Watermark& text = stack.Watermarks[0];
-    text.Shadow = true;
-    text.ShadowColor = Color::black();
-    text.Transparency = 0.6F;
-    text.Rotation = 12;
-    Watermark& tiles = stack.Watermarks[1];
-    tiles.TextEffect = 3;
-    tiles.HorizontalTiling = tiles.VerticalTiling = true;
-    tiles.Rotation = -30;
-    Watermark& logo = stack.Watermarks[2];
-    logo.Transparency = 0.5F;
-    logo.Resize = true;
-    logo.ResizeWidth = 0.3F;
-    logo.Rotation = 45;
-    stack.Watermarks[3].Text = QStringLiteral("hello");
-    return stack;
-}
-
 TEST(PhotoScene, IsBuiltAndDrawnAlikeOnManyThreadsAtTheSameTime) {
-    const WatermarkStack stack = everything();
+    const WatermarkStack stack = everyKind();
     PhotoRequest request = requestFor(stack);
     request.logos = std::make_shared<LogoCache>();
     const PhotoScene shared = *buildPhotoScene(request, {.image = drawnScene({400, 300})});
@@ -193,7 +151,7 @@ TEST(PhotoScene, IsBuiltAndDrawnAlikeOnManyThreadsAtTheSameTime) {
 // The sanitizers bring an allocator of their own.
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 TEST(PhotoScene, IsRightToTheLastPixelOrFailsWhereverMemoryRunsOut) {
-    WatermarkStack stack = everything();
+    WatermarkStack stack = everyKind();
     stack.Watermarks[1].FontSize = 40;  // tiles large enough to be told from a text
     stack.SelectedFilter = 9;
     stack.Effects.emplace();
@@ -222,10 +180,9 @@ TEST(PhotoScene, IsRightToTheLastPixelOrFailsWhereverMemoryRunsOut) {
 #endif
 
 TEST(PhotoScene, AnEditRebuildsItsLayerAndEqualsANewScene) {
-    WatermarkStack stack = everything();
+    WatermarkStack stack = everyKind();
     PhotoScene scene = sceneOf(stack, drawnScene({400, 300}));
     EXPECT_EQ(scene.layers[2]->logoSize, QSize(80, 60));
-    EXPECT_EQ(scene.layers[2]->contentOpacity, 0.5);
     const auto* pixels = scene.picture.constBits();
     stack.Watermarks[0].Text = QStringLiteral("edited");
     UpdateWatermark(scene, requestFor(stack), 0);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/qr_code.h"
 
-#include "composed.h"
+#include "support/records.h"
 #include "render/placement.h"
 #include "render/tiling.h"
 #include "support/ink.h"

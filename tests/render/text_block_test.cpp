@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/text_block.h"
 
-#include "composed.h"
+#include "support/records.h"
 #include "render/text_layout.h"
 #include "support/ink.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/tiling.h"
 
-#include "composed.h"
+#include "support/records.h"
 #include "pictures/lengths.h"
 #include "render/text_block.h"
 #include "support/ink.h"

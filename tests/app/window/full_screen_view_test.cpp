@@ -2,7 +2,7 @@
 #include "app/window/full_screen_view.h"
 
 #include "app/run/run_window.h"
-#include "render/composition.h"
+#include "support/records.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,11 +16,7 @@ namespace {
 
 TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
     addPhotos(QStringLiteral("g"));
-    Watermark mark(watermark_type::Shape);
-    mark.SolidColor = Color::black();
-    mark.Width = mark.Height = 20.0F;
-    mark.Transparency = 1.0F;
-    window->watermarks().ReflectWatermark(mark);
+    window->watermarks().ReflectWatermark(boxRecord(20, 20, 1, Color::black()));
     window->watermarks().AddEffects(PhotoEffects());
     for (const bool byKey : {true, false}) {
         window->activateWindow();
