@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/photos/thumbnail_loader.h"
+
+#include "support/test_pictures.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(ThumbnailLoader, KeepsWhatItHasMadeUntilAnotherSizeIsWanted) {
+    const QTemporaryDir folder;
+    const QStringList paths = {folder.filePath(u"a.png"_s), folder.filePath(u"b.png"_s)};
+    ASSERT_TRUE(drawnScene({120, 90}).save(paths[0]));
+    ASSERT_TRUE(QFile(paths[1]).open(QFile::WriteOnly));
+    ThumbnailLoader loader;
+    const QSignalSpy made(&loader, &ThumbnailLoader::made);
+    for (const auto& [bound, count] : {std::pair(40, 2), {40, 2}, {80, 4}}) {
+        loader.want(paths, {bound, bound});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return made.count() == count; }));
+        EXPECT_EQ(loader.thumbnail(paths[0]).size(), QSize(bound, bound * 3 / 4));
+        EXPECT_TRUE(!loader.isBroken(paths[0]) && loader.isBroken(paths[1]));
+    }
+}
+
+}  // namespace
+}  // namespace zelto
