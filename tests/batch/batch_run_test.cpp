@@ -224,15 +224,6 @@ TEST_P(BatchRunTest, ARunStartedRightAfterACancelFollowsTheCancelledOne) {
     EXPECT_EQ(played("ggg"), "start 0 1 cancelled start 0 1 finished");
 }
 
-TEST_P(BatchRunTest, GoingAwayEndsTheRun) {
-    {
-        BatchRun doomed(observer);
-        ASSERT_TRUE(doomed.ProcessImaging(request(u"ddddg"_s),
-                                          std::make_unique<ScriptedProcessor>(u"ddddg"_s, QString())));
-    }
-    EXPECT_EQ(observer.log.last(), u"cancelled"_s);
-}
-
 TEST_P(BatchRunTest, TheCombinedPdfIsFinishedOnlyByARunThatFinishes) {
     const auto playedPdf = [this](const QString& photos, const QString& pdf) {
         BatchRequest combined = request(photos);
@@ -254,17 +245,6 @@ TEST_P(BatchRunTest, TheCombinedPdfIsFinishedOnlyByARunThatFinishes) {
     at("begin1", cancel);
     EXPECT_EQ(playedPdf(u"ggg"_s, u"/out/a.pdf"_s), u"cancelled"_s);
     EXPECT_TRUE(observer.lastReport.combinedPdf.isEmpty());
-}
-
-TEST_P(BatchRunTest, AKeptStructureListsItsTopFoldersOnEveryStart) {
-    BatchRequest kept = request(u"gg"_s);
-    kept.options.KeepDirectoryStructure = true;
-    kept.folders = {{u"/in"_s, {}}, {u"/in/sub"_s, {}}};
-    at("begin0", pause);
-    at("paused", pause);
-    start(kept, u"gg"_s);
-    run.wait();
-    EXPECT_EQ(observer.lastReport.OutPutImageList, QStringList(u"/out/in"_s));
 }
 
 TEST_P(BatchRunTest, TheStackIsSavedByEveryWorkerAndTheNumberOnceThePhotoIsWritten) {

@@ -26,17 +26,6 @@ TEST(DestinationMap, RelativePathsStartWithTheAncestorsOwnName) {
     }
 }
 
-TEST(DestinationMap, HasParentStoresOnlyForAFolderOfTheMap) {
-    const FolderDestinations sources = {{u"/p/a"_s, {}}, {u"/p/a/b"_s, {}}};
-    FolderDestinations destinations = sources;
-    EXPECT_TRUE(HasParent(u"/p/a/x"_s, sources, u"/out"_s, destinations));
-    EXPECT_EQ(destinations, sources);
-    EXPECT_FALSE(HasParent(u"/p/a"_s, sources, u"/out"_s, destinations));
-    EXPECT_EQ(destinations, sources);
-    EXPECT_TRUE(HasParent(u"/p/a/b"_s, sources, u"/out"_s, destinations));
-    EXPECT_EQ(destinations.value(u"/p/a/b"_s), u"/out/a/b"_s);
-}
-
 TEST(DestinationMap, EveryFolderLandsBelowItsTopmostAncestor) {
     // Folder > destination, separated by blanks, and the top folders.
     const std::pair<const char*, const char*> rows[] = {

@@ -100,10 +100,5 @@ TEST_F(FolderScan, IsBrokenOffWhereItIsNotToGoOn) {
     }
 }
 
-TEST(ExtensionList, HoldsTheTickedFormatsInOrder) {
-    EXPECT_EQ(GetExtensionList({}), u".jpg;.jpeg;.png;.tiff;.tif;.gif;.bmp;"_s);
-    EXPECT_EQ(GetExtensionList({false, false, false, false, false}), QString());
-}
-
 }  // namespace
 }  // namespace zelto

@@ -26,32 +26,25 @@ Watermark code(const QString& text, std::int32_t position) {
 TEST_F(Macros, PrintWhatTheyKnowOfEachPhotoOfAList) {
     QImage stored(680, 700, QImage::Format_RGB32);  // upright it is 700 x 680
     stored.fill(Qt::lightGray);
-    const QStringList photos = {
-        makeFile(u"in/Küste 海/one.tar.JPG"_s, jpegBytes(stored, {.orientation = 6, .exifDpi = 150})),
-        makePhoto(u"'a' $(b) <<IMGNAME>>.png"_s, {720, 660})};
-    ASSERT_TRUE(writeTags({u"-ExposureTime=1/250"_s, u"-IPTC:City=Zürich"_s}, photos));
-    for (const QString& photo : photos) {
-        QFile file(photo);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite) &&
-                    file.setFileTime(QDateTime({2001, 2, 3}, {14, 5, 6}), QFile::FileModificationTime));
-    }
+    const QString photo =
+        makeFile(u"in/Küste 海/one.tar.JPG"_s, jpegBytes(stored, {.orientation = 6, .exifDpi = 150}));
+    ASSERT_TRUE(writeTags({u"-ExposureTime=1/250"_s, u"-IPTC:City=Zürich"_s}, {photo}));
+    QFile file(photo);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) &&
+                file.setFileTime(QDateTime({2001, 2, 3}, {14, 5, 6}), QFile::FileModificationTime));
     WatermarkStack stack;
     stack.Watermarks = {code(u"<<AUTO:##8+3>> <<IMGNAMEEXT>> <<FOLDER>>"_s, 1),
                         code(u"<<PHOTOWIDTH>>x<<PHOTOHEIGHT>> <<PHOTODPIX>>"_s, 3),
                         code(u"<<MODDATE>> <<MODDATE[DD, D. MM Y h:n:s]>>"_s, 7),
                         code(u"<<EXIF:ExposureTime>> <<IPTC:City>> <<EXIF:FNumber]"_s, 9)};
     useSetting(stack);
-    ASSERT_EQ(run(photos, {{u"LC_ALL"_s, QString()}, {u"LC_TIME"_s, u"de_DE.UTF-8"_s}}).exitStatus, 0);
-    const auto expectCodes = [this](const QString& name, QStringList expected) {
-        QStringList found = readQrCodes(output(name));
-        found.sort();  // a reader finds them in any order
-        expected += {u"03.02.01 Samstag, 03. Februar 2001 14:05:06"_s, u"1/250 Zürich <<EXIF:FNumber]"_s};
-        expected.sort();
-        EXPECT_EQ(found.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
-    };
-    expectCodes(u"one.tar.jpg"_s, {u"008 one.tar.JPG "_s + path(u"in/Küste 海/"_s), u"700x680 150"_s});
-    expectCodes(u"'a' $(b) <<IMGNAME>>.png"_s,
-                {u"011 'a' $(b) <<IMGNAME>>.png "_s + path(u"in/"_s), u"720x660 96"_s});
+    const ProgramEnvironment german = {{u"LC_ALL"_s, QString()}, {u"LC_TIME"_s, u"de_DE.UTF-8"_s}};
+    ASSERT_EQ(run({makePhoto(u"first.png"_s), photo}, german).exitStatus, 0);
+    QStringList found = readQrCodes(output(u"one.tar.jpg"_s));
+    found.sort();  // a reader finds them in any order
+    EXPECT_EQ(found, QStringList({u"011 one.tar.JPG "_s + path(u"in/Küste 海/"_s),
+                                  u"03.02.01 Samstag, 03. Februar 2001 14:05:06"_s,
+                                  u"1/250 Zürich <<EXIF:FNumber]"_s, u"700x680 150"_s}));
 }
 
 }  // namespace

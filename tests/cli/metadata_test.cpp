@@ -86,9 +86,14 @@ TEST_F(Metadata, SurvivesReplacingTheSourceAndBelongsToTheLastOfOneName) {
 
 TEST_F(Metadata, AMissingOrFailingExiftoolIsAWarningAndFailsNoPhoto) {
     const QStringList photos = {cameraPhoto(u"a.jpg"_s), cameraPhoto(u"b.jpg"_s)};
+    const QString rubbish =
+        makeFile(u"rubbish"_s,
+                 "#!/bin/sh\nwhile read -r line; do case $line in -execute*) head -c 3000 /dev/urandom;"
+                 " echo; echo \"{ready${line#-execute}}\";; False) exit;; esac; done\n");
     const QString dying = makeFile(u"dying"_s, "#!/bin/sh\nexit 1\n");
-    QFile::setPermissions(dying, QFile::ReadOwner | QFile::ExeOwner);
-    for (const QString& program : {path(u"missing"_s), dying}) {
+    for (const QString& program : {rubbish, dying})
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+    for (const QString& program : {path(u"missing"_s), rubbish, dying}) {
         const ProgramRun result = run(QStringList(u"--json"_s) + photos, {{u"ZELTO_EXIFTOOL"_s, program}});
         EXPECT_EQ(result.exitStatus, 0);
         EXPECT_EQ(result.output.count("\"kind\": \"metadata\""), photos.size())

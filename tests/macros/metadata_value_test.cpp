@@ -37,20 +37,5 @@ TEST(GetStringValue, PrintsNumbersTextsAndLists) {
             << qPrintable(QDebug::toString(row.value));
 }
 
-TEST(GetValueFromDictionary, SearchesNestedDictionariesInTheirOrder) {
-    const QVariantMap inner = {{u"Deep"_s, 3LL}, {u"Both"_s, 4LL}};
-    const QVariantMap dictionary = {{u"Top"_s, 1LL},
-                                    {u"a"_s, QVariantMap{{u"z"_s, inner}}},
-                                    {u"b"_s, QVariantMap{{u"Both"_s, 5LL}, {u"Late"_s, 6LL}}}};
-    EXPECT_EQ(GetValueFromDictionary(dictionary, u"Deep"_s), 3LL);
-    EXPECT_EQ(GetValueFromDictionary(dictionary, u"Both"_s), 4LL);
-    EXPECT_EQ(GetValueFromDictionary(dictionary, u"Late"_s), 6LL);
-    // A value of the dictionary itself is no nested one.
-    EXPECT_EQ(GetValueFromDictionary(dictionary, u"Top"_s), QVariant(QString()));
-    EXPECT_EQ(metadataValue(dictionary, u"Top"_s), 1LL);
-    EXPECT_EQ(metadataValue(dictionary, u"Late"_s), 6LL);
-    EXPECT_EQ(metadataValue({{u"SubsecTime"_s, 7LL}}, u"SubSecTime"_s), 7LL);
-}
-
 }  // namespace
 }  // namespace zelto

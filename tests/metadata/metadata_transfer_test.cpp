@@ -228,6 +228,7 @@ TEST_F(TransferTest, FailureIsToldAndLeavesNothingBehind) {
         {program(u"stops"_s,
                  "sed -u '/^-jfif:ResolutionUnit=/q' | '" + exiftoolProgram().toUtf8() + "' \"$@\""),
          jpeg, source},
+        {program(u"hangs"_s, "trap '' TERM HUP; sleep 1000"), jpeg, source},
         {program(u"raves"_s, "printf '\\033[2J%05000d\\n{ready1}\\n' 1; cat >/dev/null"), jpeg, source},
         {folder_.filePath(u"missing"_s), jpeg, source},
         {liar(u"empties"_s, "echo >\"$last\""), jpeg, source},

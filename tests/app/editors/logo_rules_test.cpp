@@ -44,19 +44,6 @@ TEST(LogoRules, OneSideFollowsTheOther) {
     }
 }
 
-TEST(LogoRules, SizeControlsFollowTheSwitchAndTheKind) {
-    for (const auto& [resize, format, controls] : {std::tuple(false, 0, ResizeControls{false, false, false}),
-                                                   {false, 2, {false, false, false}},
-                                                   {true, 0, {true, true, false}},
-                                                   {true, 1, {true, true, false}},
-                                                   {true, 2, {true, false, true}}}) {
-        Watermark logo(watermark_type::Image);
-        logo.Resize = resize;
-        logo.ResizeFormat = format;
-        EXPECT_EQ(resizeControls(logo), controls) << resize << format;
-    }
-}
-
 TEST(LogoRules, EachKindOfSizeKeepsItsNumbers) {
     Watermark logo(watermark_type::Image);
     setLogo(logo, QStringLiteral("/logo.png"), {}, {400, 100});

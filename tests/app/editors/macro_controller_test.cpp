@@ -8,6 +8,7 @@
 #include "app/hands.h"
 #include "platform/dates.h"
 #include "platform/preferences.h"
+#include "platform/whole_file.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
 
@@ -31,7 +32,8 @@ class MacroControllerTest : public ::testing::Test {
   public:
     MacroControllerTest() {
         const QString path = folder.filePath(u"shore.jpg"_s);
-        drawnScene({60, 40}).save(path);
+        EXPECT_TRUE(
+            writeWholeFile(path, jpegBytes(drawnScene({60, 40}), {.orientation = 6, .exifDpi = 300})));
         EXPECT_TRUE(writeTags({u"-EXIF:FNumber=2.8"_s, u"-IPTC:DateCreated=2014:05:03"_s}, {path}));
         macros = std::make_unique<MacroController>(path, 0, text);
         text.setPlainText(u"ab"_s);
@@ -66,7 +68,8 @@ TEST_F(MacroControllerTest, ChosenMacrosGoToTheCursor) {
         const char* text;
     };
     const Row rows[] = {
-        {"photo w", "60", &MacroControllerTest::pressReturn, "a<<PHOTOWIDTH>>b"},
+        {"dpi h", "300", &MacroControllerTest::pressInsert, "a<<PHOTODPIY>>b"},
+        {"photo w", "40", &MacroControllerTest::pressReturn, "a<<PHOTOWIDTH>>b"},
         {"shore", "shore", &MacroControllerTest::pressInsert, "a<<IMGNAME>>b"},
         {"fnum", "2.8", &MacroControllerTest::doubleClick, "a<<EXIF:FNumber>>b"},
         {"iptc:date", "20140503", &MacroControllerTest::doubleClick, "a<<IPTC:DateCreated>>b"},
@@ -114,7 +117,6 @@ TEST_F(MacroControllerTest, RunningNumbersAreComposed) {
     QString shown;
     const auto came = whenOpened<AutoNumberWindowController>([&](AutoNumberWindowController& dialog) {
         for (const auto& [name, typed, shows] : {std::tuple("txtIncrement", u"0"_s, u"1"_s),
-                                                 {"txtIncrement", u"-"_s, u"1"_s},
                                                  {"txtIncrement", u"5"_s, u"5"_s},
                                                  {"txtStartingNumber", u"+7"_s, u"7"_s},
                                                  {"txtStartingNumber", u"1"_s, u"1"_s},
