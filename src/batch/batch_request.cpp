@@ -19,7 +19,8 @@ PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinat
     const QString& source = request.photos.at(row).path;
     const auto place = static_cast<qint64>(row);
     return {place, static_cast<qint64>(request.photos.size()), source,
-            outputPath({source, place, now.date(), output.number}, request.options, destinations.folders),
+            outputPath({source, place, now.date(), output.number, output.name}, request.options,
+                       destinations.folders),
             now};
 }
 

@@ -10,6 +10,7 @@
 #include "records/output_options.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 
@@ -33,6 +34,7 @@ struct BatchRequest {
     OutputOptions options;
     FolderDestinations folders;  // the source folders of the list, for a kept structure
     NameRules names;
+    QLocale locale;                          // of the dates in names
     bool strict = false;                     // a photo with a warning fails instead of being written
     std::shared_ptr<const OutputPlan> plan;  // planOutputs() of all this; a run that has none makes it first
     LookAheadLimits limits = LookAheadLimits::forThisMachine();
@@ -56,7 +58,8 @@ PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinat
 // What becomes of every output by the rules of the request. Names are given out over the whole list, in list order;
 // a photo that fails later keeps its name. A number is free when no photo of the list has the name it makes; files
 // that stand there count where the rule for them is to number. Paths are compared as the file system does. Pages of a
-// combined PDF have no names of their own. Looks at the disk, a few times per photo.
+// combined PDF have no names of their own. Looks at the disk, a few times per photo, and into the photos where their
+// names are made of what they hold.
 OutputPlan planOutputs(const BatchRequest& request, const QDateTime& now);
 
 }  // namespace zelto

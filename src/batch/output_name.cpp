@@ -1,71 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_name.h"
 
-#include "macros/auto_number.h"
+#include "batch/rename_pattern.h"
 #include "platform/path_parts.h"
 
 #include <QFileInfo>
 
-#include <array>
-
 namespace zelto {
-namespace {
-
-QString twoDigits(int number) {
-    return AdjustLength(QString::number(number), 2);
-}
-
-// A pattern or a name taken from elsewhere may hold separators; as part of a file name they would name a
-// folder.
-QString asFileName(QString name) {
-    return name.replace(QLatin1Char('/'), QLatin1Char('_')).replace(QChar(u'\0'), QLatin1Char('_'));
-}
-
-// What a macro stands for in the name of one output.
-struct NameParts {
-    QString original;
-    QString number;
-    QString month;
-    QString day;
-    QString year;
-};
-
-struct NameMacro {
-    QLatin1String token;
-    const char* label;
-    QString (*text)(const NameParts&);
-};
-
-// In the order they are filled in.
-constexpr std::array NameMacros = {
-    NameMacro{QLatin1String("[O]"), "Original name", [](const NameParts& parts) { return parts.original; }},
-    NameMacro{QLatin1String("[#]"), "Number", [](const NameParts& parts) { return parts.number; }},
-    NameMacro{QLatin1String("[##]"), "Number, two digits",
-              [](const NameParts& parts) { return AdjustLength(parts.number, 2); }},
-    NameMacro{QLatin1String("[###]"), "Number, three digits",
-              [](const NameParts& parts) { return AdjustLength(parts.number, 3); }},
-    NameMacro{QLatin1String("[####]"), "Number, four digits",
-              [](const NameParts& parts) { return AdjustLength(parts.number, 4); }},
-    NameMacro{QLatin1String("[D]"), "Date: month, day, year",
-              [](const NameParts& parts) { return parts.month + parts.day + parts.year; }},
-    NameMacro{QLatin1String("[DD]"), "Date: day, month, year",
-              [](const NameParts& parts) { return parts.day + parts.month + parts.year; }},
-};
-
-QString filledPattern(QString pattern, const QString& originalName, const OutputPlace& place) {
-    const NameParts parts{originalName, QString::number(place.row + 1), twoDigits(place.today.month()),
-                          twoDigits(place.today.day()), QString::number(place.today.year())};
-    for (const NameMacro& macro : NameMacros) pattern.replace(macro.token, macro.text(parts));
-    return pattern;
-}
-
-}  // namespace
-
-QList<Macro> renameMacros() {
-    QList<Macro> macros;
-    for (const NameMacro& macro : NameMacros) macros.append({macro.token, QString::fromLatin1(macro.label)});
-    return macros;
-}
 
 bool combinesIntoOnePdf(const OutputOptions& options) {
     return options.CombineToSinglePDF &&
@@ -81,11 +22,21 @@ QString outputExtension(const QString& sourcePath, const OutputOptions& options)
 
 QString outputName(const OutputPlace& place, const OutputOptions& options) {
     const QString originalName = withoutPathExtension(lastPathComponent(place.sourcePath));
-    QString name;
-    if (options.Rename) name = asFileName(filledPattern(options.RenameFormat.trimmed(), originalName, place));
+    QString name = place.name;
+    if (name.isEmpty() && options.Rename)
+        name = filledPattern(options.RenameFormat, {place.sourcePath, place.row, place.today});
     // An empty name would give every photo the same hidden file.
     if (name.isEmpty()) name = originalName;
     return place.number == 0 ? name : name + QString::number(place.number);
+}
+
+bool takesNamesFromPhotos(const OutputOptions& options) {
+    return options.Rename && asksPhotos(options.RenameFormat);
+}
+
+QString nameFromPhoto(const NamedPhoto& photo, const OutputOptions& options, const MacroContext& macros) {
+    const QString name = filledPattern(options.RenameFormat, photo, &macros);
+    return name.isEmpty() ? withoutPathExtension(lastPathComponent(photo.path)) : name;
 }
 
 QString outputFolder(const QString& sourcePath, const OutputOptions& options,

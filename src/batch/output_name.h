@@ -5,11 +5,10 @@
 #pragma once
 
 #include "batch/destination_map.h"
-#include "records/macro.h"
+#include "batch/rename_pattern.h"
 #include "records/output_options.h"
 
 #include <QDate>
-#include <QList>
 #include <QString>
 
 namespace zelto {
@@ -20,10 +19,9 @@ struct OutputPlace {
     qint64 row = 0;  // in the photo list, from 0; unchecked photos count
     QDate today;
     qint64 number = 0;  // appended to the name to keep it apart from another's; 0 for none
+    QString name =
+        {};  // where it had to be taken from the photo; empty for what the options and the rest tell
 };
-
-// The macros a rename pattern may hold, in the order they are filled in.
-QList<Macro> renameMacros();
 
 // Whether all photos become pages of one PDF. Every other format hides the box that asks for it, so it counts with
 // that format only.
@@ -35,6 +33,11 @@ QString outputExtension(const QString& sourcePath, const OutputOptions& options)
 
 // The file name without its extension: the source's or the rename pattern filled in, then the number.
 QString outputName(const OutputPlace& place, const OutputOptions& options);
+
+// Whether names are made of what the photos hold, so that they are to be settled before a run: OutputPlace::name.
+bool takesNamesFromPhotos(const OutputOptions& options);
+// The name to settle; `macros` as renameContext() makes it. The source's where nothing came of the pattern.
+QString nameFromPhoto(const NamedPhoto& photo, const OutputOptions& options, const MacroContext& macros);
 
 // The folder the output of a photo goes to, by the resolved `destinations` where the structure is kept.
 QString outputFolder(const QString& sourcePath, const OutputOptions& options,

@@ -24,6 +24,7 @@ class Planner {
         unruled_.resize(request_.photos.size());
         for (std::size_t row = 0; row < request_.photos.size(); ++row) {
             if (!isNamed(row)) continue;
+            if (takesNamesFromPhotos(request_.options)) takeName(row);
             unruled_[row] = fileIdentity(path(row));
             wanted_.insert(name(row));
         }
@@ -40,6 +41,13 @@ class Planner {
   private:
     bool isNamed(std::size_t row) const {
         return request_.photos[row].checked || request_.photos[row].isElsewhere;
+    }
+
+    void takeName(std::size_t row) {
+        const NamedPhoto photo{request_.photos[row].path, static_cast<qint64>(row), now_.date()};
+        const QString& pattern = request_.options.RenameFormat;
+        plan_.outputs[row].name = nameFromPhoto(
+            photo, request_.options, renameContext(pattern, photo.path, photo.row, now_, request_.locale));
     }
 
     const QByteArray& name(std::size_t row) const { return unruled_[row].place; }
@@ -71,8 +79,8 @@ class Planner {
         switch (request_.names.sameName) {
             case NameRule::Replace:
                 // Whatever became of the first one's name holds for this one.
-                output = plan_.outputs[first];
-                output.sharesNameOf = first;
+                output = {plan_.outputs[first].fate, plan_.outputs[first].reason, output.name,
+                          plan_.outputs[first].number, first};
                 break;
             case NameRule::Number:
                 number(row);

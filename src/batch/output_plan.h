@@ -34,6 +34,7 @@ struct PlannedOutput {
 
     Fate fate = Fate::Write;
     QString reason;     // for the user, where it is not written
+    QString name;       // where it is taken from the photo; without the number
     qint64 number = 0;  // at the end of the name; 0 for none
     std::optional<std::size_t>
         sharesNameOf;  // the first photo with the same output, if that is an earlier one

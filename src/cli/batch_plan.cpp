@@ -8,6 +8,7 @@
 #include "persistence/setting_file.h"
 #include "persistence/settings_library.h"
 #include "platform/application_folders.h"
+#include "platform/dates.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -184,6 +185,7 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
         plan.request.photos.push_back({image.ImagePath, isOurs, !isOurs});
     }
     plan.request.names = line.names;
+    plan.request.locale = userDateLocale();
     plan.request.strict = line.strict;
     plan.request.plan =
         std::make_shared<const OutputPlan>(planOutputs(plan.request, QDateTime::currentDateTime()));

@@ -176,7 +176,8 @@ const std::array Options = {
            wholeNumber<&CommandLine::quality, 0, 100>},
     Option{nullptr, "rename", "PATTERN",
            "output name: [O] original name, [#] to [####] number in the list,\n"
-           "[D] today as MMDDYYYY, [DD] as DDMMYYYY",
+           "[D] today as MMDDYYYY, [DD] as DDMMYYYY, and the macros of texts:\n"
+           "'<<EXIF:DateTimeOriginal[Y-M-D]>>_[###]'",
            text<&CommandLine::rename>},
     Option{nullptr, "resize-percent", "WxH", "resize each side by its percentage",
            [](CommandLine& line, const QString& value) {

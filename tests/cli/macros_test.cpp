@@ -47,5 +47,19 @@ TEST_F(Macros, PrintWhatTheyKnowOfEachPhotoOfAList) {
                                   u"1/250 Zürich <<EXIF:FNumber]"_s, u"700x680 150"_s}));
 }
 
+TEST_F(Macros, NameOutputsAndNoValueLeadsElsewhere) {
+    const QStringList photos = {makePhoto(u"a.jpg"_s), makePhoto(u"b.jpg"_s), makePhoto(u"[O]c.jpg"_s)};
+    ASSERT_TRUE(writeTags({u"-DateTimeOriginal=2014:05:03 14:41:07"_s, u"-IPTC:City=../Zü\trich:"_s},
+                          {photos[0]}));
+    ASSERT_TRUE(writeTags({u"-IPTC:City="_s + QString(400, u'x')}, {photos[1]}));
+    useSetting(WatermarkStack());
+    const QString pattern = u"<<EXIF:DateTimeOriginal[Y-M-D]>>_<<IPTC:City>> <<IMGNAME>>_[##]<<no [#]"_s;
+    ASSERT_EQ(run(QStringList{u"--rename"_s, pattern} + photos).exitStatus, 0);
+    EXPECT_EQ(outputs().join(u'|').toStdString(),
+              (u"2014-05-03__._Zü rich_ a_01<<no 1.jpg|_ [O]c_03<<no 3.jpg|_"_s + QString(100, u'x') +
+               u" b_02<<no 2.jpg"_s)
+                  .toStdString());
+}
+
 }  // namespace
 }  // namespace zelto

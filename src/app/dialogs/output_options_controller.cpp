@@ -11,9 +11,11 @@
 #include "app/dialogs/resize_panel.h"
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
+#include "batch/output_name.h"
 #include "persistence/output_options_check.h"
 #include "pictures/picture_reader.h"
 #include "platform/application_folders.h"
+#include "platform/dates.h"
 #include "platform/file_reference.h"
 #include "platform/preferences.h"
 
@@ -147,6 +149,7 @@ void OutputOptionsController::rememberFolder(const QString& folder) const {
 
 void OutputOptionsController::showEvent(QShowEvent* event) {
     const QString path = photos_.selectedPath();
+    photoProperties_.reset();
     photoSize_ = path.isEmpty() ? QSize() : readPictureSize(path).value_or(QSize());
     follow();
     QDialog::showEvent(event);
@@ -160,9 +163,20 @@ void OutputOptionsController::follow() {
         example_->setExample({});
         return;
     }
-    example_->setExample(outputExample({photos_.selectedPath(), photos_.selectedRow(), QDate::currentDate()},
-                                       photoSize_, options, watermarks_.GetEffect(),
+    OutputPlace place{photos_.selectedPath(), photos_.selectedRow(), QDate::currentDate()};
+    if (takesNamesFromPhotos(options)) place.name = exampleName(options);
+    example_->setExample(outputExample(place, photoSize_, options, watermarks_.GetEffect(),
                                        photos_.model().list().InputOutputDictionary()));
+}
+
+// The photo's metadata is read once, not at every key.
+QString OutputOptionsController::exampleName(const OutputOptions& options) {
+    const NamedPhoto photo{photos_.selectedPath(), photos_.selectedRow(), QDate::currentDate()};
+    MacroContext context = renameContext(options.RenameFormat, photo.path, photo.row,
+                                         QDateTime::currentDateTime(), userDateLocale());
+    if (!photoProperties_) photoProperties_ = context.properties;
+    context.properties = photoProperties_;
+    return nameFromPhoto(photo, options, context);
 }
 
 }  // namespace zelto

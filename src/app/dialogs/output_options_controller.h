@@ -8,12 +8,14 @@
 #include <QDialog>
 #include <QSize>
 
+#include <memory>
 #include <optional>
 
 namespace zelto {
 
 class ExampleView;
 class ImageListController;
+class LazyImageProperties;
 class OutputPanel;
 class RenamePanel;
 class ResizePanel;
@@ -45,6 +47,7 @@ class OutputOptionsController : public QDialog {
     OutputSettings shownSettings() const;
     void display(const OutputSettings& settings);
     void follow();
+    QString exampleName(const OutputOptions& options);
     void rememberFolder(const QString& folder) const;
 
     ImageListController& photos_;
@@ -54,6 +57,8 @@ class OutputOptionsController : public QDialog {
     ResizePanel* resize_;
     ExampleView* example_;
     QSize photoSize_;  // of the selected photo; invalid where there is none or it cannot be read
+    std::shared_ptr<const LazyImageProperties>
+        photoProperties_;  // of the selected photo, once they are asked for
     std::optional<OutputOptions> options_;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/rename_panel.h"
 
-#include "batch/output_name.h"
+#include "batch/rename_pattern.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

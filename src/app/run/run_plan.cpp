@@ -24,6 +24,7 @@ RunPlan planRun(const ImageListController& photos, const WatermarkDocument& docu
     plan.request.limits.givesWay = true;
     plan.request.options = options;
     plan.request.names = names;
+    plan.request.locale = userDateLocale();
     plan.request.folders = photos.model().list().InputOutputDictionary();
     const auto stack = document.snapshot();
     if (!settingsFolder.isEmpty()) {
