@@ -15,7 +15,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -137,32 +136,22 @@ class Soak {
         }
     }
 
-    // Opens the editor of a text, types a word and closes it.
+    // Opens the page of a text and types a word.
     void typeIntoEditor() {
         const auto& stack = window_.document().watermarks();
         const auto text = std::find_if(stack.begin(), stack.end(), [](const Watermark& watermark) {
             return watermark.Type == watermark_type::Text;
         });
         if (text == stack.end()) return;
-        QTimer typing;
-        int letters = 0;
-        typing.callOnTimeout([&] {
-            QWidget* editor = QApplication::activeModalWidget();
-            if (editor == nullptr) return;
-            auto* field = editor->findChild<QPlainTextEdit*>(QStringLiteral("Text"));
-            if (field == nullptr || ++letters > 8) {
-                typing.stop();
-                editor->close();
-                return;
-            }
-            if (letters == 1) field->clear();
+        window_.watermarks().selectWatermark(static_cast<int>(text - stack.begin()));
+        window_.actions()[Act::EditWatermark]->trigger();
+        auto* field = window_.inspector().findChild<QPlainTextEdit*>(QStringLiteral("Text"));
+        field->clear();
+        for (int letter = 0; letter < 8; ++letter) {
+            rest(15);
             QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
             QApplication::sendEvent(field, &key);
-        });
-        typing.start(15);
-        window_.document().setCurrentWatermark(static_cast<int>(text - stack.begin()));
-        window_.watermarks().selectWatermark(window_.document().currentWatermark());
-        window_.actions()[Act::EditWatermark]->trigger();
+        }
     }
 
     MyGlobalInstance shared_;

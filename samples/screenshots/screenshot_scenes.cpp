@@ -94,8 +94,8 @@ void addEditors(std::vector<ScreenshotScene>& scenes) {
                 const std::string name = std::string("editor-") + editor.name +
                                          (look == Look::Dark ? "-dark-" : "-light-") +
                                          std::to_string(percent);
-                scenes.push_back({name, look, percent / 100.0, Shot::Dialog,
-                                  [&editor](Stage& stage) { setEditor(stage, editor); }, hasDialog});
+                scenes.push_back({name, look, percent / 100.0, Shot::Window,
+                                  [&editor](Stage& stage) { setEditor(stage, editor); }, isAtRest});
             }
         }
     }

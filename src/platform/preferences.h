@@ -36,7 +36,9 @@ inline constexpr Preference<QString> VersionAddress{QLatin1String("VersionAddres
 inline constexpr Preference<QString> DownloadAddress{QLatin1String("DownloadAddress")};
 inline constexpr Preference<QByteArray> WindowGeometry{QLatin1String("Window/Geometry")};
 inline constexpr Preference<QByteArray> WindowColumns{QLatin1String("Window/Columns")};
-inline constexpr Preference<QVariantMap> EditorPlaces{QLatin1String("Window/Editors")};  // geometry by name
+inline constexpr Preference<QByteArray> WindowStackColumn{QLatin1String("Window/StackColumn")};
+// By the name of a group of the inspector, whether it is folded.
+inline constexpr Preference<QVariantMap> FoldedGroups{QLatin1String("Inspector/Folded")};
 inline constexpr Preference<QVariantMap> LastTextStyle{QLatin1String("Editors/LastText")};
 inline constexpr Preference<QString> LastAddedFolder{QLatin1String("AddFolder/Folder")};
 inline constexpr Preference<bool> AddsSubFolders{QLatin1String("AddFolder/SubFolders")};

@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPainter>
-#include <QTabWidget>
 
 namespace zelto {
 
@@ -18,6 +17,8 @@ EditorTest::EditorTest() : window(shared, standardDialogs(), standardEditors()) 
     photo.save(photoPath());
     window.resize(1200, 800);
     window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     window.photos().AddImages({photoPath()});
     window.previewView().ActualSize();
 }
@@ -32,21 +33,23 @@ QString EditorTest::makeLogo(QSize size) const {
     return path;
 }
 
-void EditorTest::edit(Act act, const Drive& drive, Qt::Key close) {
-    const auto came = whenOpened<QDialog>([&drive, close](QDialog& dialog) {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        drive(dialog);
-        QTest::keyClick(&dialog, close);
-        EXPECT_FALSE(dialog.isVisible());
-        dialog.close();
-    });
+void EditorTest::edit(Act act, const Drive& drive) {
     window.actions()[act]->trigger();
-    EXPECT_TRUE(*came);
+    ASSERT_NE(window.inspector().page(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    drive(*window.inspector().page());
+    leave();
 }
 
-void EditorTest::editRecord(int index, const Drive& drive, Qt::Key close) {
+void EditorTest::editRecord(int index, const Drive& drive) {
     window.watermarks().selectWatermark(index);
-    edit(Act::EditWatermark, drive, close);
+    edit(Act::EditWatermark, drive);
+}
+
+void EditorTest::leave() {
+    window.editors().close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.inspector().page(), nullptr);
 }
 
 std::shared_ptr<bool> EditorTest::chooseNext(const QString& path, const std::function<void()>& first) {
@@ -64,17 +67,14 @@ std::shared_ptr<bool> EditorTest::chooseNext(const QString& path, const std::fun
 }
 
 void EditorTest::addLogo(const QString& file, const Drive& drive) {
-    QTimer::singleShot(0, &window, [&] {
-        QWidget* editor = QApplication::activeModalWidget();
-        const auto chosen = chooseNext(file);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            return *chosen && QApplication::activeModalWidget() == editor &&
-                   (file.isEmpty() || !records().empty());
-        }));
-        if (drive) drive(*qobject_cast<QDialog*>(editor));
-        editor->close();
-    });
+    const std::size_t before = records().size();
+    const auto chosen = chooseNext(file);
     window.actions()[Act::AddImage]->trigger();
+    EXPECT_TRUE(*chosen);
+    if (file.isEmpty()) return;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return records().size() > before; }));
+    if (drive) drive(*window.inspector().page());
+    leave();
 }
 
 void EditorTest::checkControls(const Watermark& start, const std::vector<ControlRow>& rows) {
@@ -85,18 +85,13 @@ void EditorTest::checkControls(const Watermark& start, const std::vector<Control
         Watermark after = before;
         row.expected(after);
         add(before);
-        editRecord(0, [&](QDialog& editor) {
+        editRecord(0, [&](QWidget& editor) {
             EXPECT_EQ(record(), before) << "opening changes nothing";
-            // Pages are laid out when they are first seen.
-            if (auto* pages = editor.findChild<QTabWidget*>()) {
-                pages->setCurrentIndex(pages->count() - 1);
-                pages->setCurrentIndex(0);
-            }
             row.drive(editor);
             EXPECT_EQ(record(), after);
             EXPECT_TRUE(showsWhatIsWritten());
         });
-        EXPECT_EQ(record(), after) << "closing keeps it";
+        EXPECT_EQ(record(), after) << "leaving keeps it";
         history().undo();
         EXPECT_EQ(record(), before) << "one step";
         window.watermarks().RemoveAllWatermarks();

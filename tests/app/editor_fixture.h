@@ -5,7 +5,6 @@
 #include "app/hands.h"
 #include "app/window/main_window.h"
 
-#include <QDialog>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -18,7 +17,8 @@ class EditorTest : public ::testing::Test {
     static constexpr QSize PhotoSize{600, 400};
     static constexpr QRgb PhotoColor = qRgb(90, 140, 60);
 
-    using Drive = std::function<void(QDialog&)>;
+    // What is done on a page of the inspector.
+    using Drive = std::function<void(QWidget&)>;
 
     EditorTest();
 
@@ -26,12 +26,14 @@ class EditorTest : public ::testing::Test {
     // A picture file, its left half red and its right half green.
     QString makeLogo(QSize size = {80, 40}) const;
 
-    // Opens an editor, has `drive` work in it and closes it with a key.
-    void edit(Act act, const Drive& drive, Qt::Key close = Qt::Key_Escape);
-    void editRecord(int index, const Drive& drive, Qt::Key close = Qt::Key_Escape);
+    // Opens a page of the inspector, has `drive` work in it and leaves it.
+    void edit(Act act, const Drive& drive);
+    void editRecord(int index, const Drive& drive);
+    // Goes to where nothing is selected.
+    void leave();
     // Has the next file chooser take `path`; without one it is cancelled. `first` is done before that.
     static std::shared_ptr<bool> chooseNext(const QString& path, const std::function<void()>& first = {});
-    // Opens the editor of a new logo, which asks for its file at once, and has `drive` work in it.
+    // Adds a logo, whose file is asked for at once, and has `drive` work in its page.
     void addLogo(const QString& file, const Drive& drive = {});
 
     // What a control does: `drive` uses it in an editor opened on `start`, and the record becomes what `expected` makes
@@ -48,19 +50,19 @@ class EditorTest : public ::testing::Test {
     static ControlRow clicked(
         const char* name, Value Watermark::*field, const std::type_identity_t<Value>& value = true,
         const Start& start = [](Watermark&) {}) {
-        return {name, [name](QDialog& editor) { click(editor, name); }, set(field, value), start};
+        return {name, [name](QWidget& editor) { click(editor, name); }, set(field, value), start};
     }
     template <class Value>
     static ControlRow typed(
         const char* name, const QString& text, Value Watermark::*field,
         const std::type_identity_t<Value>& value, const Start& start = [](Watermark&) {}) {
-        return {name, [name, text](QDialog& editor) { type(editor, name, text); }, set(field, value), start};
+        return {name, [name, text](QWidget& editor) { type(editor, name, text); }, set(field, value), start};
     }
     template <class Value>
     static ControlRow pressed(
         const char* name, Qt::Key key, Value Watermark::*field, const std::type_identity_t<Value>& value,
         const Start& start = [](Watermark&) {}) {
-        return {name, [name, key](QDialog& editor) { press(editor, name, key); }, set(field, value), start};
+        return {name, [name, key](QWidget& editor) { press(editor, name, key); }, set(field, value), start};
     }
     template <class Value>
     static std::function<void(Watermark&)> set(Value Watermark::*field,

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/copyright_editor.h"
 
-#include "app/editors/controls/editor_dialog.h"
+#include "app/common/messages.h"
+#include "app/editors/controls/fold_group.h"
 #include "app/editors/controls/record_binder.h"
-#include "app/watermarks/watermark_controller.h"
-#include "app/window/dialog_set.h"
+#include "app/editors/controls/value_page.h"
 #include "persistence/copyright_file.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QDialogButtonBox>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include <array>
@@ -26,33 +24,33 @@ struct TextRow {
 };
 #define TEXT(text) QT_TRANSLATE_NOOP("zelto::CopyrightEditor", text)
 constexpr std::array RightsRows = {
-    TextRow{"CopyrightText", &CopyRightMetaData::CopyrightText, TEXT("&Notice:"), TEXT("© Jane Doe")},
-    TextRow{"CopyrightTextStatus", &CopyRightMetaData::CopyrightTextStatus, TEXT("&Status:"), ""},
-    TextRow{"CopyrightURL", &CopyRightMetaData::CopyrightURL, TEXT("Rights &page:"),
+    TextRow{"CopyrightText", &CopyRightMetaData::CopyrightText, TEXT("Notice:"), TEXT("© Jane Doe")},
+    TextRow{"CopyrightTextStatus", &CopyRightMetaData::CopyrightTextStatus, TEXT("Status:"), ""},
+    TextRow{"CopyrightURL", &CopyRightMetaData::CopyrightURL, TEXT("Rights page:"),
             TEXT("https://www.example.com/rights")},
-    TextRow{"RightsUsageTerms", &CopyRightMetaData::RightsUsageTerms, TEXT("&Terms of use:"),
+    TextRow{"RightsUsageTerms", &CopyRightMetaData::RightsUsageTerms, TEXT("Terms of use:"),
             TEXT("All rights reserved")},
 };
 constexpr std::array CreatorRows = {
-    TextRow{"Creator", &CopyRightMetaData::Creator, TEXT("N&ame:"), TEXT("Jane Doe")},
-    TextRow{"CreatorJobTitle", &CopyRightMetaData::CreatorJobTitle, TEXT("&Job title:"),
-            TEXT("Photographer")},
-    TextRow{"CreatorAddress", &CopyRightMetaData::CreatorAddress, TEXT("A&ddress:"), ""},
-    TextRow{"CreatorCity", &CopyRightMetaData::CreatorCity, TEXT("Cit&y:"), ""},
-    TextRow{"CreatorState", &CopyRightMetaData::CreatorState, TEXT("Stat&e or province:"), ""},
-    TextRow{"CreatorPostalCode", &CopyRightMetaData::CreatorPostalCode, TEXT("Posta&l code:"), ""},
-    TextRow{"CreatorCountry", &CopyRightMetaData::CreatorCountry, TEXT("Co&untry:"), ""},
-    TextRow{"CreatorPhone", &CopyRightMetaData::CreatorPhone, TEXT("P&hone:"), ""},
-    TextRow{"CreatorMail", &CopyRightMetaData::CreatorMail, TEXT("E-&mail:"), TEXT("jane@example.com")},
-    TextRow{"CreatorWebsite", &CopyRightMetaData::CreatorWebsite, TEXT("We&bsite:"),
+    TextRow{"Creator", &CopyRightMetaData::Creator, TEXT("Name:"), TEXT("Jane Doe")},
+    TextRow{"CreatorJobTitle", &CopyRightMetaData::CreatorJobTitle, TEXT("Job title:"), TEXT("Photographer")},
+    TextRow{"CreatorAddress", &CopyRightMetaData::CreatorAddress, TEXT("Address:"), ""},
+    TextRow{"CreatorCity", &CopyRightMetaData::CreatorCity, TEXT("City:"), ""},
+    TextRow{"CreatorState", &CopyRightMetaData::CreatorState, TEXT("State or province:"), ""},
+    TextRow{"CreatorPostalCode", &CopyRightMetaData::CreatorPostalCode, TEXT("Postal code:"), ""},
+    TextRow{"CreatorCountry", &CopyRightMetaData::CreatorCountry, TEXT("Country:"), ""},
+    TextRow{"CreatorPhone", &CopyRightMetaData::CreatorPhone, TEXT("Phone:"), ""},
+    TextRow{"CreatorMail", &CopyRightMetaData::CreatorMail, TEXT("E-mail:"), TEXT("jane@example.com")},
+    TextRow{"CreatorWebsite", &CopyRightMetaData::CreatorWebsite, TEXT("Website:"),
             TEXT("https://www.example.com")},
 };
 #undef TEXT
 constexpr std::array Statuses = {"Copyrighted", "Protected", "Unknown"};
 
-// The data of the stack; where it has none, those that were kept, to be written again.
-CopyRightMetaData startingMetadata(const WatermarkController& watermarks) {
-    if (watermarks.Metadata()) return *watermarks.Metadata();
+using Metadata = std::optional<CopyRightMetaData>;
+
+// Those that were kept, to be written again.
+CopyRightMetaData keptMetadata() {
     CopyRightMetaData kept;
     // What cannot be read is replaced by what is entered now.
     static_cast<void>(
@@ -61,71 +59,103 @@ CopyRightMetaData startingMetadata(const WatermarkController& watermarks) {
     return kept;
 }
 
-class CopyrightEditor : public RememberedDialog {
+class CopyrightEditor : public ValuePage<Metadata> {
     Q_DECLARE_TR_FUNCTIONS(zelto::CopyrightEditor)
 
   public:
-    explicit CopyrightEditor(const EditorCall& call);
+    explicit CopyrightEditor(WatermarkController& controller);
 
-    void accept() override;
+    // Keeps what was entered for the next time.
+    void end() override;
+    void load() override;
+
+  protected:
+    Metadata value() const override { return controller().Metadata(); }
+    void put(const Metadata& metadata) override;
 
   private:
     template <class Rows>
-    void addRows(QFormLayout& form, const QString& title, const Rows& rows);
-    QWidget* makeControl(const TextRow& row);
+    void addGroup(QVBoxLayout& column, const QString& name, const QString& title, const Rows& rows);
+    QWidget* makeControl(const TextRow& row, QWidget* parent);
+    void edit(const std::function<void(CopyRightMetaData&)>& edit);
 
-    WatermarkController& watermarks_;
-    CopyRightMetaData metadata_;
     RecordBinder<CopyRightMetaData> binder_;
+    bool isEdited_ = false;
 };
 
-CopyrightEditor::CopyrightEditor(const EditorCall& call)
-    : RememberedDialog(QStringLiteral("CopyrightEditor"), tr("Copyright"), call.parent),
-      watermarks_(call.controller),
-      metadata_(startingMetadata(watermarks_)),
-      binder_([this](const auto& edit) { edit(metadata_); }) {
-    auto* enabled = new QCheckBox(tr("&Write these data into the photos"), this);
+CopyrightEditor::CopyrightEditor(WatermarkController& controller)
+    : ValuePage(QStringLiteral("CopyrightEditor"), tr("Copyright"), controller),
+      binder_([this](const auto& change) { edit(change); }) {
+    auto* enabled = new QCheckBox(tr("Write these data into the photos"), this);
     enabled->setObjectName(QStringLiteral("Enabled"));
     binder_.bind(enabled, &CopyRightMetaData::Enabled);
-    auto* form = new QFormLayout;
-    addRows(*form, tr("Rights"), RightsRows);
-    addRows(*form, tr("Creator"), CreatorRows);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(10, 0, 8, 6);
+    head->addWidget(enabled);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(enabled);
-    column->addLayout(form, 1);
-    column->addWidget(buttons);
-    binder_.load(metadata_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(head);
+    addGroup(*column, QStringLiteral("Rights"), tr("Rights"), RightsRows);
+    addGroup(*column, QStringLiteral("Creator"), tr("Creator"), CreatorRows);
+    column->addStretch();
+    setFocusProxy(findChild<QLineEdit*>(QLatin1String(RightsRows.front().name)));
+}
+
+void CopyrightEditor::load() {
+    binder_.load(value().value_or(CopyRightMetaData()));
+}
+
+void CopyrightEditor::put(const Metadata& metadata) {
+    isEdited_ = true;
+    controller().SetMetadata(metadata, visitStep());
+}
+
+void CopyrightEditor::edit(const std::function<void(CopyRightMetaData&)>& edit) {
+    CopyRightMetaData changed = value().value_or(CopyRightMetaData());
+    edit(changed);
+    if (changed != value()) put(changed);
+}
+
+void CopyrightEditor::end() {
+    if (!std::exchange(isEdited_, false) || !value()) return;
+    const Result<void> saved = copyrightFilePath().and_then(
+        [this](const QString& file) { return SaveCopyRightMetadata(*value(), file); });
+    if (saved) return;
+    openMessageSheet(window(), {.icon = QMessageBox::Warning,
+                                .title = tr("The copyright data could not be kept for the next time"),
+                                .text = saved.error().message});
 }
 
 template <class Rows>
-void CopyrightEditor::addRows(QFormLayout& form, const QString& title, const Rows& rows) {
-    auto* heading = new QLabel(title, this);
-    QFont bold = heading->font();
-    bold.setBold(true);
-    heading->setFont(bold);
-    form.addRow(heading);
+void CopyrightEditor::addGroup(QVBoxLayout& column, const QString& name, const QString& title,
+                               const Rows& rows) {
+    auto* group = new FoldGroup(name, title, FoldGroup::AtFirst::Open, this);
+    auto* content = new QWidget(this);
+    auto* form = new QFormLayout(content);
+    form->setContentsMargins(0, 0, 0, 0);
     for (const TextRow& row : rows) {
-        QWidget* control = makeControl(row);
+        QWidget* control = makeControl(row, content);
         control->setObjectName(QLatin1String(row.name));
-        addRow(form, tr(row.label), control);
+        addRow(*form, tr(row.label), control);
     }
+    group->setContent(content);
+    column.addWidget(group);
 }
 
-QWidget* CopyrightEditor::makeControl(const TextRow& row) {
+QWidget* CopyrightEditor::makeControl(const TextRow& row, QWidget* parent) {
     if (row.text == &CopyRightMetaData::CopyrightTextStatus) {
-        auto* statuses = new QComboBox(this);
+        auto* statuses = new QComboBox(parent);
         statuses->addItem(tr("Not stated"), QString());
         for (const char* status : Statuses) statuses->addItem(tr(status), QString(QLatin1String(status)));
         // A word of another program stays as long as no other one is chosen.
-        statuses->setPlaceholderText(metadata_.CopyrightTextStatus);
+        binder_.follow([statuses](const CopyRightMetaData& metadata) {
+            statuses->setPlaceholderText(metadata.CopyrightTextStatus);
+        });
         binder_.bind(statuses, row.text);
         return statuses;
     }
-    auto* line = new QLineEdit(this);
-    line->setMinimumWidth(line->fontMetrics().averageCharWidth() * 42);
+    auto* line = new QLineEdit(parent);
     line->setPlaceholderText(tr(row.example));
     line->setClearButtonEnabled(true);
     // An emptied text is absent: it is not written.
@@ -135,21 +165,13 @@ QWidget* CopyrightEditor::makeControl(const TextRow& row) {
     return line;
 }
 
-void CopyrightEditor::accept() {
-    const Result<void> saved = copyrightFilePath().and_then(
-        [this](const QString& file) { return SaveCopyRightMetadata(metadata_, file); });
-    if (!saved) {
-        showAlert(this, tr("The copyright data could not be kept"), saved.error().message);
-        return;
-    }
-    watermarks_.SetMetadata(metadata_);
-    RememberedDialog::accept();
-}
-
 }  // namespace
 
-void editCopyright(const EditorCall& call) {
-    CopyrightEditor(call).exec();
+Editor copyrightEditor() {
+    return {[](WatermarkController& controller) { return new CopyrightEditor(controller); },
+            [](const EditorCall& call) {
+                if (!call.controller.Metadata()) call.controller.SetMetadata(keptMetadata(), visitStep());
+            }};
 }
 
 }  // namespace zelto

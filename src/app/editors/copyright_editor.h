@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The form for the copyright and creator texts written into photos. Accepted, they are kept in their file for
+// The form for the copyright and creator texts written into photos. They are kept in their file for
 // the next time. Main thread only.
 #pragma once
 
@@ -7,6 +7,6 @@
 
 namespace zelto {
 
-void editCopyright(const EditorCall& call);
+Editor copyrightEditor();
 
 }  // namespace zelto

@@ -2,14 +2,14 @@
 #include "app/editors/effects_editor.h"
 
 #include "app/editors/controls/color_well.h"
-#include "app/editors/controls/editor_dialog.h"
+#include "app/editors/controls/fold_group.h"
 #include "app/editors/controls/record_binder.h"
+#include "app/editors/controls/value_page.h"
 #include "app/editors/effect_rules.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -24,28 +24,22 @@ constexpr NumberKind Blur{0, 1000, 0, QLatin1String(" px")};
 
 using Edit = std::function<void(PhotoEffects&)>;
 
-class EffectsSession : public EditorSession {
-  public:
-    using EditorSession::EditorSession;
-
-    const std::optional<PhotoEffects>& effects() const { return controller().GetEffect(); }
-    void edit(const Edit& edit) {
-        PhotoEffects changed = effects().value_or(PhotoEffects());
-        edit(changed);
-        put(changed);
-    }
-    void put(const std::optional<PhotoEffects>& effects) { controller().AddEffects(effects, step()); }
-};
-
-class EffectsEditor : public EditorPanel {
+class EffectsEditor : public ValuePage<std::optional<PhotoEffects>> {
     Q_DECLARE_TR_FUNCTIONS(zelto::EffectsEditor)
 
   public:
-    explicit EffectsEditor(EffectsSession& session);
+    explicit EffectsEditor(WatermarkController& controller);
 
     void load() override;
 
+  protected:
+    std::optional<PhotoEffects> value() const override { return controller().GetEffect(); }
+    void put(const std::optional<PhotoEffects>& effects) override {
+        controller().AddEffects(effects, visitStep());
+    }
+
   private:
+    void edit(const Edit& edit);
     QWidget* makeBorder();
     QLayout* makeThicknesses(QWidget* middle);
     QWidget* makeShadow();
@@ -55,27 +49,40 @@ class EffectsEditor : public EditorPanel {
     // Usable only while the photo has a shadow.
     void addShadowRow(QFormLayout& form, const QString& label, QWidget* control);
 
-    EffectsSession& session_;
     RecordBinder<PhotoEffects> binder_;
     PhotoEffects last_;  // what switching the effects on again brings back
     QCheckBox* isOn_;
-    QWidget* border_;
-    QWidget* shadow_;
+    QWidget* border_ = nullptr;
+    QWidget* shadow_ = nullptr;
 };
 
-EffectsEditor::EffectsEditor(EffectsSession& session)
-    : EditorPanel(QStringLiteral("EffectsEditor"), tr("Border and Shadow")),
-      session_(session),
-      binder_([&session](const Edit& edit) { session.edit(edit); }),
-      isOn_(named("IsOn", new QCheckBox(tr("&Put a border and a shadow around the photos"), this))),
-      border_(makeBorder()),
-      shadow_(makeShadow()) {
+EffectsEditor::EffectsEditor(WatermarkController& controller)
+    : ValuePage(QStringLiteral("EffectsEditor"), tr("Border and Shadow"), controller),
+      binder_([this](const Edit& change) { edit(change); }),
+      isOn_(named("IsOn", new QCheckBox(tr("Put a border and a shadow around the photos"), this))) {
+    auto* border = new FoldGroup(QStringLiteral("Border"), tr("Border"), FoldGroup::AtFirst::Open, this);
+    border->setContent(border_ = makeBorder());
+    auto* shadow = new FoldGroup(QStringLiteral("Shadow"), tr("Shadow"), FoldGroup::AtFirst::Open, this);
+    shadow->setContent(shadow_ = makeShadow());
     connect(isOn_, &QCheckBox::clicked, this,
-            [this](bool on) { session_.put(on ? std::optional(last_) : std::nullopt); });
+            [this](bool on) { put(on ? std::optional(last_) : std::nullopt); });
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(10, 0, 8, 6);
+    head->addWidget(isOn_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* part : {static_cast<QWidget*>(isOn_), border_, shadow_}) column->addWidget(part);
+    column->setSpacing(0);
+    column->addLayout(head);
+    column->addWidget(border);
+    column->addWidget(shadow);
     column->addStretch();
+    setFocusProxy(isOn_);
+}
+
+void EffectsEditor::edit(const Edit& edit) {
+    PhotoEffects changed = value().value_or(PhotoEffects());
+    edit(changed);
+    put(changed);
 }
 
 template <class Control>
@@ -85,14 +92,15 @@ Control* EffectsEditor::named(const char* name, Control* control) {
 }
 
 QWidget* EffectsEditor::makeBorder() {
-    auto* box = new QGroupBox(tr("Border"), this);
-    auto* same = named("SameBorder", new QCheckBox(tr("&Same width on all sides"), box));
+    auto* box = new QWidget(this);
+    auto* same = named("SameBorder", new QCheckBox(tr("Same width on all sides"), box));
     auto* color = named("BorderColor", new ColorWell(tr("Border colour"), box));
-    auto* over = named("ApplyWatermarkOnBorder", new QCheckBox(tr("&Watermarks may cover the border"), box));
+    auto* over = named("ApplyWatermarkOnBorder", new QCheckBox(tr("Watermarks may cover the border"), box));
     binder_.bind(same, &PhotoEffects::SameBorder, setSameBorder);
     binder_.bind(color, &PhotoEffects::BorderColor);
     binder_.bind(over, &PhotoEffects::ApplyWatermarkOnBorder);
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(same);
     column->addLayout(makeThicknesses(color));
     column->addWidget(over);
@@ -146,10 +154,11 @@ void EffectsEditor::addShadowRow(QFormLayout& form, const QString& label, QWidge
 }
 
 QWidget* EffectsEditor::makeShadow() {
-    auto* box = new QGroupBox(tr("Shadow"), this);
-    auto* hasShadow = named("EnableShadow", new QCheckBox(tr("S&hadow"), box));
+    auto* box = new QWidget(this);
+    auto* hasShadow = named("EnableShadow", new QCheckBox(tr("Cast a shadow"), box));
     binder_.bind(hasShadow, &PhotoEffects::EnableShadow);
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(hasShadow);
     column->addLayout(makeSides(box));
 
@@ -160,9 +169,9 @@ QWidget* EffectsEditor::makeShadow() {
     binder_.bind(distance, &PhotoEffects::Distance);
     binder_.bind(color, &PhotoEffects::ShadowColor);
     auto* form = new QFormLayout;
-    addShadowRow(*form, tr("B&lur:"), blur);
-    addShadowRow(*form, tr("&Distance:"), distance);
-    addShadowRow(*form, tr("Col&our:"), color);
+    addShadowRow(*form, tr("Blur:"), blur);
+    addShadowRow(*form, tr("Distance:"), distance);
+    addShadowRow(*form, tr("Colour:"), color);
     column->addLayout(form);
 
     auto* unseen =
@@ -222,20 +231,21 @@ QLayout* EffectsEditor::makeSides(QWidget* box) {
 }
 
 void EffectsEditor::load() {
-    const bool isOn = session_.effects().has_value();
-    if (isOn) last_ = *session_.effects();
-    isOn_->setChecked(isOn);
-    border_->setEnabled(isOn);
-    shadow_->setEnabled(isOn);
+    const std::optional<PhotoEffects> effects = value();
+    if (effects) last_ = *effects;
+    isOn_->setChecked(effects.has_value());
+    border_->setEnabled(effects.has_value());
+    shadow_->setEnabled(effects.has_value());
     binder_.load(last_);
 }
 
 }  // namespace
 
-void editEffects(const EditorCall& call) {
-    EffectsSession session(call);
-    if (!session.effects()) session.put(PhotoEffects());
-    runEditor(call, session, new EffectsEditor(session));
+Editor effectsEditor() {
+    return {[](WatermarkController& controller) { return new EffectsEditor(controller); },
+            [](const EditorCall& call) {
+                if (!call.controller.GetEffect()) call.controller.AddEffects(PhotoEffects(), visitStep());
+            }};
 }
 
 }  // namespace zelto

@@ -6,6 +6,6 @@
 
 namespace zelto {
 
-void editEffects(const EditorCall& call);
+Editor effectsEditor();
 
 }  // namespace zelto

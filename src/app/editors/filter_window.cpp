@@ -2,7 +2,7 @@
 #include "app/editors/filter_window.h"
 
 #include "app/common/in_background.h"
-#include "app/editors/controls/editor_dialog.h"
+#include "app/editors/controls/value_page.h"
 #include "pictures/picture_reader.h"
 #include "pictures/resample.h"
 #include "render/photo_filters.h"
@@ -26,42 +26,60 @@ namespace {
 constexpr int NoFilter = 0;
 // In the order they are offered.
 constexpr std::array Numbers = {NoFilter, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13};
-constexpr QSize TileSize(152, 114);
-constexpr int Columns = 4;  // that are seen at first
-constexpr int Rows = 4;
+constexpr QSize TileSize(92, 69);
 
+// The filter that the photos have, and the one its row stands for.
+struct FilterChoice {
+    int applied = NoFilter;
+    int chosen = NoFilter;
+
+    bool operator==(const FilterChoice&) const = default;
+};
+
+// As high as all its tiles need: the page scrolls, the list does not.
 class Tiles : public QListWidget {
   public:
     using QListWidget::QListWidget;
 
     QSize sizeHint() const override {
-        const QSize cell = sizeHintForIndex(model()->index(0, 0)) + QSize(spacing(), spacing());
-        const int scrollBar = verticalScrollBar()->sizeHint().width();
-        return {Columns * cell.width() + scrollBar + 3 * spacing(), Rows * cell.height() + 2 * spacing()};
+        return {TileSize.width() * 2, contentsSize().height() + 2 * frameWidth()};
+    }
+    QSize minimumSizeHint() const override { return {TileSize.width(), sizeHint().height()}; }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QListWidget::resizeEvent(event);
+        doItemsLayout();
+        updateGeometry();
     }
 };
 
-class FilterWindow : public EditorPanel {
+class FilterWindow : public ValuePage<FilterChoice> {
     Q_DECLARE_TR_FUNCTIONS(zelto::FilterWindow)
 
   public:
-    FilterWindow(const EditorCall& call, EditorSession& session);
+    explicit FilterWindow(WatermarkController& controller);
     ~FilterWindow() override { *cancelled_ = true; }
 
     void load() override;
+    void showFor(const SelectedPhoto& photo) override;
+
+  protected:
+    FilterChoice value() const override;
+    void put(const FilterChoice& choice) override;
 
   private:
     void choose(const QListWidgetItem* item);
     void makePictures(const QString& path);
     void showPicture(int row, const QImage& picture);
 
-    EditorSession& session_;
     QListWidget* tiles_;
+    QString path_;  // of the photo in the tiles
     std::shared_ptr<std::atomic<bool>> cancelled_ = std::make_shared<std::atomic<bool>>(false);
 };
 
-FilterWindow::FilterWindow(const EditorCall& call, EditorSession& session)
-    : EditorPanel(QStringLiteral("FilterWindow"), tr("Filter")), session_(session), tiles_(new Tiles(this)) {
+FilterWindow::FilterWindow(WatermarkController& controller)
+    : ValuePage(QStringLiteral("FilterWindow"), tr("Filter"), controller), tiles_(new Tiles(this)) {
     tiles_->setObjectName(QStringLiteral("Filters"));
     tiles_->setAccessibleName(tr("Filters"));
     tiles_->setViewMode(QListView::IconMode);
@@ -69,38 +87,55 @@ FilterWindow::FilterWindow(const EditorCall& call, EditorSession& session)
     tiles_->setResizeMode(QListView::Adjust);
     tiles_->setUniformItemSizes(true);
     tiles_->setIconSize(TileSize);
-    tiles_->setSpacing(6);
+    tiles_->setSpacing(2);
+    tiles_->setFrameShape(QFrame::NoFrame);
+    tiles_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QPixmap blank(TileSize);
     blank.fill(Qt::transparent);
     for (const int number : Numbers) {
         auto* tile = new QListWidgetItem(QIcon(blank), GetFilterName(number), tiles_);
         tile->setData(Qt::UserRole, number);
         tile->setTextAlignment(Qt::AlignHCenter);
-        tile->setSizeHint(TileSize + QSize(12, 12 + tiles_->fontMetrics().lineSpacing()));
+        tile->setSizeHint(TileSize + QSize(8, 8 + tiles_->fontMetrics().lineSpacing()));
     }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tiles_);
     setFocusProxy(tiles_);
     connect(tiles_, &QListWidget::currentItemChanged, this, &FilterWindow::choose);
-    connect(tiles_, &QListWidget::itemDoubleClicked, this, &EditorPanel::done);
-    if (!call.photoPath.isEmpty()) makePictures(call.photoPath);
+}
+
+FilterChoice FilterWindow::value() const {
+    const StackState& state = controller().document().state();
+    return {state.Stack.SelectedFilter, state.SelectedFilter};
+}
+
+void FilterWindow::put(const FilterChoice& choice) {
+    if (choice.chosen == NoFilter) {
+        controller().removeFilter(visitStep());
+    } else {
+        controller().AddFilter(choice.chosen, visitStep());
+        if (choice.applied != choice.chosen) controller().MakeFilterImage(choice.applied);
+    }
 }
 
 void FilterWindow::load() {
-    const int chosen = session_.controller().document().state().Stack.SelectedFilter;
-    const auto at = std::find(Numbers.begin(), Numbers.end(), chosen);
+    const auto at = std::find(Numbers.begin(), Numbers.end(), value().applied);
     const QSignalBlocker quiet(tiles_);
     tiles_->setCurrentRow(at == Numbers.end() ? 0 : static_cast<int>(at - Numbers.begin()));
 }
 
 void FilterWindow::choose(const QListWidgetItem* item) {
     const int number = item == nullptr ? NoFilter : item->data(Qt::UserRole).toInt();
-    if (number == NoFilter) {
-        session_.controller().removeFilter(EditorSession::step());
-    } else {
-        session_.controller().AddFilter(number, EditorSession::step());
-    }
+    put({number, number});
+}
+
+void FilterWindow::showFor(const SelectedPhoto& photo) {
+    if (photo.path == path_) return;
+    path_ = photo.path;
+    *cancelled_ = true;
+    cancelled_ = std::make_shared<std::atomic<bool>>(false);
+    if (!path_.isEmpty()) makePictures(path_);
 }
 
 // Reading the photo takes a while; the tiles fill as their pictures come.
@@ -116,8 +151,9 @@ void FilterWindow::makePictures(const QString& path) {
         for (std::size_t row = 0; row < Numbers.size() && !*cancelled; ++row) {
             const int number = Numbers[row];
             const QImage picture = number == NoFilter ? small : ApplyFilter(number, small);
-            answerOnMainThread(self,
-                               [self, row, picture] { self->showPicture(static_cast<int>(row), picture); });
+            answerOnMainThread(self, [self, row, picture, cancelled] {
+                if (!*cancelled) self->showPicture(static_cast<int>(row), picture);
+            });
         }
     });
 }
@@ -137,9 +173,8 @@ void FilterWindow::showPicture(int row, const QImage& picture) {
 
 }  // namespace
 
-void chooseFilter(const EditorCall& call) {
-    EditorSession session(call);
-    runEditor(call, session, new FilterWindow(call, session));
+Editor filterEditor() {
+    return {[](WatermarkController& controller) { return new FilterWindow(controller); }, {}};
 }
 
 }  // namespace zelto

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The window to choose a photo filter in: the selected photo in every one of them. Main thread only.
+// The editor for the photo filter: the selected photo in every one of them, to choose from. Main thread only.
 #pragma once
 
 #include "app/watermarks/editor_set.h"
 
 namespace zelto {
 
-void chooseFilter(const EditorCall& call);
+Editor filterEditor();
 
 }  // namespace zelto

@@ -4,11 +4,11 @@
 #include "app/common/in_background.h"
 #include "app/common/newest_worker.h"
 #include "app/editors/controls/color_well.h"
-#include "app/editors/controls/editor_dialog.h"
-#include "app/editors/controls/photo_reference.h"
 #include "app/editors/controls/position_group.h"
 #include "app/editors/controls/size_field.h"
+#include "app/editors/controls/starting_place.h"
 #include "app/editors/controls/typed_text.h"
+#include "app/editors/controls/watermark_page.h"
 #include "app/editors/macros/macro_controller.h"
 #include "app/editors/qr_rules.h"
 #include "macros/photo_macros.h"
@@ -17,78 +17,108 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
-#include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
 
 namespace zelto {
 namespace {
 
-class QrCodeEditor : public RecordPanel {
+// What a code is judged by.
+struct Judged {
+    Watermark code;
+    SelectedPhoto photo;
+    QSizeF reference;
+};
+
+class QrCodeEditor : public WatermarkPage {
     Q_DECLARE_TR_FUNCTIONS(zelto::QrCodeEditor)
 
   public:
-    QrCodeEditor(const EditorCall& call, WatermarkSession& session);
+    explicit QrCodeEditor(WatermarkController& controller);
+
+    void showFor(const SelectedPhoto& photo) override;
+
+  protected:
+    void showReference(QSizeF reference) override;
 
   private:
     QWidget* makeContent();
     QLayout* makeJudgement(QWidget* box);
     QWidget* makeLook();
-    void openMacros();
-    std::function<void(const Watermark&)> judge();
+    void askForJudgement(const Watermark& code);
+    std::function<void(const Judged&)> judge();
     void say(const QrJudgement& judgement);
 
-    const QString photoPath_;
-    const qint64 photoRow_;
-    const QSizeF reference_;
     TypedText* text_ = nullptr;
+    MacroController* macros_ = nullptr;
+    SizeField* size_ = nullptr;
     QLabel* judgementIcon_ = nullptr;
     QLabel* judgement_ = nullptr;
+    QSizeF reference_;
     // Reading the photo for its macros and judging a code take longer than a keystroke may.
-    NewestWorker<Watermark> judge_;
+    NewestWorker<Judged> judge_;
 };
 
-QrCodeEditor::QrCodeEditor(const EditorCall& call, WatermarkSession& session)
-    : RecordPanel(QStringLiteral("QrCodeEditor"), tr("QR Code"), session),
-      photoPath_(call.photoPath),
-      photoRow_(call.photoRow),
-      reference_(photoReference(call)),
-      judge_(judge()) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(makeContent(), 1);
-    column->addWidget(makeLook());
-    column->addWidget(new PositionGroup(binder(), PositionGroup::Tiling::None, this));
-    binder().follow([this](const Watermark& record) { judge_.post(record); });
+QrCodeEditor::QrCodeEditor(WatermarkController& controller)
+    : WatermarkPage(QStringLiteral("QrCodeEditor"), tr("QR Code"), controller), judge_(judge()) {
+    addGroup(QStringLiteral("Content"), tr("Content")).setContent(makeContent());
+    addGroup(QStringLiteral("Look"), tr("Look")).setContent(makeLook());
+    addGroup(QStringLiteral("Place"), tr("Place")).setContent(new PositionGroup(binder(), this));
+    binder().follow([this](const Watermark& record) { askForJudgement(record); });
     setFocusProxy(text_);
 }
 
-// For the worker's thread: judges the record it is given and has the panel say so.
-std::function<void(const Watermark&)> QrCodeEditor::judge() {
-    return [self = QPointer(this), path = photoPath_, row = photoRow_, reference = reference_,
-            macros = std::optional<MacroContext>()](const Watermark& code) mutable {
-        if (!macros) macros = photoMacroContext(path, row, QDateTime::currentDateTime(), userDateLocale());
-        const QrJudgement judgement(ParseMacros(code.Text, *macros).text, qrSide(code, reference), reference,
-                                    code.ShadowColor);
+void QrCodeEditor::showFor(const SelectedPhoto& photo) {
+    WatermarkPage::showFor(photo);
+    macros_->showFor(photo);
+}
+
+void QrCodeEditor::showReference(QSizeF reference) {
+    reference_ = reference;
+    size_->setReference(reference.width());
+    askForJudgement(value());
+}
+
+void QrCodeEditor::askForJudgement(const Watermark& code) {
+    judge_.post({code, photo(), reference_});
+}
+
+// For the worker's thread: judges the record it is given and has the page say so.
+std::function<void(const Judged&)> QrCodeEditor::judge() {
+    return [self = QPointer(this), of = std::optional<SelectedPhoto>(),
+            macros = MacroContext()](const Judged& judged) mutable {
+        if (of != judged.photo) {
+            macros = photoMacroContext(judged.photo.path, judged.photo.row, QDateTime::currentDateTime(),
+                                       userDateLocale());
+            of = judged.photo;
+        }
+        const QrJudgement judgement(ParseMacros(judged.code.Text, macros).text,
+                                    qrSide(judged.code, judged.reference), judged.reference,
+                                    judged.code.ShadowColor);
         answerOnMainThread(self, [self, judgement] { self->say(judgement); });
     };
 }
 
 QWidget* QrCodeEditor::makeContent() {
-    auto* box = new QGroupBox(tr("Content"), this);
+    auto* box = new QWidget(this);
     text_ = new TypedText(box);
     text_->setObjectName(QStringLiteral("Text"));
     text_->setAccessibleName(tr("Content of the code"));
     text_->setPlaceholderText(tr("https://www.example.com"));
-    text_->setMinimumHeight(3 * text_->fontMetrics().lineSpacing());
+    text_->setFixedHeight(text_->fontMetrics().lineSpacing() * 3 + 2 * text_->frameWidth() + 8);
     binder().bind(text_, &Watermark::Text);
+    QLayout* judgement = makeJudgement(box);
+    auto* macros = new FoldGroup(QStringLiteral("Macros"), tr("Macros"), FoldGroup::AtFirst::Folded, box);
+    macros_ = new MacroController(*text_, box);
+    macros->setContent(macros_);
     auto* column = new QVBoxLayout(box);
-    column->addWidget(text_, 1);
-    column->addLayout(makeJudgement(box));
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(text_);
+    column->addLayout(judgement);
+    column->addWidget(macros);
     return box;
 }
 
@@ -98,24 +128,18 @@ QLayout* QrCodeEditor::makeJudgement(QWidget* box) {
     judgement_->setObjectName(QStringLiteral("Judgement"));
     judgement_->setWordWrap(true);
     judgement_->setMinimumHeight(2 * judgement_->fontMetrics().lineSpacing());
-    auto* macros = new QPushButton(tr("&Macros..."), box);
-    macros->setObjectName(QStringLiteral("Macros"));
-    macros->setToolTip(tr("Insert what differs from photo to photo, such as its name"));
-    macros->setAutoDefault(false);
-    connect(macros, &QPushButton::clicked, this, &QrCodeEditor::openMacros);
     auto* row = new QHBoxLayout;
     row->addWidget(judgementIcon_);
     row->addWidget(judgement_, 1);
-    row->addWidget(macros);
     return row;
 }
 
 QWidget* QrCodeEditor::makeLook() {
-    auto* box = new QGroupBox(tr("Look"), this);
-    auto* size = new SizeField(tr("% of photo width"), reference_.width(), box);
-    size->setObjectName(QStringLiteral("Size"));
+    auto* box = new QWidget(this);
+    size_ = new SizeField(tr("% of photo width"), box);
+    size_->setObjectName(QStringLiteral("Size"));
     binder().bind(
-        size,
+        size_,
         [](const Watermark& record) {
             return Length{record.ResizeWidth, record.ResizeFormat == qr_resize::Relative};
         },
@@ -125,8 +149,9 @@ QWidget* QrCodeEditor::makeLook() {
             record.ResizeWidth = static_cast<float>(length.value);
         });
     auto* form = new QFormLayout(box);
-    addRow(*form, tr("&Size:"), size);
-    auto* hasBackground = new QCheckBox(tr("&Background:"), box);
+    form->setContentsMargins(0, 0, 0, 0);
+    addRow(*form, tr("Size:"), size_);
+    auto* hasBackground = new QCheckBox(tr("Background:"), box);
     hasBackground->setObjectName(QStringLiteral("HasBackground"));
     auto* background = new ColorWell(tr("Background of the code"), box);
     background->setObjectName(QStringLiteral("ShadowColor"));
@@ -146,14 +171,6 @@ QWidget* QrCodeEditor::makeLook() {
     return box;
 }
 
-void QrCodeEditor::openMacros() {
-    auto* dialog = new RememberedDialog(QStringLiteral("QrCodeMacros"), tr("Macros"), this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    auto* column = new QVBoxLayout(dialog);
-    column->addWidget(new MacroController(photoPath_, photoRow_, *text_, dialog));
-    dialog->open();
-}
-
 void QrCodeEditor::say(const QrJudgement& judgement) {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     judgementIcon_->setPixmap(style()
@@ -163,11 +180,17 @@ void QrCodeEditor::say(const QrJudgement& judgement) {
     judgement_->setText(judgement.message());
 }
 
+void addQrCode(const EditorCall& call) {
+    Watermark record = WatermarkController::startingWatermark(watermark_type::QrCode);
+    record.Text = QStringLiteral("https://www.example.com");
+    placeWhereSeen(record, call);
+    call.put(record);
+}
+
 }  // namespace
 
-void editQrCode(const EditorCall& call) {
-    WatermarkSession session(call, watermark_type::QrCode);
-    runEditor(call, session, new QrCodeEditor(call, session));
+Editor qrCodeEditor() {
+    return {[](WatermarkController& controller) { return new QrCodeEditor(controller); }, addQrCode};
 }
 
 }  // namespace zelto

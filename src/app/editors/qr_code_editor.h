@@ -7,6 +7,6 @@
 
 namespace zelto {
 
-void editQrCode(const EditorCall& call);
+Editor qrCodeEditor();
 
 }  // namespace zelto

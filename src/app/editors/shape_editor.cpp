@@ -3,18 +3,18 @@
 
 #include "app/common/icons.h"
 #include "app/editors/controls/color_well.h"
-#include "app/editors/controls/editor_dialog.h"
-#include "app/editors/controls/photo_reference.h"
 #include "app/editors/controls/position_group.h"
 #include "app/editors/controls/rotation_control.h"
 #include "app/editors/controls/size_field.h"
+#include "app/editors/controls/starting_place.h"
 #include "app/editors/controls/tile_button.h"
 #include "app/editors/controls/transparency_slider.h"
+#include "app/editors/controls/watermark_page.h"
 #include "render/shape.h"
 #include "render/tiling.h"
 
 #include <QCoreApplication>
-#include <QGroupBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
@@ -84,52 +84,65 @@ QIcon gradientIcon(const Watermark& record, std::int64_t direction) {
     return QIcon(QPixmap::fromImage(drawnAlone(shape)));
 }
 
-class ShapeEditor : public RecordPanel {
+class ShapeEditor : public WatermarkPage {
     Q_DECLARE_TR_FUNCTIONS(zelto::ShapeEditor)
 
   public:
-    ShapeEditor(const EditorCall& call, WatermarkSession& session);
+    explicit ShapeEditor(WatermarkController& controller);
+
+  protected:
+    void showReference(QSizeF reference) override;
 
   private:
-    QWidget* makeShape(QSizeF reference);
+    QWidget* makeShape();
     QLayout* makeKinds(QWidget* box);
-    QWidget* makeFill();
-    QComboBox* makeDirections(QWidget* box);
     QWidget* makeLook();
+    QLayout* makeFill(QWidget* box);
+    QComboBox* makeDirections(QWidget* box);
+    QWidget* makePlace();
     ColorWell* makeColor(const char* name, const QString& title, std::optional<Color> Watermark::*field);
-    SizeField* makeSize(const char* name, const QString& shareTitle, double reference,
-                        float Watermark::*pixels, float Watermark::*share, bool Watermark::*isRelative);
+    SizeField* makeSize(const char* name, const QString& shareTitle, float Watermark::*pixels,
+                        float Watermark::*share, bool Watermark::*isRelative);
+
+    SizeField* width_ = nullptr;
+    SizeField* height_ = nullptr;
 };
 
-ShapeEditor::ShapeEditor(const EditorCall& call, WatermarkSession& session)
-    : RecordPanel(QStringLiteral("ShapeEditor"), tr("Shape"), session) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* part : {makeShape(photoReference(call)), makeFill(), makeLook()}) column->addWidget(part);
-    column->addWidget(new PositionGroup(binder(), PositionGroup::Tiling::None, this));
+ShapeEditor::ShapeEditor(WatermarkController& controller)
+    : WatermarkPage(QStringLiteral("ShapeEditor"), tr("Shape"), controller) {
+    addGroup(QStringLiteral("Content"), tr("Content")).setContent(makeShape());
+    addGroup(QStringLiteral("Look"), tr("Look")).setContent(makeLook());
+    addGroup(QStringLiteral("Place"), tr("Place")).setContent(makePlace());
+    setFocusProxy(&width_->number());
 }
 
-QWidget* ShapeEditor::makeShape(QSizeF reference) {
-    auto* box = new QGroupBox(tr("Shape"), this);
+void ShapeEditor::showReference(QSizeF reference) {
+    width_->setReference(reference.width());
+    height_->setReference(reference.height());
+}
+
+QWidget* ShapeEditor::makeShape() {
+    auto* box = new QWidget(this);
     auto* form = new QFormLayout(box);
+    form->setContentsMargins(0, 0, 0, 0);
     form->addRow(makeKinds(box));
     auto* sides = new NumberField(SideCount, box);
     sides->setObjectName(QStringLiteral("Sides"));
     sides->setEmptyValue(static_cast<double>(FewestSides));
     binder().bind(sides, &Watermark::Sides);
-    SizeField* width = makeSize("Width", tr("% of photo width"), reference.width(), &Watermark::Width,
-                                &Watermark::ResizeWidth, &Watermark::ResizeWidthByPercent);
-    SizeField* height = makeSize("Height", tr("% of photo height"), reference.height(), &Watermark::Height,
-                                 &Watermark::ResizeHeight, &Watermark::ResizeHeightByPercent);
-    addRow(*form, tr("Si&des:"), sides);
-    addRow(*form, tr("&Width:"), width);
-    addRow(*form, tr("&Height:"), height);
-    auto* widthLabel = qobject_cast<QLabel*>(form->labelForField(width));
-    auto* heightLabel = qobject_cast<QLabel*>(form->labelForField(height));
+    width_ = makeSize("Width", tr("% of photo width"), &Watermark::Width, &Watermark::ResizeWidth,
+                      &Watermark::ResizeWidthByPercent);
+    height_ = makeSize("Height", tr("% of photo height"), &Watermark::Height, &Watermark::ResizeHeight,
+                       &Watermark::ResizeHeightByPercent);
+    addRow(*form, tr("Sides:"), sides);
+    addRow(*form, tr("Width:"), width_);
+    addRow(*form, tr("Height:"), height_);
+    auto* widthLabel = qobject_cast<QLabel*>(form->labelForField(width_));
+    auto* heightLabel = qobject_cast<QLabel*>(form->labelForField(height_));
     binder().follow([=](const Watermark& record) {
         const bool isLine = record.ShapeType == shape_type::Line;
-        widthLabel->setText(isLine ? tr("&Length:") : tr("&Width:"));
-        heightLabel->setText(isLine ? tr("T&hickness:") : tr("&Height:"));
+        widthLabel->setText(isLine ? tr("Length:") : tr("Width:"));
+        heightLabel->setText(isLine ? tr("Thickness:") : tr("Height:"));
         sides->setEnabled(record.ShapeType == shape_type::Polygon);
     });
     return box;
@@ -154,10 +167,9 @@ QLayout* ShapeEditor::makeKinds(QWidget* box) {
     return row;
 }
 
-SizeField* ShapeEditor::makeSize(const char* name, const QString& shareTitle, double reference,
-                                 float Watermark::*pixels, float Watermark::*share,
-                                 bool Watermark::*isRelative) {
-    auto* field = new SizeField(shareTitle, reference, this);
+SizeField* ShapeEditor::makeSize(const char* name, const QString& shareTitle, float Watermark::*pixels,
+                                 float Watermark::*share, bool Watermark::*isRelative) {
+    auto* field = new SizeField(shareTitle, this);
     field->setObjectName(QLatin1String(name));
     binder().bind(
         field,
@@ -179,12 +191,11 @@ ColorWell* ShapeEditor::makeColor(const char* name, const QString& title,
     return well;
 }
 
-QWidget* ShapeEditor::makeFill() {
-    auto* box = new QGroupBox(tr("Fill"), this);
-    auto* solid = new QRadioButton(tr("&One colour"), box);
+QLayout* ShapeEditor::makeFill(QWidget* box) {
+    auto* solid = new QRadioButton(tr("One colour"), box);
     solid->setObjectName(QStringLiteral("Solid"));
     ColorWell* solidColor = makeColor("SolidColor", tr("Colour"), &Watermark::SolidColor);
-    auto* gradient = new QRadioButton(tr("&Gradient"), box);
+    auto* gradient = new QRadioButton(tr("Gradient"), box);
     gradient->setObjectName(QStringLiteral("Gradient"));
     ColorWell* first = makeColor("FirstColor", tr("First colour of the gradient"), &Watermark::FirstColor);
     ColorWell* second =
@@ -200,15 +211,15 @@ QWidget* ShapeEditor::makeFill() {
             control->setEnabled(!record.SolidBackground);
         }
     });
-    auto* grid = new QGridLayout(box);
+    auto* grid = new QGridLayout;
     grid->addWidget(solid, 0, 0);
     grid->addWidget(solidColor, 0, 1);
     grid->addWidget(gradient, 1, 0);
     grid->addWidget(first, 1, 1);
     grid->addWidget(second, 1, 2);
-    grid->addWidget(directions, 1, 3);
+    grid->addWidget(directions, 2, 0, 1, 4);
     grid->setColumnStretch(3, 1);
-    return box;
+    return grid;
 }
 
 // Each direction with a picture of the record's gradient.
@@ -238,7 +249,22 @@ QComboBox* ShapeEditor::makeDirections(QWidget* box) {
 }
 
 QWidget* ShapeEditor::makeLook() {
-    auto* box = new QGroupBox(tr("Look"), this);
+    auto* box = new QWidget(this);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(makeFill(box));
+    auto* transparency = new TransparencySlider(box);
+    transparency->setObjectName(QStringLiteral("Transparency"));
+    binder().bind(transparency, &Watermark::Transparency);
+    auto* form = new QFormLayout;
+    addRow(*form, tr("Transparency:"), transparency);
+    column->addLayout(form);
+    return box;
+}
+
+QWidget* ShapeEditor::makePlace() {
+    auto* box = new QWidget(this);
+    auto* position = new PositionGroup(binder(), box);
     auto* rotation = new RotationControl(box);
     rotation->setObjectName(QStringLiteral("Rotation"));
     binder().bind(rotation, &Watermark::Rotation);
@@ -247,21 +273,28 @@ QWidget* ShapeEditor::makeLook() {
         rotation->setEnabled(!isCircle);
         rotation->setToolTip(isCircle ? tr("A circle looks the same however it is turned") : QString());
     });
-    auto* transparency = new TransparencySlider(box);
-    transparency->setObjectName(QStringLiteral("Transparency"));
-    binder().bind(transparency, &Watermark::Transparency);
-    auto* form = new QFormLayout(box);
-    addRow(*form, tr("&Rotation:"), rotation);
-    addRow(*form, tr("Tra&nsparency:"), transparency);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(position);
+    column->addWidget(rotation);
     return box;
+}
+
+// A part of the photo's sides, which is seen on a photo of any size.
+void addShape(const EditorCall& call) {
+    Watermark record = WatermarkController::startingWatermark(watermark_type::Shape);
+    record.ResizeWidthByPercent = true;
+    record.ResizeWidth = 0.25F;
+    record.ResizeHeightByPercent = true;
+    record.ResizeHeight = 0.15F;
+    placeWhereSeen(record, call);
+    call.put(record);
 }
 
 }  // namespace
 
-void editShape(const EditorCall& call) {
-    WatermarkSession session(call, watermark_type::Shape);
-    if (session.isNew()) session.reflect();
-    runEditor(call, session, new ShapeEditor(call, session));
+Editor shapeEditor() {
+    return {[](WatermarkController& controller) { return new ShapeEditor(controller); }, addShape};
 }
 
 }  // namespace zelto

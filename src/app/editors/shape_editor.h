@@ -7,6 +7,6 @@
 
 namespace zelto {
 
-void editShape(const EditorCall& call);
+Editor shapeEditor();
 
 }  // namespace zelto

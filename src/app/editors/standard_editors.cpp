@@ -13,10 +13,10 @@ namespace zelto {
 
 EditorSet standardEditors() {
     return {
-        {EditorKind::Image, editLogo},          {EditorKind::Text, editText},
-        {EditorKind::Shape, editShape},         {EditorKind::QrCode, editQrCode},
-        {EditorKind::Filter, chooseFilter},     {EditorKind::Effects, editEffects},
-        {EditorKind::Copyright, editCopyright},
+        {EditorKind::Image, logoEditor()},          {EditorKind::Text, textEditor()},
+        {EditorKind::Shape, shapeEditor()},         {EditorKind::QrCode, qrCodeEditor()},
+        {EditorKind::Filter, filterEditor()},       {EditorKind::Effects, effectsEditor()},
+        {EditorKind::Copyright, copyrightEditor()},
     };
 }
 

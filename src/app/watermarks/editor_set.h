@@ -1,33 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The editors the watermark list opens, by what they edit. An editor is a function: it shows its dialog,
-// keeps the document up to date through the controller while the user works, and returns when the dialog is
-// closed. What no editor is installed for is not offered. Main thread only.
+// The editors of the watermark list, by what they edit. The rooms above fill the set; what no editor is installed for
+// is not offered. Main thread only.
 #pragma once
 
-#include <QString>
+#include "app/watermarks/editor_page.h"
 
 #include <functional>
 #include <map>
 
-class QWidget;
-
 namespace zelto {
 
 class WatermarkController;
+struct Watermark;
 
 enum class EditorKind { Image, Text, Shape, QrCode, Filter, Effects, Copyright };
 
-// What an editor is opened on. A watermark's editor takes the record at the controller's CurrentWatermark, or
-// starts with the controller's startingWatermark() of its type when that is none, and hands each change to
-// ReflectWatermark.
+// What something new is made with.
 struct EditorCall {
     WatermarkController& controller;
-    QString photoPath;  // the selected photo; empty for none
-    qint64 photoRow = 0;
-    QWidget* parent = nullptr;
+    SelectedPhoto photo;
+    QWidget* window = nullptr;
+    // Puts a new watermark into the list and opens it; may be called after the editor's `add` has returned.
+    std::function<void(const Watermark&)> put;
 };
 
-using Editor = std::function<void(const EditorCall&)>;
+struct Editor {
+    // The page; whoever calls it becomes its owner. The controller outlives it.
+    std::function<EditorPage*(WatermarkController&)> makePage;
+    // Makes something new, which starts where it can be seen. For what belongs to the photo as a whole: switches it on
+    // where it is not there yet, with visitStep(); may be empty.
+    std::function<void(const EditorCall&)> add;
+};
+
 using EditorSet = std::map<EditorKind, Editor>;
 
 }  // namespace zelto

@@ -150,6 +150,10 @@ void WatermarkController::AddFilter(int number, const QString& step) {
 }
 
 void WatermarkController::removeFilter(const QString& step) {
+    // Where filters are being chosen from, no other row takes the place of the filter's.
+    if (!step.isEmpty() && model_.kindOf(selectedRow()) == WatermarkListModel::RowKind::Filter) {
+        selectWatermark(WatermarkDocument::NoWatermark);
+    }
     document_.change(
         tr("Remove Filter"),
         [](StackState& state) {

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -64,8 +65,10 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       photoList_(new PhotoListView(photos_, this)),
       photoFilter_(new PhotoFilterBox(photos_, this)),
       watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, this)),
+      inspector_(new Inspector(watermarks_, photos_, editors_, this)),
       processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
+      stackColumn_(new QSplitter(Qt::Vertical, this)),
       middle_(new QStackedWidget(this)),
       start_(new QPushButton(this)),
       photoCount_(new QLabel(this)),
@@ -97,6 +100,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
             &MainWindow::EnableDisableWatermarkControls);
     connect(previewView_, &PreviewView::layerActivated, this,
             [this](int index) { editors_.WatermarkListDoubleClicked(watermarks_.model().rowOf(index)); });
+    connect(inspector_, &Inspector::left, &watermarkList(), [this] { watermarkList().setFocus(); });
     connect(previewView_, &PreviewView::scaleChanged, this, &MainWindow::showStatus);
     connect(preview_, &PhotoPreview::shown, this, &MainWindow::showStatus);
     EnableDisableWatermarkControls();
@@ -250,11 +254,16 @@ void MainWindow::layOut() {
 
     columns_->addWidget(photoColumn);
     columns_->addWidget(middle_);
-    columns_->addWidget(watermarkPanel_);
+    stackColumn_->addWidget(watermarkPanel_);
+    stackColumn_->addWidget(inspector_);
+    stackColumn_->setStretchFactor(1, 1);
+    stackColumn_->setChildrenCollapsible(false);
+    stackColumn_->setSizes({260, 400});
+    columns_->addWidget(stackColumn_);
     columns_->setStretchFactor(1, 1);
     columns_->setChildrenCollapsible(false);
     columns_->setHandleWidth(1);
-    columns_->setSizes({290, 720, 270});
+    columns_->setSizes({260, 680, 340});
 
     auto* rows = new QVBoxLayout(mainView_);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -277,7 +286,7 @@ void MainWindow::EnableDisableWatermarkControls() {
     middle_->setCurrentIndex(hasPhotos ? 1 : 0);
     photoList_->setEnabled(!isRunning_);
     photoFilter_->setEnabled(!isRunning_);
-    watermarkPanel_->setEnabled(!isRunning_);
+    stackColumn_->setEnabled(!isRunning_);
     previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());
     redo_->setEnabled(!isRunning_ && document_.history().canRedo());
@@ -320,11 +329,13 @@ void MainWindow::restorePlaces() {
     resize(StartSize);
     if (const auto geometry = storedPreference(preference::WindowGeometry)) restoreGeometry(*geometry);
     if (const auto columns = storedPreference(preference::WindowColumns)) columns_->restoreState(*columns);
+    if (const auto rows = storedPreference(preference::WindowStackColumn)) stackColumn_->restoreState(*rows);
 }
 
 void MainWindow::keepPlaces() const {
     setPreference(preference::WindowGeometry, saveGeometry());
     setPreference(preference::WindowColumns, columns_->saveState());
+    setPreference(preference::WindowStackColumn, stackColumn_->saveState());
 }
 
 // ---- events
@@ -339,6 +350,17 @@ void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
     if (mainView_->performDragOperation(*event->mimeData())) event->acceptProposedAction();
+}
+
+// What no control has taken: Escape goes one step out, from something new to nothing selected.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || isRunning_) {
+        QMainWindow::keyPressEvent(event);
+    } else if (editors_.isNew()) {
+        editors_.takeAway();
+    } else {
+        editors_.close();
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window: the photo list on the left, the preview in the middle, the watermark list on the right,
-// one toolbar, and the menus. It owns the document, the controllers and the views, connects them, and decides
+// The main window: the photo list on the left, the preview in the middle, on the right the watermark list above the
+// inspector, one toolbar, and the menus. It owns the document, the controllers and the views, connects them, and decides
 // what can be done when. Main thread only.
 #pragma once
 
@@ -14,6 +14,7 @@
 #include "app/watermarks/watermark_document.h"
 #include "app/watermarks/watermark_editors.h"
 #include "app/window/dialog_set.h"
+#include "app/window/inspector.h"
 #include "app/window/main_view.h"
 #include "app/window/processing_bar.h"
 #include "app/window/stack_keeper.h"
@@ -48,6 +49,7 @@ class MainWindow : public QMainWindow {
     PhotoListView& photoList() { return *photoList_; }
     PhotoFilterBox& photoFilter() { return *photoFilter_; }
     QListView& watermarkList() { return watermarkPanel_->list(); }
+    Inspector& inspector() { return *inspector_; }
     MainView& mainView() { return *mainView_; }
     WindowActions& actions() { return *actions_; }
     ProcessingBar& processing() { return *processing_; }
@@ -68,6 +70,7 @@ class MainWindow : public QMainWindow {
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
@@ -92,8 +95,10 @@ class MainWindow : public QMainWindow {
     PhotoListView* photoList_;
     PhotoFilterBox* photoFilter_;
     WatermarkPanel* watermarkPanel_;
+    Inspector* inspector_;
     ProcessingBar* processing_;
     QSplitter* columns_;
+    QSplitter* stackColumn_;
     QStackedWidget* middle_;
     QPushButton* start_;
     QLabel* photoCount_;

@@ -14,7 +14,7 @@
 
 namespace zelto {
 
-QWidget* makeHeading(const QString& text, QWidget* parent) {
+QLabel* makeHeading(const QString& text, QWidget* parent) {
     auto* heading = new QLabel(text, parent);
     QFont bold = heading->font();
     bold.setBold(true);

@@ -5,6 +5,8 @@
 #include <QListView>
 #include <QWidget>
 
+class QLabel;
+
 namespace zelto {
 
 class WatermarkController;
@@ -25,6 +27,6 @@ class WatermarkPanel : public QWidget {
 };
 
 // The line above a list, telling what it holds.
-QWidget* makeHeading(const QString& text, QWidget* parent);
+QLabel* makeHeading(const QString& text, QWidget* parent);
 
 }  // namespace zelto

@@ -104,6 +104,7 @@ class BoundControls : public ::testing::Test {
         for (QWidget* part : std::initializer_list<QWidget*>{rotation, transparency, position}) {
             column->addWidget(part);
         }
+        column->addWidget(position->makeTiling());
         rotation->setObjectName(u"Rotation"_s);
         transparency->field().setObjectName(u"Percent"_s);
         binder.bind(rotation, &Watermark::Rotation);
@@ -120,7 +121,7 @@ class BoundControls : public ::testing::Test {
     QWidget editor;
     RotationControl* rotation = new RotationControl(&editor);
     TransparencySlider* transparency = new TransparencySlider(&editor);
-    PositionGroup* position = new PositionGroup(binder, PositionGroup::Tiling::Offered, &editor);
+    PositionGroup* position = new PositionGroup(binder, &editor);
 };
 
 TEST_F(BoundControls, EachChangesItsFieldsAndNoOthers) {

@@ -107,7 +107,7 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
 }
 
 TEST_F(EffectsEditorTest, ThePhotoFollowsAndTheBorderCanBeTakenAway) {
-    edit(Act::AddEffects, [this](QDialog& editor) {
+    edit(Act::AddEffects, [this](QWidget& editor) {
         click(editor, "SameBorder");
         type(editor, "TopThickness", u"30"_s);
         pickColor(editor, "BorderColor", Qt::red);
@@ -120,9 +120,9 @@ TEST_F(EffectsEditorTest, ThePhotoFollowsAndTheBorderCanBeTakenAway) {
         click(editor, "IsOn");
         EXPECT_EQ(effects()->LeftThickness, 30);
     });
-    edit(Act::AddEffects, [this](QDialog& editor) {
+    edit(Act::AddEffects, [this](QWidget& editor) {
         click(editor, "IsOn");
-        click(editor, "Revert");
+        click(window.inspector(), "Revert");
         EXPECT_EQ(effects()->LeftThickness, 30);
     });
 }

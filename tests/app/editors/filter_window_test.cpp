@@ -29,24 +29,23 @@ class FilterWindowTest : public EditorTest {
 };
 
 TEST_F(FilterWindowTest, AFilterIsSeenAtOnceAndUndoneByAnother) {
-    edit(
-        Act::AddFilter,
-        [this](QDialog& editor) {
-            clickTile(editor, QStringLiteral("Matrix"));
-            EXPECT_EQ(chosen(), 6);
-            EXPECT_EQ(seen().pixel(300, 200), filtered(6));
-            QTest::keyClick(&tiles(editor), Qt::Key_Right);
-            EXPECT_EQ(chosen(), 7);
-            EXPECT_EQ(seen().pixel(300, 200), filtered(7));
-            clickTile(editor, QStringLiteral("None"));
-            EXPECT_EQ(seen().pixel(300, 200), PhotoColor);
-            EXPECT_EQ(window.watermarks().model().rowCount(), 0);
-            clickTile(editor, QStringLiteral("Haze"));
-        },
-        Qt::Key_Return);
+    add(Watermark(watermark_type::Shape));
+    edit(Act::AddFilter, [this](QWidget& editor) {
+        clickTile(editor, QStringLiteral("Matrix"));
+        EXPECT_EQ(chosen(), 6);
+        EXPECT_EQ(window.watermarks().selectedRow(), 0) << "its row is the selected one";
+        EXPECT_EQ(seen().pixel(300, 200), filtered(6));
+        QTest::keyClick(&tiles(editor), Qt::Key_Right);
+        EXPECT_EQ(chosen(), 7);
+        EXPECT_EQ(seen().pixel(300, 200), filtered(7));
+        clickTile(editor, QStringLiteral("None"));
+        EXPECT_EQ(seen().pixel(300, 200), PhotoColor);
+        EXPECT_EQ(window.watermarks().selectedRow(), -1) << "no other row takes its place";
+        clickTile(editor, QStringLiteral("Haze"));
+    });
     EXPECT_EQ(chosen(), 13);
     edit(Act::AddFilter,
-         [](QDialog& editor) { EXPECT_EQ(tiles(editor).currentItem()->text(), QStringLiteral("Haze")); });
+         [](QWidget& editor) { EXPECT_EQ(tiles(editor).currentItem()->text(), QStringLiteral("Haze")); });
     EXPECT_EQ(history().undoText(), QStringLiteral("Choose Filter"));
     history().undo();
     EXPECT_EQ(chosen(), 0);
@@ -54,7 +53,7 @@ TEST_F(FilterWindowTest, AFilterIsSeenAtOnceAndUndoneByAnother) {
 }
 
 TEST_F(FilterWindowTest, EveryFilterIsOfferedWithThePhotoInIt) {
-    edit(Act::AddFilter, [](QDialog& editor) {
+    edit(Act::AddFilter, [](QWidget& editor) {
         const QListWidget& list = tiles(editor);
         const auto middle = [&list](int row) {
             const QImage picture = list.item(row)->icon().pixmap(list.iconSize()).toImage();

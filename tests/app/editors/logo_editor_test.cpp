@@ -36,7 +36,7 @@ TEST_F(LogoEditorTest, AFileThatIsNoPictureIsRefusedAndChangesNothing) {
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     file.write("no picture");
     file.close();
-    editRecord(0, [&](QDialog& editor) {
+    editRecord(0, [&](QWidget& editor) {
         AnsweredMessages messages;
         const auto chosen = chooseNext(bad);
         click(editor, "SelectImage");
@@ -55,7 +55,7 @@ TEST_F(LogoEditorTest, AClickOnTheLogoTakesThatVeryColourOut) {
     logo.Position = 1;
     add(logo);
     EXPECT_EQ(seen().pixelColor(10, 10), QColor(201, 30, 40));
-    editRecord(0, [&](QDialog& editor) {
+    editRecord(0, [&](QWidget& editor) {
         auto& sample = *editor.findChild<LogoSample*>();
         ASSERT_TRUE(QTest::qWaitFor([&] { return !sample.picture().isNull(); }, 5000));
         const QRect place = sample.place();
@@ -76,7 +76,7 @@ TEST_F(LogoEditorTest, AClickOnTheLogoTakesThatVeryColourOut) {
 }
 
 TEST_F(LogoEditorTest, SizesAreTypedInEitherKind) {
-    addLogo(makeLogo(), [this](QDialog& editor) {
+    addLogo(makeLogo(), [this](QWidget& editor) {
         const auto& width = control<NumberField>(editor, "AbsWidth");
         const auto& height = control<NumberField>(editor, "AbsHeight");
         const auto usable = [&](const char* name) { return control(editor, name).isEnabled(); };

@@ -35,7 +35,8 @@ class MacroControllerTest : public ::testing::Test {
         EXPECT_TRUE(
             writeWholeFile(path, jpegBytes(drawnScene({60, 40}), {.orientation = 6, .exifDpi = 300})));
         EXPECT_TRUE(writeTags({u"-EXIF:FNumber=2.8"_s, u"-IPTC:DateCreated=2014:05:03"_s}, {path}));
-        macros = std::make_unique<MacroController>(path, 0, text);
+        macros = std::make_unique<MacroController>(text);
+        macros->showFor({path, 0});
         text.setPlainText(u"ab"_s);
         text.moveCursor(QTextCursor::Right);
         macros->show();

@@ -49,39 +49,39 @@ TEST_F(ShapeEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
 }
 
 TEST_F(ShapeEditorTest, ThePhotoFollowsWhileTheEditorIsOpen) {
-    edit(Act::AddShape, [this](QDialog& editor) {
+    edit(Act::AddShape, [this](QWidget& editor) {
         press(editor, "Transparency", Qt::Key_Home);
         pickColor(editor, "SolidColor", Qt::red);
-        EXPECT_EQ(seen().pixelColor(100, 100), QColor(Qt::red));
-        EXPECT_EQ(seen().pixel(300, 100), PhotoColor);
-        type(editor, "Width", u"400"_s);
-        EXPECT_EQ(seen().pixelColor(300, 100), QColor(Qt::red));
+        EXPECT_EQ(seen().pixelColor(580, 380), QColor(Qt::red)) << "it starts in the corner";
+        EXPECT_EQ(seen().pixel(300, 380), PhotoColor);
+        type(editor, "Width", u"70"_s);
+        EXPECT_EQ(seen().pixelColor(300, 380), QColor(Qt::red));
         pickColor(editor, "SolidColor", Qt::yellow, Qt::Key_Escape);
-        EXPECT_EQ(seen().pixelColor(300, 100), QColor(Qt::red)) << "a cancelled colour";
+        EXPECT_EQ(seen().pixelColor(300, 380), QColor(Qt::red)) << "a cancelled colour";
     });
 }
 
-TEST_F(ShapeEditorTest, RevertTakesTheSessionBack) {
-    edit(Act::AddShape, [this](QDialog& editor) {
-        type(editor, "Width", u"90"_s);
-        click(editor, "Revert");
-        EXPECT_TRUE(records().empty());
-        EXPECT_FALSE(control(editor, "Revert").isEnabled());
-        EXPECT_TRUE(history().canRedo());
-    });
-    EXPECT_TRUE(records().empty());
-
-    edit(Act::AddShape, [](QDialog& editor) { type(editor, "Width", u"90"_s); });
+TEST_F(ShapeEditorTest, RevertTakesTheVisitBackAndNothingElse) {
+    edit(Act::AddShape, [](QWidget& editor) { type(editor, "Width", u"90"_s); });
     const Watermark before = record();
-    editRecord(0, [this, &before](QDialog& editor) {
-        EXPECT_FALSE(control(editor, "Revert").isEnabled());
+    editRecord(0, [this, &before](QWidget& editor) {
+        EXPECT_FALSE(control(window.inspector(), "Revert").isEnabled());
         type(editor, "Height", u"80"_s);
         click(editor, "Cell5");
-        click(editor, "Revert");
+        click(window.inspector(), "Revert");
         EXPECT_TRUE(record() == before);
+        EXPECT_FALSE(control(window.inspector(), "Revert").isEnabled());
+        type(editor, "Height", u"80"_s);
+        window.photos().AddImages({makeLogo()});
+        click(window.inspector(), "Revert");
+        EXPECT_TRUE(record() == before);
+        EXPECT_EQ(window.photos().count(), 2) << "what was done elsewhere meanwhile";
+        history().undo();
+        history().undo();
+        history().undo();
         type(editor, "Height", u"70"_s);
     });
-    EXPECT_EQ(record().Height, 70.0F);
+    EXPECT_EQ(record().ResizeHeight, 0.7F);
     history().undo();
     EXPECT_TRUE(record() == before);
 }
@@ -99,10 +99,10 @@ TEST_F(ShapeEditorTest, LookingAtARecordChangesNothing) {
     odd.GradeintType = 9;
     add(odd);
     const int steps = history().count();
-    const Drive lookAround = [](QDialog&) {
-        for (int i = 0; i < 40; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const Drive lookAround = [this](QWidget&) {
+        for (int i = 0; i < 40; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     };
-    editRecord(0, lookAround, Qt::Key_Return);
+    editRecord(0, lookAround);
     EXPECT_TRUE(record() == odd);
     EXPECT_EQ(history().count(), steps);
 }

@@ -5,7 +5,6 @@
 
 #include <QFontDatabase>
 #include <QInputMethodEvent>
-#include <QTabWidget>
 
 namespace zelto {
 namespace {
@@ -36,53 +35,51 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
     const auto fixed = set(&W::IsRelative, false);
     const QStringList families = QFontDatabase::families();
     const QString nextFamily = families.value(families.indexOf(sampleText().FontFamily) + 1);
-    checkControls(
-        sampleText(),
-        {
-            {"lines",
-             [](QWidget& e) {
-                 type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return);
-                 QTest::keyClicks(&control(e, "Text"), u"b"_s);
-             },
-             set(&W::Text, u"a\nb"_s)},
-            {"font",
-             [](QWidget& e) {
-                 type(e, "searchFonts", u"sans mono"_s), press(e, "searchFonts", Qt::Key_Return);
-             },
-             set(&W::FontFamily, u"DejaVu Sans Mono"_s)},
-            {"shadow in the well's colour", [](QWidget& e) { click(e, "Shadow"); },
-             [](W& w) { w.Shadow = true, w.ShadowColor = Color::black(); },
-             [](W& w) { w.ShadowColor.reset(); }},
-            {"tiling",
-             [](QWidget& e) { e.findChild<QTabWidget*>()->setCurrentIndex(2), click(e, "HorizontalTiling"); },
-             [](W& w) { w.HorizontalTiling = true, w.Position = 2; }},
-            pressed("searchFonts", Qt::Key_Down, &W::FontFamily, nextFamily),
-            typed("FontSize", u"12"_s, &W::FontSize, 12),
-            typed("FontSize", u"3100"_s, &W::FontSize, 3100, fixed),
-            pressed("UsualSizes", Qt::Key_Home, &W::FontSize, 12, fixed),
-            pressed("FontRelativeSize", Qt::Key_End, &W::FontRelativeSize, u"Longer Side"_s),
-            pressed("FontSizeType", Qt::Key_Down, &W::IsRelative, false),
-            pressed("FontSizeType", Qt::Key_Up, &W::IsRelative, true, fixed),
-            clicked("FontBold", &W::FontBold),
-            clicked("FontItalic", &W::FontItalic),
-            clicked("FontUnderline", &W::FontUnderline),
-            clicked("FontStrikethrough", &W::FontStrikethrough),
-            clicked("align-center", &W::Alignment, 2),
-            clicked("align-right", &W::Alignment, 1),
-            clicked("Shadow", &W::Shadow),
-            pressed("TextEffect", Qt::Key_Down, &W::TextEffect, 3),
-            pressed("TextEffect", Qt::Key_Up, &W::TextEffect, 0, embossed),
-            clicked("IsTextTransparent", &W::UseTransparentColor, true, embossed),
-            pressed("Transparency", Qt::Key_PageUp, &W::Transparency, 0.4F),
-        });
+    checkControls(sampleText(),
+                  {
+                      {"lines",
+                       [](QWidget& e) {
+                           type(e, "Text", u"a"_s), press(e, "Text", Qt::Key_Return);
+                           QTest::keyClicks(&control(e, "Text"), u"b"_s);
+                       },
+                       set(&W::Text, u"a\nb"_s)},
+                      {"font",
+                       [](QWidget& e) {
+                           type(e, "searchFonts", u"sans mono"_s), press(e, "searchFonts", Qt::Key_Return);
+                       },
+                       set(&W::FontFamily, u"DejaVu Sans Mono"_s)},
+                      {"shadow in the well's colour", [](QWidget& e) { click(e, "Shadow"); },
+                       [](W& w) { w.Shadow = true, w.ShadowColor = Color::black(); },
+                       [](W& w) { w.ShadowColor.reset(); }},
+                      {"tiling", [](QWidget& e) { click(e, "HorizontalTiling"); },
+                       [](W& w) { w.HorizontalTiling = true, w.Position = 2; }},
+                      pressed("searchFonts", Qt::Key_Down, &W::FontFamily, nextFamily),
+                      typed("FontSize", u"12"_s, &W::FontSize, 12),
+                      typed("FontSize", u"3100"_s, &W::FontSize, 3100, fixed),
+                      pressed("UsualSizes", Qt::Key_Home, &W::FontSize, 12, fixed),
+                      pressed("FontRelativeSize", Qt::Key_End, &W::FontRelativeSize, u"Longer Side"_s),
+                      pressed("FontSizeType", Qt::Key_Down, &W::IsRelative, false),
+                      pressed("FontSizeType", Qt::Key_Up, &W::IsRelative, true, fixed),
+                      clicked("FontBold", &W::FontBold),
+                      clicked("FontItalic", &W::FontItalic),
+                      clicked("FontUnderline", &W::FontUnderline),
+                      clicked("FontStrikethrough", &W::FontStrikethrough),
+                      clicked("align-center", &W::Alignment, 2),
+                      clicked("align-right", &W::Alignment, 1),
+                      clicked("Shadow", &W::Shadow),
+                      pressed("TextEffect", Qt::Key_Down, &W::TextEffect, 3),
+                      pressed("TextEffect", Qt::Key_Up, &W::TextEffect, 0, embossed),
+                      clicked("IsTextTransparent", &W::UseTransparentColor, true, embossed),
+                      pressed("Transparency", Qt::Key_PageUp, &W::Transparency, 0.4F),
+                  });
 }
 
 TEST_F(TextEditorTest, ANewTextLooksLikeTheLastOne) {
-    const auto write = [](QDialog& editor) { type(editor, "Text", u"a"_s); };
+    const auto write = [](QWidget& editor) { type(editor, "Text", u"a"_s); };
     edit(Act::AddText, write);
     EXPECT_EQ(record(0).FontSize, 5);
     EXPECT_EQ(record(0).TextColor, Color::white());
-    editRecord(0, [](QDialog& editor) {
+    editRecord(0, [](QWidget& editor) {
         click(editor, "FontBold");
         choose(editor, "FontSizeType", 1);
         type(editor, "FontSize", u"64"_s);
@@ -91,18 +88,23 @@ TEST_F(TextEditorTest, ANewTextLooksLikeTheLastOne) {
         press(editor, "searchFonts", Qt::Key_Return);
     });
     add(sampleText());
-    editRecord(1, [](QDialog&) {});  // looked at, not used
+    editRecord(1, [](QWidget&) {});  // looked at, not used
     edit(Act::AddText, write);
     Watermark expected = record(0);
     expected.FontBold = false;
+    // Each stands where it can be seen, in another corner.
+    EXPECT_EQ(record(0).Position, 9);
+    EXPECT_EQ(record(2).Position, 3);
+    for (auto field : {&Watermark::PaddingTop, &Watermark::PaddingBottom}) expected.*field = record(2).*field;
+    expected.Position = 3;
     EXPECT_EQ(record(2), expected);
 }
 
 TEST_F(TextEditorTest, FastTypingLosesNothing) {
     QString typed;
     for (int i = 0; i < 40; ++i) typed += u"quick %1, "_s.arg(i);
-    edit(Act::AddText, [&](QDialog& editor) {
-        EXPECT_EQ(records().size(), 0U) << "a new text is in the list once it says something";
+    edit(Act::AddText, [&](QWidget& editor) {
+        EXPECT_EQ(record().Text, u"Your text"_s) << "which is typed over";
         QTest::keyClicks(&control(editor, "Text"), typed);
         EXPECT_EQ(records().size(), 1U);
         EXPECT_EQ(record().Text, typed);
@@ -117,22 +119,22 @@ TEST_F(TextEditorTest, FastTypingLosesNothing) {
 
 TEST_F(TextEditorTest, KeepsEveryKindOfCharacter) {
     const QString text = u"\u00A9 a\u00A0b \U0001F600 \u0634\u0627\u0637\u0626 <<IMGNAME>>#"_s;
-    edit(Act::AddText, [&](QDialog& editor) {
+    edit(Act::AddText, [&](QWidget& editor) {
         QInputMethodEvent event;
         event.setCommitString(text);
         QApplication::sendEvent(&control(editor, "Text"), &event);
     });
     ASSERT_EQ(records().size(), 1U);
     EXPECT_EQ(record().Text, text);
-    editRecord(0, [&](QDialog&) { EXPECT_EQ(record().Text, text); });
+    editRecord(0, [&](QWidget&) { EXPECT_EQ(record().Text, text); });
     EXPECT_EQ(record().Text, text) << "opening the editor again rewrites nothing";
 }
 
-TEST_F(TextEditorTest, AnEmptiedTextKeepsItsPlaceUntilTheEditorCloses) {
-    const auto empty = [](QDialog& editor) { type(editor, "Text", {}); };
+TEST_F(TextEditorTest, AnEmptiedTextKeepsItsPlaceUntilItIsLeft) {
+    const auto empty = [](QWidget& editor) { type(editor, "Text", {}); };
     add(sampleText());
     add(sampleText(u"Other"_s));
-    editRecord(0, [&](QDialog& editor) {
+    editRecord(0, [&](QWidget& editor) {
         empty(editor);
         QTest::keyClicks(&control(editor, "Text"), u"New"_s);
     });
@@ -153,7 +155,7 @@ TEST_F(TextEditorTest, ControlsThatDoNothingCannotBeUsed) {
         text.TextEffect = row.isEmbossed ? 3 : 0;
         text.Shadow = row.hasShadow;
         add(text);
-        editRecord(0, [&](QDialog& editor) {
+        editRecord(0, [&](QWidget& editor) {
             EXPECT_EQ(control(editor, "Shadow").isEnabled(), row.shadow);
             EXPECT_EQ(control(editor, "ShadowColor").isEnabled(), row.shadowColor);
             EXPECT_EQ(control(editor, "IsTextTransparent").isEnabled(), row.hollow);
@@ -166,7 +168,7 @@ TEST_F(TextEditorTest, AFontThatIsNotInstalledIsNamedAndKept) {
     Watermark text = sampleText();
     text.FontFamily = u"Nobody Has This"_s;
     add(text);
-    editRecord(0, [&](QDialog& editor) {
+    editRecord(0, [&](QWidget& editor) {
         EXPECT_TRUE(says(editor, u"“Nobody Has This”"_s));
         type(editor, "searchFonts", u"serif"_s);
         EXPECT_EQ(record().FontFamily, text.FontFamily) << "looking for a font chooses none";
@@ -176,25 +178,22 @@ TEST_F(TextEditorTest, AFontThatIsNotInstalledIsNamedAndKept) {
 
 TEST_F(TextEditorTest, TabFollowsTheEye) {
     add(sampleText());
-    editRecord(0, [&](QDialog& editor) {
-        for (int page = 0; page < 3; ++page) {
-            editor.findChild<QTabWidget*>()->setCurrentIndex(page);
-            auto& first = control(editor, "Text");
-            first.setFocus();
-            QPoint last;
-            int steps = 0;
-            do {
-                const QPoint place = editor.focusWidget()->mapTo(&editor, QPoint());
-                // Rows of controls of different heights are a little out of line.
-                constexpr int OneRow = 40;
-                EXPECT_TRUE(place.y() > last.y() - OneRow)
-                    << "page " << page << ": " << qPrintable(editor.focusWidget()->objectName());
-                last = place;
-                QTest::keyClick(editor.focusWidget(), Qt::Key_Tab);
-            } while (editor.focusWidget() != &first && ++steps < 60);
-            EXPECT_LT(steps, 60);
-            EXPECT_GT(steps, 5);
-        }
+    editRecord(0, [&](QWidget& editor) {
+        QWidget& page = *window.inspector().page();
+        auto& first = control(editor, "Text");
+        QPoint last;
+        int steps = 0;
+        first.setFocus();
+        do {
+            const QPoint place = window.focusWidget()->mapTo(&page, QPoint());
+            // Rows of controls of different heights are a little out of line.
+            constexpr int OneRow = 40;
+            EXPECT_TRUE(place.y() > last.y() - OneRow) << qPrintable(window.focusWidget()->objectName());
+            last = place;
+            QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        } while (page.isAncestorOf(window.focusWidget()) && ++steps < 80);
+        EXPECT_LT(steps, 80);
+        EXPECT_GT(steps, 25);
     });
 }
 

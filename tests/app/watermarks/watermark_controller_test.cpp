@@ -26,12 +26,14 @@ class WatermarkControllerTest : public ::testing::Test {
         EditorSet editors;
         for (const EditorKind kind : {EditorKind::Image, EditorKind::Text, EditorKind::Shape,
                                       EditorKind::QrCode, EditorKind::Filter, EditorKind::Copyright}) {
-            editors[kind] = [this, kind](const EditorCall& call) {
-                opened.emplace_back(kind, call.controller.CurrentWatermark());
-                if (edit) edit(call.controller);
-            };
+            editors[kind] = {{}, [kind](const EditorCall& call) {
+                                 if (kind == EditorKind::Text) call.put(text(QStringLiteral("new")));
+                             }};
         }
         opener = std::make_unique<WatermarkEditors>(watermarks, photos, std::move(editors), nullptr);
+        QObject::connect(opener.get(), &WatermarkEditors::opened, opener.get(), [this] {
+            opened.emplace_back(opener->subject()->kind, opener->subject()->watermark);
+        });
     }
 
     void add(const Watermark& watermark) {
@@ -66,7 +68,6 @@ class WatermarkControllerTest : public ::testing::Test {
     WatermarkController watermarks{document};
     std::unique_ptr<WatermarkEditors> opener;
     std::vector<std::pair<EditorKind, int>> opened;
-    std::function<void(WatermarkController&)> edit;
 };
 
 TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
@@ -210,32 +211,51 @@ TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {
     opener->OpenTextWatermarkSettings();
     EXPECT_FALSE(opener->canOpen(EditorKind::Effects));
     opener->OpenEffectsSettings();
-    EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Text, -1)));
+    EXPECT_THAT(opened, ElementsAre(std::pair(EditorKind::Text, 4)));
 }
 
-TEST_F(WatermarkControllerTest, TypingANewTextIsOneStepThatAddsIt) {
-    const QString step = QStringLiteral("Text");
-    edit = [&](WatermarkController& controller) {
-        for (const char* typed : {"", "H", "Hi"})
-            controller.ReflectWatermark(text(QLatin1String(typed)), step);
-    };
+TEST_F(WatermarkControllerTest, SomethingNewAndWhatIsDoneToItIsOneStepAndCanBeTakenAway) {
+    add(text(QStringLiteral("a")));
     opener->OpenTextWatermarkSettings();
-    EXPECT_EQ(rows(), QStringList(QStringLiteral("+Hi")));
-    EXPECT_EQ(history().count(), 1);
+    watermarks.UpdateWatermark(text(QStringLiteral("Hi")), visitStep());
+    EXPECT_TRUE(opener->isNew());
+    opener->takeAway();
+    EXPECT_EQ(rows(), QStringList(QStringLiteral("+a")));
+    history().redo();
+    EXPECT_EQ(rows(), QStringList({QStringLiteral("+a"), QStringLiteral("+Hi")}));
     EXPECT_EQ(history().undoText(), QStringLiteral("Add Text"));
 
-    edit = [&](WatermarkController& controller) {
-        controller.ReflectWatermark(text(QStringLiteral("Hi!")), step);
-    };
-    opener->WatermarkListDoubleClicked(0);
-    EXPECT_EQ(history().count(), 2) << "another opening of the editor is another step";
+    opener->WatermarkListDoubleClicked(1);
+    EXPECT_FALSE(opener->isNew());
+    watermarks.UpdateWatermark(text(QStringLiteral("Hi!")), visitStep());
+    EXPECT_EQ(history().count(), 3) << "another visit is another step";
     EXPECT_EQ(history().undoText(), QStringLiteral("Edit Text"));
+}
+
+TEST_F(WatermarkControllerTest, WhatIsEditedIsWhatIsSelected) {
+    const auto edited = [this] { return opener->subject() ? opener->subject()->watermark : -2; };
+    for (const char* each : {"a", "b", "c"}) add(text(QLatin1String(each)));
+    select(2);
+    EXPECT_EQ(edited(), 2);
+    watermarks.RemoveWatermark(0);
+    EXPECT_EQ(edited(), 1) << "the same watermark at another place";
+    EXPECT_EQ(watermarks.CurrentWatermark(), 1);
+    watermarks.AddFilter(3);
+    EXPECT_EQ(edited(), 1);
+    watermarks.RemoveSelectedWatermarks();
+    EXPECT_EQ(edited(), 0) << "its neighbour";
+    opener->OpenFilterWindow();
+    EXPECT_EQ(edited(), -1);
+    EXPECT_EQ(selected(), QStringLiteral("Filter - Earth"));
+    opener->close();
+    EXPECT_EQ(edited(), -2);
+    EXPECT_EQ(watermarks.selectedRow(), -1);
 }
 
 TEST_F(WatermarkControllerTest, AnEditedTextThatBecomesEmptyIsRemovedAndAnAbsentOneIsNot) {
     add(text(QStringLiteral("a")));
-    edit = [](WatermarkController& controller) { controller.ReflectWatermark(text(QLatin1String(""))); };
-    opener->WatermarkListDoubleClicked(0);
+    document.setCurrentWatermark(0);
+    watermarks.ReflectWatermark(text(QLatin1String("")));
     EXPECT_TRUE(rows().isEmpty());
     add(text(QString()));
     EXPECT_EQ(rows().size(), 1);

@@ -28,9 +28,7 @@ class MainWindowTest : public ::testing::Test {
     MainWindowTest() {
         EditorSet editors;
         for (const EditorKind kind : {EditorKind::Text, EditorKind::Shape}) {
-            editors[kind] = [this](const EditorCall& call) {
-                edited.push_back(call.controller.CurrentWatermark());
-            };
+            editors[kind] = {[](WatermarkController&) { return nullptr; }, [](const EditorCall&) {}};
         }
         window = std::make_unique<MainWindow>(shared, standardDialogs(), std::move(editors));
         window->resize(1200, 800);
@@ -83,7 +81,6 @@ class MainWindowTest : public ::testing::Test {
     QTemporaryDir folder;
     MyGlobalInstance shared;
     std::unique_ptr<MainWindow> window;
-    std::vector<int> edited;
 };
 
 TEST_F(MainWindowTest, WhatTheScreenShowsIsWhatWasComposed) {
@@ -178,7 +175,11 @@ TEST_F(MainWindowTest, ADoubleClickOnAWatermarkOpensItsEditor) {
     addWatermark(boxRecord(120, 80, 1));
     addWatermark(boxRecord(120, 80, 1));
     QListView& list = window->watermarkList();
+    std::vector<int> edited;
+    QObject::connect(&window->editors(), &WatermarkEditors::opened, window.get(),
+                     [&] { edited.push_back(window->editors().subject()->watermark); });
     clickRow(list, 1);
+    EXPECT_TRUE(edited.empty());
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, rowCentre(list, 1));
     EXPECT_THAT(edited, ::testing::ElementsAre(1));
 }

@@ -4,43 +4,34 @@
 #include "persistence/setting_file.h"
 
 #include <QListWidget>
-#include <QTabWidget>
 
 namespace zelto {
 namespace {
 
 class StackByHand : public EditorTest {
   protected:
-    // To the page of the position, where an editor has pages.
-    static void turnToPlace(QWidget& editor) {
-        auto* pages = editor.findChild<QTabWidget*>(QStringLiteral("Pages"));
-        if (pages != nullptr) pages->setCurrentIndex(pages->count() - 1);
-    }
-
     void compose() {
-        addLogo(makeLogo(), [](QDialog& editor) {
+        addLogo(makeLogo(), [](QWidget& editor) {
             click(editor, "CreateBW");
             click(editor, "IsTransparent");
             pickColor(editor, "TransparentColor", QColor(1, 2, 3));
             press(editor, "Transparency", Qt::Key_Home);
-            turnToPlace(editor);
             click(editor, "HorizontalTiling");
             type(editor, "HorizontalSpacing", QStringLiteral("12"));
             click(editor, "VerticalTiling");
             type(editor, "VerticalSpacing", QStringLiteral("9"));
         });
-        edit(Act::AddText, [](QDialog& editor) {
+        edit(Act::AddText, [](QWidget& editor) {
             type(editor, "Text", QStringLiteral("<<IMGNAME>> & more"));
             click(editor, "FontBold");
             click(editor, "FontStrikethrough");
             pickColor(editor, "TextColor", QColor(200, 10, 20, 128));
             click(editor, "Shadow");
-            turnToPlace(editor);
             type(editor, "Rotation", QStringLiteral("-30"));
             click(editor, "Cell8");
             type(editor, "PaddingBottom", QStringLiteral("17"));
         });
-        edit(Act::AddShape, [](QDialog& editor) {
+        edit(Act::AddShape, [](QWidget& editor) {
             click(editor, "Polygon");
             type(editor, "Sides", QStringLiteral("7"));
             choose(editor, "Width", 1);
@@ -50,27 +41,24 @@ class StackByHand : public EditorTest {
             click(editor, "CustomPosition");
             type(editor, "CustomPositionLeft", QStringLiteral("33"));
         });
-        edit(Act::AddQrCode, [](QDialog& editor) {
+        edit(Act::AddQrCode, [](QWidget& editor) {
             type(editor, "Text", QStringLiteral("https://example.com/<<AUTONUMBER>>"));
             choose(editor, "Size", 0);
             type(editor, "Size", QStringLiteral("120"));
             click(editor, "Cell3");
         });
-        edit(Act::AddFilter, [](QDialog& editor) { press(editor, "Filters", Qt::Key_End); });
-        edit(Act::AddEffects, [](QDialog& editor) {
+        edit(Act::AddFilter, [](QWidget& editor) { press(editor, "Filters", Qt::Key_End); });
+        edit(Act::AddEffects, [](QWidget& editor) {
             type(editor, "LeftThickness", QStringLiteral("21"));
             pickColor(editor, "BorderColor", QColor(12, 34, 56));
             click(editor, "ShadowTop");
             click(editor, "ShadowLeft");
             type(editor, "BlurRadius", QStringLiteral("6"));
         });
-        edit(
-            Act::AddCopyright,
-            [](QDialog& editor) {
-                type(editor, "CopyrightText", QStringLiteral("\u00a9 someone"));
-                choose(editor, "CopyrightTextStatus", 1);
-            },
-            Qt::Key_Return);
+        edit(Act::AddCopyright, [](QWidget& editor) {
+            type(editor, "CopyrightText", QStringLiteral("\u00a9 someone"));
+            choose(editor, "CopyrightTextStatus", 1);
+        });
     }
 
     const StackState& state() { return window.document().state(); }
@@ -100,9 +88,9 @@ TEST_F(StackByHand, IsKeptReadBackAndEditedAgainWithoutLoss) {
     for (int row = 0; row < rows; ++row) {
         window.watermarks().selection().setCurrentIndex(window.watermarks().model().index(row),
                                                         QItemSelectionModel::ClearAndSelect);
-        edit(Act::EditWatermark, [](QDialog&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); });
+        edit(Act::EditWatermark, [this](QWidget&) { QTest::keyClick(window.focusWidget(), Qt::Key_Tab); });
     }
-    edit(Act::AddEffects, [](QDialog&) {});
+    edit(Act::AddEffects, [](QWidget&) {});
     EXPECT_TRUE(state() == composed);
 
     struct Change {
@@ -116,10 +104,8 @@ TEST_F(StackByHand, IsKeptReadBackAndEditedAgainWithoutLoss) {
          {Change{2, "PaddingTop", &Watermark::PaddingTop, 5}, Change{3, "Rotation", &Watermark::Rotation, 45},
           Change{4, "Sides", &Watermark::Sides, 9}, Change{5, "PaddingRight", &Watermark::PaddingRight, 8}}) {
         window.watermarks().selectWatermark(change.row - 2);
-        edit(Act::EditWatermark, [&change](QDialog& editor) {
-            turnToPlace(editor);
-            type(editor, change.control, QString::number(change.value));
-        });
+        edit(Act::EditWatermark,
+             [&change](QWidget& editor) { type(editor, change.control, QString::number(change.value)); });
         expected.Stack.Watermarks[static_cast<std::size_t>(change.row - 2)].*change.field = change.value;
         EXPECT_TRUE(state() == expected) << change.control;
     }

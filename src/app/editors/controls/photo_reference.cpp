@@ -7,10 +7,10 @@
 
 namespace zelto {
 
-QSizeF photoReference(const EditorCall& call) {
-    const Result<QSize> photo = readPictureSize(call.photoPath);
+QSizeF photoReference(const WatermarkController& watermarks, const SelectedPhoto& selected) {
+    const Result<QSize> photo = readPictureSize(selected.path);
     if (!photo) return {};
-    const std::optional<PhotoEffects>& effects = call.controller.GetEffect();
+    const std::optional<PhotoEffects>& effects = watermarks.GetEffect();
     return effects && effects->ApplyWatermarkOnBorder ? framedSize(*photo, *effects) : *photo;
 }
 

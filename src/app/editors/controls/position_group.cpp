@@ -30,14 +30,12 @@ PositionType positionType(const Watermark& record) {
 
 }  // namespace
 
-PositionGroup::PositionGroup(RecordBinder<Watermark>& binder, Tiling tiling, QWidget* parent)
+PositionGroup::PositionGroup(RecordBinder<Watermark>& binder, QWidget* parent)
     : QWidget(parent), binder_(binder) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(makePosition());
     column->addWidget(makePadding());
-    if (tiling == Tiling::Offered) column->addWidget(makeTiling());
-    column->addStretch();
 }
 
 NumberField* PositionGroup::makeNumber(const char* name, const NumberKind& kind, const QString& label) {
@@ -48,18 +46,19 @@ NumberField* PositionGroup::makeNumber(const char* name, const NumberKind& kind,
 }
 
 QWidget* PositionGroup::makePosition() {
-    auto* box = new QGroupBox(tr("Position"), this);
-    auto* preset = new QRadioButton(tr("&Preset"), box);
+    auto* box = new QWidget(this);
+    auto* preset = new QRadioButton(tr("Preset"), box);
     preset->setObjectName(QStringLiteral("PresetPosition"));
     grid_ = new PositionGrid(box);
-    auto* custom = new QRadioButton(tr("C&ustom"), box);
+    auto* custom = new QRadioButton(tr("Custom"), box);
     custom->setObjectName(QStringLiteral("CustomPosition"));
-    NumberField* left = makeNumber("CustomPositionLeft", number_kind::Length, tr("From l&eft:"));
-    NumberField* top = makeNumber("CustomPositionTop", number_kind::Length, tr("From &top:"));
+    NumberField* left = makeNumber("CustomPositionLeft", number_kind::Length, tr("From left:"));
+    NumberField* top = makeNumber("CustomPositionTop", number_kind::Length, tr("From top:"));
     auto* types = new QButtonGroup(box);
     types->addButton(preset, Preset);
     types->addButton(custom, Custom);
     auto* layout = new QGridLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(preset, 0, 0);
     layout->addWidget(grid_, 1, 0, 3, 1);
     layout->addWidget(custom, 0, 1, 1, 2);
@@ -123,8 +122,9 @@ QWidget* PositionGroup::makePadding() {
 }
 
 QWidget* PositionGroup::makeTiling() {
-    auto* box = new QGroupBox(tr("Tiling"), this);
+    auto* box = new QWidget(this);
     auto* layout = new QGridLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
     struct Direction {
         const char* name;
         QString label;
@@ -135,9 +135,9 @@ QWidget* PositionGroup::makeTiling() {
         std::int64_t Watermark::*spacing;
     };
     const Direction directions[] = {
-        {"HorizontalTiling", tr("Repeat &across"), &Watermark::HorizontalTiling, setHorizontalTiling,
+        {"HorizontalTiling", tr("Repeat across"), &Watermark::HorizontalTiling, setHorizontalTiling,
          "HorizontalSpacing", tr("Horizontal spacing"), &Watermark::HorizontalSpacing},
-        {"VerticalTiling", tr("Repeat &down"), &Watermark::VerticalTiling, setVerticalTiling,
+        {"VerticalTiling", tr("Repeat down"), &Watermark::VerticalTiling, setVerticalTiling,
          "VerticalSpacing", tr("Vertical spacing"), &Watermark::VerticalSpacing},
     };
     int row = 0;

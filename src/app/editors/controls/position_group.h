@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Everything about where a watermark stands: a cell of the grid or a place of its own, the paddings, and for those kinds
-// that can be repeated the tiling with its spacing. Main thread only.
+// Everything about where a watermark stands: a cell of the grid or a place of its own, the paddings, and the tiling with
+// its spacing, which is a widget of its own. Main thread only.
 #pragma once
 
 #include "app/editors/controls/position_grid.h"
@@ -15,17 +15,16 @@ class PositionGroup : public QWidget {
     Q_OBJECT
 
   public:
-    enum class Tiling { Offered, None };
-
     // Its controls are bound to the record of `binder`.
-    PositionGroup(RecordBinder<Watermark>& binder, Tiling tiling, QWidget* parent = nullptr);
+    explicit PositionGroup(RecordBinder<Watermark>& binder, QWidget* parent = nullptr);
 
     PositionGrid& grid() { return *grid_; }
+    // The tiling with its spacing, for those kinds that can be repeated; whoever calls it puts it into a layout.
+    QWidget* makeTiling();
 
   private:
     QWidget* makePosition();
     QWidget* makePadding();
-    QWidget* makeTiling();
     NumberField* makeNumber(const char* name, const NumberKind& kind, const QString& label);
 
     RecordBinder<Watermark>& binder_;

@@ -12,11 +12,8 @@ enum Unit { Pixels, Share };
 
 }  // namespace
 
-SizeField::SizeField(const QString& shareTitle, double reference, QWidget* parent)
-    : QWidget(parent),
-      reference_(reference),
-      number_(new NumberField(number_kind::Size, this)),
-      unit_(new QComboBox(this)) {
+SizeField::SizeField(const QString& shareTitle, QWidget* parent)
+    : QWidget(parent), number_(new NumberField(number_kind::Size, this)), unit_(new QComboBox(this)) {
     unit_->addItem(tr("Pixels"));
     unit_->addItem(shareTitle);
     unit_->setAccessibleName(tr("Unit"));

@@ -20,8 +20,11 @@ class SizeField : public QWidget {
     Q_OBJECT
 
   public:
-    // `shareTitle` says what the share is of; `reference` is that length in pixels, 0 where it is not known.
-    SizeField(const QString& shareTitle, double reference, QWidget* parent = nullptr);
+    // `shareTitle` says what the share is of.
+    explicit SizeField(const QString& shareTitle, QWidget* parent = nullptr);
+
+    // What the share is of, in pixels; 0 where it is not known, as it is at first.
+    void setReference(double reference) { reference_ = reference; }
 
     // Shows a length without telling anyone.
     void load(const Length& length);
@@ -35,7 +38,7 @@ class SizeField : public QWidget {
   private:
     void changeUnit(bool toRelative);
 
-    const double reference_;
+    double reference_ = 0.0;
     NumberField* number_;
     QComboBox* unit_;
 };

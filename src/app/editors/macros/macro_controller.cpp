@@ -33,36 +33,51 @@ QString lineOf(const QString& value) {
 
 }  // namespace
 
-MacroController::MacroController(const QString& photoPath, qint64 photoRow, Insert insert, QWidget* parent)
+MacroController::MacroController(Insert insert, QWidget* parent)
     : QWidget(parent),
       insert_(std::move(insert)),
       rows_(new QStandardItemModel(0, 2, this)),
       found_(new QSortFilterProxyModel(this)),
       search_(new QLineEdit(this)),
       list_(new QTreeView(this)),
-      insertButton_(new QPushButton(tr("&Insert Macro"), this)) {
+      insertButton_(new QPushButton(tr("Insert Macro"), this)) {
     layOut();
     take({fixedMacros(), {}});
-    inBackground(
-        this,
-        [photoPath, photoRow] {
-            return macrosOfPhoto(photoPath, photoRow, QDateTime::currentDateTime(), userDateLocale());
-        },
-        [this](const PhotoMacros& macros) {
-            take(macros);
-            isComplete_ = true;
-        });
 }
 
-MacroController::MacroController(const QString& photoPath, qint64 photoRow, QPlainTextEdit& text,
-                                 QWidget* parent)
+MacroController::MacroController(QPlainTextEdit& text, QWidget* parent)
     : MacroController(
-          photoPath, photoRow,
           [&text](const QString& picked) {
               text.insertPlainText(picked);
               text.setFocus();
           },
           parent) {}
+
+void MacroController::showFor(const SelectedPhoto& photo) {
+    photo_ = photo;
+    if (isVisible()) read();
+}
+
+void MacroController::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    read();
+}
+
+void MacroController::read() {
+    if (read_ == photo_) return;
+    read_ = photo_;
+    isComplete_ = false;
+    inBackground(
+        this,
+        [photo = photo_] {
+            return macrosOfPhoto(photo.path, photo.row, QDateTime::currentDateTime(), userDateLocale());
+        },
+        [this, photo = photo_](const PhotoMacros& macros) {
+            if (read_ != photo) return;
+            take(macros);
+            isComplete_ = true;
+        });
+}
 
 void MacroController::layOut() {
     rows_->setHorizontalHeaderLabels({tr("Macro"), tr("On this photo")});
@@ -89,6 +104,7 @@ void MacroController::layOut() {
     list_->setAlternatingRowColors(true);
     list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list_->header()->setSectionsMovable(false);
+    list_->setFixedHeight(fontMetrics().height() * 9);
     list_->installEventFilter(this);
     connect(list_, &QTreeView::doubleClicked, this, &MacroController::MacrolistDoubleClicked);
     connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -97,7 +113,7 @@ void MacroController::layOut() {
     insertButton_->setObjectName(QStringLiteral("InsertMacro"));
     insertButton_->setAutoDefault(false);
     connect(insertButton_, &QPushButton::clicked, this, &MacroController::InsertMacro);
-    auto* characters = new QPushButton(tr("&Special Character…"), this);
+    auto* characters = new QPushButton(tr("Special Character…"), this);
     characters->setObjectName(QStringLiteral("SpecialCharacter"));
     characters->setAutoDefault(false);
     connect(characters, &QPushButton::clicked, this, &MacroController::OpenSpecialCharwindow);
@@ -107,8 +123,9 @@ void MacroController::layOut() {
     buttons->addWidget(characters);
     buttons->addStretch();
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(search_);
-    column->addWidget(list_, 1);
+    column->addWidget(list_);
     column->addLayout(buttons);
 }
 

@@ -4,12 +4,14 @@
 // format where it has one. Also the way to the special characters. Main thread only.
 #pragma once
 
+#include "app/watermarks/editor_page.h"
 #include "macros/photo_macros.h"
 
 #include <QString>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QLineEdit;
 class QModelIndex;
@@ -30,11 +32,12 @@ class MacroController : public QWidget {
     // Takes what was picked.
     using Insert = std::function<void(const QString& text)>;
 
-    // For the photo at `photoPath` (empty for none), at `photoRow` of the photo list.
-    MacroController(const QString& photoPath, qint64 photoRow, Insert insert, QWidget* parent = nullptr);
+    explicit MacroController(Insert insert, QWidget* parent = nullptr);
     // Inserts at the cursor of `text`, which outlives it.
-    MacroController(const QString& photoPath, qint64 photoRow, QPlainTextEdit& text,
-                    QWidget* parent = nullptr);
+    explicit MacroController(QPlainTextEdit& text, QWidget* parent = nullptr);
+
+    // The photo whose values are shown. They are found out once the list is seen.
+    void showFor(const SelectedPhoto& photo);
 
     // Does what choosing the selected row does.
     void InsertMacro();
@@ -46,9 +49,11 @@ class MacroController : public QWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     void layOut();
+    void read();
     void AddMacroItem(const Macro& macro, const QString& value);
     void take(const PhotoMacros& macros);
     void choose(const QModelIndex& row, MacroGesture gesture);
@@ -60,6 +65,8 @@ class MacroController : public QWidget {
     QLineEdit* search_;
     QTreeView* list_;
     QPushButton* insertButton_;
+    SelectedPhoto photo_;
+    std::optional<SelectedPhoto> read_;  // the photo that was asked for last
     bool isComplete_ = false;
 };
 

@@ -83,6 +83,8 @@ FontFamilyList::FontFamilyList(QWidget* parent)
 void FontFamilyList::load(const QString& family) {
     if (family == family_) return;
     family_ = family;
+    // What was looked for was another text's font.
+    search_->clear();
     showFamily();
 }
 

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/logo_editor.h"
 
-#include "app/editors/controls/editor_dialog.h"
+#include "app/editors/controls/photo_reference.h"
+#include "app/editors/controls/starting_place.h"
 #include "app/editors/text/logo_group.h"
 #include "app/editors/text/watermark_window_controller.h"
 
 #include <QCoreApplication>
-#include <QShowEvent>
-#include <QTimer>
-#include <QVBoxLayout>
 
 namespace zelto {
 namespace {
@@ -17,39 +15,33 @@ class LogoEditor : public WatermarkWindowController {
     Q_DECLARE_TR_FUNCTIONS(zelto::LogoEditor)
 
   public:
-    explicit LogoEditor(WatermarkSession& session);
-
-  protected:
-    void showEvent(QShowEvent* event) override;
-
-  private:
-    LogoGroup* logo_ = nullptr;
+    explicit LogoEditor(WatermarkController& controller);
 };
 
-LogoEditor::LogoEditor(WatermarkSession& session)
-    : WatermarkWindowController(QStringLiteral("ImageEditor"),
-                                session.isNew() ? tr("Add Image") : tr("Edit Image"), session) {
-    QTabWidget* pages = makePages();
-    logo_ = new LogoGroup(binder(), this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(pages);
-    pages->addTab(makeLookPage(logo_), tr("Image"));
-    pages->addTab(makePlacePage(), tr("Position"));
+LogoEditor::LogoEditor(WatermarkController& controller)
+    : WatermarkWindowController(QStringLiteral("ImageEditor"), tr("Image"), controller) {
+    FoldGroup& content = addGroup(QStringLiteral("Content"), tr("Content"));
+    auto* file = new LogoFileGroup(binder(), this);
+    content.setContent(file);
+    addLook([this, file](QWidget* parent) { return new LogoGroup(binder(), file->sample(), parent); });
+    addPlaceAndTiling();
+    setFocusProxy(file->focusProxy());
 }
 
-// A new logo starts with the choice of its file.
-void LogoEditor::showEvent(QShowEvent* event) {
-    WatermarkWindowController::showEvent(event);
-    if (event->spontaneous() || !session().isNew() || session().isInList()) return;
-    QTimer::singleShot(0, logo_, &LogoGroup::SelectImageWatermark);
+void addLogo(const EditorCall& call) {
+    chooseLogo(call.window, {}, [call](const Logo& logo) {
+        Watermark record = WatermarkController::startingWatermark(watermark_type::Image);
+        setLogo(record, logo.path, logo.bytes, logo.size);
+        startLogoSize(record, photoReference(call.controller, call.photo));
+        placeWhereSeen(record, call);
+        call.put(record);
+    });
 }
 
 }  // namespace
 
-void editLogo(const EditorCall& call) {
-    WatermarkSession session(call, watermark_type::Image, startLogo);
-    runEditor(call, session, new LogoEditor(session));
+Editor logoEditor() {
+    return {[](WatermarkController& controller) { return new LogoEditor(controller); }, addLogo};
 }
 
 }  // namespace zelto

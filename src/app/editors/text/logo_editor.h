@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The editor of logos: the picture, how it is treated, and where it stands. Main thread only.
+// The editor of logos: which picture, how it is treated and sized, and where it stands. A new one begins with the
+// choice of its file. Main thread only.
 #pragma once
 
 #include "app/watermarks/editor_set.h"
 
 namespace zelto {
 
-void editLogo(const EditorCall& call);
+Editor logoEditor();
 
 }  // namespace zelto

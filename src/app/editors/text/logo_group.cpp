@@ -16,9 +16,12 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace zelto {
 namespace {
@@ -27,17 +30,18 @@ constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
 constexpr double StartPercent = 25.0;
 constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
 
-struct LogoFile {
-    QByteArray bytes;
-    QSize size;
-};
-
-Result<LogoFile> readLogoFile(const QString& path) {
+Result<Logo> readLogo(const QString& path) {
     const Result<QSize> size = readPictureSize(path);
     if (!size) return tl::unexpected(size.error());
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) return fail(ErrorCode::NotFound, file.errorString(), path);
-    return LogoFile{file.readAll(), *size};
+    return Logo{path, file.readAll(), *size};
+}
+
+QString startFolder(const QString& current) {
+    const QFileInfo file(current);
+    if (file.exists()) return file.path();
+    return storedPreference(preference::LastLogoDirectory).value_or(QDir::homePath());
 }
 
 template <class Control>
@@ -48,63 +52,87 @@ Control* named(const char* name, Control* control) {
 
 }  // namespace
 
-void startLogo(Watermark& record) {
-    record.ImagePath = QLatin1String("");
+void chooseLogo(QWidget* window, const QString& current, std::function<void(const Logo&)> take) {
+    const QString path =
+        QFileDialog::getOpenFileName(window, LogoGroup::tr("Choose Image"), startFolder(current),
+                                     LogoGroup::tr("Images") + QLatin1Char(' ') + chooserPattern());
+    if (path.isEmpty()) return;
+    inBackground(
+        window, [path] { return readLogo(path); },
+        [window, path, take = std::move(take)](const Result<Logo>& logo) {
+            if (!logo) {
+                showAlert(window, LogoGroup::tr("This image cannot be used"),
+                          path + QLatin1Char('\n') + logo.error().message);
+                return;
+            }
+            setPreference(preference::LastLogoDirectory, QFileInfo(path).path());
+            take(*logo);
+        });
+}
+
+void startLogoSize(Watermark& logo, QSizeF photo) {
+    constexpr double Dot = 0.05;
+    constexpr double Large = 0.5;
+    const double share = std::max(static_cast<double>(logo.Width) / photo.width(),
+                                  static_cast<double>(logo.Height) / photo.height());
+    if (photo.isEmpty() || (share >= Dot && share <= Large)) return;
+    logo.Resize = true;
+    logo.ResizeFormat = logo_resize::Proportional;
+    logo.ImageProportionalResize = QString(photo_side::Width);
+    PropSizeDidChange(logo, StartPercent);
 }
 
 // Controls are made in the order the eye and the Tab key go through them.
-LogoGroup::LogoGroup(RecordBinder<Watermark>& binder, QWidget* parent)
-    : QWidget(parent), binder_(binder), sample_(new LogoSample(this)) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(makePath());
-    column->addWidget(sample_, 1);
-    column->addWidget(makeColors());
-    column->addWidget(makeResize());
-    binder_.follow([this](const Watermark& record) { sample_->load(record); });
-}
-
-QWidget* LogoGroup::makePath() {
-    auto* widget = new QWidget(this);
-    path_ = named("ImagePath", new QLineEdit(widget));
+LogoFileGroup::LogoFileGroup(RecordBinder<Watermark>& binder, QWidget* parent)
+    : QWidget(parent), binder_(binder), path_(named("ImagePath", new QLineEdit(this))), sample_(nullptr) {
     path_->setReadOnly(true);
     path_->setPlaceholderText(tr("No image chosen"));
     path_->setAccessibleName(tr("Image"));
-    auto* choose = named("SelectImage", new QPushButton(tr("C&hoose…"), widget));
+    auto* choose = named("SelectImage", new QPushButton(tr("Choose…"), this));
     choose->setAutoDefault(false);
-    widget->setFocusProxy(choose);
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
+    setFocusProxy(choose);
+    sample_ = new LogoSample(this);
+    auto* row = new QHBoxLayout;
     row->addWidget(path_, 1);
     row->addWidget(choose);
-    connect(choose, &QPushButton::clicked, this, &LogoGroup::SelectImageWatermark);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(row);
+    column->addWidget(sample_);
+    connect(choose, &QPushButton::clicked, this, &LogoFileGroup::SelectImageWatermark);
     binder_.follow([this](const Watermark& record) {
+        sample_->load(record);
         const QString path = QDir::toNativeSeparators(record.ImagePath);
         if (path == path_->text()) return;
         path_->setText(path);
         path_->setToolTip(path);
     });
-    return widget;
 }
 
-QWidget* LogoGroup::makeColors() {
-    auto* widget = new QWidget(this);
-    auto* transparent = named("IsTransparent", new QCheckBox(tr("&Make a colour transparent:"), widget));
-    auto* color = named("TransparentColor", new ColorWell(tr("Transparent Colour"), widget));
-    auto* grayscale = named("CreateBW", new QCheckBox(tr("&Grayscale"), widget));
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(transparent);
-    row->addWidget(color);
-    row->addStretch();
-    row->addWidget(grayscale);
+LogoGroup::LogoGroup(RecordBinder<Watermark>& binder, LogoSample& sample, QWidget* parent)
+    : QWidget(parent), binder_(binder) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(makeColors(sample));
+    column->addWidget(makeResize());
+}
+
+QLayout* LogoGroup::makeColors(LogoSample& sample) {
+    auto* transparent = named("IsTransparent", new QCheckBox(tr("Make transparent:"), this));
+    auto* color = named("TransparentColor", new ColorWell(tr("Transparent Colour"), this));
+    auto* grayscale = named("CreateBW", new QCheckBox(tr("Grayscale"), this));
+    auto* grid = new QGridLayout;
+    grid->addWidget(transparent, 0, 0);
+    grid->addWidget(color, 0, 1, Qt::AlignLeft);
+    grid->addWidget(grayscale, 1, 0, 1, 2);
+    grid->setColumnStretch(1, 1);
     binder_.bind(transparent, &Watermark::IsTransparent);
     binder_.bind(color, &Watermark::TransparentColor);
-    binder_.onChosen(sample_,
+    binder_.onChosen(&sample,
                      [](Watermark& record, const Color& picked) { record.TransparentColor = picked; });
     binder_.bind(grayscale, &Watermark::CreateBW);
     binder_.follow([color](const Watermark& record) { color->setEnabled(record.IsTransparent); });
-    return widget;
+    return grid;
 }
 
 NumberField* LogoGroup::makeSize(const NumberKind& kind, const char* name, const QString& label) {
@@ -114,20 +142,20 @@ NumberField* LogoGroup::makeSize(const NumberKind& kind, const char* name, const
 }
 
 QWidget* LogoGroup::makeResize() {
-    auto* box = named("Resize", new QGroupBox(tr("&Resize"), this));
+    auto* box = named("Resize", new QGroupBox(tr("Resize"), this));
     box->setCheckable(true);
-    auto* proportional = named("Proportional", new QRadioButton(tr("&Proportional"), box));
+    auto* proportional = named("Proportional", new QRadioButton(tr("Proportional"), box));
     percent_ = makeSize(PercentOfSide, "PropSize", tr("Size in per cent"));
     percent_->load(StartPercent);
     auto* side = named("ImageProportionalResize", new QComboBox(box));
     side->setAccessibleName(tr("Side of the photo the size follows"));
     for (const QLatin1String title : Sides) side->addItem(title, QString(title));
-    auto* absolute = named("Absolute", new QRadioButton(tr("&Absolute"), box));
+    auto* absolute = named("Absolute", new QRadioButton(tr("Absolute"), box));
     width_ = makeSize(number_kind::Length, "AbsWidth", tr("Width"));
     width_->setPrefix(tr("W "));
     height_ = makeSize(number_kind::Length, "AbsHeight", tr("Height"));
     height_->setPrefix(tr("H "));
-    auto* keepAspect = named("PreserverAspectRatio", new QCheckBox(tr("&Keep aspect ratio"), box));
+    auto* keepAspect = named("PreserverAspectRatio", new QCheckBox(tr("Keep aspect ratio"), box));
     auto* types = new QButtonGroup(box);
     types->addButton(proportional, static_cast<int>(logo_resize::Proportional));
     types->addButton(absolute, static_cast<int>(logo_resize::Absolute));
@@ -188,32 +216,13 @@ void LogoGroup::showSizes(const Watermark& record) {
     height_->load(static_cast<double>(sizes.height));
 }
 
-QString LogoGroup::startFolder() const {
-    const QFileInfo current(path_->text());
-    if (current.exists()) return current.path();
-    return storedPreference(preference::LastLogoDirectory).value_or(QDir::homePath());
-}
-
-void LogoGroup::SelectImageWatermark() {
-    const QString path = QFileDialog::getOpenFileName(window(), tr("Choose Image"), startFolder(),
-                                                      tr("Images") + QLatin1Char(' ') + chooserPattern());
-    if (!path.isEmpty()) take(path);
-}
-
-void LogoGroup::take(const QString& path) {
-    asked_ = path;
-    inBackground(
-        this, [path] { return readLogoFile(path); },
-        [this, path](const Result<LogoFile>& logo) {
-            if (asked_ != path) return;
-            if (!logo) {
-                showAlert(window(), tr("This image cannot be used"),
-                          path + QLatin1Char('\n') + logo.error().message);
-                return;
-            }
-            setPreference(preference::LastLogoDirectory, QFileInfo(path).path());
-            binder_.edit([&](Watermark& record) { setLogo(record, path, logo->bytes, logo->size); });
-        });
+void LogoFileGroup::SelectImageWatermark() {
+    const QString before = path_->text();
+    chooseLogo(window(), before, [self = QPointer(this), before](const Logo& logo) {
+        // Another watermark may have come here while the file was read.
+        if (!self || self->path_->text() != before) return;
+        self->binder_.edit([&logo](Watermark& record) { setLogo(record, logo.path, logo.bytes, logo.size); });
+    });
 }
 
 }  // namespace zelto

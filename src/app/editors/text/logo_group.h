@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which picture a logo is and how it is treated: its file, the colour taken out of it, grey, and its size. Main thread
-// only; files are read in the background.
+// Which picture a logo is and how it is treated. Main thread only; files are read in the background.
 #pragma once
 
 #include "app/editors/controls/record_binder.h"
@@ -11,37 +10,59 @@
 
 namespace zelto {
 
-// What a new logo starts with.
-void startLogo(Watermark& record);
+// A file that was chosen as a logo.
+struct Logo {
+    QString path;
+    QByteArray bytes;
+    QSize size;  // in pixels
+};
 
-class LogoGroup : public QWidget {
+// Lets the user choose a file, beginning beside `current`, and hands it to `take` once it has been read; a file that is
+// no picture is told of instead.
+void chooseLogo(QWidget* window, const QString& current, std::function<void(const Logo&)> take);
+
+// Gives a new logo that would be a dot on a photo of `photo` pixels, or cover it, a quarter of the width; others keep
+// their size.
+void startLogoSize(Watermark& logo, QSizeF photo);
+
+// Which file a logo is, with its picture.
+class LogoFileGroup : public QWidget {
     Q_OBJECT
 
   public:
     // Its controls are bound to the record of `binder`.
-    explicit LogoGroup(RecordBinder<Watermark>& binder, QWidget* parent = nullptr);
+    explicit LogoFileGroup(RecordBinder<Watermark>& binder, QWidget* parent = nullptr);
 
-    // Lets the user choose a file, which becomes the record's once it has been read.
-    void SelectImageWatermark();
+    LogoSample& sample() { return *sample_; }
 
   private:
-    QWidget* makePath();
-    QWidget* makeColors();
+    void SelectImageWatermark();
+
+    RecordBinder<Watermark>& binder_;
+    QLineEdit* path_;
+    LogoSample* sample_;
+};
+
+// How a logo is treated: the colour taken out of it, grey, and its size.
+class LogoGroup : public QWidget {
+    Q_OBJECT
+
+  public:
+    // Its controls are bound to the record of `binder`; a click on `sample` chooses the colour.
+    LogoGroup(RecordBinder<Watermark>& binder, LogoSample& sample, QWidget* parent = nullptr);
+
+  private:
+    QLayout* makeColors(LogoSample& sample);
     QWidget* makeResize();
     NumberField* makeSize(const NumberKind& kind, const char* name, const QString& label);
     ResizeFields fields() const;
     void showSizes(const Watermark& record);
-    QString startFolder() const;
-    void take(const QString& path);
 
     RecordBinder<Watermark>& binder_;
-    QLineEdit* path_ = nullptr;
-    LogoSample* sample_;
     NumberField* percent_ = nullptr;
     NumberField* width_ = nullptr;
     NumberField* height_ = nullptr;
     QString sizedPath_;  // of the logo whose size the fields show
-    QString asked_;      // the file chosen last: one chosen before it comes too late
 };
 
 }  // namespace zelto

@@ -6,6 +6,6 @@
 
 namespace zelto {
 
-void editText(const EditorCall& call);
+Editor textEditor();
 
 }  // namespace zelto

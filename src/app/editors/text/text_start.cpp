@@ -4,6 +4,7 @@
 #include "persistence/color_text.h"
 #include "platform/preferences.h"
 
+#include <QCoreApplication>
 #include <QFontInfo>
 
 namespace zelto {
@@ -22,7 +23,7 @@ constexpr QLatin1String TextColor("Color");
 
 void startText(Watermark& record) {
     const QVariantMap last = storedPreference(preference::LastTextStyle).value_or(QVariantMap());
-    record.Text = QLatin1String("");
+    record.Text = QCoreApplication::translate("zelto::TextEditor", "Your text");
     record.FontFamily = last.value(Family, QFontInfo(QFont()).family()).toString();
     record.FontSize = last.value(Size, qint64{StartPercent}).toLongLong();
     record.IsRelative = last.value(IsRelative, true).toBool();

@@ -3,7 +3,7 @@
 
 #include "app/common/icons.h"
 #include "app/editors/controls/color_well.h"
-#include "app/editors/controls/editor_panel.h"
+#include "app/editors/controls/value_page.h"
 #include "app/editors/text/font_family_list.h"
 
 #include <QCheckBox>
@@ -85,11 +85,11 @@ TextStyleGroup::TextStyleGroup(RecordBinder<Watermark>& binder, QWidget* parent)
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    addRow(*form, tr("&Font:"), family);
-    addRow(*form, tr("Si&ze:"), makeSize());
+    addRow(*form, tr("Font:"), family);
+    addRow(*form, tr("Size:"), makeSize());
     addRow(*form, tr("Style:"), makeStyles());
-    addRow(*form, tr("&Colour:"), makeColors());
-    addRow(*form, tr("&Effect:"), makeEffect());
+    addRow(*form, tr("Colour:"), makeColors());
+    addRow(*form, tr("Effect:"), makeEffect());
 }
 
 // One number, which is per cent of a side of the photo or pixels; the kind of size changes what it means, not the number.
@@ -109,8 +109,12 @@ QWidget* TextStyleGroup::makeSize() {
     usual->setPlaceholderText(tr("Custom"));
     for (const int pixels : UsualSizes) usual->addItem(QString::number(pixels), pixels);
     widget->setFocusProxy(kind);
-    QHBoxLayout* row = rowOf(widget);
-    for (QWidget* part : std::initializer_list<QWidget*>{kind, size, side, usual}) row->addWidget(part);
+    auto* rows = new QGridLayout(widget);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addWidget(kind, 0, 0);
+    rows->addWidget(size, 0, 1);
+    rows->addWidget(side, 1, 0, 1, 2);
+    rows->addWidget(usual, 1, 0, 1, 2);
 
     binder_.bind(kind, &Watermark::IsRelative);
     binder_.follow(
@@ -163,7 +167,7 @@ QWidget* TextStyleGroup::makeStyles() {
 QWidget* TextStyleGroup::makeColors() {
     auto* widget = new QWidget(this);
     auto* color = named("TextColor", new ColorWell(tr("Text Colour"), widget));
-    auto* shadow = named("Shadow", new QCheckBox(tr("Sha&dow"), widget));
+    auto* shadow = named("Shadow", new QCheckBox(tr("Shadow"), widget));
     auto* shadowColor = named("ShadowColor", new ColorWell(tr("Shadow Colour"), widget));
     widget->setFocusProxy(color);
     QHBoxLayout* row = rowOf(widget);
@@ -202,7 +206,7 @@ QWidget* TextStyleGroup::makeEffect() {
     auto* effect = named("TextEffect", new QComboBox(widget));
     effect->addItem(tr("None"), text_effect::None);
     effect->addItem(tr("Emboss"), text_effect::Emboss);
-    auto* transparent = named("IsTextTransparent", new QCheckBox(tr("Transparent &letters"), widget));
+    auto* transparent = named("IsTextTransparent", new QCheckBox(tr("Transparent letters"), widget));
     transparent->setToolTip(tr("Only the light and dark edges of embossed letters are drawn"));
     widget->setFocusProxy(effect);
     QHBoxLayout* row = rowOf(widget);

@@ -5,41 +5,37 @@
 #include "app/editors/controls/rotation_control.h"
 #include "app/editors/controls/transparency_slider.h"
 
-#include <QGroupBox>
-#include <QVBoxLayout>
-
 namespace zelto {
 
-QTabWidget* WatermarkWindowController::makePages() {
-    auto* pages = new QTabWidget(this);
-    pages->setObjectName(QStringLiteral("Pages"));
-    return pages;
-}
-
-QWidget* WatermarkWindowController::makeLookPage(QWidget* look) {
-    auto* page = new QWidget(this);
-    auto* column = new QVBoxLayout(page);
-    column->addWidget(look, 1);
-    auto* transparency = new TransparencySlider(page);
+void WatermarkWindowController::addLook(const std::function<QWidget*(QWidget* parent)>& makeLook) {
+    FoldGroup& group = addGroup(QStringLiteral("Look"), tr("Look"));
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(makeLook(content));
+    auto* transparency = new TransparencySlider(content);
     transparency->setObjectName(QStringLiteral("Transparency"));
     binder().bind(transparency, &Watermark::Transparency);
     auto* form = new QFormLayout;
-    addRow(*form, tr("Transparenc&y:"), transparency);
+    addRow(*form, tr("Transparency:"), transparency);
     column->addLayout(form);
-    return page;
+    group.setContent(content);
 }
 
-QWidget* WatermarkWindowController::makePlacePage() {
-    auto* page = new QWidget(this);
-    auto* turn = new QGroupBox(tr("Rotation"), page);
-    auto* rotation = new RotationControl(turn);
+void WatermarkWindowController::addPlaceAndTiling() {
+    FoldGroup& group = addGroup(QStringLiteral("Place"), tr("Place"));
+    auto* place = new QWidget(this);
+    auto* position = new PositionGroup(binder(), place);
+    auto* rotation = new RotationControl(place);
     rotation->setObjectName(QStringLiteral("Rotation"));
     binder().bind(rotation, &Watermark::Rotation);
-    (new QVBoxLayout(turn))->addWidget(rotation);
-    auto* column = new QVBoxLayout(page);
-    column->addWidget(turn);
-    column->addWidget(new PositionGroup(binder(), PositionGroup::Tiling::Offered, page), 1);
-    return page;
+    auto* column = new QVBoxLayout(place);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(position);
+    column->addWidget(rotation);
+    group.setContent(place);
+    FoldGroup& tiling = addGroup(QStringLiteral("Tiling"), tr("Tiling"));
+    tiling.setContent(position->makeTiling());
 }
 
 }  // namespace zelto

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The editor of texts and of logos: a page for how the watermark looks and a page for where it stands, of either kind,
-// and what only one of the two kinds has. Main thread only.
+// The page of a text or of a logo: what both kinds have, which is their transparency, rotation, place and tiling. Main
+// thread only.
 #pragma once
 
-#include "app/editors/controls/editor_panel.h"
+#include "app/editors/controls/watermark_page.h"
 
-#include <QTabWidget>
+#include <functional>
 
 namespace zelto {
 
-class WatermarkWindowController : public RecordPanel {
+class WatermarkWindowController : public WatermarkPage {
     Q_OBJECT
 
   protected:
-    using RecordPanel::RecordPanel;
+    using WatermarkPage::WatermarkPage;
 
-    QTabWidget* makePages();
-    // The page of `look`, with the transparency below it.
-    QWidget* makeLookPage(QWidget* look);
-    // Rotation, position and tiling.
-    QWidget* makePlacePage();
+    // The group of what `makeLook` makes, with the transparency below it.
+    void addLook(const std::function<QWidget*(QWidget* parent)>& makeLook);
+    // Rotation and position, and the tiling.
+    void addPlaceAndTiling();
 };
 
 }  // namespace zelto

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/editors/controls/fold_group.h"
+
+#include "platform/preferences.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace zelto {
+
+FoldGroup::FoldGroup(const QString& name, const QString& title, AtFirst atFirst, QWidget* parent)
+    : QWidget(parent), name_(name), atFirst_(atFirst), title_(new QToolButton(this)) {
+    setObjectName(name + QLatin1String("Group"));
+    title_->setObjectName(name + QLatin1String("Title"));
+    title_->setText(title);
+    title_->setCheckable(true);
+    title_->setAutoRaise(true);
+    title_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    title_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    title_->setFocusPolicy(Qt::StrongFocus);
+    QFont bold = title_->font();
+    bold.setBold(true);
+    title_->setFont(bold);
+    title_->installEventFilter(this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(title_);
+    connect(title_, &QToolButton::clicked, this, [this](bool open) { setFolded(!open); });
+    show(atFirst_ == AtFirst::Folded);
+}
+
+void FoldGroup::setContent(QWidget* content) {
+    content_ = new QWidget(this);
+    auto* inset = new QVBoxLayout(content_);
+    inset->setContentsMargins(8, 4, 8, 10);
+    inset->addWidget(content);
+    layout()->addWidget(content_);
+    show(isFolded());
+}
+
+void FoldGroup::setFolded(bool folded) {
+    QVariantMap all = storedPreference(preference::FoldedGroups).value_or(QVariantMap());
+    all.insert(name_, folded);
+    setPreference(preference::FoldedGroups, all);
+    show(folded);
+}
+
+void FoldGroup::show(bool folded) {
+    title_->setChecked(!folded);
+    title_->setArrowType(folded ? Qt::RightArrow : Qt::DownArrow);
+    title_->setAccessibleDescription(folded ? tr("Folded") : tr("Unfolded"));
+    if (content_ != nullptr) content_->setVisible(!folded);
+}
+
+// Another page may have folded the group of this name meanwhile.
+void FoldGroup::showEvent(QShowEvent* event) {
+    const QVariantMap all = storedPreference(preference::FoldedGroups).value_or(QVariantMap());
+    show(all.value(name_, atFirst_ == AtFirst::Folded).toBool());
+    QWidget::showEvent(event);
+}
+
+// As in trees: the left arrow key folds, the right one unfolds.
+bool FoldGroup::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            setFolded(key == Qt::Key_Left);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace zelto
