@@ -11,11 +11,14 @@
 #include "persistence/setting_file.h"
 #include "pictures/color_profile.h"
 #include "pictures/exif_facts.h"
+#include "pictures/jpeg_rewriter.h"
 #include "pictures/picture_kind.h"
 #include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QPainter>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -57,6 +60,27 @@ void readPictureOf(QByteArrayView input) {
             "one of two formats");
     promise(picture->dpiX >= 1.0 && picture->dpiY >= 1.0, "a resolution makes sense");
     promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
+}
+
+// Drawn on in a corner, across a middle and at an edge: what comes out is a JPEG of that size.
+void rewriteJpeg(QByteArrayView input) {
+    if (pictureKindOf(input) != PictureKind::Jpeg) return;
+    auto file = std::make_unique<QBuffer>();
+    file->setData(input.toByteArray());
+    file->open(QIODevice::ReadOnly);
+    const Result<std::unique_ptr<JpegRewriter>> jpeg = JpegRewriter::open(std::move(file));
+    if (!jpeg) return;
+    const QSize size = (*jpeg)->size();
+    const std::vector<QRect> areas = {{0, 0, 9, 5},
+                                      {size.width() / 2, size.height() / 2, 40, 700},
+                                      {-3, size.height() - 2, size.width() + 6, 1}};
+    const Result<QByteArray> written = (*jpeg)->rewrite(areas, [&](QImage& part, QPoint corner) {
+        QPainter painter(&part);
+        for (const QRect& area : areas) painter.fillRect(area.translated(-corner), QColor(200, 30, 90, 180));
+    });
+    if (!written) return;
+    const Result<Picture> picture = decodePicture(*written);
+    promise(picture && picture->image.size() == size, "what is written is the photo");
 }
 
 // Every kind of pixel by the profile.
@@ -152,6 +176,7 @@ constexpr FuzzTarget Targets[] = {
     {"gif", readPictureOf<PictureKind::Gif>},
     {"bmp", readPictureOf<PictureKind::Bmp>},
     {"webp", readPictureOf<PictureKind::Webp>},
+    {"jpeg-lossless", rewriteJpeg},
     {"profile", readProfile},
     {"metadata", readMetadata},
     {"macros", expandMacros},

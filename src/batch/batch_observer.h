@@ -4,6 +4,7 @@
 // the run.
 #pragma once
 
+#include "batch/jpeg_way.h"
 #include "records/photo_warning.h"
 
 #include <QLatin1String>
@@ -11,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace zelto {
@@ -39,6 +41,7 @@ struct PhotoOutcome {
     QString error;   // for the user; empty for a success
     QString reason;  // what lies behind `error`, for a log; may be empty
     std::vector<PhotoWarning> warnings;
+    std::optional<JpegWay> jpeg{};  // of a JPEG that was written, where untouched blocks were to be kept
 
     bool succeeded() const { return error.isEmpty(); }
 };

@@ -158,6 +158,7 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
     if (ready->photo) {
         outcome.size = ready->photo->size;
         outcome.warnings = std::move(ready->photo->warnings);
+        outcome.jpeg = std::move(ready->photo->jpeg);
         outcome.output = ready->photo->page ? QString() : task.output;
         const std::optional<qint64> lastAutoNumber = ready->photo->lastAutoNumber;
         if (request_.strict && replaces) outcome.warnings.push_back(sameNameWarning());
@@ -178,6 +179,7 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
         if (replaces) outcome.warnings.push_back(sameNameWarning());
         job_.writtenNames.insert(planned(row).sharesNameOf.value_or(row));
     } else {
+        outcome.jpeg.reset();
         const Error& error = written.error();
         outcome.error = isForUsers(error) ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;

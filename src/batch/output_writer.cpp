@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_writer.h"
 
+#include "batch/lossless_photo.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
 #include "pictures/picture_needs.h"
@@ -12,7 +13,6 @@
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"
 #include "render/photo_effects.h"
-#include "render/photo_scene.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -27,6 +27,15 @@ namespace {
 Q_LOGGING_CATEGORY(outputLog, "zelto.output")
 
 constexpr qint64 BytesPerPixel = 4;
+
+constexpr QSize LargestGlance(960, 720);
+
+// Whole pixels are picked first: smoothing all of a large photo would be felt.
+QImage glanceOf(const QImage& picture) {
+    const QSize size = picture.size().scaled(picture.size().boundedTo(LargestGlance), Qt::KeepAspectRatio);
+    return picture.scaled(picture.size().boundedTo(size * 2), Qt::IgnoreAspectRatio, Qt::FastTransformation)
+        .scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
 
 std::optional<PictureFormat> formatOf(const QString& output) {
     return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
@@ -68,15 +77,13 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
     if (Result<void> allowed = checkMemory(memoryNeeded(task), QFileInfo(task.source).size()); !allowed)
         return tl::unexpected(std::move(allowed.error()));
-    Result<PhotoScene> scene = buildPhotoScene(PhotoRequest{.path = task.source,
-                                                            .row = task.row,
-                                                            .listSize = task.listSize,
-                                                            .batchRunning = true,
-                                                            .final = true,
-                                                            .now = task.now,
-                                                            .locale = settings_.locale,
-                                                            .stack = settings_.stack,
-                                                            .logos = logos_});
+    std::optional<JpegWay> way;
+    if (settings_.options.JpegLossless && format == PictureFormat::Jpeg) {
+        Result<PreparedPhoto> lossless = prepareLossless(task);
+        if (lossless) return lossless;
+        way = JpegWay{false, std::move(lossless.error().message)};
+    }
+    Result<PhotoScene> scene = buildPhotoScene(requestFor(task));
     if (!scene && scene.error().code == ErrorCode::NotFound)
         return fail(ErrorCode::Damaged, DamagedPictureMessage, task.source);
     if (!scene) return tl::unexpected(std::move(scene.error()));
@@ -97,13 +104,14 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     }
 
     PreparedPhoto photo;
+    photo.jpeg = std::move(way);
     photo.lastAutoNumber = scene->lastAutoNumber;
     photo.warnings = warningsOf(*scene);
     const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
                                  scene->dpiX, scene->dpiY};
     const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
-    if (settings_.showGlance && !picture.isNull()) photo.glance = glanceOf(picture);
+    if (!picture.isNull() && isGlanceDue()) photo.glance = glanceOf(picture);
     if (options.ResizeImage) picture = resizedImage(picture, size);
     if (picture.isNull()) return tl::unexpected(notEnoughMemory(task.source));
     photo.size = picture.size();
@@ -115,12 +123,44 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
         Result<QByteArray> file = encodePicture(picture, *format, encoding);
         if (!file) return tl::unexpected(std::move(file.error()));
         photo.file = std::move(*file);
-        if (takesMetadata(*format)) addMetadata(photo, picture, dpi, task.source);
+        if (takesMetadata(*format))
+            addMetadata(
+                photo, [&] { return picture; }, dpi, task.source);
     }
     return photo;
 }
 
-void OutputWriter::addMetadata(PreparedPhoto& photo, const QImage& picture, double dpi,
+PhotoRequest OutputWriter::requestFor(const PhotoTask& task) const {
+    return {.path = task.source,
+            .row = task.row,
+            .listSize = task.listSize,
+            .batchRunning = true,
+            .final = true,
+            .now = task.now,
+            .locale = settings_.locale,
+            .stack = settings_.stack,
+            .logos = logos_};
+}
+
+Result<PreparedPhoto> OutputWriter::prepareLossless(const PhotoTask& task) {
+    return makeLosslessPhoto(requestFor(task), settings_.options).map([&](LosslessPhoto lossless) {
+        PreparedPhoto photo;
+        photo.jpeg = JpegWay{true};
+        photo.size = lossless.scene.photoSize;
+        photo.lastAutoNumber = lossless.scene.lastAutoNumber;
+        photo.warnings = warningsOf(lossless.scene);
+        photo.file = std::move(lossless.file);
+        // There is no picture of the whole photo but in the file.
+        const auto reduced = [file = photo.file] {
+            return decodeReduced(file, LargestGlance).value_or(Picture()).image;
+        };
+        if (isGlanceDue()) photo.glance = glanceOf(reduced());
+        addMetadata(photo, reduced, lossless.scene.dpiX, task.source);
+        return photo;
+    });
+}
+
+void OutputWriter::addMetadata(PreparedPhoto& photo, const std::function<QImage()>& picture, double dpi,
                                const QString& source) {
     Result<QByteArray> complete = metadata_.CopyExifDataTo(
         photo.file, picture, {{}, source, settings_.options.ExifDataToInclude, dpi, settings_.copyright});
@@ -133,17 +173,13 @@ void OutputWriter::addMetadata(PreparedPhoto& photo, const QImage& picture, doub
     }
 }
 
-// Whole pixels are picked first: smoothing all of a large photo would be felt.
-QImage OutputWriter::glanceOf(const QImage& picture) {
+bool OutputWriter::isGlanceDue() {
     using namespace std::chrono;
-    constexpr QSize Largest(960, 720);
     constexpr std::int64_t IntervalMilliseconds = 500;
+    if (!settings_.showGlance) return false;
     const std::int64_t now = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
     std::int64_t due = nextGlance_;
-    if (now < due || !nextGlance_.compare_exchange_strong(due, now + IntervalMilliseconds)) return {};
-    const QSize size = picture.size().scaled(picture.size().boundedTo(Largest), Qt::KeepAspectRatio);
-    return picture.scaled(picture.size().boundedTo(size * 2), Qt::IgnoreAspectRatio, Qt::FastTransformation)
-        .scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return now >= due && nextGlance_.compare_exchange_strong(due, now + IntervalMilliseconds);
 }
 
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {

@@ -12,6 +12,7 @@
 #include "records/output_options.h"
 #include "records/watermark_stack.h"
 #include "render/logo_cache.h"
+#include "render/photo_scene.h"
 
 #include <QImage>
 #include <QLocale>
@@ -58,9 +59,13 @@ class OutputWriter : public PhotoProcessor {
   private:
     struct CombinedPdf;
 
-    QImage glanceOf(const QImage& picture);
+    bool isGlanceDue();
     Result<void> addPage(const PdfPage& page);
-    void addMetadata(PreparedPhoto& photo, const QImage& picture, double dpi, const QString& source);
+    PhotoRequest requestFor(const PhotoTask& task) const;
+    // The photo with its untouched blocks as they are. Error: why that cannot be.
+    Result<PreparedPhoto> prepareLossless(const PhotoTask& task);
+    void addMetadata(PreparedPhoto& photo, const std::function<QImage()>& picture, double dpi,
+                     const QString& source);
     Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
 
     const Settings settings_;

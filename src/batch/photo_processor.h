@@ -4,6 +4,7 @@
 // watermarked photos.
 #pragma once
 
+#include "batch/jpeg_way.h"
 #include "pictures/pdf_document.h"
 #include "platform/result.h"
 #include "records/photo_warning.h"
@@ -35,7 +36,8 @@ struct PreparedPhoto {
     std::optional<PdfPage> page;           // a page of the combined PDF
     std::optional<qint64> lastAutoNumber;  // the running number to remember once the photo is committed
     std::vector<PhotoWarning> warnings;
-    QImage glance;  // a small copy for whoever watches the run; of a few photos a second only
+    std::optional<JpegWay> jpeg;  // of a JPEG, where untouched blocks were to be kept
+    QImage glance;                // a small copy for whoever watches the run; of a few photos a second only
 
     qint64 bytes() const { return file.size() + (page ? page->bytes() : 0); }
 };

@@ -82,6 +82,7 @@ void override(OutputOptions& options, const CommandLine& line) {
     }
     options.AspectRatio = options.AspectRatio || line.keepAspect;
     options.DontEnlargeSmallImage = options.DontEnlargeSmallImage || line.noEnlarge;
+    options.JpegLossless = options.JpegLossless || line.jpegLossless;
     options.CombineToSinglePDF = options.CombineToSinglePDF || line.combinePdf;
     options.KeepDirectoryStructure = options.KeepDirectoryStructure || line.keepStructure;
 }

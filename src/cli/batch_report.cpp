@@ -37,6 +37,12 @@ QJsonArray warningList(const PhotoReport& photo) {
     return list;
 }
 
+// Empty where no JPEG was written, or the run encodes all of them as usual.
+QString jpegWord(const std::optional<JpegWay>& jpeg) {
+    if (!jpeg) return {};
+    return jpeg->isLossless ? u"lossless"_s : u"encoded"_s;
+}
+
 QJsonObject photoObject(const PhotoReport& photo) {
     return {{"index"_L1, photo.index},
             {"source"_L1, photo.source},
@@ -45,6 +51,8 @@ QJsonObject photoObject(const PhotoReport& photo) {
             {"width"_L1, photo.size.width()},
             {"height"_L1, photo.size.height()},
             {"error"_L1, photo.error},
+            {"jpeg"_L1, jpegWord(photo.jpeg)},
+            {"jpegReason"_L1, photo.jpeg ? photo.jpeg->reason : QString()},
             {"warnings"_L1, warningList(photo)}};
 }
 

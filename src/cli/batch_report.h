@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace zelto {
@@ -31,6 +32,7 @@ struct PhotoReport {
     QSize size = QSize(0, 0);  // pixels written, or to be written
     QString error;
     std::vector<PhotoWarning> warnings;
+    std::optional<JpegWay> jpeg;  // see PhotoOutcome
 };
 
 struct BatchReport {

@@ -63,6 +63,9 @@ void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
     if (outcome.succeeded()) {
         photo.status = PhotoReport::Status::Written;
         photo.size = outcome.size;
+        photo.jpeg = outcome.jpeg;
+        if (photo.jpeg && !photo.jpeg->isLossless)
+            console_.note(photo.source + QStringLiteral(": encoded as usual. ") + photo.jpeg->reason);
         if (!outcome.output.isEmpty()) photo.output = outcome.output;
         console_.advance(outcome.output.isEmpty() ? outcome.source : outcome.output);
         return;

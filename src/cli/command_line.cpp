@@ -174,6 +174,11 @@ const std::array Options = {
     Option{"f", "format", "FORMAT", "same, jpg, png, tiff, bmp, gif or pdf (default: same)", applyFormat},
     Option{"q", "quality", "0..100", "JPEG quality (default: 90)",
            wholeNumber<&CommandLine::quality, 0, 100>},
+    Option{nullptr, "jpeg-lossless", nullptr,
+           "JPEG to JPEG: only the blocks that a watermark touches are encoded\nagain, with the photo's own "
+           "quality and chroma (on halved chroma\ncolored edges of marks are softer); photos it cannot be "
+           "done for are\nencoded as usual, and the report says why",
+           turn<&CommandLine::jpegLossless>},
     Option{nullptr, "rename", "PATTERN",
            "output name: [O] original name, [#] to [####] number in the list,\n"
            "[D] today as MMDDYYYY, [DD] as DDMMYYYY, and the macros of texts:\n"

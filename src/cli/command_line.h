@@ -42,6 +42,7 @@ struct CommandLine {
     bool noEnlarge = false;
     bool combinePdf = false;
     bool keepStructure = false;
+    bool jpegLossless = false;
 
     bool recursive = false;
     ScanFormats extensions;

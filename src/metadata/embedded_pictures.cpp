@@ -39,7 +39,7 @@ QByteArray smallVersion(const QImage& picture, QSize box, qsizetype bytes) {
 }
 
 // Replaces what starts in `bytes`: pictures that end there, or those that do not as well.
-void replaceIn(QByteArray& bytes, bool onlyComplete, const QImage& picture) {
+void replaceIn(QByteArray& bytes, bool onlyComplete, const std::function<QImage()>& picture) {
     // A picture starts one byte before its first 0xD8, which a marker follows.
     for (qsizetype at = bytes.indexOf('\xD8', 1); at > 0; at = bytes.indexOf('\xD8', at + 1)) {
         if (at + 1 >= bytes.size() || bytes[at + 1] != '\xFF') continue;
@@ -47,7 +47,7 @@ void replaceIn(QByteArray& bytes, bool onlyComplete, const QImage& picture) {
         if (!embedded || (onlyComplete && !embedded->isComplete)) continue;
         bytes.replace(
             at - 1, embedded->length,
-            smallVersion(picture, embedded->size, embedded->length).leftJustified(embedded->length, '\0'));
+            smallVersion(picture(), embedded->size, embedded->length).leftJustified(embedded->length, '\0'));
         at += embedded->length - 2;
     }
 }
@@ -55,13 +55,18 @@ void replaceIn(QByteArray& bytes, bool onlyComplete, const QImage& picture) {
 }  // namespace
 
 void replaceEmbeddedPictures(QByteArray& file, const std::vector<ByteRange>& metadata,
-                             const QImage& picture) {
+                             const std::function<QImage()>& picture) {
+    QImage made;
+    const auto madeOnce = [&] {
+        if (made.isNull()) made = picture();
+        return made;
+    };
     const auto replaceBetween = [&](std::size_t first, std::size_t last, bool onlyComplete) {
         QByteArray joined;
         for (std::size_t i = first; i < last; ++i)
             joined.append(file.data() + metadata[i].first, metadata[i].second - metadata[i].first);
         const QByteArray before = joined;
-        replaceIn(joined, onlyComplete, picture);
+        replaceIn(joined, onlyComplete, madeOnce);
         if (joined == before) return;
         qsizetype at = 0;
         for (std::size_t i = first; i < last; ++i) {

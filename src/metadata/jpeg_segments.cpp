@@ -47,6 +47,10 @@ bool JpegSegment::isMetadata() const {
            marker == jpeg_marker::Comment;
 }
 
+bool JpegSegment::isProfile() const {
+    return marker == jpeg_marker::App2 && content.startsWith(QByteArrayView("ICC_PROFILE\0", 12));
+}
+
 QByteArrayView JpegSegment::exif() const {
     constexpr QByteArrayView Name("Exif\0\0", 6);
     return marker == jpeg_marker::App1 && content.startsWith(Name) ? content.sliced(Name.size())

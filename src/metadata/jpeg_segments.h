@@ -14,6 +14,7 @@ namespace zelto {
 namespace jpeg_marker {
 inline constexpr uchar App0 = 0xE0;
 inline constexpr uchar App1 = 0xE1;
+inline constexpr uchar App2 = 0xE2;
 inline constexpr uchar App14 = 0xEE;
 inline constexpr uchar App15 = 0xEF;
 inline constexpr uchar Comment = 0xFE;
@@ -28,6 +29,8 @@ struct JpegSegment {
 
     // Whether it is about the picture rather than part of it. The Adobe segment says how the samples are to be read.
     bool isMetadata() const;
+    // Whether it holds an ICC profile, or a part of one.
+    bool isProfile() const;
     // The TIFF structure of an Exif segment; empty for any other.
     QByteArrayView exif() const;
 };

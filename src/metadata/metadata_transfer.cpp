@@ -108,7 +108,7 @@ Result<QByteArray> withoutSecrets(QByteArray filled, const MetadataRequest& requ
     return filled;
 }
 
-QByteArray withOwnSmallPictures(QByteArray file, const QImage& picture) {
+QByteArray withOwnSmallPictures(QByteArray file, const std::function<QImage()>& picture) {
     replaceEmbeddedPictures(file, metadataRanges(file), picture);
     return file;
 }
@@ -130,6 +130,13 @@ Result<QString> MetadataTransfer::privatePath() {
 }
 
 Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output, const QImage& picture,
+                                                    MetadataRequest request) {
+    return CopyExifDataTo(
+        output, [&] { return picture; }, std::move(request));
+}
+
+Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output,
+                                                    const std::function<QImage()>& picture,
                                                     MetadataRequest request) {
     // An absolute path: none starts like an option, and exiftool's working folder is not this program's.
     request.source = QFileInfo(request.source).absoluteFilePath();

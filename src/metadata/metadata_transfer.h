@@ -18,6 +18,7 @@
 #include <QImage>
 
 #include <chrono>
+#include <functional>
 #include <mutex>
 #include <optional>
 
@@ -40,6 +41,9 @@ class MetadataTransfer {
     // (its own `output` is not looked at). Blocks. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound or
     // ErrorCode::CannotWrite for the source and the stand-in.
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const QImage& picture,
+                                      MetadataRequest request);
+    // The same with a picture that is only made where one is needed; half its size will do, down to a screen's.
+    Result<QByteArray> CopyExifDataTo(const QByteArray& output, const std::function<QImage()>& picture,
                                       MetadataRequest request);
 
   private:

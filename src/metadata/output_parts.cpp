@@ -34,6 +34,22 @@ QByteArray pictureHead(const JpegParts& parts) {
     return head.append(parts.scanHeader);
 }
 
+// The head of `filled` with the colour profile of `output`, which exiftool takes out with all else and does not copy.
+QByteArray headWithProfile(const JpegParts& filled, const JpegParts& output) {
+    QByteArray profile;
+    for (const JpegSegment& segment : output.segments) {
+        if (segment.isProfile()) profile.append(segment.whole);
+    }
+    if (profile.isEmpty()) return filled.head.toByteArray();
+    QByteArray head(filled.head.first(2).toByteArray());
+    for (const JpegSegment& segment : filled.segments) {
+        // It follows the other segments that are about the picture.
+        if (!segment.isMetadata()) head.append(std::exchange(profile, QByteArray()));
+        if (!segment.isProfile()) head.append(segment.whole);
+    }
+    return head;
+}
+
 // Where the strips lie; nothing where one lies outside the file.
 std::optional<std::vector<ByteRange>> strips(QByteArrayView tiff) {
     const std::vector<TiffEntry> entries = tiffEntries(tiff);
@@ -101,7 +117,7 @@ Result<QByteArray> withMetadataOf(const QByteArray& filled, const QByteArray& ou
     const bool isWhole = filledParts && pictureHead(*filledParts) == pictureHead(*parts) &&
                          filledParts->scans.startsWith(joined({parts->scanHeader, JpegEnd}));
     if (!isWhole) return unusable;
-    return joined({filledParts->head, parts->scans});
+    return joined({headWithProfile(*filledParts, *parts), parts->scans});
 }
 
 bool hasTrailer(const QByteArray& filled) {

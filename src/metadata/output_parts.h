@@ -17,7 +17,7 @@ namespace zelto {
 // into them, is its own stand-in.
 QByteArray standIn(const QByteArray& output);
 
-// `output` with the metadata that `filled`, its stand-in, has come back with. Error: ErrorCode::ProgramFailed where that
+// `output`, with the colour profile it may have, and with the metadata that `filled`, its stand-in, has come back with. Error: ErrorCode::ProgramFailed where that
 // is no such file any more, to the end of its structure and to the last byte of its picture.
 Result<QByteArray> withMetadataOf(const QByteArray& filled, const QByteArray& output);
 

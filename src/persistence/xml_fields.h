@@ -9,6 +9,7 @@
 //         io.older("Colour", r.Color);  // an element that only older files have, before the one that replaced it
 //         io.field("Color", r.Color);
 //         io.unread("Size", r.Size);    // one that is written, but never read back
+//         io.added("Fast", r.Fast);     // a switch that older versions do not know, written where it is on
 //     }
 //
 // A value goes through the overloads of toText() and fromText() for its type. Where the type alone does not tell how a
@@ -67,6 +68,10 @@ class FieldWriter {
         field(name, value);
     }
 
+    void added(QLatin1String name, bool value) {
+        if (value) field(name, value);
+    }
+
     template <class Fields>
     void group(QLatin1String name, const Fields& fields) {
         writer_.writeStartElement(name);
@@ -96,6 +101,8 @@ class FieldReader {
 
     template <class Value>
     void unread(QLatin1String, const Value&) {}
+
+    void added(QLatin1String name, bool& value) { field(name, value); }
 
     template <class Fields>
     void group(QLatin1String name, const Fields& fields) {

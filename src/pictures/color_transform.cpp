@@ -108,17 +108,43 @@ SharedTransform ColorTransform::make(const QByteArray& profile, SourcePixels pix
     return made->lcms_ ? made : nullptr;
 }
 
-SharedTransform ColorTransform::toSrgb(const QByteArray& profile, SourcePixels pixels) {
-    if (profile.isEmpty()) return nullptr;
+SharedTransform ColorTransform::makeFromSrgb(const QByteArray& profile) {
+    const Profile target(
+        cmsOpenProfileFromMem(profile.constData(), static_cast<cmsUInt32Number>(profile.size())));
+    if (!target) return nullptr;
+    const cmsUInt32Number format = inputFormat(SourcePixels::Bgrx8, cmsGetColorSpace(target.get()));
+    if (format == 0) return nullptr;
+    const auto made = std::make_shared<ColorTransform>();
+    made->writesGrey_ = format == GreyInBgrx8;
+    made->lcms_.reset(cmsCreateTransform(srgbProfile().get(), TYPE_BGRA_8, target.get(), format,
+                                         INTENT_PERCEPTUAL, cmsFLAGS_NOCACHE | cmsFLAGS_HIGHRESPRECALC));
+    return made->lcms_ ? made : nullptr;
+}
+
+namespace {
+
+// One of few kept transforms, by the profile and what it is for.
+template <class Make>
+SharedTransform kept(const QByteArray& profile, char use, Make make) {
     static Cache cache;
-    const QByteArray key =
-        QCryptographicHash::hash(profile, QCryptographicHash::Sha1) + static_cast<char>(pixels);
+    const QByteArray key = QCryptographicHash::hash(profile, QCryptographicHash::Sha1) + use;
     return cache.find(key, [&] {
         const LcmsMemory memory;
-        SharedTransform transform = make(profile, pixels);
+        SharedTransform transform = make();
         memory.check();
         return transform;
     });
+}
+
+}  // namespace
+
+SharedTransform ColorTransform::toSrgb(const QByteArray& profile, SourcePixels pixels) {
+    if (profile.isEmpty()) return nullptr;
+    return kept(profile, static_cast<char>(pixels), [&] { return make(profile, pixels); });
+}
+
+SharedTransform ColorTransform::fromSrgb(const QByteArray& profile) {
+    return kept(profile, 'f', [&] { return makeFromSrgb(profile); });
 }
 
 void ColorTransform::apply(const uchar* source, qsizetype stride, QImage& target) const {
@@ -133,6 +159,11 @@ void ColorTransform::apply(const uchar* source, qsizetype stride, QImage& target
             lcms_.get(), source + stride * first, bits + targetStride * first,
             static_cast<cmsUInt32Number>(target.width()), static_cast<cmsUInt32Number>(end - first),
             static_cast<cmsUInt32Number>(stride), static_cast<cmsUInt32Number>(targetStride), 0, 0);
+        if (!writesGrey_) return;
+        for (int y = first; y < end; ++y) {
+            uchar* pixel = bits + targetStride * y;
+            for (int x = 0; x < target.width(); ++x, pixel += 4) pixel[2] = pixel[1] = pixel[0];
+        }
     });
 }
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "pictures/libjpeg.h"
+#include "pictures/jpeg_compressor.h"
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
 
 #include <algorithm>
-#include <cmath>
-#include <new>
+#include <utility>
 #include <vector>
 
 namespace zelto {
@@ -13,45 +12,6 @@ namespace {
 
 constexpr int WholeChromaQuality = 90;
 constexpr int RowsAtOnce = 16;  // one row of blocks with halved chroma
-constexpr J_COLOR_SPACE QRgbOrder = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRX : JCS_EXT_XRGB;
-
-// A destination that lets libjpeg write straight into a QByteArray.
-struct ByteArrayDestination {
-    jpeg_destination_mgr manager{};
-    QByteArray* bytes = nullptr;
-};
-
-void growBy(j_compress_ptr codec, qsizetype used, qsizetype room) {
-    auto* const destination = reinterpret_cast<ByteArrayDestination*>(codec->dest);
-    bool failed = false;
-    try {
-        destination->bytes->resize(used + room);
-    } catch (const std::bad_alloc&) {
-        failed = true;  // no exception may pass through a C library
-    }
-    if (failed) ERREXIT1(codec, JERR_OUT_OF_MEMORY, 0);
-    destination->manager.next_output_byte = reinterpret_cast<JOCTET*>(destination->bytes->data()) + used;
-    destination->manager.free_in_buffer = static_cast<std::size_t>(room);
-}
-
-void startOutput(j_compress_ptr codec) {
-    growBy(codec, 0, std::max<qsizetype>(65536, qsizetype{codec->image_width} * codec->image_height / 8));
-}
-
-boolean growOutput(j_compress_ptr codec) {
-    const qsizetype used = reinterpret_cast<ByteArrayDestination*>(codec->dest)->bytes->size();
-    growBy(codec, used, used / 2);
-    return TRUE;
-}
-
-void endOutput(j_compress_ptr codec) {
-    auto* const destination = reinterpret_cast<ByteArrayDestination*>(codec->dest);
-    destination->bytes->chop(static_cast<qsizetype>(destination->manager.free_in_buffer));
-}
-
-UINT16 jfifDensity(double dpi) {
-    return static_cast<UINT16>(std::lround(std::clamp(dpi, 1.0, 65535.0)));
-}
 
 void setUp(jpeg_compress_struct& codec, const QImage& picture, const EncodeOptions& options) {
     codec.image_width = static_cast<JDIMENSION>(picture.width());
@@ -64,9 +24,7 @@ void setUp(jpeg_compress_struct& codec, const QImage& picture, const EncodeOptio
         codec.comp_info[0].h_samp_factor = 1;
         codec.comp_info[0].v_samp_factor = 1;
     }
-    codec.density_unit = 1;  // dots per inch
-    codec.X_density = jfifDensity(options.dpiX);
-    codec.Y_density = jfifDensity(options.dpiY);
+    setJfifDensity(codec, options.dpiX, options.dpiY);
 }
 
 using RowConversion = void (*)(const QRgb* row, int width, QRgb* out);
@@ -80,11 +38,7 @@ struct Job {
     std::vector<QRgb> scratch;
 };
 
-// Holds nothing that needs a destructor: an error leaves it by longjmp.
-bool compress(jpeg_compress_struct& codec, JpegErrors& errors, jpeg_destination_mgr* destination, Job& job) {
-    if (setjmp(errors.escape) != 0) return false;  // NOLINT(cert-err52-cpp): libjpeg has no other way out
-    jpeg_create_compress(&codec);
-    codec.dest = destination;
+void compress(jpeg_compress_struct& codec, Job& job) {
     setUp(codec, job.picture, job.options);
     jpeg_start_compress(&codec, TRUE);
     const int width = job.picture.width();
@@ -105,34 +59,20 @@ bool compress(jpeg_compress_struct& codec, JpegErrors& errors, jpeg_destination_
         jpeg_write_scanlines(&codec, rows, static_cast<JDIMENSION>(count));
     }
     jpeg_finish_compress(&codec);
-    return true;
 }
 
 Result<QByteArray> encode(const QImage& picture, const EncodeOptions& options,
                           RowConversion forTransparency) {
-    QByteArray bytes;
-    ByteArrayDestination destination;
-    destination.bytes = &bytes;
-    destination.manager.init_destination = startOutput;
-    destination.manager.empty_output_buffer = growOutput;
-    destination.manager.term_destination = endOutput;
-
     Job job{picture, options, nullptr, {}};
     if (picture.hasAlphaChannel()) {
         job.convert = forTransparency;
         job.scratch.resize(static_cast<std::size_t>(picture.width()) * RowsAtOnce);
     }
-    JpegErrors errors;
-    jpeg_compress_struct codec{};
-    codec.err = jpeg_std_error(&errors.manager);
-    errors.manager.error_exit = escapeWithJpegMessage;
-    const bool done = compress(codec, errors, &destination.manager, job);
-    jpeg_destroy_compress(&codec);
-    if (!done) {
-        return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("The JPEG encoder failed: %1").arg(QLatin1String(errors.message.data())));
-    }
-    return bytes;
+    JpegCompressor compressor;
+    if (compressor.guarded([&](jpeg_compress_struct& codec) { compress(codec, job); }))
+        return compressor.takeFile();
+    return fail(ErrorCode::CannotWrite,
+                QStringLiteral("The JPEG encoder failed: %1").arg(compressor.message()));
 }
 
 }  // namespace

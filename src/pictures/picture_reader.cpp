@@ -3,6 +3,7 @@
 
 #include "pictures/gif_decoder.h"
 #include "pictures/jpeg_decoder.h"
+#include "pictures/picture_file.h"
 #include "pictures/picture_kind.h"
 #include "pictures/picture_memory.h"
 #include "pictures/picture_needs.h"
@@ -11,10 +12,6 @@
 
 #include <QBuffer>
 #include <QFile>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <new>
@@ -43,22 +40,6 @@ constexpr Decoder Decoders[] = {
 
 tl::unexpected<Error> damaged() {
     return fail(ErrorCode::Damaged, QString(DamagedPictureMessage));
-}
-
-// Opens the regular file at `path`; nothing else is read, since a pipe or a device may never end. Told of what was
-// opened rather than of its name, and opened without waiting, for what looks like a file may still be none.
-Result<void> open(QFile& file) {
-    const int descriptor =
-        ::open(QFile::encodeName(file.fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file “%1”.").arg(file.fileName()));
-    }
-    struct stat status {};
-    if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-        file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return {};
-    if (descriptor >= 0) ::close(descriptor);
-    return damaged();
 }
 
 Result<const Decoder*> decoderOf(QIODevice& device) {
@@ -99,7 +80,7 @@ template <class Read>
 auto withFile(const QString& path, Read read) -> decltype(read(std::declval<QFile&>())) {
     try {
         QFile file(path);
-        return open(file).and_then([&] { return read(file); }).map_error([&](Error error) {
+        return openPictureFile(file).and_then([&] { return read(file); }).map_error([&](Error error) {
             error.path = path;
             return error;
         });
@@ -115,11 +96,15 @@ Result<Picture> readPicture(const QString& path) {
 }
 
 Result<Picture> decodePicture(const QByteArray& bytes) {
+    return decodeReduced(bytes, {});
+}
+
+Result<Picture> decodeReduced(const QByteArray& jpeg, QSize bound) {
     try {
         QBuffer buffer;
-        buffer.setData(bytes);
+        buffer.setData(jpeg);
         buffer.open(QIODevice::ReadOnly);
-        return decode(buffer);
+        return decode(buffer, bound);
     } catch (const std::bad_alloc&) {
         return outOfMemory();
     }

@@ -52,6 +52,10 @@ Result<Picture> readPicture(const QString& path);
 // The same for bytes already in memory, such as a logo kept inside a setting.
 Result<Picture> decodePicture(const QByteArray& bytes);
 
+// A JPEG file in memory for looking at in small: at whole, half, a quarter or an eighth of its size, whichever is the
+// smallest that still covers the photo fitted into `bound`.
+Result<Picture> decodeReduced(const QByteArray& jpeg, QSize bound);
+
 // A picture for looking at in small: fitted into `bound` with its proportions kept, never enlarged. Large JPEG files
 // are read at a fraction of their size, which is several times quicker.
 Result<Picture> readThumbnail(const QString& path, QSize bound);

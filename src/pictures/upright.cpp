@@ -6,13 +6,6 @@
 #include <algorithm>
 
 namespace zelto {
-namespace {
-
-struct Turn {
-    bool swapsAxes;  // stored rows become columns
-    bool reversesX;  // the stored first column comes last
-    bool reversesY;  // the stored first row comes last
-};
 
 Turn turnOf(int orientation) {
     constexpr Turn Turns[] = {{false, false, false}, {false, true, false}, {false, true, true},
@@ -20,8 +13,6 @@ Turn turnOf(int orientation) {
                               {true, true, true},    {true, true, false}};
     return Turns[orientation >= 1 && orientation <= 8 ? orientation - 1 : 0];
 }
-
-}  // namespace
 
 bool swapsAxes(int orientation) {
     return turnOf(orientation).swapsAxes;
@@ -62,7 +53,7 @@ void placeUpright(const quint32* rows, int firstRow, int count, QSize stored, in
 
 QImage uprightPicture(QImage picture, int orientation) {
     const Turn turn = turnOf(orientation);
-    if (picture.isNull() || (!turn.swapsAxes && !turn.reversesX && !turn.reversesY)) return picture;
+    if (picture.isNull() || turn.isNone()) return picture;
     QImage upright = newPicture(uprightSize(picture.size(), orientation), picture.format());
     constexpr int Band = 64;
     for (int row = 0; row < picture.height(); row += Band) {

@@ -11,6 +11,16 @@ namespace zelto {
 // The pixel size of a picture of `stored` pixels once it is upright.
 QSize uprightSize(QSize stored, int orientation);
 
+// What turning upright does to the stored rows and columns: first these are reversed, then they change places.
+struct Turn {
+    bool swapsAxes;  // stored rows become columns
+    bool reversesX;  // the stored first column comes last
+    bool reversesY;  // the stored first row comes last
+
+    bool isNone() const { return !swapsAxes && !reversesX && !reversesY; }
+};
+Turn turnOf(int orientation);
+
 // Whether stored rows become columns.
 bool swapsAxes(int orientation);
 

@@ -45,6 +45,7 @@ struct OutputOptions {
     bool KeepDirectoryStructure = false;
     std::int64_t LongestsideSize = 0;  // pixels
     std::int64_t ExifDataToInclude = 0;
+    bool JpegLossless = false;  // JPEG to JPEG: blocks that no watermark touches stay as they are
 
     bool operator==(const OutputOptions&) const = default;
 };

@@ -15,12 +15,15 @@
 namespace zelto {
 namespace {
 
+// The grid of tiles stands on whole pixels.
+QPointF tilingCorner(const QRectF& frame) {
+    return {std::floor(withoutDust(frame.left())), std::ceil(withoutDust(frame.bottom()))};
+}
+
 // Draws a layer whose frame lies at `frame` of the picture.
 void drawLayer(QPainter& painter, const WatermarkView& layer, const QRectF& frame, const QRect& picture) {
     if (const auto* surface = std::get_if<TilingView>(&layer.child)) {
-        // The grid of tiles stands on whole pixels.
-        const QPointF corner(std::floor(withoutDust(frame.left())), std::ceil(withoutDust(frame.bottom())));
-        drawTilingView(painter, *surface, corner, picture);
+        drawTilingView(painter, *surface, tilingCorner(frame), picture);
         return;
     }
     drawContent(painter, std::get<LayerContent>(layer.child), frame.size(),
@@ -42,6 +45,32 @@ void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkSta
         }
         drawLayer(painter, *scene.layers[i], layerFrame(scene, i), picture.rect());
     }
+}
+
+PhotoScene layersReaching(const PhotoScene& scene, const QRect& part) {
+    PhotoScene seen;
+    seen.photoSize = scene.photoSize;
+    seen.referenceRect = scene.referenceRect.translated(-part.topLeft());
+    seen.layers.resize(scene.layers.size());
+    for (std::size_t i = 0; i < scene.layers.size(); ++i) {
+        if (layerReach(scene, i).intersects(part)) seen.layers[i] = scene.layers[i];
+    }
+    return seen;
+}
+
+std::vector<QRect> inkAreas(const PhotoScene& scene, const WatermarkStack& stack) {
+    std::vector<QRect> areas;
+    const std::size_t count = std::min(scene.layers.size(), stack.Watermarks.size());
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!scene.layers[i] || !stack.Watermarks[i].IsEnabled) continue;
+        const QRect reach = layerReach(scene, i);
+        const auto* surface = std::get_if<TilingView>(&scene.layers[i]->child);
+        const std::vector<QRect> tiles =
+            surface == nullptr ? std::vector{reach}
+                               : tileAreas(*surface, tilingCorner(layerFrame(scene, i)), pictureRect(scene));
+        areas.insert(areas.end(), tiles.begin(), tiles.end());
+    }
+    return areas;
 }
 
 QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack) try {

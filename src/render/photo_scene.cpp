@@ -99,6 +99,17 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) t
     return tl::unexpected(notEnoughMemory(request.path));
 }
 
+PhotoScene buildLayersAlone(const PhotoRequest& request, QSize size, double dpiX, double dpiY) {
+    PhotoScene scene;
+    scene.photoSize = size;
+    scene.dpiX = dpiX;
+    scene.dpiY = dpiY;
+    scene.properties = std::make_shared<LazyImageProperties>(request.path);
+    scene.imageRect = scene.borderRect = scene.referenceRect = QRect(QPoint(0, 0), size);
+    MakeWatermarkChanges(scene, request);
+    return scene;
+}
+
 std::vector<PhotoWarning> warningsOf(const PhotoScene& scene) {
     std::vector<PhotoWarning> warnings;
     for (const std::optional<PhotoWarning>& warning : scene.warnings) {

@@ -74,6 +74,10 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 // the scene's, uncopied.
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo);
 
+// The scene of a photo of `size` pixels that is left where it is, under a stack without filter and frame: it has layers and
+// no picture. Throws std::bad_alloc.
+PhotoScene buildLayersAlone(const PhotoRequest& request, QSize size, double dpiX, double dpiY);
+
 // What is told of a photo that memory does not suffice for.
 Error notEnoughMemory(const QString& path);
 

@@ -16,6 +16,10 @@ double overhangOf(const WatermarkView& layer) {
 
 }  // namespace
 
+QRect pictureRect(const PhotoScene& scene) {
+    return scene.picture.isNull() ? QRect(QPoint(0, 0), scene.photoSize) : scene.picture.rect();
+}
+
 QRectF layerFrame(const PhotoScene& scene, std::size_t index) {
     if (index >= scene.layers.size() || !scene.layers[index]) return {};
     const QRectF& frame = scene.layers[index]->frame;
@@ -28,7 +32,7 @@ QRect layerReach(const PhotoScene& scene, std::size_t index) {
     const QRectF frame = layerFrame(scene, index);
     if (frame.isNull()) return {};
     const double more = overhangOf(*scene.layers[index]);
-    return frame.adjusted(-more, -more, more, more).intersected(QRectF(scene.picture.rect())).toAlignedRect();
+    return frame.adjusted(-more, -more, more, more).intersected(QRectF(pictureRect(scene))).toAlignedRect();
 }
 
 }  // namespace zelto

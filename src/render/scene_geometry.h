@@ -11,6 +11,9 @@
 
 namespace zelto {
 
+// The whole picture, in a scene without pixels too.
+QRect pictureRect(const PhotoScene& scene);
+
 // The frame of the layer at `index`, not rounded; null where the record has no layer.
 QRectF layerFrame(const PhotoScene& scene, std::size_t index);
 

@@ -110,7 +110,20 @@ struct Grid {
         columns = static_cast<int>(std::ceil((shown.width() + aside) / cell.width));
         rows = static_cast<int>(std::ceil((shown.height() + below) / cell.height));
     }
+
+    double cells() const { return static_cast<double>(columns) * rows; }
 };
+
+double pixelsOf(const QRect& area) {
+    return static_cast<double>(area.width()) * area.height();
+}
+
+// The visible pixels of a surface whose bottom-left corner is `corner`.
+QRect shownPixels(const TilingView& view, QPointF corner, const QRect& visible) {
+    const QSizeF whole(wholePixels(view.size.width()), wholePixels(view.size.height()));
+    if (whole.isEmpty()) return {};
+    return visiblePixels({QPointF(corner.x(), corner.y() - whole.height()), whole}, visible);
+}
 
 }  // namespace
 
@@ -135,9 +148,8 @@ bool hasTiles(const TilingView& view) {
 }
 
 void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, const QRect& visible) {
-    const QSizeF whole(wholePixels(view.size.width()), wholePixels(view.size.height()));
-    const QRect shown = visiblePixels({QPointF(corner.x(), corner.y() - whole.height()), whole}, visible);
-    if (whole.isEmpty() || shown.isEmpty()) return;
+    const QRect shown = shownPixels(view, corner, visible);
+    if (shown.isEmpty()) return;
     const TilingView surface = withTurnedPicture(view);
     const Cell cell(surface);
     if (cell.isEmpty()) return;
@@ -146,8 +158,7 @@ void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, c
     // is never larger than what it fills.
     constexpr double FewCells = 4.0;
     const Grid grid(cell, corner, shown);
-    const double shownPixels = static_cast<double>(shown.width()) * shown.height();
-    if (static_cast<double>(grid.columns) * grid.rows <= FewCells || cell.width * cell.height > shownPixels) {
+    if (grid.cells() <= FewCells || cell.width * cell.height > pixelsOf(shown)) {
         for (int row = 0; row < grid.rows; ++row) {
             for (int column = 0; column < grid.columns; ++column) {
                 const QPointF step(column * cell.width, -row * cell.height);
@@ -165,6 +176,26 @@ void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, c
     painter.setBrushOrigin(grid.corner);
     painter.fillRect(shown, QBrush(texture));
     painter.restore();
+}
+
+std::vector<QRect> tileAreas(const TilingView& view, QPointF corner, const QRect& visible) {
+    constexpr double MostTiles = 1000.0;
+    const QRect shown = shownPixels(view, corner, visible);
+    const Cell cell(view);
+    if (shown.isEmpty() || cell.isEmpty()) return {};
+    const Grid grid(cell, corner, shown);
+    const double inked = grid.cells() * cell.turned.width() * cell.turned.height();
+    if (grid.cells() > MostTiles || inked > pixelsOf(shown) / 2.0) return {shown};
+    std::vector<QRect> tiles;
+    for (int row = 0; row < grid.rows; ++row) {
+        for (int column = 0; column < grid.columns; ++column) {
+            const QPointF foot = grid.corner + QPointF(column * cell.width, -row * cell.height);
+            const QRectF content(QPointF(foot.x(), foot.y() - cell.turned.height()), cell.turned);
+            const QRect tile = visiblePixels(content.adjusted(-1, -1, 1, 1), shown);
+            if (!tile.isEmpty()) tiles.push_back(tile);
+        }
+    }
+    return tiles;
 }
 
 }  // namespace zelto

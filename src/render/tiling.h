@@ -10,6 +10,8 @@
 #include <QRect>
 #include <QSizeF>
 
+#include <vector>
+
 class QPainter;
 
 namespace zelto {
@@ -27,5 +29,9 @@ bool hasTiles(const TilingView& view);
 // Fills the surface, whose bottom-left corner lies at the whole pixel `corner` of the picture (y growing
 // downward), as far as it is visible. Cells are whole pixels, rounded up.
 void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, const QRect& visible);
+
+// The visible pixels that drawTilingView() may fill: the tiles one by one where there are not too many to tell and they
+// leave half of what they span free, otherwise all of that.
+std::vector<QRect> tileAreas(const TilingView& view, QPointF corner, const QRect& visible);
 
 }  // namespace zelto

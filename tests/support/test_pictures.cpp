@@ -161,6 +161,13 @@ QByteArray jpegBytes(const QImage& picture, const TestJpeg& options) {
     jpeg_set_defaults(&jpeg.info);
     jpeg_set_quality(&jpeg.info, options.quality, TRUE);
     if (options.fullChroma) jpeg.info.comp_info[0].h_samp_factor = jpeg.info.comp_info[0].v_samp_factor = 1;
+    if (options.across != 0) {
+        jpeg.info.comp_info[0].h_samp_factor = options.across;
+        jpeg.info.comp_info[0].v_samp_factor = options.down;
+    }
+    jpeg.info.optimize_coding = options.optimized ? TRUE : FALSE;
+    jpeg.info.restart_interval = options.restartUnits;
+    jpeg.info.write_Adobe_marker = options.adobe ? TRUE : FALSE;
     if (options.progressive) jpeg_simple_progression(&jpeg.info);
     jpeg.info.write_JFIF_header = options.jfifDensity != 0;
     jpeg.info.density_unit = static_cast<UINT8>(options.jfifUnit);

@@ -26,7 +26,12 @@ QImage pictureOf(QSize size, QImage::Format format, const std::function<QRgb(int
 struct TestJpeg {
     int quality = 90;
     bool fullChroma = true;  // 4:4:4, else 4:2:0
+    int across = 0;          // another sampling: blocks of luma for one of chroma; 0 for the above
+    int down = 0;
     bool progressive = false;
+    bool optimized = false;     // with Huffman tables made for this picture
+    unsigned restartUnits = 0;  // sampling units between two restart markers, 0 for none
+    bool adobe = false;         // with an Adobe marker
     bool grey = false;
     int orientation = 0;       // the EXIF value 1 to 8; 0 leaves EXIF out unless another field asks for it
     int exifDpi = 0;           // EXIF resolution in inches, 0 for none

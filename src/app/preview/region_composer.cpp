@@ -20,17 +20,6 @@ namespace {
 constexpr int BandRows = 512;
 static_assert(BandRows % (1 << MaximumHalvings) == 0);
 
-// The scene without its picture, seen from `part` of it: layers that do not reach it are left out.
-PhotoScene layersOf(const PhotoScene& scene, const QRect& part) {
-    PhotoScene seen;
-    seen.referenceRect = scene.referenceRect.translated(-part.topLeft());
-    seen.layers.resize(scene.layers.size());
-    for (std::size_t i = 0; i < scene.layers.size(); ++i) {
-        if (layerReach(scene, i).intersects(part)) seen.layers[i] = scene.layers[i];
-    }
-    return seen;
-}
-
 bool hasLayers(const PhotoScene& scene) {
     return std::any_of(scene.layers.begin(), scene.layers.end(),
                        [](const auto& layer) { return layer.has_value(); });
@@ -38,7 +27,7 @@ bool hasLayers(const PhotoScene& scene) {
 
 // `part` of the composed picture at scale 1.
 QImage composePart(const PhotoScene& scene, const WatermarkStack& stack, const QRect& part) {
-    const PhotoScene seen = layersOf(scene, part);
+    const PhotoScene seen = layersReaching(scene, part);
     const bool isWhole = part == scene.picture.rect();
     QImage picture = isWhole ? scene.picture : allocated(scene.picture.copy(part));
     if (hasLayers(seen)) addWatermarkTo(picture, seen, stack);
@@ -48,7 +37,7 @@ QImage composePart(const PhotoScene& scene, const WatermarkStack& stack, const Q
 // The picture `part` covers, halved `times` on each side; the part begins at a whole pixel of the result.
 QImage composeHalved(const PhotoScene& scene, const WatermarkStack& stack, const QRect& part, int times) {
     if (times == 0) return composePart(scene, stack, part);
-    if (!hasLayers(layersOf(scene, part))) return halvedPicture(scene.picture, part, times);
+    if (!hasLayers(layersReaching(scene, part))) return halvedPicture(scene.picture, part, times);
     QImage result = allocated(QImage(halvedSize(part.size(), times), scene.picture.format()));
     for (int top = 0; top < part.height(); top += BandRows) {
         const QRect band(part.left(), part.top() + top, part.width(),
