@@ -121,9 +121,13 @@ class Soak {
                 typeIntoEditor();
                 break;
             case 10:
-                if (count > 0)
-                    watermarks.placeWatermark(random_.bounded(count),
-                                              {random_.bounded(300), random_.bounded(200)});
+                if (count > 0) {
+                    const int index = random_.bounded(count);
+                    Watermark placed = watermarks.GetWatermarkAtRow(index);
+                    placed.Position = random_.bounded(1, 10);
+                    placed.PaddingLeft = random_.bounded(300);
+                    watermarks.placeWatermark(index, placed, QStringLiteral("Place"));
+                }
                 break;
             default: {
                 if (count == 0) break;

@@ -149,7 +149,7 @@ void settingsFields(Io& io, S& s) {
     io.field("DontEnlarge"_L1, options.DontEnlargeSmallImage);
     io.field("CombineToSinglePDF"_L1, options.CombineToSinglePDF);
     io.field("MaintainDirectoryStructure"_L1, options.KeepDirectoryStructure);
-    io.added("JpegLossless"_L1, options.JpegLossless);
+    io.addition("JpegLossless"_L1, options.JpegLossless);
 }
 
 // The size fields that the options' width and height belong to; null for a way of resizing that has none.

@@ -188,12 +188,18 @@ void watermarkFields(Io& io, W& w) {
     io.field("PaddingRight"_L1, w.PaddingRight);
     io.field("PaddingBottom"_L1, w.PaddingBottom);
     io.field("PaddingLeft"_L1, w.PaddingLeft);
+    io.addition("PaddingTopShare"_L1, w.PaddingTopShare);
+    io.addition("PaddingRightShare"_L1, w.PaddingRightShare);
+    io.addition("PaddingBottomShare"_L1, w.PaddingBottomShare);
+    io.addition("PaddingLeftShare"_L1, w.PaddingLeftShare);
     io.field("CustomPositionLeft"_L1, w.CustomPositionLeft);
     io.field("CustomPositionTop"_L1, w.CustomPositionTop);
     io.field("HTiling"_L1, w.HorizontalTiling);
     io.field("VTiling"_L1, w.VerticalTiling);
     io.field("HorizontalSpacing"_L1, w.HorizontalSpacing);
     io.field("VerticalSpacing"_L1, w.VerticalSpacing);
+    io.addition("HorizontalSpacingShare"_L1, w.HorizontalSpacingShare);
+    io.addition("VerticalSpacingShare"_L1, w.VerticalSpacingShare);
     io.field(ProportionalResize, Side{w.ImageProportionalResize, SideOne::LeavesConstructed});
 }
 
@@ -205,6 +211,10 @@ void effectsFields(Io& io, E& e) {
         io.field("LeftBorderThickness"_L1, e.LeftThickness);
         io.field("BottomBorderThickness"_L1, e.BottomThickness);
         io.field("RightBorderThickness"_L1, e.RightThickness);
+        io.addition("TopBorderThicknessShare"_L1, e.TopThicknessShare);
+        io.addition("LeftBorderThicknessShare"_L1, e.LeftThicknessShare);
+        io.addition("BottomBorderThicknessShare"_L1, e.BottomThicknessShare);
+        io.addition("RightBorderThicknessShare"_L1, e.RightThicknessShare);
         io.field("ApplyWatermarkOnBorder"_L1, e.ApplyWatermarkOnBorder);
     });
     io.group("Shadow"_L1, [&] {
@@ -212,6 +222,8 @@ void effectsFields(Io& io, E& e) {
         io.field("ShadowDirection"_L1, e.Direction);
         io.field("ShadowSpread"_L1, e.BlurRadius);
         io.field("ShadowSize"_L1, e.Distance);
+        io.addition("ShadowSpreadShare"_L1, e.BlurRadiusShare);
+        io.addition("ShadowSizeShare"_L1, e.DistanceShare);
         io.field("EnableShadow"_L1, e.EnableShadow);
     });
 }

@@ -73,6 +73,12 @@ void fromText(const QString& text, float& value) {
     value = static_cast<float>(std::clamp(number, -Limit, Limit));
 }
 
+void fromText(const QString& text, std::optional<float>& value) {
+    float number = std::numeric_limits<float>::quiet_NaN();
+    fromText(text, number);
+    if (!std::isnan(number)) value = number;
+}
+
 void fromText(const QString& text, QString& value) {
     value = text;
 }

@@ -9,7 +9,7 @@
 //         io.older("Colour", r.Color);  // an element that only older files have, before the one that replaced it
 //         io.field("Color", r.Color);
 //         io.unread("Size", r.Size);    // one that is written, but never read back
-//         io.added("Fast", r.Fast);     // a switch that older versions do not know, written where it is on
+//         io.addition("Share", r.Share);  // one of later versions, written where it has a value or is on
 //     }
 //
 // A value goes through the overloads of toText() and fromText() for its type. Where the type alone does not tell how a
@@ -49,6 +49,7 @@ void fromText(const QString& text, float& value);
 void fromText(const QString& text, QString& value);
 void fromText(const QString& text, QByteArray& value);
 void fromText(const QString& text, std::optional<Color>& value);
+void fromText(const QString& text, std::optional<float>& value);
 
 // Writes each field as an element, absent texts as empty ones.
 class FieldWriter {
@@ -68,8 +69,12 @@ class FieldWriter {
         field(name, value);
     }
 
-    void added(QLatin1String name, bool value) {
+    void addition(QLatin1String name, bool value) {
         if (value) field(name, value);
+    }
+    template <class Value>
+    void addition(QLatin1String name, const std::optional<Value>& value) {
+        if (value) field(name, *value);
     }
 
     template <class Fields>
@@ -102,7 +107,11 @@ class FieldReader {
     template <class Value>
     void unread(QLatin1String, const Value&) {}
 
-    void added(QLatin1String name, bool& value) { field(name, value); }
+    void addition(QLatin1String name, bool& value) { field(name, value); }
+    template <class Value>
+    void addition(QLatin1String name, std::optional<Value>& value) {
+        field(name, value);
+    }
 
     template <class Fields>
     void group(QLatin1String name, const Fields& fields) {

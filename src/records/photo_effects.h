@@ -24,6 +24,13 @@ struct PhotoEffects {
     bool SameBorder = false;
     bool ApplyWatermarkOnBorder = false;
     bool EnableShadow = true;
+    // The lengths above as shares; see length_field.h.
+    std::optional<float> TopThicknessShare;
+    std::optional<float> LeftThicknessShare;
+    std::optional<float> RightThicknessShare;
+    std::optional<float> BottomThicknessShare;
+    std::optional<float> BlurRadiusShare;
+    std::optional<float> DistanceShare;
 
     bool operator==(const PhotoEffects&) const = default;
 };

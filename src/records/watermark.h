@@ -126,6 +126,13 @@ struct Watermark {
     std::int64_t PaddingTop = 0;
     std::int64_t PaddingRight = 0;
     std::int64_t PaddingBottom = 0;
+    // The spacings and paddings as shares; see length_field.h.
+    std::optional<float> HorizontalSpacingShare;
+    std::optional<float> VerticalSpacingShare;
+    std::optional<float> PaddingLeftShare;
+    std::optional<float> PaddingTopShare;
+    std::optional<float> PaddingRightShare;
+    std::optional<float> PaddingBottomShare;
     bool IsRelative = false;
     QString FontRelativeSize;  // one of photo_side, or "Fixed"
     bool IsEnabled = false;

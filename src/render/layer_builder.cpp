@@ -2,6 +2,7 @@
 #include "render/layer_builder.h"
 
 #include "pictures/lengths.h"
+#include "render/lengths.h"
 #include "render/logo.h"
 #include "render/opacity.h"
 #include "render/placement.h"
@@ -102,11 +103,15 @@ void place(WatermarkView& view, const Watermark& record, Content content, QSizeF
     view.frame =
         isTiled(record) ? tiledFrame(record, turned, reference) : placedFrame(record, turned, reference);
     if (std::holds_alternative<std::monostate>(content.what)) return;
+    using namespace length_field;
+    const auto spacing = [&](bool isOn, const WatermarkLength& length) {
+        return isOn ? lengthOn(record, length, reference) : 0;
+    };
     view.child = TilingView{.tilingImage = std::move(content.what),
                             .contentSize = content.size,
                             .rotation = record.Rotation,
-                            .horizontalSpacing = record.HorizontalTiling ? record.HorizontalSpacing : 0,
-                            .verticalSpacing = record.VerticalTiling ? record.VerticalSpacing : 0,
+                            .horizontalSpacing = spacing(record.HorizontalTiling, HorizontalSpacing),
+                            .verticalSpacing = spacing(record.VerticalTiling, VerticalSpacing),
                             .size = view.frame.size()};
 }
 

@@ -3,13 +3,14 @@
 #pragma once
 
 #include "pictures/lengths.h"
-#include "records/watermark.h"
+#include "records/length_field.h"
 
 #include <QSizeF>
 #include <QString>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 namespace zelto {
@@ -25,6 +26,28 @@ inline double relativeLength(float fraction, double reference) {
 inline double drawnLength(double length) {
     constexpr double Longest = 4e6;
     return length > 0.0 && std::isfinite(length) ? std::min(length, Longest) : 0.0;
+}
+
+// A length of a record, which may be a share of the shorter side: for a watermark that of the reference area, for a
+// border or a shadow that of the photo alone. Whole pixels, as pixels are.
+template <class Record>
+std::int64_t lengthOn(const Record& record, const LengthField<Record>& field, QSizeF area) {
+    const std::optional<float>& share = record.*field.Share;
+    if (!share) return record.*field.Pixels;
+    return std::llround(relativeLength(*share, std::min(area.width(), area.height())));
+}
+
+// The share that `pixels` are, with the six decimals that setting files keep; 0 where the area has no size.
+inline float shareOf(double pixels, QSizeF area) {
+    const double side = std::min(area.width(), area.height());
+    return side > 0.0 ? static_cast<float>(std::round(pixels / side * 1e6) / 1e6) : 0.0F;
+}
+
+// Sets the length to `pixels` on this area. Where the record has a share it has the same share of photos of other sizes.
+template <class Record>
+void setLength(Record& record, const LengthField<Record>& field, std::int64_t pixels, QSizeF area) {
+    record.*field.Pixels = pixels;
+    if (record.*field.Share) record.*field.Share = shareOf(static_cast<double>(pixels), area);
 }
 
 enum class Side { Width, Height };

@@ -3,6 +3,7 @@
 
 #include "pictures/parallel_rows.h"
 #include "pictures/picture_reader.h"
+#include "render/lengths.h"
 #include "render/photo_shadow.h"
 #include "render/qt_color.h"
 #include "render/source_over.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 
 namespace zelto {
@@ -19,6 +21,19 @@ namespace {
 // Lengths that a file may hold, brought to where no sum of them overflows; none is below 0.
 qint64 sane(std::int64_t length) {
     return std::clamp<qint64>(length, 0, MaximumPicturePixels);
+}
+
+// The effect with all its lengths as those pixels that they are on `photo`.
+PhotoEffects inPixels(PhotoEffects effect, QSize photo) {
+    const auto resolve = [&](const auto& fields) {
+        for (const auto& field : fields) {
+            effect.*field.Pixels = lengthOn(effect, field, photo);
+            (effect.*field.Share).reset();
+        }
+    };
+    resolve(length_field::Thicknesses);
+    resolve(length_field::ShadowLengths);
+    return effect;
 }
 
 struct Border {
@@ -142,7 +157,7 @@ void normalize(QImage& photo) {
 }  // namespace
 
 QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect) {
-    const Border border = borderOf(effect);
+    const Border border = borderOf(inPixels(effect, photo.size()));
     if (photo.isNull() || border.isEmpty()) return photo;
     const QSize size = framedSize(photo.size(), effect);
     if (size.isEmpty()) return {};
@@ -153,27 +168,27 @@ QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect) {
     return framed;
 }
 
-QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
+QImage imagewithEffects(QImage photo, const PhotoEffects& anyEffect, QRect& imageOrigin, QRect& borderOrigin,
                         bool final) {
     imageOrigin = borderOrigin = QRect(QPoint(0, 0), photo.size());
     if (photo.isNull()) return photo;
     const QSize photoSize = photo.size();
+    const PhotoEffects effect = inPixels(anyEffect, photoSize);
     const Border border = borderOf(effect);
     const QSize framed = framedSize(photoSize, effect);
     if (framed.isEmpty()) return {};
+    const FramedPlaces places = framedPlaces(photoSize, effect, final);
     const bool opaque = border.isEmpty() ? !photo.hasAlphaChannel() : isOpaque(effect.BorderColor);
 
     QImage canvas;
-    QPoint place;  // of the framed photo on the canvas, y up
     const bool withShadow = final && effect.EnableShadow;
     const ShadowPlan plan = withShadow ? shadowPlan(effect) : ShadowPlan{};
     if (!withShadow || (opaque && plan.x.growth == 0 && plan.y.growth == 0)) {
         canvas = ImagewithBorderEffect(std::move(photo), effect);
     } else {
-        const QSize size = sizeWithEffects(photoSize, effect);
-        if (size.isEmpty()) return {};
-        canvas = makeCanvas(size, false);
-        place = {static_cast<int>(plan.x.place), static_cast<int>(plan.y.place)};
+        if (places.size.isEmpty()) return {};
+        canvas = makeCanvas(places.size, false);
+        const QPoint place = places.border.topLeft();
         const QRect drawn({place.x(), canvas.height() - place.y() - framed.height()}, framed);
         const DropShadow shadow{
             {static_cast<int>(plan.x.offset), static_cast<int>(-plan.y.offset)},
@@ -189,18 +204,43 @@ QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOr
             drawPictureWithShadow(canvas, picture, drawn.topLeft(), shadow);
         }
     }
-    borderOrigin = QRect(place, framed);
-    imageOrigin =
-        QRect(place + QPoint(static_cast<int>(border.left), static_cast<int>(border.bottom)), photoSize);
+    borderOrigin = places.border;
+    imageOrigin = places.image;
     return canvas;
 }
 
-QSize framedSize(QSize photo, const PhotoEffects& effect) {
+FramedPlaces framedPlaces(QSize photo, const PhotoEffects& anyEffect, bool final) {
+    const PhotoEffects effect = inPixels(anyEffect, photo);
     const Border border = borderOf(effect);
+    const ShadowPlan plan = final && effect.EnableShadow ? shadowPlan(effect) : ShadowPlan{};
+    const QSize framed = framedSize(photo, effect);
+    const QSize size = final ? sizeWithEffects(photo, effect) : framed;
+    if (framed.isEmpty() || size.isEmpty()) return {};
+    const QPoint place(static_cast<int>(plan.x.place), static_cast<int>(plan.y.place));
+    const QPoint inBorder(static_cast<int>(border.left), static_cast<int>(border.bottom));
+    return {size, QRect(place + inBorder, photo), QRect(place, framed)};
+}
+
+PhotoEffects reducedEffect(const PhotoEffects& effect, QSize photo, QSize reduced) {
+    PhotoEffects smaller = inPixels(effect, photo);
+    const double factor = static_cast<double>(reduced.width()) / photo.width();
+    const auto reduce = [&](const auto& fields) {
+        for (const auto& field : fields) {
+            smaller.*field.Pixels = std::llround(static_cast<double>(sane(smaller.*field.Pixels)) * factor);
+        }
+    };
+    reduce(length_field::Thicknesses);
+    reduce(length_field::ShadowLengths);
+    return smaller;
+}
+
+QSize framedSize(QSize photo, const PhotoEffects& effect) {
+    const Border border = borderOf(inPixels(effect, photo));
     return grownSize(photo, border.left + border.right, border.top + border.bottom);
 }
 
-QSize sizeWithEffects(QSize photo, const PhotoEffects& effect) {
+QSize sizeWithEffects(QSize photo, const PhotoEffects& anyEffect) {
+    const PhotoEffects effect = inPixels(anyEffect, photo);
     const Border border = borderOf(effect);
     const ShadowPlan plan = effect.EnableShadow ? shadowPlan(effect) : ShadowPlan{};
     return grownSize(photo, border.left + border.right + plan.x.growth,

@@ -23,6 +23,18 @@ QImage ImagewithBorderEffect(QImage photo, const PhotoEffects& effect);
 QImage imagewithEffects(QImage photo, const PhotoEffects& effect, QRect& imageOrigin, QRect& borderOrigin,
                         bool final);
 
+// Where photo and border lie in the picture that imagewithEffects makes of a photo of this size; without size where that
+// is too large.
+struct FramedPlaces {
+    QSize size;
+    QRect image;
+    QRect border;
+};
+FramedPlaces framedPlaces(QSize photo, const PhotoEffects& effect, bool final);
+
+// The effect that looks on a photo made smaller, from `photo` to `reduced` pixels, as `effect` does on the photo itself.
+PhotoEffects reducedEffect(const PhotoEffects& effect, QSize photo, QSize reduced);
+
 // The size of a photo of `photo` pixels on its border, without any shadow; empty where that is too large.
 QSize framedSize(QSize photo, const PhotoEffects& effect);
 

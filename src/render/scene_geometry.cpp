@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/scene_geometry.h"
 
+#include "pictures/lengths.h"
 #include "render/text_block.h"
 
 namespace zelto {
@@ -20,12 +21,34 @@ QRect pictureRect(const PhotoScene& scene) {
     return scene.picture.isNull() ? QRect(QPoint(0, 0), scene.photoSize) : scene.picture.rect();
 }
 
+QRectF fromArea(const QRectF& inArea, const QRectF& area) {
+    return {area.left() + inArea.left(), area.bottom() - inArea.bottom(), inArea.width(), inArea.height()};
+}
+
+QRectF toArea(const QRectF& inPicture, const QRectF& area) {
+    return {inPicture.left() - area.left(), area.bottom() - inPicture.bottom(), inPicture.width(),
+            inPicture.height()};
+}
+
 QRectF layerFrame(const PhotoScene& scene, std::size_t index) {
     if (index >= scene.layers.size() || !scene.layers[index]) return {};
-    const QRectF& frame = scene.layers[index]->frame;
-    const QRectF area(scene.referenceRect);
-    return {area.left() + frame.left(), area.bottom() - frame.top() - frame.height(), frame.width(),
-            frame.height()};
+    return fromArea(scene.layers[index]->frame, QRectF(scene.referenceRect));
+}
+
+std::optional<LayerOutline> layerOutline(const PhotoScene& scene, std::size_t index) {
+    const QRectF frame = layerFrame(scene, index);
+    if (frame.isNull()) return std::nullopt;
+    LayerOutline outline{.centre = frame.center(), .size = frame.size()};
+    const WatermarkView& layer = *scene.layers[index];
+    if (const auto* surface = std::get_if<TilingView>(&layer.child)) {
+        if (surface->size != rotatedSize(surface->contentSize, surface->rotation)) return std::nullopt;
+        outline.size = surface->contentSize;
+        outline.degrees = static_cast<double>(surface->rotation);
+    } else if (const auto* shape = std::get_if<ShapeImage>(&std::get<LayerContent>(layer.child))) {
+        outline.size = shape->outline;
+        outline.degrees = shape->degrees;
+    }
+    return outline;
 }
 
 QRect layerReach(const PhotoScene& scene, std::size_t index) {

@@ -100,7 +100,14 @@ TEST(SettingFile, HoldsEveryFieldOfEachTypeInItsOrderAndReadsItBack) {
     image.IsTransparent = image.CreateBW = true;
     image.TransparentColor = Color::white();
     image.ImageProportionalResize = u"Longer Side"_s;
-    PhotoEffects effects{1, 2, 4, 3, Color::white(), std::nullopt, 5, 6, 360, false, true, false};
+    text.PaddingTopShare = 0.0125F;
+    text.PaddingRightShare = -0.02F;
+    text.PaddingBottomShare = 0.0F;
+    text.PaddingLeftShare = 1.5F;
+    text.HorizontalSpacingShare = 0.25F;
+    text.VerticalSpacingShare = 0.125F;
+    PhotoEffects effects{1,     2,    4,     3,     Color::white(), std::nullopt, 5,     6,     360,
+                         false, true, false, 0.01F, 0.02F,          0.03F,        0.04F, 0.05F, 0.06F};
     const std::pair<WatermarkStack, QLatin1String> rows[] = {
         {{{text}, {}, 0, false},
          "Watermark@1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> ]]> &amp;\n|Font/Name=Serif|"
@@ -121,19 +128,31 @@ TEST(SettingFile, HoldsEveryFieldOfEachTypeInItsOrderAndReadsItBack) {
         {{{}, effects, 12, true},
          "Effects/Border/BorderColor=NSCalibratedRGBColorSpace 1 1 1 1|Effects/Border/TopBorderThickness=1|"
          "Effects/Border/LeftBorderThickness=2|Effects/Border/BottomBorderThickness=3|"
-         "Effects/Border/RightBorderThickness=4|Effects/Border/ApplyWatermarkOnBorder=1|"
+         "Effects/Border/RightBorderThickness=4|Effects/Border/TopBorderThicknessShare=0.010000|"
+         "Effects/Border/LeftBorderThicknessShare=0.020000|Effects/Border/"
+         "BottomBorderThicknessShare=0.040000|"
+         "Effects/Border/RightBorderThicknessShare=0.030000|Effects/Border/ApplyWatermarkOnBorder=1|"
          "Effects/Shadow/ShadowColor=|Effects/Shadow/ShadowDirection=360|Effects/Shadow/ShadowSpread=5|"
-         "Effects/Shadow/ShadowSize=6|Effects/Shadow/EnableShadow=0|SelectedFilter=12|Metadata=1"_L1},
+         "Effects/Shadow/ShadowSize=6|Effects/Shadow/ShadowSpreadShare=0.050000|"
+         "Effects/Shadow/ShadowSizeShare=0.060000|Effects/Shadow/EnableShadow=0|SelectedFilter=12|Metadata=1"_L1},
     };
     const auto commonElements =
         "IsEnabled=0|Transparency=0.250000|Rotation=-45|Position=10|PaddingTop=1|PaddingRight=2|"
-        "PaddingBottom=3|PaddingLeft=4|CustomPositionLeft=5|CustomPositionTop=6|HTiling=1|VTiling=1|"
-        "HorizontalSpacing=7|VerticalSpacing=8|ProportionalResize=%1|SelectedFilter=0"_L1;
+        "PaddingBottom=3|PaddingLeft=4|%2CustomPositionLeft=5|CustomPositionTop=6|HTiling=1|VTiling=1|"
+        "HorizontalSpacing=7|VerticalSpacing=8|%3ProportionalResize=%1|SelectedFilter=0"_L1;
+    const auto paddingShares =
+        "PaddingTopShare=0.012500|PaddingRightShare=-0.020000|PaddingBottomShare=0.000000|"
+        "PaddingLeftShare=1.500000|"_L1;
+    const auto spacingShares = "HorizontalSpacingShare=0.250000|VerticalSpacingShare=0.125000|"_L1;
     for (const auto& [stack, elements] : rows) {
         QString expected = elements;
-        if (!stack.Watermarks.empty())
-            expected +=
-                QString(commonElements).arg(stack.Watermarks[0].Type == watermark_type::Image ? 3 : 1);
+        if (!stack.Watermarks.empty()) {
+            const std::int32_t type = stack.Watermarks[0].Type;
+            const bool hasShares = type == watermark_type::Text;
+            expected += QString(commonElements)
+                            .arg(type == watermark_type::Image ? 3 : 1)
+                            .arg(hasShares ? paddingShares : ""_L1, hasShares ? spacingShares : ""_L1);
+        }
         EXPECT_EQ(outline(stack), expected.toStdString());
         EXPECT_EQ(readBack(writeSettingDocument(stack)), stack) << expected.toStdString();
     }
@@ -186,7 +205,8 @@ TEST(SettingFile, KeepsTheConstructedValueOfWhatIsMissingOrUnreadable) {
         EXPECT_EQ(readOne(type, "<Unknown><Width>7</Width></Unknown>"), Watermark(type));
         EXPECT_EQ(readOne(type,
                           "<Width>wide</Width><Height/><Position>NaN</Position><IsEnabled>maybe</IsEnabled>"
-                          "<ProportionalResize>9</ProportionalResize><Alignment>-1</Alignment>"),
+                          "<ProportionalResize>9</ProportionalResize><Alignment>-1</Alignment>"
+                          "<PaddingTopShare>wide</PaddingTopShare>"),
                   Watermark(type));
     }
     EXPECT_EQ(readOne(watermark_type::QrCode, "<ShadowColor> </ShadowColor>").ShadowColor, std::nullopt);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_effects.h"
 
+#include "records/length_field.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
 
@@ -180,6 +181,25 @@ TEST(PhotoEffects, TheShadowIsAGaussianOfTheAlphaAtEveryBlur) {
                 << "blur " << blur << ", transparent " << seeThrough;
         }
     }
+}
+
+TEST(PhotoEffects, SharesAreThoseOfTheShorterSideOfEachPhoto) {
+    PhotoEffects pixels = bordered();
+    pixels.TopThickness = pixels.LeftThickness = pixels.RightThickness = pixels.BottomThickness = 4;
+    pixels.EnableShadow = true;
+    pixels.BlurRadius = 6;
+    pixels.Distance = 2;
+    PhotoEffects shares = pixels;
+    for (const auto& field : length_field::Thicknesses) shares.*field.Share = 0.04F;
+    shares.BlurRadiusShare = 0.06F;
+    shares.DistanceShare = 0.02F;
+    shares.TopThickness = shares.BlurRadius = shares.Distance = 77;
+    QRect image;
+    QRect border;
+    const QImage photo = drawnScene({150, 100});
+    EXPECT_EQ(imagewithEffects(photo, shares, image, border, true),
+              imagewithEffects(photo, pixels, image, border, true));
+    EXPECT_EQ(framedSize({4000, 6000}, shares), QSize(4320, 6320));
 }
 
 TEST(PhotoEffects, NothingToDrawGivesThePhotoUntouched) {

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace zelto {
 namespace {
@@ -42,6 +43,58 @@ TEST(Placement, EveryPlaceInAnAreaOf1000By800) {
         record.PaddingBottom = row.bottom;
         EXPECT_EQ(placedFrame(record, row.size, area).topLeft(), row.origin) << "position " << row.position;
     }
+}
+
+TEST(Placement, AMarkPutSomewhereKeepsTheNearestPositionOnEveryPhoto) {
+    struct Row {
+        QPointF at;  // of a mark of 200 x 50
+        std::int32_t position;
+        std::int64_t left, top, right, bottom;
+        QPointF onOther;  // an area of 600 x 1200
+    };
+    for (const Row& row :
+         {Row{{30, 720}, 1, 30, 30, 0, 0, {30, 1120}}, Row{{400, 740}, 2, 0, 10, 0, 0, {200, 1140}},
+          Row{{790, 20}, 9, 0, 0, 10, 20, {390, 20}}, Row{{0, 375}, 4, 0, 0, 0, 0, {0, 575}},
+          Row{{430, 335}, 5, 30, 40, 0, 0, {230, 535}}, Row{{610, 190}, 6, 0, 185, 190, 0, {210, 390}},
+          Row{{590, 180}, 8, 190, 0, 0, 180, {390, 180}}, Row{{850, 0}, 9, 0, 0, -50, 0, {450, 0}}}) {
+        Watermark record(watermark_type::Text);
+        placeAt(record, {row.at, QSizeF(200, 50)}, area, Anchoring::Nearest);
+        EXPECT_EQ(record.Position, row.position);
+        EXPECT_EQ(
+            std::vector({record.PaddingLeft, record.PaddingTop, record.PaddingRight, record.PaddingBottom}),
+            std::vector({row.left, row.top, row.right, row.bottom}));
+        EXPECT_EQ(placedFrame(record, {200, 50}, area).topLeft(), row.at);
+        EXPECT_EQ(placedFrame(record, {200, 50}, {600, 1200}).topLeft(), row.onOther) << row.position;
+    }
+    // Marks of any size stay where they are when they are put where they are, at whatever position they have.
+    for (std::int32_t position = 1; position <= CustomPosition; ++position) {
+        for (const QSizeF size : {QSizeF(200, 50), QSizeF(133.7, 41.3), QSizeF(1200, 900)}) {
+            Watermark record(watermark_type::Text);
+            record.Position = position;
+            record.PaddingLeft = record.PaddingTop = record.PaddingRight = record.PaddingBottom = 7;
+            record.CustomPositionLeft = record.CustomPositionTop = 7;
+            const QRectF placed = placedFrame(record, size, area);
+            placeAt(record, placed, area, size.width() > 1000 ? Anchoring::Nearest : Anchoring::Kept);
+            EXPECT_EQ(placedFrame(record, size, area), placed) << position << ", " << size.width();
+            EXPECT_EQ(record.Position, position);
+        }
+    }
+}
+
+TEST(Placement, SharedPaddingsFollowTheShorterSide) {
+    Watermark record(watermark_type::Text);
+    record.Position = 9;
+    record.PaddingRight = 9999;
+    record.PaddingRightShare = record.PaddingBottomShare = 0.025F;
+    EXPECT_EQ(placedFrame(record, {200, 50}, area).topLeft(), QPointF(780, 20));
+    EXPECT_EQ(placedFrame(record, {200, 50}, {4000, 6000}).topLeft(), QPointF(3700, 100));
+    placeAt(record, {760, 16, 200, 50}, area, Anchoring::Nearest);
+    EXPECT_EQ(record.PaddingRight, 40);
+    EXPECT_EQ(record.PaddingRightShare, 0.05F);
+    EXPECT_EQ(placedFrame(record, {200, 50}, {4000, 6000}).topLeft(), QPointF(3600, 80));
+    record.HorizontalTiling = true;
+    record.PaddingLeftShare = 0.1F;
+    EXPECT_EQ(tiledFrame(record, {200, 50}, area), QRectF(80, 16, 880, 50));
 }
 
 TEST(Placement, TilingsFillAColumnARowOrTheAreaInsideThePaddings) {

@@ -5,6 +5,7 @@
 #include "app/watermarks/watermark_controller.h"
 #include "platform/dates.h"
 #include "render/effect_diagnostics.h"
+#include "render/placement.h"
 #include "render/scene_geometry.h"
 
 #include <QLoggingCategory>
@@ -48,9 +49,9 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     });
 
     connect(&view_, &PreviewView::layerPicked, &watermarks_, &WatermarkController::selectWatermark);
-    connect(&view_, &PreviewView::layerDragged, &builder_, &SceneBuilder::moveLayer);
-    connect(&view_, &PreviewView::layerDropped, this,
-            [this](int index, QPoint place) { watermarks_.placeWatermark(index, place); });
+    connect(&view_, &PreviewView::gestureBegan, this, &PhotoPreview::beginGesture);
+    connect(&view_, &PreviewView::gestureMoved, this, &PhotoPreview::moveGesture);
+    connect(&view_, &PreviewView::gestureEnded, this, &PhotoPreview::endGesture);
     connect(&view_, &PreviewView::layerNudged, this, &PhotoPreview::nudge);
     connect(&watermarks_.selection(), &QItemSelectionModel::selectionChanged, this,
             [this] { view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata()); });
@@ -171,18 +172,38 @@ void PhotoPreview::prefetchNeighbours() {
 
 void PhotoPreview::nudge(int index, QPoint step) {
     const auto& scene = view_.shown();
-    if (!scene || !document_.contains(index) || !isMovable(watermarks_.GetWatermarkAtRow(index))) return;
-    const QRectF area = scene->scene.referenceRect;
-    const QRectF frame = layerFrame(scene->scene, static_cast<std::size_t>(index));
-    if (frame.isNull()) return;
-    // Keys come faster than pictures: a place that has been chosen counts more than the one that is seen.
+    if (!scene || !document_.contains(index)) return;
     const Watermark& watermark = watermarks_.GetWatermarkAtRow(index);
-    const QPointF from = watermark.Position == CustomPosition
-                             ? area.topLeft() + QPointF(static_cast<double>(watermark.CustomPositionLeft),
-                                                        static_cast<double>(watermark.CustomPositionTop))
-                             : frame.topLeft();
-    const QPointF to = reachablePlace(from + step, frame.size(), area);
-    watermarks_.placeWatermark(index, (to - area.topLeft()).toPoint(), QStringLiteral("nudge"));
+    const QSizeF size = layerFrame(scene->scene, static_cast<std::size_t>(index)).size();
+    if (size.isNull() || !isMovable(watermark)) return;
+    // Keys come faster than pictures: the place that the record has counts, not the one that is seen.
+    const QRectF area(scene->scene.referenceRect);
+    const QRectF from = fromArea(placedFrame(watermark, size, area.size()), area);
+    const QRectF to(reachablePlace(from.topLeft() + step, size, area), size);
+    Watermark moved = watermark;
+    placeAt(moved, toArea(to, area), area.size(), Anchoring::Nearest);
+    watermarks_.placeWatermark(index, moved, tr("Place Watermark"), QStringLiteral("nudge"));
+}
+
+void PhotoPreview::beginGesture(int index) {
+    if (!document_.contains(index)) return;
+    gesture_ = {index, watermarks_.GetWatermarkAtRow(index), QStringLiteral("gesture%1").arg(++gestures_)};
+}
+
+void PhotoPreview::moveGesture(const LayerEdit& edit, Grip::Part part) {
+    if (!gesture_) return;
+    Watermark record = gesture_->start;
+    edit(record);
+    const QString name = part == Grip::Part::Body     ? tr("Place Watermark")
+                         : part == Grip::Part::Corner ? tr("Resize Watermark")
+                                                      : tr("Turn Watermark");
+    watermarks_.placeWatermark(gesture_->index, record, name, gesture_->step);
+}
+
+void PhotoPreview::endGesture(bool isKept) {
+    // A step that has led back to where it began vanishes.
+    if (gesture_ && !isKept) watermarks_.placeWatermark(gesture_->index, gesture_->start, {}, gesture_->step);
+    gesture_.reset();
 }
 
 }  // namespace zelto

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace zelto {
 
@@ -35,6 +36,9 @@ class PhotoPreview : public QObject {
     void showRunPicture(const QImage& picture);
     void endRun();
 
+    // Shows the selected photo without its watermarks, or with them again.
+    void setBare(bool isBare) { builder_.setBare(isBare); }
+
     // Whether the canvas shows everything as it is now.
     bool isSettled() const { return builder_.isSettled(); }
 
@@ -52,6 +56,9 @@ class PhotoPreview : public QObject {
     void prefetchNeighbours();
     void writeDiagnostics();
     void nudge(int index, QPoint step);
+    void beginGesture(int index);
+    void moveGesture(const LayerEdit& edit, Grip::Part part);
+    void endGesture(bool isKept);
 
     ImageListController& photos_;
     WatermarkController& watermarks_;
@@ -62,6 +69,14 @@ class PhotoPreview : public QObject {
     QTimer diagnosticsDue_;
     std::shared_ptr<LogoCache> logos_;
     bool isRunning_ = false;
+    // A layer in hand: which one, as it was, and the undo step that all of it becomes.
+    struct Gesture {
+        int index;
+        Watermark start;
+        QString step;
+    };
+    std::optional<Gesture> gesture_;
+    int gestures_ = 0;
     int neighboursOf_ = -1;  // the row whose neighbours have been made ready
 };
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QPixmap>
 #include <QTransform>
 
 #include <cmath>
@@ -41,6 +42,62 @@ void paintLine(QPainter& painter, const QPen& pen, const QPainterPath& path) {
     painter.strokePath(path, pen);
 }
 
+// A line with a bar at either end.
+QPainterPath dimensionLine(const QLineF& line, double ratio) {
+    constexpr double HalfBar = 5.0;
+    QPainterPath path(line.p1());
+    path.lineTo(line.p2());
+    const QLineF across = line.normalVector().unitVector();
+    const QPointF bar = QPointF(across.dx(), across.dy()) * HalfBar * ratio;
+    for (const QPointF& end : {line.p1(), line.p2()}) {
+        path.moveTo(end - bar);
+        path.lineTo(end + bar);
+    }
+    return path;
+}
+
+// A text in a small box around `centre`.
+void paintTag(QPainter& painter, QPointF centre, const QString& text, const QPalette& palette,
+              const QFont& font, double ratio) {
+    painter.save();
+    painter.translate(centre);
+    painter.scale(ratio, ratio);
+    painter.setFont(font);
+    QRectF box = painter.fontMetrics().boundingRect(text);
+    box.adjust(-6.0, -2.0, 6.0, 2.0);
+    box.moveCenter(QPointF());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(box, 4.0, 4.0);
+    painter.setPen(palette.color(QPalette::HighlightedText));
+    painter.drawText(box, Qt::AlignCenter, text);
+    painter.restore();
+}
+
+// The nine positions as dots under (or over) the frame, the one it has standing out.
+void paintCell(QPainter& painter, const QRectF& frame, int cell, const QPalette& palette, double ratio) {
+    constexpr double Step = 7.0;
+    constexpr double Side = 4.0 * Step;
+    constexpr double Gap = 10.0;
+    painter.save();
+    const double below = frame.bottom() + Gap * ratio;
+    const bool fits = below + Side * ratio <= painter.viewport().height();
+    painter.translate(frame.center().x(), fits ? below : frame.top() - (Gap + Side) * ratio);
+    painter.scale(ratio, ratio);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(-Side / 2.0, 0.0, Side, Side), 4.0, 4.0);
+    QColor faint = palette.color(QPalette::HighlightedText);
+    faint.setAlphaF(0.45F);
+    for (int i = 0; i < 9; ++i) {
+        const bool isOwn = i + 1 == cell;
+        const double radius = isOwn ? 3.0 : 1.5;
+        painter.setBrush(isOwn ? palette.color(QPalette::HighlightedText) : faint);
+        painter.drawEllipse(QPointF((i % 3 - 1) * Step, (i / 3 + 1) * Step), radius, radius);
+    }
+    painter.restore();
+}
+
 }  // namespace
 
 void paintOnDevicePixels(QPainter& painter) {
@@ -60,19 +117,77 @@ void paintCheckerboard(QPainter& painter, const QRect& area, const QPalette& pal
     painter.fillRect(area, QBrush(checkerboard(palette, ratio)));
 }
 
-void paintLayerMark(QPainter& painter, const QRectF& frame, const QPalette& palette, double ratio) {
+void paintLayerMark(QPainter& painter, const QPolygonF& outline, const QPalette& palette, double ratio) {
     QPen pen(palette.color(QPalette::Highlight), 1.5 * ratio, Qt::DashLine);
     pen.setDashPattern({4.0, 3.0});
     QPainterPath path;
-    path.addRect(frame.adjusted(-ratio, -ratio, ratio, ratio));
+    path.addPolygon(outline);
+    path.closeSubpath();
     painter.setRenderHint(QPainter::Antialiasing);
     paintLine(painter, pen, path);
 }
 
-void paintGuide(QPainter& painter, const QLineF& line, const QPalette& palette, double ratio) {
-    QPainterPath path(line.p1());
-    path.lineTo(line.p2());
-    paintLine(painter, QPen(palette.color(QPalette::Highlight), ratio), path);
+void paintHandles(QPainter& painter, const LayerHandles& handles, const QPalette& palette, double ratio) {
+    constexpr double HalfSide = 4.5;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = palette.color(QPalette::Highlight);
+    if (handles.turn) {
+        QPainterPath stem(handles.turn->p1());
+        stem.lineTo(handles.turn->p2());
+        paintLine(painter, QPen(accent, ratio), stem);
+    }
+    painter.setPen(QPen(accent, 1.5 * ratio));
+    painter.setBrush(Qt::white);
+    const double half = HalfSide * ratio;
+    if (handles.turn) painter.drawEllipse(handles.turn->p2(), half, half);
+    for (const QPointF& corner : handles.corners) {
+        painter.save();
+        painter.translate(corner);
+        painter.rotate(handles.degrees);
+        painter.drawRect(QRectF(-half, -half, 2.0 * half, 2.0 * half));
+        painter.restore();
+    }
+    painter.restore();
+}
+
+void paintGuides(QPainter& painter, const PlaceGuides& guides, const QRectF& frame, const QPalette& palette,
+                 const QFont& font, double ratio) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = palette.color(QPalette::Highlight);
+    const QPen pen(accent, ratio);
+    for (const QLineF& line : guides.lines) {
+        QPainterPath path(line.p1());
+        path.lineTo(line.p2());
+        paintLine(painter, pen, path);
+    }
+    for (const PlaceGuides::Distance& distance : guides.distances) {
+        paintLine(painter, pen, dimensionLine(distance.line, ratio));
+        paintTag(painter, distance.line.center(), distance.label, palette, font, ratio);
+    }
+    if (guides.cell > 0) paintCell(painter, frame, guides.cell, palette, ratio);
+    painter.restore();
+}
+
+QCursor turnCursor() {
+    constexpr int Side = 24;
+    constexpr QRectF Circle(5.0, 5.0, 14.0, 14.0);
+    QPixmap picture(Side, Side);
+    picture.fill(Qt::transparent);
+    QPainterPath path;
+    path.arcMoveTo(Circle, 60.0);
+    path.arcTo(Circle, 60.0, 290.0);
+    const QPointF tip = path.currentPosition();
+    path.moveTo(tip + QPointF(-5.0, -1.0));
+    path.lineTo(tip);
+    path.lineTo(tip + QPointF(1.0, -5.0));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(path, QPen(Qt::white, 4.0, Qt::SolidLine, Qt::RoundCap));
+    painter.strokePath(path, QPen(Qt::black, 1.8, Qt::SolidLine, Qt::RoundCap));
+    painter.end();
+    return QCursor(picture);
 }
 
 void paintCentredMessage(QPainter& painter, QSize viewport, const QString& message, const QPalette& palette,

@@ -3,9 +3,14 @@
 // viewport, line widths follow `ratio`, the device pixels of one device-independent pixel. Main thread only.
 #pragma once
 
+#include "app/preview/layer_handles.h"
+#include "app/preview/place_guides.h"
+
+#include <QCursor>
 #include <QFont>
 #include <QLineF>
 #include <QPalette>
+#include <QPolygonF>
 #include <QRect>
 #include <QRectF>
 #include <QSize>
@@ -22,10 +27,16 @@ void paintOnDevicePixels(QPainter& painter);
 void paintBackground(QPainter& painter, QSize viewport, const QPalette& palette);
 // The ground under pictures that are partly transparent; its squares keep their place on the screen.
 void paintCheckerboard(QPainter& painter, const QRect& area, const QPalette& palette, double ratio);
-// The frame around the layer that is selected or dragged.
-void paintLayerMark(QPainter& painter, const QRectF& frame, const QPalette& palette, double ratio);
-// A line a dragged layer lies on.
-void paintGuide(QPainter& painter, const QLineF& line, const QPalette& palette, double ratio);
+// The outline of the layer that is selected.
+void paintLayerMark(QPainter& painter, const QPolygonF& outline, const QPalette& palette, double ratio);
+// Its handles; their shape tells the one that turns from those that size.
+void paintHandles(QPainter& painter, const LayerHandles& handles, const QPalette& palette, double ratio);
+// Around a layer in `frame` that is moved: the lines it lies on, its distances, and which of the nine positions it has.
+// All are in view coordinates.
+void paintGuides(QPainter& painter, const PlaceGuides& guides, const QRectF& frame, const QPalette& palette,
+                 const QFont& font, double ratio);
+// The pointer on the handle that turns.
+QCursor turnCursor();
 // A message in the middle; its first line stands out.
 void paintCentredMessage(QPainter& painter, QSize viewport, const QString& message, const QPalette& palette,
                          const QFont& font, double ratio);

@@ -2,6 +2,7 @@
 #include "app/preview/preview_view.h"
 
 #include "app/preview/preview_paint.h"
+#include "render/hand_edits.h"
 #include "render/scene_geometry.h"
 
 #include <QApplication>
@@ -42,6 +43,7 @@ void PreviewView::apply(const PreviewUpdate& update) {
     const bool isOtherPhoto = !shown_ || shown_->path != update.shown->path;
     const bool isOtherSize = !shown_ || shown_->scene.picture.size() != update.shown->scene.picture.size();
     shown_ = update.shown;
+    isBare_ = update.isBare;
     message_.clear();
     if (update.isOtherPicture) whole_ = {};
     if (!update.isPatch) {
@@ -63,7 +65,7 @@ void PreviewView::apply(const PreviewUpdate& update) {
 }
 
 void PreviewView::showMessage(const QString& message) {
-    endDrag(false);
+    endGesture(false);
     shown_.reset();
     piece_ = {};
     whole_ = {};
@@ -202,19 +204,43 @@ void PreviewView::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
+// The handles of the selected layer, which only a layer with a single place has.
+std::optional<LayerHandles> PreviewView::handles() const {
+    if (!shown_ || isBare_ || selectedLayer_ < 0) return std::nullopt;
+    const auto index = static_cast<std::size_t>(selectedLayer_);
+    const std::vector<Watermark>& records = shown_->stack->Watermarks;
+    if (index >= records.size() || !records[index].IsEnabled || !isMovable(records[index]))
+        return std::nullopt;
+    const std::optional<LayerOutline> outline = layerOutline(shown_->scene, index);
+    if (!outline || outline->size.isEmpty()) return std::nullopt;
+    return handlesOf(*outline, canBeTurned(records[index]), geometry_, devicePixelRatio_);
+}
+
+std::optional<Grip> PreviewView::gripUnder(const QMouseEvent& event) const {
+    const std::optional<LayerHandles> held = handles();
+    return held ? gripAt(*held, devicePoint(event.position()), devicePixelRatio_) : std::nullopt;
+}
+
+void PreviewView::take(int index, const Grip& grip, const QMouseEvent& event) {
+    gesture_.emplace(shown_->scene, *shown_->stack, index, grip, picturePoint(event));
+}
+
 void PreviewView::mousePressEvent(QMouseEvent* event) {
     pressed_ = devicePoint(event->position());
-    if (!shown_) return;
+    if (!shown_ || gesture_) return;
     if (event->button() == Qt::MiddleButton) {
         isPanning_ = true;
     } else if (event->button() == Qt::LeftButton) {
-        const std::optional<int> layer = layerUnder(*event);
-        Q_EMIT layerPicked(layer.value_or(-1));
-        if (layer && isMovable(shown_->stack->Watermarks[static_cast<std::size_t>(*layer)])) {
-            drag_.emplace(*layer, layerFrame(shown_->scene, static_cast<std::size_t>(*layer)),
-                          QRectF(shown_->scene.referenceRect), picturePoint(*event));
+        if (const std::optional<Grip> grip = gripUnder(*event)) {
+            take(selectedLayer_, *grip, *event);
         } else {
-            isPanning_ = true;
+            const std::optional<int> layer = isBare_ ? std::nullopt : layerUnder(*event);
+            Q_EMIT layerPicked(layer.value_or(-1));
+            if (layer && isMovable(shown_->stack->Watermarks[static_cast<std::size_t>(*layer)])) {
+                take(*layer, {}, *event);
+            } else {
+                isPanning_ = true;
+            }
         }
     }
     updateCursor(*event);
@@ -222,14 +248,17 @@ void PreviewView::mousePressEvent(QMouseEvent* event) {
 
 void PreviewView::mouseMoveEvent(QMouseEvent* event) {
     const QPointF point = devicePoint(event->position());
-    if (drag_) {
+    if (gesture_) {
         const double distance = QApplication::startDragDistance() * devicePixelRatio_;
-        isDragging_ = isDragging_ || (point - pressed_).manhattanLength() >= distance;
-        if (isDragging_) {
+        if (!hasMoved_ && (point - pressed_).manhattanLength() >= distance) {
+            hasMoved_ = true;
+            Q_EMIT gestureBegan(gesture_->index());
+        }
+        if (hasMoved_) {
             const bool snaps = !event->modifiers().testFlag(Qt::AltModifier);
-            drag_->moveTo(picturePoint(*event), snaps ? SnapDistance * devicePixelRatio_ / scale() : 0.0);
-            Q_EMIT layerDragged(MovedLayer{drag_->index(), drag_->frame().topLeft()});
-            viewport()->update();
+            const double snap = snaps ? SnapDistance * devicePixelRatio_ / scale() : 0.0;
+            const bool isFree = event->modifiers().testFlag(Qt::ShiftModifier);
+            Q_EMIT gestureMoved(gesture_->moveTo(picturePoint(*event), snap, isFree), gesture_->grip().part);
         }
     } else if (isPanning_) {
         ViewGeometry geometry = geometry_;
@@ -242,29 +271,29 @@ void PreviewView::mouseMoveEvent(QMouseEvent* event) {
 
 void PreviewView::mouseReleaseEvent(QMouseEvent* event) {
     isPanning_ = false;
-    endDrag(true);
+    endGesture(true);
     updateCursor(*event);
 }
 
 void PreviewView::mouseDoubleClickEvent(QMouseEvent* event) {
-    endDrag(false);
+    endGesture(false);
     if (const std::optional<int> layer = layerUnder(*event)) Q_EMIT layerActivated(*layer);
 }
 
-void PreviewView::endDrag(bool drop) {
-    if (!drag_) return;
-    const int index = drag_->index();
-    const auto place = drag_->place();
-    const bool isDropped = drop && drag_->isMoved();
-    drag_.reset();
-    if (!std::exchange(isDragging_, false)) return;
-    if (isDropped) Q_EMIT layerDropped(index, place);
-    Q_EMIT layerDragged(std::nullopt);
+void PreviewView::endGesture(bool isKept) {
+    gesture_.reset();
+    if (!std::exchange(hasMoved_, false)) return;
+    Q_EMIT gestureEnded(isKept);
     viewport()->update();
 }
 
 void PreviewView::updateCursor(const QMouseEvent& event) {
-    const std::optional<int> layer = drag_ ? drag_->index() : layerUnder(event);
+    if (const std::optional<Grip> grip = gesture_ ? gesture_->grip() : gripUnder(event)) {
+        const std::optional<LayerHandles> held = handles();
+        viewport()->setCursor(cursorFor(*grip, held ? held->degrees : 0.0));
+        return;
+    }
+    const std::optional<int> layer = isBare_ ? std::nullopt : layerUnder(event);
     const bool canPan = !geometry_.largestScroll().isNull();
     Qt::CursorShape shape = canPan && shown_ ? Qt::OpenHandCursor : Qt::ArrowCursor;
     if (isPanning_ && canPan) {
@@ -276,8 +305,8 @@ void PreviewView::updateCursor(const QMouseEvent& event) {
 }
 
 void PreviewView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && drag_) {
-        endDrag(false);
+    if (event->key() == Qt::Key_Escape && gesture_) {
+        endGesture(false);
         return;
     }
     const int length = event->modifiers().testFlag(Qt::ShiftModifier) ? LargeNudgeStep : NudgeStep;
@@ -366,21 +395,23 @@ void PreviewView::paintPiece(QPainter& painter, const Piece& piece) const {
 }
 
 void PreviewView::paintMarks(QPainter& painter) const {
-    const int index = isDragging_ ? drag_->index() : selectedLayer_;
-    if (index < 0 || static_cast<std::size_t>(index) >= shown_->scene.layers.size()) return;
+    if (isBare_) return;
+    const std::optional<LayerHandles> held = handles();
     const QRectF frame =
-        isDragging_ ? drag_->frame() : layerFrame(shown_->scene, static_cast<std::size_t>(index));
-    if (!frame.isNull()) paintLayerMark(painter, geometry_.toView(frame), palette(), devicePixelRatio_);
-    if (!isDragging_) return;
-    const QRectF area = geometry_.toView(QRectF(shown_->scene.referenceRect));
-    const Guides& guides = drag_->guides();
-    if (guides.x) {
-        const double x = geometry_.toView(QPointF(*guides.x, 0)).x();
-        paintGuide(painter, {x, area.top(), x, area.bottom()}, palette(), devicePixelRatio_);
-    }
-    if (guides.y) {
-        const double y = geometry_.toView(QPointF(0, *guides.y)).y();
-        paintGuide(painter, {area.left(), y, area.right(), y}, palette(), devicePixelRatio_);
+        selectedLayer_ < 0 ? QRectF() : layerFrame(shown_->scene, static_cast<std::size_t>(selectedLayer_));
+    if (frame.isNull()) return;
+    const QRectF seen = geometry_.toView(frame);
+    paintLayerMark(painter, held ? held->outline : QPolygonF(seen), palette(), devicePixelRatio_);
+    const bool isMoved = hasMoved_ && gesture_->grip().part == Grip::Part::Body;
+    if (isMoved) {
+        PlaceGuides guides = placeGuides(shown_->stack->Watermarks[static_cast<std::size_t>(selectedLayer_)],
+                                         frame, QRectF(shown_->scene.referenceRect));
+        for (QLineF& line : guides.lines) line = geometry_.toView(line);
+        for (PlaceGuides::Distance& distance : guides.distances)
+            distance.line = geometry_.toView(distance.line);
+        paintGuides(painter, guides, seen, palette(), font(), devicePixelRatio_);
+    } else if (held) {
+        paintHandles(painter, *held, palette(), devicePixelRatio_);
     }
 }
 

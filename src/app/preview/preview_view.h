@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The preview canvas. It shows the parts of the composed photo that it is sent, at any zoom and pixel for pixel, and
-// lets the user scroll, zoom and drag layers. It composes nothing and changes no record: signals say which part it needs
-// and what the user did. Main thread only.
+// lets the user scroll, zoom, and move, size and turn layers. It composes nothing and changes no record: signals say
+// which part it needs and what the user did. Main thread only.
 #pragma once
 
-#include "app/preview/layer_drag.h"
+#include "app/preview/layer_gesture.h"
+#include "app/preview/layer_handles.h"
 #include "app/preview/scene_builder.h"
 #include "app/preview/view_geometry.h"
 
@@ -55,10 +56,11 @@ class PreviewView : public QAbstractScrollArea {
     // A layer was clicked, or -1 for the photo itself; a layer was double-clicked.
     void layerPicked(int index);
     void layerActivated(int index);
-    // While a layer is dragged: its place; without a value once it is let go.
-    void layerDragged(const std::optional<zelto::MovedLayer>& moved);
-    // A layer was dropped at a place, or moved there by the keyboard by `step` pixels.
-    void layerDropped(int index, QPoint place);
+    // A layer is taken in hand; what each step makes of its record; it is let go, or was not meant.
+    void gestureBegan(int index);
+    void gestureMoved(const zelto::LayerEdit& edit, zelto::Grip::Part part);
+    void gestureEnded(bool isKept);
+    // The keyboard moves a layer by `step` pixels.
     void layerNudged(int index, QPoint step);
 
   protected:
@@ -89,7 +91,10 @@ class PreviewView : public QAbstractScrollArea {
     bool pinch(QEvent* event);
     std::optional<int> layerUnder(const QMouseEvent& event) const;
     void updateCursor(const QMouseEvent& event);
-    void endDrag(bool drop);
+    std::optional<LayerHandles> handles() const;
+    std::optional<Grip> gripUnder(const QMouseEvent& event) const;
+    void take(int index, const Grip& grip, const QMouseEvent& event);
+    void endGesture(bool isKept);
     void paintPicture(QPainter& painter) const;
     void paintPiece(QPainter& painter, const Piece& piece) const;
     void paintMarks(QPainter& painter) const;
@@ -104,9 +109,10 @@ class PreviewView : public QAbstractScrollArea {
     QString message_;
     QImage picture_;  // shown in place of the photo
     int selectedLayer_ = -1;
-    std::optional<LayerDrag> drag_;
-    bool isDragging_ = false;  // the pointer has gone far enough for a drag
-    QPointF pressed_;          // device pixels, of the press or of the last step of panning
+    std::optional<LayerGesture> gesture_;
+    bool hasMoved_ = false;  // the pointer has gone far enough for a gesture
+    bool isBare_ = false;    // the photo is shown without its layers
+    QPointF pressed_;        // device pixels, of the press or of the last step of panning
     bool isPanning_ = false;
     bool isTakingGeometry_ = false;
 };

@@ -74,34 +74,17 @@ class SceneBuilder::Worker {
                 fadeForScreen(placed_.layers[index]);
             }
         }
-        auto shown = std::make_shared<ShownScene>(ShownScene{job.request.path, placed_, job.request.stack});
-        if (job.moved) move(*shown, *job.moved);
-        shown_ = std::move(shown);
+        shown_ = std::make_shared<ShownScene>(ShownScene{job.request.path, placed_, job.request.stack});
         dirty |= reachOfChanges(job);
-        shownMove_ = job.moved;
         return dirty;
     }
 
     // Where the scene on show has the layers that are about to change, or have just changed.
     QRect reachOfChanges(const Job& job) const {
         QRect area;
-        const auto add = [&](int record) {
+        for (const int record : job.records)
             area |= layerReach(shown_->scene, static_cast<std::size_t>(record));
-        };
-        for (const int record : job.records) add(record);
-        if (shownMove_ != job.moved) {
-            if (shownMove_) add(shownMove_->index);
-            if (job.moved) add(job.moved->index);
-        }
         return area;
-    }
-
-    static void move(ShownScene& shown, const MovedLayer& moved) {
-        const auto index = static_cast<std::size_t>(moved.index);
-        const QRectF frame = layerFrame(shown.scene, index);
-        if (frame.isNull()) return;
-        const QPointF by = moved.topLeft - frame.topLeft();
-        shown.scene.layers[index]->frame.translate(by.x(), -by.y());
     }
 
     void send(const Job& job, const QRect& dirty, bool isOtherPicture) {
@@ -112,16 +95,20 @@ class SceneBuilder::Worker {
         update.shown = shown_;
         update.isOtherPicture = isOtherPicture;
         update.region.scale = seen.scale;
-        if (isOtherPicture || sent_.scale != seen.scale || !sent_.rect.contains(seen.rect)) {
+        update.isBare = job.isBare;
+        if (isOtherPicture || sentBare_ != job.isBare || sent_.scale != seen.scale ||
+            !sent_.rect.contains(seen.rect)) {
             sent_ = view.comfortableRegion();
             update.region = sent_;
-        } else if (dirty.isEmpty()) {
+        } else if (dirty.isEmpty() || job.isBare) {
             update.isPatch = true;
         } else {
             update.region.rect = scaledRect(dirty, sent_.scale).intersected(sent_.rect);
             update.isPatch = update.region.rect != sent_.rect;
         }
-        update.image = composeRegion(shown_->scene, *shown_->stack, update.region);
+        sentBare_ = job.isBare;
+        update.image =
+            composeRegion(shown_->scene, job.isBare ? WatermarkStack() : *shown_->stack, update.region);
         tell(job, [this, update] { Q_EMIT owner_.updated(update); });
     }
 
@@ -140,8 +127,8 @@ class SceneBuilder::Worker {
     std::shared_ptr<const PhotoScene> base_;
     PhotoScene placed_;  // the base with its layers where they belong
     std::shared_ptr<const ShownScene> shown_;
-    std::optional<MovedLayer> shownMove_;
     ViewRegion sent_;
+    bool sentBare_ = false;
 };
 
 SceneBuilder::SceneBuilder(QObject* parent)
@@ -171,7 +158,6 @@ SceneBuilder::~SceneBuilder() {
 void SceneBuilder::showPhoto(const PhotoRequest& request) {
     photoRevision_ = posted_ + 1;
     next_.request = request;
-    next_.moved.reset();
     next_.photo = true;
     post();
 }
@@ -188,8 +174,8 @@ void SceneBuilder::updateLayers(const PhotoRequest& request, const std::vector<i
     post();
 }
 
-void SceneBuilder::moveLayer(const std::optional<MovedLayer>& moved) {
-    next_.moved = moved;
+void SceneBuilder::setBare(bool isBare) {
+    next_.isBare = isBare;
     post();
 }
 
@@ -210,7 +196,7 @@ void SceneBuilder::prefetch(const std::vector<PhotoRequest>& requests) {
     prefetches_->post(requests);
 }
 
-// Sends `next_` on; what it remembers for the job after it is the photo, the view and the moved layer.
+// Sends `next_` on; what it remembers for the job after it is the photo and how it is seen.
 void SceneBuilder::post() {
     if (next_.request.path.isEmpty() && !next_.photo) return;
     next_.revision = ++posted_;

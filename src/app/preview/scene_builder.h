@@ -12,12 +12,10 @@
 
 #include <QImage>
 #include <QObject>
-#include <QPointF>
 #include <QString>
 
 #include <atomic>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace zelto {
@@ -29,17 +27,10 @@ struct ShownScene {
     std::shared_ptr<const WatermarkStack> stack;
 };
 
-// A layer shown away from its place while it is dragged.
-struct MovedLayer {
-    int index = 0;
-    QPointF topLeft;  // of its frame, pixels of the scene's picture from the top left
-
-    bool operator==(const MovedLayer&) const = default;
-};
-
 struct PreviewUpdate {
     std::shared_ptr<const ShownScene> shown;
     bool isOtherPicture = false;  // what was drawn before has nothing to do with it
+    bool isBare = false;          // the picture is without its layers
     bool isPatch = false;         // `image` replaces a part of the region sent before, else all of it
     ViewRegion region;            // what `image` covers; empty where nothing has changed that is seen
     QImage image;
@@ -57,8 +48,8 @@ class SceneBuilder : public QObject {
     // All layers, or those of `records`, have changed.
     void updateLayers(const PhotoRequest& request);
     void updateLayers(const PhotoRequest& request, const std::vector<int>& records);
-    // Shows a layer away from its place, or all where they belong.
-    void moveLayer(const std::optional<MovedLayer>& moved);
+    // Shows the photo with its filter and its frame but without any layer, or with them again.
+    void setBare(bool isBare);
     // The picture is looked at in another way. The size of the picture itself is not needed.
     void setView(const ViewGeometry& view);
     // Nothing is to be shown.
@@ -81,7 +72,7 @@ class SceneBuilder : public QObject {
         bool photo = false;
         bool layers = false;
         std::vector<int> records;
-        std::optional<MovedLayer> moved;
+        bool isBare = false;
         ViewGeometry view;
         quint64 revision = 0;
         quint64 photoRevision = 0;  // the revision that asked for this photo

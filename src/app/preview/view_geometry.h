@@ -4,6 +4,7 @@
 // pixels, view coordinates device pixels of the viewport; both grow downward from the top left.
 #pragma once
 
+#include <QLineF>
 #include <QPoint>
 #include <QPointF>
 #include <QRect>
@@ -47,6 +48,7 @@ struct ViewGeometry {
     QPointF toPicture(QPointF view) const;
     QPointF toView(QPointF inPicture) const;
     QRectF toView(const QRectF& inPicture) const;
+    QLineF toView(const QLineF& inPicture) const { return {toView(inPicture.p1()), toView(inPicture.p2())}; }
 
     // The same at `newScale` (within the limits), the picture's point under `view` staying where it is.
     ViewGeometry zoomedAbout(double newScale, QPointF view) const;

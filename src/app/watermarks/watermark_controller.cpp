@@ -249,17 +249,11 @@ void WatermarkController::MoveWatermarks(int from, int to) {
     selectWatermark(to);
 }
 
-void WatermarkController::placeWatermark(int index, QPoint topLeft, const QString& step) {
+void WatermarkController::placeWatermark(int index, const Watermark& placed, const QString& name,
+                                         const QString& step) {
     if (!document_.contains(index)) return;
     document_.change(
-        tr("Place Watermark"),
-        [index, topLeft](StackState& state) {
-            Watermark& watermark = recordAt(state, index);
-            watermark.Position = CustomPosition;
-            watermark.CustomPositionLeft = topLeft.x();
-            watermark.CustomPositionTop = topLeft.y();
-        },
-        mergeKey(step));
+        name, [&](StackState& state) { recordAt(state, index) = placed; }, mergeKey(step));
 }
 
 void WatermarkController::replaceStack(const WatermarkStack& stack,

@@ -10,7 +10,6 @@
 
 #include <QItemSelectionModel>
 #include <QObject>
-#include <QPoint>
 #include <QString>
 
 #include <optional>
@@ -72,8 +71,9 @@ class WatermarkController : public QObject {
     void AddEffects(const std::optional<PhotoEffects>& effects, const QString& step = {});
     void SetMetadata(const std::optional<CopyRightMetaData>& metadata, const QString& step = {});
 
-    // Places watermark `index` so that its layer's top left corner is `topLeft`, pixels from the reference area's.
-    void placeWatermark(int index, QPoint topLeft, const QString& step = {});
+    // Gives watermark `index` the place, the size or the turn that a hand on the preview has found for it; `name` is
+    // that of the undo step.
+    void placeWatermark(int index, const Watermark& placed, const QString& name, const QString& step = {});
 
     void RemoveSelectedWatermarks() { RemoveWatermark(selectedRow()); }
     void RemoveWatermark(int row);

@@ -127,19 +127,22 @@ TEST_F(SceneBuilderTest, FastTypingLosesNoLetter) {
     EXPECT_TRUE(isRight());
 }
 
-TEST_F(SceneBuilderTest, ALayerIsShownElsewhereAndGoesBack) {
+TEST_F(SceneBuilderTest, ThePhotoIsShownWithoutItsLayersAndWithThemAgain) {
     builder.setView(view);
     builder.showPhoto(request(0));
     ASSERT_TRUE(settle());
     const QImage before = whole.image;
-    for (const QPointF at : {QPointF(50, 60), QPointF(200, 200), QPointF(20, 300)}) {
-        builder.moveLayer(MovedLayer{0, at});
-        ASSERT_TRUE(settle());
-        EXPECT_NE(whole.image, before);
-    }
-    builder.moveLayer(std::nullopt);
+    builder.setBare(true);
     ASSERT_TRUE(settle());
-    EXPECT_EQ(whole.image, before);
+    EXPECT_NE(whole.image, before);
+    const QImage bare = whole.image;
+    stack.Watermarks[1].Text = QStringLiteral("other");
+    builder.updateLayers(request(0), {1});
+    ASSERT_TRUE(settle());
+    EXPECT_EQ(whole.image, bare) << "an edit meanwhile";
+    builder.setBare(false);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(isRight());
 }
 
 TEST_F(SceneBuilderTest, WhatIsNotSeenIsNotComposedUntilItIs) {

@@ -127,7 +127,9 @@ TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
     const std::function<void(WatermarkController&)> changes[] = {
         [](auto& stack) { stack.AddNewWatermark(stackOf(QStringLiteral("a")).Watermarks[0]); },
         [](auto& stack) {
-            stack.placeWatermark(0, {30, 40});
+            Watermark placed = stack.GetWatermarkAtRow(0);
+            placed.PaddingLeftShare = 0.25F;
+            stack.placeWatermark(0, placed, QStringLiteral("Place"));
         },
         [](auto& stack) { stack.AddEffects(PhotoEffects()); },
         [](auto& stack) { stack.AddFilter(3); },

@@ -269,18 +269,5 @@ TEST_F(WatermarkControllerTest, ChoosingNoFilterChangesNothing) {
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+Filter - Lumina")));
 }
 
-TEST_F(WatermarkControllerTest, PlacingByHandIsCustomPositionAndStepsOfOneNudgeMerge) {
-    add(text(QStringLiteral("a")));
-    watermarks.placeWatermark(0, {40, 50});
-    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).Position, CustomPosition);
-    for (int step = 1; step <= 3; ++step)
-        watermarks.placeWatermark(0, {40 + step, 50}, QStringLiteral("nudge"));
-    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).CustomPositionLeft, 43);
-    history().undo();
-    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).CustomPositionLeft, 40);
-    history().undo();
-    EXPECT_EQ(watermarks.GetWatermarkAtRow(0).Position, 1);
-}
-
 }  // namespace
 }  // namespace zelto

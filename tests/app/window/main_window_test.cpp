@@ -262,48 +262,69 @@ class LayerDragging : public MainWindowTest {
     void move(QPointF to) {
         const QPointF at = inView(to);
         QMouseEvent event(QEvent::MouseMove, at, view().viewport()->mapToGlobal(at), Qt::NoButton,
-                          Qt::LeftButton, Qt::AltModifier);
+                          Qt::LeftButton, modifiers);
         QApplication::sendEvent(view().viewport(), &event);
     }
     void release(QPointF to) { QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, inView(to)); }
+
+    Qt::KeyboardModifiers modifiers = Qt::AltModifier;  // nothing snaps
 
     // Whether the shape is seen at a point of the photo.
     bool isRed(QPointF point) { return view().seenPicture().pixelColor(inView(point)) == QColor(255, 0, 0); }
 };
 
-TEST_F(LayerDragging, ADragPlacesTheLayerInOneStep) {
+TEST_F(LayerDragging, ADragIsSeenAtOnceAndIsOneStepThatEscapeTakesBack) {
     const int steps = window->document().history().count();
-    press({60, 40}, {260, 140});
+    press({60, 40}, {500, 300});
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
-            return isRed({260, 140}) && !isRed({60, 40});
+            return isRed({500, 300}) && !isRed({60, 40});
         },
         5000))
         << "seen while dragged";
-    EXPECT_EQ(shape().Position, 1) << "nothing is changed before it is let go";
-    release({260, 140});
-    EXPECT_EQ(shape().Position, CustomPosition);
-    EXPECT_EQ(shape().CustomPositionLeft, 200);
-    EXPECT_EQ(shape().CustomPositionTop, 100);
+    QTest::keyClick(&view(), Qt::Key_Escape);
+    release({500, 300});
+    EXPECT_EQ(window->document().history().count(), steps);
+    ASSERT_TRUE(waitForPreview());
+    EXPECT_TRUE(isRed({60, 40}));
+
+    press({60, 40}, {500, 300});
+    release({500, 300});
+    EXPECT_EQ(shape().Position, 9) << "the nearest corner";
+    EXPECT_EQ(shape().PaddingRight, 40);
+    EXPECT_EQ(shape().PaddingBottom, 60);
     EXPECT_EQ(window->document().history().count(), steps + 1);
     ASSERT_TRUE(waitForPreview());
-    EXPECT_TRUE(isRed({202, 102}));
-    EXPECT_FALSE(isRed({198, 98}));
+    EXPECT_TRUE(isRed({442, 262}));
+    EXPECT_FALSE(isRed({438, 258}));
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     ASSERT_TRUE(waitForPreview());
     EXPECT_TRUE(isRed({5, 5}));
 }
 
-TEST_F(LayerDragging, EscapeLeavesEverythingAsItWas) {
-    const int steps = window->document().history().count();
-    press({60, 40}, {260, 140});
-    QTest::keyClick(&view(), Qt::Key_Escape);
-    release({260, 140});
-    EXPECT_EQ(shape().Position, 1);
-    EXPECT_EQ(window->document().history().count(), steps);
+TEST_F(LayerDragging, HandlesSizeAndTurnTheSelectedLayerInOneStepEach) {
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, inView({60, 40}));
+    press({120, 80}, {240, 160});
+    release({240, 160});
+    EXPECT_EQ(shape().Width, 240.0F);
+    EXPECT_EQ(shape().Height, 160.0F);
     ASSERT_TRUE(waitForPreview());
-    EXPECT_TRUE(isRed({60, 40}));
-    EXPECT_FALSE(isRed({260, 140}));
+    EXPECT_TRUE(isRed({235, 155}));
+    modifiers = Qt::ShiftModifier;
+    press({240, 160}, {300, 120});
+    release({300, 120});
+    EXPECT_EQ(shape().Width, 300.0F);
+    EXPECT_EQ(shape().Height, 120.0F);
+    ASSERT_TRUE(waitForPreview());
+    press({150, -25}, {300, -10});
+    release({300, -10});
+    EXPECT_EQ(std::abs(shape().Rotation) % 15, 0);
+    EXPECT_GT(shape().Rotation, 0);
+    for (const float width : {300.0F, 240.0F, 120.0F}) {
+        window->document().history().undo();
+        EXPECT_EQ(shape().Width, width);
+        EXPECT_EQ(shape().Rotation, 0);
+    }
 }
 
 TEST_F(LayerDragging, TheArrowKeysMoveTheSelectedLayer) {
@@ -311,8 +332,9 @@ TEST_F(LayerDragging, TheArrowKeysMoveTheSelectedLayer) {
     QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, inView({60, 40}));
     for (int i = 0; i < 3; ++i) QTest::keyClick(&view(), Qt::Key_Right);
     QTest::keyClick(&view(), Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(shape().CustomPositionLeft, 3);
-    EXPECT_EQ(shape().CustomPositionTop, 10);
+    EXPECT_EQ(shape().Position, 1);
+    EXPECT_EQ(shape().PaddingLeft, 3);
+    EXPECT_EQ(shape().PaddingTop, 10);
     EXPECT_EQ(window->document().history().count(), steps + 1);
 
     window->watermarks().AddFilter(3);
