@@ -33,6 +33,10 @@ void drawLayer(QPainter& painter, const WatermarkView& layer, const QRectF& fram
 }  // namespace
 
 void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkStack& stack) {
+    addWatermarkTo(picture, picture.size(), scene, stack);
+}
+
+void addWatermarkTo(QImage& picture, QSize standsFor, const PhotoScene& scene, const WatermarkStack& stack) {
     const std::size_t count = std::min(scene.layers.size(), stack.Watermarks.size());
     QPainter painter;
     for (std::size_t i = 0; i < count; ++i) {
@@ -42,8 +46,13 @@ void addWatermarkTo(QImage& picture, const PhotoScene& scene, const WatermarkSta
             picture.detach();
             if (picture.isNull()) throw std::bad_alloc();
             painter.begin(&picture);
+            if (standsFor != picture.size()) {
+                painter.setWindow(QRect(QPoint(), standsFor));
+                painter.setViewport(picture.rect());
+                painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            }
         }
-        drawLayer(painter, *scene.layers[i], layerFrame(scene, i), picture.rect());
+        drawLayer(painter, *scene.layers[i], layerFrame(scene, i), QRect(QPoint(), standsFor));
     }
 }
 
@@ -75,7 +84,7 @@ std::vector<QRect> inkAreas(const PhotoScene& scene, const WatermarkStack& stack
 
 QImage MakeWatermarkImage(PhotoScene scene, const WatermarkStack& stack) try {
     QImage picture = std::exchange(scene.picture, QImage());
-    addWatermarkTo(picture, scene, stack);
+    addWatermarkTo(picture, scene.size, scene, stack);
     return picture;
 } catch (const std::bad_alloc&) {
     return {};

@@ -28,16 +28,25 @@ MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) 
 
 // Whether the frame was put on; there is none that would make the photo too large.
 bool frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
-    scene.imageRect = scene.picture.rect();
+    scene.size = scene.photoSize;
+    scene.imageRect = QRect(QPoint(), scene.photoSize);
     scene.borderRect = scene.imageRect;
     scene.referenceRect = scene.imageRect;
     if (!effect) return true;
-    const QSize photo = scene.picture.size();
-    if ((final ? sizeWithEffects(photo, *effect) : framedSize(photo, *effect)).isEmpty()) return false;
-    scene.picture = allocated(
-        imagewithEffects(std::move(scene.picture), *effect, scene.imageRect, scene.borderRect, final));
+    const FramedPlaces places = framedPlaces(scene.photoSize, *effect, final);
+    if (places.size.isEmpty()) return false;
+    const QSize reduced = scene.picture.size();
+    QRect image;
+    QRect border;
+    scene.picture = allocated(imagewithEffects(
+        std::move(scene.picture),
+        reduced == scene.photoSize ? *effect : reducedEffect(*effect, scene.photoSize, reduced), image,
+        border, final));
+    scene.size = places.size;
+    scene.imageRect = places.image;
+    scene.borderRect = places.border;
     scene.referenceRect = effect->ApplyWatermarkOnBorder ? scene.borderRect : scene.imageRect;
-    scene.referenceRect.moveBottom(scene.picture.height() - 1 - scene.referenceRect.top());
+    scene.referenceRect.moveBottom(scene.size.height() - 1 - scene.referenceRect.top());
     return true;
 }
 
@@ -78,9 +87,14 @@ Error notEnoughMemory(const QString& path) {
     return {ErrorCode::OutOfMemory, QStringLiteral("There is not enough memory for this photo."), path};
 }
 
-Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) try {
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) {
+    const QSize size = photo.image.size();
+    return buildPhotoScene(request, std::move(photo), size);
+}
+
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo, QSize photoSize) try {
     PhotoScene scene;
-    scene.photoSize = photo.image.size();
+    scene.photoSize = photoSize;
     scene.dpiX = photo.dpiX;
     scene.dpiY = photo.dpiY;
     scene.properties = std::make_shared<LazyImageProperties>(request.path);
@@ -101,7 +115,7 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) t
 
 PhotoScene buildLayersAlone(const PhotoRequest& request, QSize size, double dpiX, double dpiY) {
     PhotoScene scene;
-    scene.photoSize = size;
+    scene.photoSize = scene.size = size;
     scene.dpiX = dpiX;
     scene.dpiY = dpiY;
     scene.properties = std::make_shared<LazyImageProperties>(request.path);

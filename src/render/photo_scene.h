@@ -52,6 +52,7 @@ struct PhotoScene {
     double dpiX = 72.0;
     double dpiY = 72.0;
     QImage picture;    // filtered and framed, without watermarks
+    QSize size;        // of `picture`; it is larger than that where a reduced photo stands for the photo
     QRect imageRect;   // the photo inside `picture`, pixels, y up
     QRect borderRect;  // the framed photo inside `picture`, pixels, y up
     // The area watermarks are placed in, pixels of `picture`, y down: the photo, or the framed photo where watermarks
@@ -77,6 +78,11 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo);
 // The scene of a photo of `size` pixels that is left where it is, under a stack without filter and frame: it has layers and
 // no picture. Throws std::bad_alloc.
 PhotoScene buildLayersAlone(const PhotoRequest& request, QSize size, double dpiX, double dpiY);
+
+// The same for a photo of `photoSize` pixels of which only a reduced picture is at hand, for a look at it in a small
+// size: everything is placed as on the photo itself and then drawn on the reduced picture. Filters and shadows are those
+// of the reduced picture, which look alike.
+Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture reduced, QSize photoSize);
 
 // What is told of a photo that memory does not suffice for.
 Error notEnoughMemory(const QString& path);

@@ -18,7 +18,7 @@ double overhangOf(const WatermarkView& layer) {
 }  // namespace
 
 QRect pictureRect(const PhotoScene& scene) {
-    return scene.picture.isNull() ? QRect(QPoint(0, 0), scene.photoSize) : scene.picture.rect();
+    return {QPoint(0, 0), scene.size};
 }
 
 QRectF fromArea(const QRectF& inArea, const QRectF& area) {

@@ -14,7 +14,7 @@
 
 namespace zelto {
 
-// The whole picture, in a scene without pixels too.
+// The whole picture, in a scene without pixels and in a reduced one too.
 QRect pictureRect(const PhotoScene& scene);
 
 // A rectangle of the reference area, y up, as it lies in the picture, and the other way round; `area` is the scene's

@@ -7,6 +7,7 @@
 #include "render/opacity.h"
 #include "render/photo_shadow.h"
 #include "render/qt_color.h"
+#include "render/reduced_canvas.h"
 #include "render/text_layout.h"
 
 #include <QImage>
@@ -114,7 +115,7 @@ void drawLabelText(QPainter& painter, const TextBlock& block, const QTransform& 
     drawText(painter, block.text, block.attributes, color,
              blockRect(block).adjusted(LabelInset, 0, -LabelInset, 0),
              toDevice.inverted().mapRect(QRectF(visible)));
-    painter.resetTransform();
+    painter.setTransform({});
 }
 
 // The text at its opacity and its shadow under it. The group is drawn opaque first, so that letters that
@@ -142,7 +143,7 @@ void drawLabelGroup(QPainter& painter, const TextBlock& block, const ContentPlac
                               {.offset = offset.toPoint(), .blur = ShadowBlur, .color = color});
         group.image = std::move(canvas);
     }
-    painter.drawImage(group.pixels.topLeft(), group.image);
+    drawPictureAt(painter, group.pixels.topLeft(), group.image);
 }
 
 void drawLabel(QPainter& painter, const TextBlock& block, const ContentPlace& place) {
@@ -178,7 +179,7 @@ void drawEmboss(QPainter& painter, const TextBlock& block, const ContentPlace& p
     drawCopy(1, block.hollow ? QColor(Qt::black) : toQColor(block.faceColor));
     relief.end();
     painter.setOpacity(block.opacity);
-    painter.drawImage(group.pixels.topLeft(), group.image);
+    drawPictureAt(painter, group.pixels.topLeft(), group.image);
 }
 
 }  // namespace
@@ -207,7 +208,7 @@ void drawTextBlock(QPainter& painter, const TextBlock& block, const ContentPlace
     if (place.cutToContent) {
         painter.setTransform(place.toPicture);
         painter.setClipRect(blockRect(block), Qt::IntersectClip);
-        painter.resetTransform();
+        painter.setTransform({});
     }
     block.embossed ? drawEmboss(painter, block, place) : drawLabel(painter, block, place);
 }

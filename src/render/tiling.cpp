@@ -5,6 +5,7 @@
 #include "pictures/picture_additions.h"
 #include "render/canvas.h"
 #include "render/qr_code.h"
+#include "render/reduced_canvas.h"
 #include "render/shape.h"
 #include "render/text_block.h"
 
@@ -43,7 +44,7 @@ void drawPicture(QPainter& painter, const QImage& picture, QSizeF size, const Co
     painter.setClipRect(place.visible);
     if (place.toPicture.type() <= QTransform::TxTranslate && hasSizeOf(picture, size)) {
         // Content stands on the lower edge of its frame, so that is where a rounded-up picture stands too.
-        painter.drawImage(QPointF(area.left(), area.bottom() - picture.height()).toPoint(), picture);
+        drawPictureAt(painter, QPointF(area.left(), area.bottom() - picture.height()).toPoint(), picture);
     } else {
         drawStretched(painter, picture, size, place);
     }
@@ -167,14 +168,18 @@ void drawTilingView(QPainter& painter, const TilingView& view, QPointF corner, c
         }
         return;
     }
-    QImage texture = clearCanvas({static_cast<int>(cell.width), static_cast<int>(cell.height)});
+    const QRect whole(0, 0, static_cast<int>(cell.width), static_cast<int>(cell.height));
+    QImage texture = clearCanvas(reducedSize(whole.size(), reductionOf(painter)));
     {
         QPainter tile(&texture);
-        drawCell(tile, surface, cell, QPointF(0.0, cell.height), texture.rect());
+        tile.setWindow(whole);
+        drawCell(tile, surface, cell, QPointF(0.0, cell.height), whole);
     }
+    QBrush brush(texture);
+    brush.setTransform(QTransform::fromScale(cell.width / texture.width(), cell.height / texture.height()));
     painter.save();
     painter.setBrushOrigin(grid.corner);
-    painter.fillRect(shown, QBrush(texture));
+    painter.fillRect(shown, brush);
     painter.restore();
 }
 
