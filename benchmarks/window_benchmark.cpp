@@ -12,6 +12,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QThread>
@@ -179,6 +180,95 @@ BENCHMARK(LetterTypedIntoInspector)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Iterations(100);
+
+// A mark dragged across the photo: from a movement of the mouse until the screen shows it; the median of a hundred.
+void DraggedMark(benchmark::State& state) {
+    Window window(1);
+    Watermark text = WatermarkController::startingWatermark(watermark_type::Text);
+    text.FontFamily = QStringLiteral("DejaVu Sans");
+    text.FontSize = 300;
+    text.TextColor = Color::white();
+    text.Position = 1;
+    text.Text = QStringLiteral("© Zelto");
+    window->watermarks().ReflectWatermark(text);
+    window.settle();
+    QWidget* canvas = window->previewView().viewport();
+    const auto send = [&](QEvent::Type type, QPointF at) {
+        QMouseEvent event(type, at, canvas->mapToGlobal(at),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(canvas, &event);
+    };
+    const ViewGeometry& view = window->previewView().geometry();
+    const QPointF start = view.toView(QPointF(600, 200)) / canvas->devicePixelRatioF();
+    send(QEvent::MouseButtonPress, start);
+    std::vector<double> times;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        const auto step = static_cast<double>(times.size());
+        send(QEvent::MouseMove, start + QPointF(20.0 + 3.0 * step, 20.0 + 2.0 * step));
+        window.settle();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        state.SetIterationTime(times.back());
+    }
+    send(QEvent::MouseButtonRelease, start);
+    std::nth_element(times.begin(), times.begin() + 50, times.end());
+    state.counters["median_ms"] = times[50] * 1e3;
+}
+BENCHMARK(DraggedMark)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(100);
+
+// An edit with the contact view open, until all nine photos show it: a text that is tiled over the photo, a logo-sized
+// shape and a text in a corner; the median of fifty.
+void ContactEdit(benchmark::State& state) {
+    Window window(9);
+    for (int i = 0; i < 3; ++i) {
+        Watermark text =
+            WatermarkController::startingWatermark(i == 1 ? watermark_type::Shape : watermark_type::Text);
+        text.FontFamily = QStringLiteral("DejaVu Sans");
+        text.FontSize = 160;
+        text.TextColor = Color::white();
+        text.Position = 9;
+        text.Shadow = i == 2;
+        text.ShadowColor = Color::black();
+        text.Width = text.Height = 900.0F;
+        text.Text = i == 1 ? QString() : QStringLiteral("© Zelto");
+        text.HorizontalTiling = text.VerticalTiling = i == 0;
+        text.Rotation = i == 0 ? 30 : 0;
+        window->watermarks().AddNewWatermark(text);
+    }
+    window->pages().showContacts(true);
+    const ContactView& contacts = window->pages().contacts();
+    const auto settle = [&] {
+        while (!contacts.isSettled() || contacts.cells().empty())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        window->pages().contacts().repaint();
+    };
+    settle();
+    window.settle();
+    std::vector<double> times;
+    for (auto _ : state) {
+        Watermark changed = window->watermarks().GetWatermarkAtRow(state.range(0) == 0 ? 2 : 0);
+        changed.Text =
+            QStringLiteral("© Zelto ") + QString(static_cast<int>(times.size()) % 20, QLatin1Char('x'));
+        QElapsedTimer timer;
+        timer.start();
+        window->watermarks().placeWatermark(state.range(0) == 0 ? 2 : 0, changed, QStringLiteral("Edit"));
+        settle();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        state.SetIterationTime(times.back());
+        window.settle();
+    }
+    std::nth_element(times.begin(), times.begin() + 25, times.end());
+    state.counters["median_ms"] = times[25] * 1e3;
+}
+BENCHMARK(ContactEdit)
+    ->ArgName("tiled")
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(50);
 
 // Photos added to the list, until the list shows them.
 void AddedPhotos(benchmark::State& state) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/composition.h"
 
-#include "support/records.h"
+#include "pictures/resample.h"
 #include "support/ink.h"
+#include "support/records.h"
+#include "support/test_pictures.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +71,58 @@ TEST(Composition, LaterRecordsLieOverEarlierOnesAndAllOverTheFilter) {
     QImage clear(60, 40, QImage::Format_ARGB32_Premultiplied);
     clear.fill(Qt::transparent);
     EXPECT_EQ(inkBox(composed(boxRecord(10, 10, 9), clear), Qt::transparent), QRect(50, 30, 10, 10));
+}
+
+TEST(Composition, AReducedSceneLooksLikeTheWholeOneMadeSmaller) {
+    constexpr QSize Whole(2400, 1600);
+    constexpr QSize Reduced(300, 200);
+    Watermark faint = textRecord(QStringLiteral("Zelto"), 300, 5);
+    faint.Transparency = 0.5F;
+    Watermark shadowed = textRecord(QStringLiteral("Zelto"), 300, 5);
+    shadowed.Shadow = true;
+    shadowed.ShadowColor = Color::white();
+    shadowed.Rotation = 30;
+    Watermark tiles = textRecord(QStringLiteral("Zelto"), 90, 1);
+    tiles.Rotation = -30;
+    tiles.HorizontalTiling = tiles.VerticalTiling = true;
+    tiles.HorizontalSpacing = 61;
+    const Watermark logo = logoRecord(drawnScene({700, 500}), 9);
+    Watermark turned = logo;
+    turned.Rotation = 20;
+    Watermark code(watermark_type::QrCode);
+    code.Text = QStringLiteral("zelto");
+    code.ResizeWidth = 0.3F;
+    const Watermark marks[] = {textRecord(QStringLiteral("Zelto"), 300, 5),
+                               faint,
+                               shadowed,
+                               tiles,
+                               logo,
+                               turned,
+                               code,
+                               boxRecord(800, 400, 3)};
+    for (const Watermark& mark : marks) {
+        WatermarkStack stack;
+        stack.Watermarks = {mark};
+        stack.Effects.emplace();
+        stack.Effects->BottomThickness = 200;
+        stack.Effects->RightThicknessShare = 0.05F;
+        stack.Effects->Direction = 315;
+        stack.Effects->Distance = 80;
+        const QImage photo = drawnScene(Whole);
+        const QImage whole = composed(stack, photo);
+        const PhotoRequest request = requestFor(stack);
+        PhotoScene scene = *buildPhotoScene(request, {.image = resizedImage(photo, Reduced)}, Whole);
+        EXPECT_EQ(scene.size, whole.size());
+        const QImage seen = MakeWatermarkImage(std::move(scene), stack);
+        const QImage expected = resizedImage(whole, seen.size());
+        double difference = 0.0;
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x)
+                difference += std::abs(qGray(seen.pixel(x, y)) - qGray(expected.pixel(x, y)));
+        }
+        // What remains is how edges are smoothed; a layer of another size or place differs by ten times as much.
+        EXPECT_LT(difference / (seen.width() * seen.height()), 1.5) << mark.Type << " " << mark.Rotation;
+    }
 }
 
 TEST(Composition, TextLiesInItsFrameAtEveryPosition) {

@@ -34,9 +34,10 @@ QImage fitted(const QImage& picture, QSize cell) {
     return allocated(resizedImage(picture, size.expandedTo({1, 1})));
 }
 
-// Whether the stack makes the same picture of a photo, before its layers.
-bool hasSameGround(const WatermarkStack& a, const WatermarkStack& b) {
-    return a.SelectedFilter == b.SelectedFilter && a.Effects == b.Effects;
+// Whether both make the same picture of a photo, before its layers.
+bool hasSameGround(const PhotoRequest& a, const PhotoRequest& b) {
+    return a.final == b.final && a.stack->SelectedFilter == b.stack->SelectedFilter &&
+           a.stack->Effects == b.stack->Effects;
 }
 
 }  // namespace
@@ -54,25 +55,30 @@ ContactScenes::~ContactScenes() {
 
 void ContactScenes::show(std::vector<PhotoRequest> photos, QSize cell) {
     Photos shown;
-    for (PhotoRequest& request : photos) {
-        request.logos = logos_;
+    for (const PhotoRequest& request : photos) {
         const auto known = std::find_if(job_.photos.begin(), job_.photos.end(),
                                         [&](const auto& photo) { return photo->path == request.path; });
         shown.push_back(known == job_.photos.end() ? std::make_shared<Photo>() : *known);
         shown.back()->path = request.path;
     }
-    job_.requests = std::move(photos);
     job_.photos = std::move(shown);
     job_.cell = cell;
     ++job_.showRevision;
+    take(std::move(photos));
     job_.revision = ++loadPosted_;
     loading_->post(job_);
     post();
 }
 
-void ContactScenes::update(const std::shared_ptr<const WatermarkStack>& stack) {
-    for (PhotoRequest& request : job_.requests) request.stack = stack;
+void ContactScenes::update(std::vector<PhotoRequest> photos) {
+    if (photos.size() != job_.photos.size()) return;
+    take(std::move(photos));
     post();
+}
+
+void ContactScenes::take(std::vector<PhotoRequest> requests) {
+    job_.requests = std::move(requests);
+    for (PhotoRequest& request : job_.requests) request.logos = logos_;
 }
 
 void ContactScenes::post() {
@@ -115,13 +121,11 @@ void ContactScenes::load(const Job& job) {
         {
             const std::lock_guard lock(photo.mutex);
             photo.reduced = std::move(reduced);
-            photo.photoSize = size;
+            photo.size = size;
+            photo.message = message;
             photo.isTried = true;
         }
-        tell(job, [this, place, message] {
-            if (!message.isEmpty()) Q_EMIT failed(static_cast<int>(place), message);
-            post();
-        });
+        tell(job, [this] { post(); });
     }
     QMetaObject::invokeMethod(
         this, [this, revision = job.revision] { loaded_ = revision; }, Qt::QueuedConnection);
@@ -137,36 +141,41 @@ void ContactScenes::draw(const Job& job) {
         this, [this, revision = job.revision] { drawn_ = revision; }, Qt::QueuedConnection);
 }
 
-void ContactScenes::drawOne(const Job& job, std::size_t place) try {
+void ContactScenes::drawOne(const Job& job, std::size_t place) {
     Photo& photo = *job.photos[place];
     const PhotoRequest& request = job.requests[place];
-    {
-        const std::lock_guard lock(photo.mutex);
-        if (photo.reduced.image.isNull()) return;
-        if (!photo.scene || !hasSameGround(*photo.sceneStack, *request.stack)) {
-            Result<PhotoScene> scene = buildPhotoScene(request, photo.reduced, photo.photoSize);
+    const auto fail = [&](const QString& message) {
+        tell(job, [this, place, message] { Q_EMIT failed(static_cast<int>(place), message); });
+    };
+    const std::lock_guard lock(photo.mutex);
+    if (!photo.isTried) return;
+    if (photo.reduced.image.isNull()) {
+        fail(photo.message);
+        return;
+    }
+    try {
+        if (photo.scene && hasSameGround(photo.request, request)) {
+            MakeWatermarkChanges(*photo.scene, request);
+        } else {
+            photo.scene.reset();
+            Result<PhotoScene> scene = buildPhotoScene(request, photo.reduced, photo.size);
             if (!scene) {
-                tell(job, [this, place, message = scene.error().message] {
-                    Q_EMIT failed(static_cast<int>(place), message);
-                });
+                fail(scene.error().message);
                 return;
             }
             photo.scene = std::move(*scene);
-        } else {
-            MakeWatermarkChanges(*photo.scene, request);
         }
-        photo.sceneStack = request.stack;
+        photo.request = request;
+        QStringList warnings;
+        for (const PhotoWarning& warning : warningsOf(*photo.scene)) warnings.append(warning.text);
+        const QImage picture = fitted(allocated(MakeWatermarkImage(*photo.scene, *request.stack)), job.cell);
+        tell(job, [this, place, picture, size = photo.size, text = warnings.join(QLatin1Char('\n'))] {
+            Q_EMIT made(static_cast<int>(place), picture, size, text);
+        });
+    } catch (const std::bad_alloc&) {
+        photo.scene.reset();
+        fail(notEnoughMemory(photo.path).message);
     }
-    QStringList warnings;
-    for (const PhotoWarning& warning : warningsOf(*photo.scene)) warnings.append(warning.text);
-    const QImage picture = fitted(MakeWatermarkImage(*photo.scene, *request.stack), job.cell);
-    tell(job, [this, place, picture, size = photo.photoSize, text = warnings.join(QLatin1Char('\n'))] {
-        Q_EMIT made(static_cast<int>(place), picture, size, text);
-    });
-} catch (const std::bad_alloc&) {
-    tell(job, [this, place, path = job.requests[place].path] {
-        Q_EMIT failed(static_cast<int>(place), notEnoughMemory(path).message);
-    });
 }
 
 }  // namespace zelto

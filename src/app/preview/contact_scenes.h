@@ -12,9 +12,9 @@
 #include <QSize>
 #include <QString>
 
-#include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace zelto {
@@ -29,8 +29,8 @@ class ContactScenes : public QObject {
     // Shows these photos, each within `cell` device pixels; none to forget all. Photos that are shown already are not
     // read again.
     void show(std::vector<PhotoRequest> photos, QSize cell);
-    // The stack has changed.
-    void update(const std::shared_ptr<const WatermarkStack>& stack);
+    // The same photos with another stack.
+    void update(std::vector<PhotoRequest> photos);
 
     // Whether everything asked for has been sent.
     bool isSettled() const { return drawn_ == posted_ && loaded_ == loadPosted_; }
@@ -41,16 +41,16 @@ class ContactScenes : public QObject {
     void failed(int place, const QString& message);
 
   private:
-    // One photo. The drawing thread alone works on the scene.
     struct Photo {
         QString path;
-        std::mutex mutex;  // guards what follows, which loading writes
-        Picture reduced;
-        QSize photoSize;
+        std::mutex mutex;  // guards all of it
         bool isTried = false;
-
+        Picture reduced;  // none where it cannot be read
+        QSize size;
+        QString message;
+        // Built last, and from what.
         std::optional<PhotoScene> scene;
-        std::shared_ptr<const WatermarkStack> sceneStack;
+        PhotoRequest request;
     };
     using Photos = std::vector<std::shared_ptr<Photo>>;
     struct Job {
@@ -64,6 +64,7 @@ class ContactScenes : public QObject {
     void load(const Job& job);
     void draw(const Job& job);
     void drawOne(const Job& job, std::size_t place);
+    void take(std::vector<PhotoRequest> requests);
     void post();
     template <class Report>
     void tell(const Job& job, Report report);

@@ -88,15 +88,19 @@ void ContactView::takeRows(const std::vector<int>& rows) {
     update();
 }
 
-void ContactView::showAll() {
+std::vector<PhotoRequest> ContactView::requests() const {
     std::vector<PhotoRequest> requests;
     for (const Cell& cell : cells_) requests.push_back(requestFor_(cell.row));
-    const QSizeF size = cells_.empty() ? QSizeF(1, 1) : QSizeF(pictureRect(0).size());
-    scenes_.show(std::move(requests), (size * devicePixelRatioF()).toSize().expandedTo({1, 1}));
+    return requests;
 }
 
-void ContactView::updateStack(const std::shared_ptr<const WatermarkStack>& stack) {
-    if (!cells_.empty()) scenes_.update(stack);
+void ContactView::showAll() {
+    const QSizeF size = cells_.empty() ? QSizeF(1, 1) : QSizeF(pictureRect(0).size());
+    scenes_.show(requests(), (size * devicePixelRatioF()).toSize().expandedTo({1, 1}));
+}
+
+void ContactView::updateStack() {
+    if (!cells_.empty()) scenes_.update(requests());
 }
 
 void ContactView::clear() {

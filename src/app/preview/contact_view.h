@@ -24,7 +24,8 @@ class ContactView : public QWidget {
 
     // Shows photos of these rows, `row` among them.
     void showRows(const std::vector<int>& rows, int row);
-    void updateStack(const std::shared_ptr<const WatermarkStack>& stack);
+    // The stack has changed.
+    void updateStack();
     void clear();
 
     struct Cell {
@@ -55,6 +56,7 @@ class ContactView : public QWidget {
 
   private:
     void takeRows(const std::vector<int>& rows);
+    std::vector<PhotoRequest> requests() const;
     void showAll();
     int columns() const;
     int captionHeight() const;

@@ -70,11 +70,15 @@ PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
     return request;
 }
 
-PhotoRequest PhotoPreview::request() const {
+PhotoRequest PhotoPreview::requestFor(int row) const {
     // Where watermarks may lie on the border, the shadow around it is not shown: it is not part of the place
     // they may take.
     const std::optional<PhotoEffects>& effects = watermarks_.GetEffect();
-    return requestFor(photos_.selectedRow(), !(effects && effects->ApplyWatermarkOnBorder));
+    return requestFor(row, !(effects && effects->ApplyWatermarkOnBorder));
+}
+
+PhotoRequest PhotoPreview::request() const {
+    return requestFor(photos_.selectedRow());
 }
 
 PhotoRequest PhotoPreview::finalRequest() const {

@@ -28,6 +28,8 @@ class PhotoPreview : public QObject {
     PhotoPreview(ImageListController& photos, WatermarkController& watermarks, PreviewView& view,
                  QObject* parent = nullptr);
 
+    // The request for the photo of a row as the preview shows it.
+    PhotoRequest requestFor(int row) const;
     // The request for the selected photo as the run would write it.
     PhotoRequest finalRequest() const;
 
@@ -48,7 +50,7 @@ class PhotoPreview : public QObject {
 
   private:
     PhotoRequest requestFor(int row, bool final) const;
-    PhotoRequest request() const;
+    PhotoRequest request() const;  // for the selected photo
     void selectImage(int row);
     void follow(const StackChange& change);
     void take(const PreviewUpdate& update);

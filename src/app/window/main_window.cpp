@@ -2,6 +2,7 @@
 #include "app/window/main_window.h"
 
 #include "app/common/icons.h"
+#include "app/preview/hold_key.h"
 #include "app/window/empty_state.h"
 #include "platform/preferences.h"
 
@@ -59,6 +60,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       actions_(new WindowActions(this)),
       previewView_(new PreviewView(this)),
       preview_(new PhotoPreview(photos_, watermarks_, *previewView_, this)),
+      pages_(new PreviewPages(photos_, document_, *preview_, *previewView_, this)),
       controller_(new ZeltoController(photos_, watermarks_, *preview_, shared, std::move(dialogs), this)),
       keeper_(new StackKeeper(watermarks_, shared, this)),
       mainView_(new MainView(this)),
@@ -138,6 +140,7 @@ void MainWindow::connectActions() {
     on(Act::ZoomOut, previewView_, &PreviewView::ZoomOut);
     on(Act::FitToScreen, previewView_, &PreviewView::FittoScreen);
     on(Act::ActualSize, previewView_, &PreviewView::ActualSize);
+    connectViews();
     on(Act::FullScreen, controller_, &ZeltoController::ShowFullScreenImage);
     on(Act::Quit, static_cast<QWidget*>(this), &QWidget::close);
     on(Act::EditWatermark, &editors_, &WatermarkEditors::editSelected);
@@ -172,6 +175,19 @@ void MainWindow::connectActions() {
     undo_->setIcon(lineIcon(QLatin1String("undo")));
     redo_->setShortcut(QKeySequence::Redo);
     redo_->setIcon(lineIcon(QLatin1String("redo")));
+}
+
+void MainWindow::connectViews() {
+    QAction* contacts = (*actions_)[Act::Contacts];
+    contacts->setCheckable(true);
+    actions_->connectTo(Act::Contacts, [this, contacts] { pages_->showContacts(contacts->isChecked()); });
+    connect(pages_, &PreviewPages::contactsShown, contacts, &QAction::setChecked);
+    QAction* before = (*actions_)[Act::Before];
+    before->setCheckable(true);
+    auto* key = new HoldKey(Qt::Key_F8, this);
+    const auto show = [this, before, key] { preview_->setBare(before->isChecked() || key->isHeld()); };
+    actions_->connectTo(Act::Before, show);
+    connect(key, &HoldKey::held, this, show);
 }
 
 // What there is a dialog for can be done.
@@ -217,6 +233,8 @@ void MainWindow::makeToolBar() {
     add({Act::OpenSettings, Act::SaveSettings});
     bar->addWidget(makeSpacer(bar));
     add({Act::ZoomOut, Act::ZoomIn, Act::FitToScreen, Act::ActualSize, Act::FullScreen});
+    bar->addSeparator();
+    add({Act::Contacts, Act::Before});
     bar->addWidget(makeSpacer(bar));
 
     const QAction* start = (*actions_)[Act::Start];
@@ -250,7 +268,7 @@ void MainWindow::layOut() {
     photoRows->addWidget(photoList_);
 
     middle_->addWidget(new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], middle_));
-    middle_->addWidget(previewView_);
+    middle_->addWidget(pages_);
 
     columns_->addWidget(photoColumn);
     columns_->addWidget(middle_);
@@ -287,6 +305,7 @@ void MainWindow::EnableDisableWatermarkControls() {
     photoList_->setEnabled(!isRunning_);
     photoFilter_->setEnabled(!isRunning_);
     stackColumn_->setEnabled(!isRunning_);
+    if (isRunning_) pages_->showContacts(false);
     previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());
     redo_->setEnabled(!isRunning_ && document_.history().canRedo());

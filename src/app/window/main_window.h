@@ -9,6 +9,7 @@
 #include "app/photos/photo_filter_box.h"
 #include "app/photos/photo_list_view.h"
 #include "app/preview/photo_preview.h"
+#include "app/preview/preview_pages.h"
 #include "app/preview/preview_view.h"
 #include "app/watermarks/watermark_controller.h"
 #include "app/watermarks/watermark_document.h"
@@ -46,6 +47,7 @@ class MainWindow : public QMainWindow {
     ZeltoController& controller() { return *controller_; }
     PhotoPreview& preview() { return *preview_; }
     PreviewView& previewView() { return *previewView_; }
+    PreviewPages& pages() { return *pages_; }
     PhotoListView& photoList() { return *photoList_; }
     PhotoFilterBox& photoFilter() { return *photoFilter_; }
     QListView& watermarkList() { return watermarkPanel_->list(); }
@@ -77,6 +79,7 @@ class MainWindow : public QMainWindow {
     void layOut();
     void makeToolBar();
     void connectActions();
+    void connectViews();
     void connectDialogs();
     void showStatus();
     void restorePlaces();
@@ -89,6 +92,7 @@ class MainWindow : public QMainWindow {
     WindowActions* actions_;
     PreviewView* previewView_;
     PhotoPreview* preview_;
+    PreviewPages* pages_;
     ZeltoController* controller_;
     StackKeeper* keeper_;
     MainView* mainView_;

@@ -45,6 +45,8 @@ enum class Act {
     ZoomOut,
     FitToScreen,
     ActualSize,
+    Contacts,
+    Before,
     FullScreen,
     Tips,
     VersionCheck,
