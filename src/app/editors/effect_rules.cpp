@@ -50,16 +50,19 @@ void setShadowSides(PhotoEffects& effects, const ShadowSides& sides) {
 
 void setSameBorder(PhotoEffects& effects, bool same) {
     effects.SameBorder = same;
-    if (same) setThickness(effects, &PhotoEffects::TopThickness, effects.TopThickness);
+    if (same)
+        setThickness(effects, length_field::TopThickness, effects.TopThickness, effects.TopThicknessShare);
 }
 
-void setThickness(PhotoEffects& effects, std::int64_t PhotoEffects::*side, std::int64_t pixels) {
-    effects.*side = pixels;
+void setThickness(PhotoEffects& effects, const length_field::EffectLength& side, std::int64_t pixels,
+                  std::optional<float> share) {
+    const auto set = [&](const length_field::EffectLength& field) {
+        effects.*field.Pixels = pixels;
+        effects.*field.Share = share;
+    };
+    set(side);
     if (!effects.SameBorder) return;
-    effects.TopThickness = pixels;
-    effects.LeftThickness = pixels;
-    effects.RightThickness = pixels;
-    effects.BottomThickness = pixels;
+    for (const length_field::EffectLength& field : length_field::Thicknesses) set(field);
 }
 
 }  // namespace zelto

@@ -2,7 +2,7 @@
 // What the controls of the effects editor do to its record. Pure functions of records; no widgets.
 #pragma once
 
-#include "records/photo_effects.h"
+#include "records/length_field.h"
 
 #include <cstdint>
 
@@ -30,7 +30,8 @@ void setShadowSides(PhotoEffects& effects, const ShadowSides& sides);
 
 // Whether one width holds for all sides. Switched on, that is the width of the top.
 void setSameBorder(PhotoEffects& effects, bool same);
-// The width of one side, or of all where they are the same.
-void setThickness(PhotoEffects& effects, std::int64_t PhotoEffects::*side, std::int64_t pixels);
+// The width of one side, or of all where they are the same; `share` where it follows the photo.
+void setThickness(PhotoEffects& effects, const length_field::EffectLength& side, std::int64_t pixels,
+                  std::optional<float> share);
 
 }  // namespace zelto

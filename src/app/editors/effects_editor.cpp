@@ -3,9 +3,11 @@
 
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/fold_group.h"
+#include "app/editors/controls/length_box.h"
 #include "app/editors/controls/record_binder.h"
 #include "app/editors/controls/value_page.h"
 #include "app/editors/effect_rules.h"
+#include "pictures/picture_reader.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -31,6 +33,10 @@ class EffectsEditor : public ValuePage<std::optional<PhotoEffects>> {
     explicit EffectsEditor(WatermarkController& controller);
 
     void load() override;
+    // Borders and shadows are shares of the photo without them.
+    void showFor(const SelectedPhoto& photo) override {
+        showReferenceIn(*this, readPictureSize(photo.path).value_or(QSize()));
+    }
 
   protected:
     std::optional<PhotoEffects> value() const override { return controller().GetEffect(); }
@@ -101,7 +107,10 @@ QWidget* EffectsEditor::makeBorder() {
     binder_.bind(over, &PhotoEffects::ApplyWatermarkOnBorder);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
+    auto* unit = named("BorderUnit", new LengthUnit(tr("Unit of the border"), box));
+    bindUnit(binder_, unit, length_field::Thicknesses);
     column->addWidget(same);
+    column->addWidget(unit);
     column->addLayout(makeThicknesses(color));
     column->addWidget(over);
     return box;
@@ -118,30 +127,29 @@ constexpr Place AtRight{1, 2};
 constexpr Place AtBottom{2, 1};
 
 QLayout* EffectsEditor::makeThicknesses(QWidget* middle) {
-    struct Side {
+    struct SideRow {
         const char* name;
         QString label;
-        std::int64_t PhotoEffects::*thickness;
+        length_field::EffectLength thickness;
         Place place;
     };
-    const Side sides[] = {
-        {"TopThickness", tr("Top"), &PhotoEffects::TopThickness, AtTop},
-        {"LeftThickness", tr("Left"), &PhotoEffects::LeftThickness, AtLeft},
-        {"RightThickness", tr("Right"), &PhotoEffects::RightThickness, AtRight},
-        {"BottomThickness", tr("Bottom"), &PhotoEffects::BottomThickness, AtBottom},
+    const SideRow sides[] = {
+        {"TopThickness", tr("Top"), length_field::TopThickness, AtTop},
+        {"LeftThickness", tr("Left"), length_field::LeftThickness, AtLeft},
+        {"RightThickness", tr("Right"), length_field::RightThickness, AtRight},
+        {"BottomThickness", tr("Bottom"), length_field::BottomThickness, AtBottom},
     };
     auto* grid = new QGridLayout;
-    for (const Side& side : sides) {
-        auto* field = named(side.name, new NumberField(Thickness, middle->parentWidget()));
-        field->setAccessibleName(side.label);
+    for (const SideRow& side : sides) {
+        auto* field = named(side.name, new LengthBox(Thickness, side.label, middle->parentWidget()));
         field->setToolTip(side.label);
         grid->addWidget(field, side.place.row, side.place.column);
-        binder_.bind(field, side.thickness,
-                     [thickness = side.thickness](PhotoEffects& effects, double pixels) {
-                         setThickness(effects, thickness, std::llround(pixels));
-                     });
+        bindLength(binder_, field, side.thickness,
+                   [thickness = side.thickness](PhotoEffects& effects, const PhotoLength& length) {
+                       setThickness(effects, thickness, length.pixels, length.share);
+                   });
         // Where all widths are the same the top tells it.
-        if (side.thickness == &PhotoEffects::TopThickness) continue;
+        if (side.thickness.Pixels == &PhotoEffects::TopThickness) continue;
         binder_.follow([field](const PhotoEffects& effects) { field->setEnabled(!effects.SameBorder); });
     }
     grid->addWidget(middle, 1, 1, Qt::AlignCenter);
@@ -162,13 +170,16 @@ QWidget* EffectsEditor::makeShadow() {
     column->addWidget(hasShadow);
     column->addLayout(makeSides(box));
 
-    auto* blur = named("BlurRadius", new NumberField(Blur, box));
-    auto* distance = named("Distance", new NumberField(Blur, box));
+    auto* unit = named("ShadowUnit", new LengthUnit(tr("Unit of the shadow"), box));
+    bindUnit(binder_, unit, length_field::ShadowLengths);
+    auto* blur = named("BlurRadius", new LengthBox(Blur, tr("Blur"), box));
+    auto* distance = named("Distance", new LengthBox(Blur, tr("Distance"), box));
     auto* color = named("ShadowColor", new ColorWell(tr("Shadow colour"), box));
-    binder_.bind(blur, &PhotoEffects::BlurRadius);
-    binder_.bind(distance, &PhotoEffects::Distance);
+    bindLength(binder_, blur, length_field::BlurRadius);
+    bindLength(binder_, distance, length_field::Distance);
     binder_.bind(color, &PhotoEffects::ShadowColor);
     auto* form = new QFormLayout;
+    addShadowRow(*form, tr("Lengths:"), unit);
     addShadowRow(*form, tr("Blur:"), blur);
     addShadowRow(*form, tr("Distance:"), distance);
     addShadowRow(*form, tr("Colour:"), color);
@@ -187,31 +198,31 @@ QWidget* EffectsEditor::makeShadow() {
 }
 
 QLayout* EffectsEditor::makeSides(QWidget* box) {
-    struct Side {
+    struct SideRow {
         const char* name;
         QString label;
         bool ShadowSides::*isChosen;
         Place place;
         QCheckBox* box;
     };
-    std::vector<Side> sides = {
+    std::vector<SideRow> sides = {
         {"ShadowTop", tr("Top"), &ShadowSides::top, AtTop, nullptr},
         {"ShadowLeft", tr("Left"), &ShadowSides::left, AtLeft, nullptr},
         {"ShadowRight", tr("Right"), &ShadowSides::right, AtRight, nullptr},
         {"ShadowBottom", tr("Bottom"), &ShadowSides::bottom, AtBottom, nullptr},
     };
     auto* grid = new QGridLayout;
-    for (Side& side : sides) {
+    for (SideRow& side : sides) {
         side.box = named(side.name, new QCheckBox(side.label, box));
         grid->addWidget(side.box, side.place.row, side.place.column);
     }
     grid->setColumnStretch(3, 1);
     const auto chosenSides = [sides] {
         ShadowSides chosen;
-        for (const Side& side : sides) chosen.*side.isChosen = side.box->isChecked();
+        for (const SideRow& side : sides) chosen.*side.isChosen = side.box->isChecked();
         return chosen;
     };
-    for (const Side& side : sides) {
+    for (const SideRow& side : sides) {
         binder_.onChosen(side.box, [chosenSides](PhotoEffects& effects, bool /*on*/) {
             setShadowSides(effects, chosenSides());
         });
@@ -222,7 +233,7 @@ QLayout* EffectsEditor::makeSides(QWidget* box) {
         const bool isShown =
             shadowDirection(chosen) == effects.Direction && (chosen.any() || !effects.EnableShadow);
         const ShadowSides shown = isShown ? chosen : shadowSides(effects.Direction);
-        for (const Side& side : sides) {
+        for (const SideRow& side : sides) {
             side.box->setChecked(shown.*side.isChosen);
             side.box->setEnabled(effects.EnableShadow);
         }

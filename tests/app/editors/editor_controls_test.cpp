@@ -144,6 +144,8 @@ TEST_F(BoundControls, EachChangesItsFieldsAndNoOthers) {
         {"PaddingLeft", "-8", [](W& w) { w.PaddingLeft = -8; }},
         {"PaddingBottom", "5", [](W& w) { w.PaddingBottom = 5; }, tiled},
         {"PaddingRight", "3", [](W& w) { w.PaddingRight = 3; }, tiled},
+        {"PaddingTop", "2.5", [](W& w) { w.PaddingTopShare = 0.025F; },
+         [](W& w) { w.PaddingTopShare = 0.0F; }},
         {"CustomPosition", nullptr, custom},
         {"CustomPositionLeft", "40", [](W& w) { w.CustomPositionLeft = 40; }, custom},
         {"CustomPositionTop", "30", [](W& w) { w.CustomPositionTop = 30; }, custom},

@@ -52,6 +52,19 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
          [](PhotoEffects& e) {
              e.TopThickness = 1, e.LeftThickness = 2, e.RightThickness = 3, e.BottomThickness = 4;
          }},
+        {"shares of the photo, which is 600 x 400",
+         [](QWidget& d) {
+             choose(d, "BorderUnit", 1);
+             type(d, "TopThickness", u"5"_s);
+             EXPECT_TRUE(says(d, u"= 20 px"_s));
+             choose(d, "ShadowUnit", 1);
+             type(d, "Distance", u"1.5"_s);
+         },
+         [](PhotoEffects& e) {
+             e.LeftThicknessShare = e.RightThicknessShare = e.BottomThicknessShare = 0.025F;
+             e.TopThickness = 20, e.TopThicknessShare = 0.05F;
+             e.Distance = 6, e.DistanceShare = 0.015F, e.BlurRadiusShare = 0.0F;
+         }},
         {"the same for all",
          [](QWidget& d) {
              type(d, "LeftThickness", u"99"_s);

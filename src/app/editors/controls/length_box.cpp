@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/length_box.h"
 
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -10,15 +10,21 @@ namespace zelto {
 
 LengthBox::LengthBox(const NumberKind& pixels, const QString& name, QWidget* parent)
     : QWidget(parent), pixels_(pixels), number_(new NumberField(pixels, this)), note_(new QLabel(this)) {
+    setAccessibleName(name);
     number_->setAccessibleName(name);
+    note_->setAlignment(Qt::AlignRight);
+    QFont small = note_->font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    note_->setFont(small);
     note_->setForegroundRole(QPalette::PlaceholderText);
     note_->setToolTip(tr("On the selected photo"));
     note_->hide();
     setFocusProxy(number_);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(number_, 1);
-    row->addWidget(note_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(number_);
+    column->addWidget(note_);
     connect(number_, &NumberField::valueChanged, this, [this](double value) {
         if (length_.share) {
             length_.share = static_cast<float>(value / 100.0);
@@ -55,13 +61,18 @@ void LengthBox::showNote() {
     note_->setText(tr("= %L1 px").arg(std::llround(relativeLength(*length_.share, side))));
 }
 
-LengthUnit::LengthUnit(QWidget* parent) : QComboBox(parent) {
+LengthUnit::LengthUnit(const QString& name, QWidget* parent) : QComboBox(parent) {
     addItem(tr("in pixels"));
     addItem(tr("in % of the shorter side"));
-    setAccessibleName(tr("Unit"));
+    setAccessibleName(name);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(10);
     connect(this, &QComboBox::activated, this, [this](int unit) { Q_EMIT chosen(unit == 1); });
+}
+
+void showReferenceIn(const QWidget& page, QSizeF area) {
+    for (auto* box : page.findChildren<LengthBox*>()) box->showReference(area);
+    for (auto* unit : page.findChildren<LengthUnit*>()) unit->showReference(area);
 }
 
 }  // namespace zelto

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A length in pixels or as a share of the photo's shorter side, for the fields of length_field.h. Several of them share a
-// unit, which a list beside them chooses; a share is followed by the pixels it is on the selected photo. Main thread
+// A length in pixels or as a share of the photo's shorter side, for the fields of length_field.h. Several of them have
+// one unit, which a list beside them chooses; what a share is on the selected photo stands under its field. Main thread
 // only.
 #pragma once
 
@@ -16,7 +16,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 namespace zelto {
 
@@ -57,13 +56,22 @@ class LengthUnit : public QComboBox {
     Q_OBJECT
 
   public:
-    explicit LengthUnit(QWidget* parent = nullptr);
+    LengthUnit(const QString& name, QWidget* parent = nullptr);
 
     void load(bool isShare) { setCurrentIndex(isShare ? 1 : 0); }
+    void showReference(QSizeF area) { area_ = area; }
+    // The area that lengths are converted by: one of an ordinary size where there is no photo.
+    QSizeF area() const { return area_.isEmpty() ? QSizeF(6000, 4000) : area_; }
 
   Q_SIGNALS:
     void chosen(bool isShare);
+
+  private:
+    QSizeF area_;
 };
+
+// Tells all boxes and units of a page what area their shares are of.
+void showReferenceIn(const QWidget& page, QSizeF area);
 
 // Binds a box to a length of a record. `set` does more than take the length where that is wanted.
 template <class Record, class Set>
@@ -83,10 +91,9 @@ void bindLength(RecordBinder<Record>& binder, LengthBox* box, const LengthField<
     });
 }
 
-// Binds the list of units to the lengths it is for. The lengths stay what they are on the photo; `area` points to the
-// area that their shares are of, which outlives the list.
+// Binds the list of units to the lengths it is for. They stay what they are on the selected photo.
 template <class Record, class Fields>
-void bindUnit(RecordBinder<Record>& binder, LengthUnit* unit, const Fields& fields, const QSizeF* area) {
+void bindUnit(RecordBinder<Record>& binder, LengthUnit* unit, const Fields& fields) {
     binder.bind(
         unit,
         [fields](const Record& record) {
@@ -94,13 +101,12 @@ void bindUnit(RecordBinder<Record>& binder, LengthUnit* unit, const Fields& fiel
             for (const LengthField<Record>& field : fields) isShare = isShare || record.*field.Share;
             return isShare;
         },
-        [fields, area](Record& record, bool isShare) {
-            // Where there is no photo to go by, one of an ordinary size.
-            const QSizeF on = area->isEmpty() ? QSizeF(6000, 4000) : *area;
+        [fields, unit](Record& record, bool isShare) {
             for (const LengthField<Record>& field : fields) {
-                record.*field.Pixels = lengthOn(record, field, on);
+                record.*field.Pixels = lengthOn(record, field, unit->area());
                 (record.*field.Share).reset();
-                if (isShare) record.*field.Share = shareOf(static_cast<double>(record.*field.Pixels), on);
+                if (isShare)
+                    record.*field.Share = shareOf(static_cast<double>(record.*field.Pixels), unit->area());
             }
         });
 }

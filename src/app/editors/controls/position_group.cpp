@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/position_group.h"
 
+#include "app/editors/controls/length_box.h"
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -16,7 +18,7 @@ namespace {
 enum PositionType { Preset = 1, Custom = 2 };
 
 // A label beside its field, at two columns of a grid.
-void addRow(QGridLayout& grid, int row, int column, NumberField* field) {
+void addRow(QGridLayout& grid, int row, int column, QWidget* field) {
     auto* label = new QLabel(field->accessibleName(), field->parentWidget());
     label->setBuddy(field);
     field->setAccessibleName(label->text().remove(QLatin1Char('&')).remove(QLatin1Char(':')));
@@ -94,24 +96,29 @@ QWidget* PositionGroup::makePosition() {
 QWidget* PositionGroup::makePadding() {
     auto* box = new QGroupBox(tr("Padding"), this);
     auto* layout = new QGridLayout(box);
-    struct Side {
+    auto* unit = new LengthUnit(tr("Unit of the padding"), box);
+    unit->setObjectName(QStringLiteral("PaddingUnit"));
+    bindUnit(binder_, unit, length_field::Paddings);
+    layout->addWidget(unit, 0, 0, 1, 4);
+    struct SideRow {
         const char* name;
         QString label;
-        std::int64_t Watermark::*padding;
+        length_field::WatermarkLength padding;
         bool PaddingControls::*isUsed;
     };
-    const Side sides[] = {
-        {"PaddingTop", tr("Top:"), &Watermark::PaddingTop, &PaddingControls::top},
-        {"PaddingLeft", tr("Left:"), &Watermark::PaddingLeft, &PaddingControls::left},
-        {"PaddingBottom", tr("Bottom:"), &Watermark::PaddingBottom, &PaddingControls::bottom},
-        {"PaddingRight", tr("Right:"), &Watermark::PaddingRight, &PaddingControls::right},
+    const SideRow sides[] = {
+        {"PaddingTop", tr("Top:"), length_field::PaddingTop, &PaddingControls::top},
+        {"PaddingLeft", tr("Left:"), length_field::PaddingLeft, &PaddingControls::left},
+        {"PaddingBottom", tr("Bottom:"), length_field::PaddingBottom, &PaddingControls::bottom},
+        {"PaddingRight", tr("Right:"), length_field::PaddingRight, &PaddingControls::right},
     };
     int place = 0;
-    for (const Side& side : sides) {
-        NumberField* field = makeNumber(side.name, number_kind::Offset, side.label);
-        addRow(*layout, place / 2, place % 2 * 2, field);
+    for (const SideRow& side : sides) {
+        auto* field = new LengthBox(number_kind::Offset, side.label, box);
+        field->setObjectName(QLatin1String(side.name));
+        addRow(*layout, 1 + place / 2, place % 2 * 2, field);
         ++place;
-        binder_.bind(field, side.padding);
+        bindLength(binder_, field, side.padding);
         binder_.follow([field, isUsed = side.isUsed](const Watermark& record) {
             field->setEnabled(EnableDisablePadding(record).*isUsed);
         });
@@ -132,31 +139,39 @@ QWidget* PositionGroup::makeTiling() {
         void (*set)(Watermark&, bool);
         const char* spacingName;
         QString spacingLabel;
-        std::int64_t Watermark::*spacing;
+        length_field::WatermarkLength spacing;
     };
     const Direction directions[] = {
         {"HorizontalTiling", tr("Repeat across"), &Watermark::HorizontalTiling, setHorizontalTiling,
-         "HorizontalSpacing", tr("Horizontal spacing"), &Watermark::HorizontalSpacing},
+         "HorizontalSpacing", tr("Horizontal spacing"), length_field::HorizontalSpacing},
         {"VerticalTiling", tr("Repeat down"), &Watermark::VerticalTiling, setVerticalTiling,
-         "VerticalSpacing", tr("Vertical spacing"), &Watermark::VerticalSpacing},
+         "VerticalSpacing", tr("Vertical spacing"), length_field::VerticalSpacing},
     };
     int row = 0;
     for (const Direction& direction : directions) {
         auto* check = new QCheckBox(direction.label, box);
         check->setObjectName(QLatin1String(direction.name));
-        NumberField* spacing = makeNumber(direction.spacingName, number_kind::Offset, direction.spacingLabel);
+        auto* spacing = new LengthBox(number_kind::Offset, direction.spacingLabel, box);
+        spacing->setObjectName(QLatin1String(direction.spacingName));
         QSizePolicy kept = spacing->sizePolicy();
         kept.setRetainSizeWhenHidden(true);
         spacing->setSizePolicy(kept);
         spacing->setToolTip(direction.spacingLabel);
-        spacing->setPrefix(tr("Gap "));
+        spacing->number().setPrefix(tr("Gap "));
         layout->addWidget(check, row, 0);
         layout->addWidget(spacing, row++, 1);
         binder_.bind(check, direction.isOn, direction.set);
-        binder_.bind(spacing, direction.spacing);
+        bindLength(binder_, spacing, direction.spacing);
         binder_.follow(
             [spacing, isOn = direction.isOn](const Watermark& record) { spacing->setVisible(record.*isOn); });
     }
+    auto* unit = new LengthUnit(tr("Unit of the gaps"), box);
+    unit->setObjectName(QStringLiteral("SpacingUnit"));
+    bindUnit(binder_, unit, length_field::Spacings);
+    binder_.follow([unit](const Watermark& record) {
+        unit->setEnabled(record.HorizontalTiling || record.VerticalTiling);
+    });
+    layout->addWidget(unit, row, 0, 1, 2);
     layout->setColumnStretch(0, 1);
     return box;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/watermark_page.h"
 
+#include "app/editors/controls/length_box.h"
 #include "app/editors/controls/photo_reference.h"
 
 #include <QLabel>
@@ -50,7 +51,9 @@ void WatermarkPage::showFor(const SelectedPhoto& photo) {
 }
 
 void WatermarkPage::updateReference() {
-    showReference(photoReference(controller(), photo_));
+    const QSizeF reference = photoReference(controller(), photo_);
+    showReferenceIn(*this, reference);
+    showReference(reference);
 }
 
 Watermark WatermarkPage::value() const {
