@@ -3,18 +3,15 @@
 // moments, and the order of events that must come out of it.
 #include "batch/batch_run.h"
 
-#include <QMap>
+#include "support/testing.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <QMap>
 
 #include <functional>
 #include <stdexcept>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 using State = BatchRun::State;
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/destination_map.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(DestinationMap, RelativePathsStartWithTheAncestorsOwnName) {
     struct Row {

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/folder_scan.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "support/testing.h"
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -13,8 +10,6 @@
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // A folder with empty files and, for names that end in '/', folders; "|" stands between the names.
 class FolderScan : public ::testing::Test {

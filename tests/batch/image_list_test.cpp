@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/image_list.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 ImageList listOf(const QStringList& paths) {
     ImageList list;

@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_name.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 OutputOptions optionsFor(const QString& format) {
     OutputOptions options;

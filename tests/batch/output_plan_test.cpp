@@ -1,17 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules for outputs whose names are taken, over lists of photos and a folder that holds files already.
 #include "batch/batch_request.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 QStringList words(const char* text) {
     return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);

@@ -4,15 +4,13 @@
 
 #include "records/watermark_stack.h"
 #include "support/run_program.h"
+#include "support/testing.h"
 
 #include <QImage>
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace zelto {
 

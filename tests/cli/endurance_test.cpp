@@ -3,8 +3,8 @@
 #include "cli/batch_program.h"
 #include "support/exiftool.h"
 #include "support/records.h"
+#include "support/testing.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,8 +15,6 @@
 
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 using Endurance = BatchProgram;
 

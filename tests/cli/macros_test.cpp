@@ -4,14 +4,13 @@
 #include "support/exiftool.h"
 #include "support/qr_reader.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QDateTime>
-#include <QFile>
 
 namespace zelto {
 namespace {
 
-using namespace Qt::Literals::StringLiterals;
 using Macros = BatchProgram;
 
 Watermark code(const QString& text, std::int32_t position) {

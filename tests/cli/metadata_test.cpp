@@ -4,13 +4,10 @@
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
 #include "support/exiftool.h"
-
-#include <QFile>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 class Metadata : public BatchProgram {
   protected:

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Command lines that cannot be used: exit status 2, a word about what is wrong, and nothing written.
 #include "cli/batch_program.h"
-
-#include <QDir>
-#include <QFile>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 using Options = BatchProgram;
 

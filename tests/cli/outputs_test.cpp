@@ -4,16 +4,15 @@
 #include "persistence/output_settings_file.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QDate>
-#include <QFile>
 #include <QImageReader>
 #include <QJsonObject>
 
 namespace zelto {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Outputs = BatchProgram;
 
 QStringList words(const char* line) {

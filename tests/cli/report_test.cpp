@@ -3,15 +3,14 @@
 #include "cli/batch_program.h"
 #include "persistence/setting_file.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
 namespace zelto {
 namespace {
 
-using namespace Qt::Literals::StringLiterals;
 using Report = BatchProgram;
 
 constexpr auto Damaged = "Image may be damaged or use a file format not supported by Zelto."_L1;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Originals stay, and whatever ends a run leaves whole files only.
 #include "cli/batch_program.h"
+#include "support/testing.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -12,7 +12,6 @@
 namespace zelto {
 namespace {
 
-using namespace Qt::Literals::StringLiterals;
 using Safety = BatchProgram;
 
 QByteArray contents(const QString& path) {

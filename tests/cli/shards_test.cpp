@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One batch as several runs: together they write the files of a single run, byte for byte.
 #include "cli/batch_program.h"
+#include "support/testing.h"
 
-#include <QDir>
 #include <QJsonArray>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 class Shards : public BatchProgram {
   protected:

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/auto_number.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <limits>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(GenerateAutoMacro, FillsTheStartNumberUpToItsDigits) {
     const std::pair<AutoNumberFields, QString> rows[] = {

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/exif_words.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(GetExifValue, FindsTheWordOfACodeOrKeepsTheValue) {
     const QString rows[][3] = {

@@ -3,17 +3,12 @@
 
 #include "platform/file_times.h"
 #include "support/exiftool.h"
+#include "support/testing.h"
 
-#include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 MacroContext contextOf(const QString& path) {
     MacroContext context;

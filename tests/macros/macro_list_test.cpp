@@ -2,13 +2,10 @@
 #include "macros/macro_list.h"
 
 #include "macros/macro_expander.h"
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(MacroList, OffersOnlyTokensTheExpanderKnows) {
     MacroContext context;

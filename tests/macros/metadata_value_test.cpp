@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "macros/metadata_value.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <limits>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(GetStringValue, PrintsNumbersTextsAndLists) {
     struct Row {

@@ -2,15 +2,12 @@
 #include "metadata/exiftool_pool.h"
 
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <atomic>
@@ -22,8 +19,6 @@ namespace zelto {
 namespace {
 
 using namespace std::chrono_literals;
-using namespace Qt::Literals::StringLiterals;
-using ::testing::HasSubstr;
 
 class Exiftool : public ::testing::Test {
   protected:

@@ -5,16 +5,14 @@
 #include "metadata/iptc_dictionary.h"
 #include "platform/whole_file.h"
 #include "support/exiftool.h"
+#include "support/testing.h"
 
 #include <QDataStream>
-#include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
 #include <exiv2/exiv2.hpp>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <thread>
@@ -22,8 +20,6 @@
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // `expected` is JSON; null stands for a key that must be missing.
 void expectProperties(const QVariantMap& dictionary, const char* expected, const QString& file) {

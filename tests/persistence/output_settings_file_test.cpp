@@ -5,10 +5,7 @@
 #include "persistence/xml_document.h"
 #include "platform/file_reference.h"
 #include "platform/whole_file.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {

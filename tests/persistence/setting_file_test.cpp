@@ -2,17 +2,10 @@
 #include "persistence/setting_file.h"
 
 #include "persistence/xml_document.h"
-
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
-using ::testing::HasSubstr;
 
 // The elements that hold no others as "path=text", a watermark's type as "Watermark@type", the paths within a
 // watermark without its name.

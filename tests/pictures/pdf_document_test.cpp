@@ -6,19 +6,14 @@
 #include "support/ink.h"
 #include "support/run_program.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QBuffer>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
 namespace zelto {
 namespace {
-
-using ::testing::HasSubstr;
 
 // A device that is full after so many bytes.
 class FullDevice : public QIODevice {

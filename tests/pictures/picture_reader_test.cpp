@@ -5,12 +5,11 @@
 #include "platform/whole_file.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QBuffer>
 #include <QImageWriter>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 

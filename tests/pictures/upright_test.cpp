@@ -6,16 +6,12 @@
 #include "support/exiftool.h"
 #include "support/ink.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
-#include <QTemporaryDir>
 #include <QTransform>
-
-#include <gtest/gtest.h>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 constexpr QSize Stored(150, 96);  // more rows than a band, and not a multiple of one
 

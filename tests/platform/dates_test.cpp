@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/dates.h"
 
-#include <QTimeZone>
+#include "support/testing.h"
 
-#include <gtest/gtest.h>
+#include <QTimeZone>
 
 #include <atomic>
 #include <thread>
@@ -11,8 +11,6 @@
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QDateTime Moment({2024, 12, 30}, {15, 4, 5}, Qt::UTC);
 const QLocale American(QLocale::English, QLocale::UnitedStates);

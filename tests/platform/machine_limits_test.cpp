@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/machine_limits.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include "support/testing.h"
 
-#include <gtest/gtest.h>
+#include <QFileInfo>
 
 namespace zelto {
 namespace {

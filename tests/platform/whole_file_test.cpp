@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/whole_file.h"
 
-#include <QDir>
-#include <QFile>
-#include <QIODevice>
-#include <QTemporaryDir>
+#include "support/testing.h"
 
-#include <gtest/gtest.h>
+#include <QIODevice>
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 

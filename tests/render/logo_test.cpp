@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/logo.h"
 
-#include "support/records.h"
 #include "support/ink.h"
+#include "support/records.h"
 #include "support/test_pictures.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <atomic>
 #include <cmath>

@@ -6,10 +6,7 @@
 #include "support/ink.h"
 #include "support/records.h"
 #include "support/test_pictures.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <atomic>
 #include <cmath>

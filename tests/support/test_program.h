@@ -3,12 +3,9 @@
 // gone when it ends, so that no test reads or leaves anything of the user's.
 #pragma once
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
+#include "support/testing.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <QCoreApplication>
 
 namespace zelto {
 

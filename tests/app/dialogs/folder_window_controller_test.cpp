@@ -5,18 +5,13 @@
 #include "app/hands.h"
 #include "app/photos/folder_import.h"
 #include "app/window/main_window.h"
+#include "support/testing.h"
 
-#include <QDir>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 TEST(AddFolderDialog, AsksForAFolderAndAFormat) {
     AnsweredMessages messages;

@@ -11,24 +11,18 @@
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDate>
-#include <QDir>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
 
 namespace zelto {
 namespace {
-
-using ::testing::ElementsAre;
-using namespace Qt::Literals::StringLiterals;
 
 class OutputOptionsDialog : public ::testing::Test {
   protected:

@@ -10,21 +10,14 @@
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
+#include "support/testing.h"
 
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
 
 namespace zelto {
 namespace {
-
-using ::testing::ElementsAre;
-using namespace Qt::Literals::StringLiterals;
 
 WatermarkStack stackOf(const QString& text) {
     WatermarkStack stack;

@@ -4,19 +4,15 @@
 #include "app/editors/controls/rotation_control.h"
 #include "app/editors/controls/transparency_slider.h"
 #include "app/hands.h"
+#include "support/testing.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include <gmock/gmock.h>
-
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
-using ::testing::ElementsAre;
 
 class Field : public ::testing::Test {
   protected:

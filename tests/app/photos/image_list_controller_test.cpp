@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/photos/image_list_controller.h"
 
-#include <QSignalSpy>
+#include "support/testing.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <QSignalSpy>
 
 namespace zelto {
 namespace {
-
-using ::testing::ElementsAre;
 
 class ImageListControllerTest : public ::testing::Test {
   protected:

@@ -2,18 +2,13 @@
 #include "app/photos/thumbnail_loader.h"
 
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(ThumbnailLoader, KeepsWhatItHasMadeUntilAnotherSizeIsWanted) {
     const QTemporaryDir folder;

@@ -6,21 +6,15 @@
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
+#include "support/testing.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace zelto {
 namespace {
-
-using ::testing::ElementsAre;
 
 WatermarkStack stackOf(const QString& text) {
     WatermarkStack stack;

@@ -6,20 +6,15 @@
 #include "pictures/picture_reader.h"
 #include "platform/preferences.h"
 #include "support/records.h"
+#include "support/testing.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
-
 namespace zelto {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
-using ::testing::ElementsAre;
 
 const QString Succeeded = u"Watermark process completed successfully\n\n"_s;
 const QString Failed =

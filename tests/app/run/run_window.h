@@ -5,11 +5,9 @@
 
 #include "app/run/run_controller.h"
 #include "app/window/main_window.h"
+#include "support/testing.h"
 
 #include <QMessageBox>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <memory>

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/watermark_document.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <functional>
 
 namespace zelto {
 namespace {
-
-using ::testing::ElementsAre;
 
 Watermark text(const QString& content) {
     Watermark watermark(watermark_type::Text);
