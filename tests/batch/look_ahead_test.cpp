@@ -56,7 +56,11 @@ class MeasuredProcessor : public PhotoProcessor {
             if (next_ == photos_.size()) return std::nullopt;
             const Photo& photo = photos_[next_];
             const auto row = static_cast<qint64>(next_++);
-            return PhotoTask{row, static_cast<qint64>(photos_.size()), photo.source, photo.output, {}};
+            const auto own = [row](const QString& path) {  // two photos without one would have the same
+                return path.isEmpty() ? QStringLiteral("/nowhere/of %1").arg(row) : path;
+            };
+            return PhotoTask{
+                row, static_cast<qint64>(photos_.size()), own(photo.source), own(photo.output), {}};
         };
     }
     std::vector<qint64> begun() {
@@ -105,9 +109,9 @@ TEST(LookAhead, HandsOutInListOrderHoweverLongEachPhotoTakes) {
 }
 
 TEST(LookAhead, KeepsToTheMemoryBudgetAndWorksOnALargerPhotoAlone) {
-    std::vector<Photo> photos(40, Photo{.bytes = 30, .duration = 1ms});
-    photos[20].bytes = 100;
-    photos[21].bytes = -1;  // a photo whose size cannot be told is still prepared
+    std::vector<Photo> photos(16, Photo{.bytes = 30, .duration = 20ms});
+    photos[8].bytes = 100;
+    photos[9].bytes = -1;  // a photo whose size cannot be told is still prepared
     for (const qint64 largest : {qint64{30}, qint64{1000}}) {
         photos[3].bytes = largest;
         MeasuredProcessor processor(photos);

@@ -32,7 +32,9 @@ TEST_F(Endurance, MixedAndDamagedPhotosComeOutTheSameForAnyNumberOfJobs) {
         ASSERT_TRUE(isDamaged(row) || scene.save(photos.last()));
     }
     // A number of its own for each photo, so that none can stand for another.
-    useSetting({{textRecord(u"<<AUTO:##1+1>>"_s, 14)}, {}, 0, false});
+    WatermarkStack stack = everyKind();
+    stack.Watermarks.push_back(textRecord(u"<<AUTO:##1+1>> <<MODDATE[DD, D. MM]>>"_s, 14));
+    useSetting(stack);
 
     ProgramRun first;
     Files firstFiles;

@@ -5,10 +5,6 @@
 
 #include <QTimeZone>
 
-#include <atomic>
-#include <thread>
-#include <vector>
-
 namespace zelto {
 namespace {
 
@@ -78,23 +74,6 @@ TEST(ParsePhotoDateTime, ReadsWhatCamerasWrite) {
     EXPECT_EQ(parsePhotoDate(u"20140503"_s), QDateTime({2014, 5, 3}, {0, 0}, Qt::UTC));
     for (const QString& text : {u"20140532"_s, u"2014-05-03"_s, u"00000000"_s, u"20140503 "_s, u""_s})
         EXPECT_FALSE(parsePhotoDate(text)) << text.toStdString();
-}
-
-TEST(FormatDate, ServesManyThreadsAtOnce) {
-    std::vector<std::jthread> threads;
-    std::atomic<int> wrong = 0;
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back([&wrong, t] {
-            const QLocale locale(t % 2 == 0 ? u"de_DE"_s : u"en_US"_s);
-            const QString expected = t % 2 == 0 ? u"Dezember"_s : u"December"_s;
-            for (int i = 0; i < 200; ++i) {
-                wrong += formatDate(Moment, u"MMMM", locale) != expected;
-                wrong += !parsePhotoDateTime(u"2014:05:03 13:41:07"_s);
-            }
-        });
-    }
-    threads.clear();
-    EXPECT_EQ(wrong, 0);
 }
 
 TEST(UserDateLocale, IsTheOneDatesAreAskedFor) {

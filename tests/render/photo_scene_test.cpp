@@ -8,10 +8,8 @@
 #include "support/test_pictures.h"
 #include "support/testing.h"
 
-#include <atomic>
 #include <cmath>
 #include <functional>
-#include <thread>
 #include <vector>
 
 namespace zelto {
@@ -124,25 +122,6 @@ TEST(PhotoScene, TellsOfEachRecordWhyNothingOfItCanBeSeen) {
     EXPECT_TRUE(scene.warnings[8]->text.contains(QChar(0x378)));
     for (Watermark& record : stack.Watermarks) record.IsEnabled = false;
     EXPECT_TRUE(warningsOf(sceneOf(stack, plainPhoto({100, 80}))).empty());
-}
-
-TEST(PhotoScene, IsBuiltAndDrawnAlikeOnManyThreadsAtTheSameTime) {
-    const WatermarkStack stack = everyKind();
-    PhotoRequest request = requestFor(stack);
-    request.logos = std::make_shared<LogoCache>();
-    const PhotoScene shared = *buildPhotoScene(request, {.image = drawnScene({400, 300})});
-    const QImage expected = MakeWatermarkImage(shared, stack);
-    std::atomic<int> right = 0;
-    std::vector<std::jthread> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([&] {
-            const PhotoScene own = *buildPhotoScene(request, {.image = drawnScene({400, 300})});
-            right += MakeWatermarkImage(own, stack) == expected;
-            right += MakeWatermarkImage(shared, stack) == expected;
-        });
-    }
-    threads.clear();
-    EXPECT_EQ(right, 8);
 }
 
 // The sanitizers bring an allocator of their own.

@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editor_fixture.h"
 #include "persistence/copyright_file.h"
+#include "support/testing.h"
 
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 
 namespace zelto {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-struct LineRow {
-    const char* name;
-    QString CopyRightMetaData::*text;
-};
 using Data = CopyRightMetaData;
-constexpr LineRow Lines[] = {
+constexpr std::pair<const char*, QString Data::*> Lines[] = {
     {"CopyrightText", &Data::CopyrightText},
     {"CopyrightURL", &Data::CopyrightURL},
     {"RightsUsageTerms", &Data::RightsUsageTerms},
@@ -48,9 +41,9 @@ TEST_F(CopyrightEditorTest, AllThatIsEnteredIsSetAndKept) {
     expected.Enabled = true;
     expected.CopyrightTextStatus = u"Protected"_s;
     editData([&expected](QWidget& editor) {
-        for (const LineRow& line : Lines) {
-            expected.*line.text = QLatin1String(line.name) + u" <1> & more"_s;
-            type(editor, line.name, expected.*line.text);
+        for (const auto& [name, text] : Lines) {
+            expected.*text = QLatin1String(name) + u" <1> & more"_s;
+            type(editor, name, expected.*text);
         }
         choose(editor, "CopyrightTextStatus", 2);
     });
@@ -58,9 +51,8 @@ TEST_F(CopyrightEditorTest, AllThatIsEnteredIsSetAndKept) {
     EXPECT_TRUE(kept() == expected);
 
     editData([&expected](QWidget& editor) {
-        for (const LineRow& line : Lines) {
-            EXPECT_EQ(control<QLineEdit>(editor, line.name).text(), expected.*line.text);
-        }
+        for (const auto& [name, text] : Lines)
+            EXPECT_EQ(control<QLineEdit>(editor, name).text(), expected.*text);
         type(editor, "CreatorCity", {});
         click(editor, "Enabled");
     });

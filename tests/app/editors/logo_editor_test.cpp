@@ -3,13 +3,10 @@
 #include "app/editor_fixture.h"
 #include "app/editors/controls/number_field.h"
 #include "app/editors/text/logo_sample.h"
-
-#include <QFile>
+#include "support/testing.h"
 
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 using LogoEditorTest = EditorTest;
 

@@ -11,22 +11,18 @@
 #include "platform/whole_file.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
+#include "support/testing.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
-#include <gtest/gtest.h>
-
 namespace zelto {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 class MacroControllerTest : public ::testing::Test {
   public:

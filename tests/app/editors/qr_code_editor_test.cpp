@@ -43,27 +43,6 @@ TEST_F(QrCodeEditorTest, WhatIsTypedCanBeReadFromThePhoto) {
     EXPECT_TRUE(records().empty());
 }
 
-TEST_F(QrCodeEditorTest, AnEmptiedCodeKeepsItsPlaceUntilItIsLeft) {
-    for (const QString& text : {u"first"_s, u"second"_s}) {
-        edit(Act::AddQrCode, [text](QWidget& editor) { type(editor, "Text", text); });
-    }
-    const auto texts = [this] {
-        QStringList all;
-        for (const Watermark& record : records()) all += record.Text;
-        return all.join(u' ');
-    };
-    editRecord(0, [&](QWidget& editor) {
-        type(editor, "Text", {});
-        EXPECT_EQ(texts(), u" second"_s);
-        type(editor, "Text", u"third"_s);
-    });
-    EXPECT_EQ(texts(), u"third second"_s);
-    editRecord(0, [](QWidget& editor) { type(editor, "Text", {}); });
-    EXPECT_EQ(texts(), u"second"_s);
-    for (int step = 0; step < 2; ++step) history().undo();
-    EXPECT_EQ(texts(), u"third second"_s);
-}
-
 TEST_F(QrCodeEditorTest, HardBlanksAndMacrosGoToTheCursor) {
     edit(Act::AddQrCode, [this](QWidget& editor) {
         QInputMethodEvent typed;

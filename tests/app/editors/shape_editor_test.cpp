@@ -86,26 +86,5 @@ TEST_F(ShapeEditorTest, RevertTakesTheVisitBackAndNothingElse) {
     EXPECT_TRUE(record() == before);
 }
 
-TEST_F(ShapeEditorTest, LookingAtARecordChangesNothing) {
-    Watermark odd = start();
-    odd.Transparency = 0.333F;
-    odd.Rotation = 1000;
-    odd.ResizeWidthByPercent = true;
-    odd.ResizeWidth = 0.12345F;
-    odd.Height = 33.3F;
-    odd.CustomPositionLeft = -5;
-    odd.PaddingTop = 1'000'000'000;
-    odd.SolidColor.reset();
-    odd.GradeintType = 9;
-    add(odd);
-    const int steps = history().count();
-    const Drive lookAround = [this](QWidget&) {
-        for (int i = 0; i < 40; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-    };
-    editRecord(0, lookAround);
-    EXPECT_TRUE(record() == odd);
-    EXPECT_EQ(history().count(), steps);
-}
-
 }  // namespace
 }  // namespace zelto
