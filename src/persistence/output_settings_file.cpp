@@ -19,7 +19,7 @@ constexpr auto RootName = "OutputSettings"_L1;
 // More pixels or per cent than any picture can have; products with it must not overflow.
 constexpr qint64 MaximumSize = 1'000'000'000;
 
-// --- Forms of a value that its type alone does not tell.
+// --- Forms of a value that its type alone does not tell. Not every compiler guesses their parameters without a guide.
 
 // From 0 to 100.
 template <class Number>

@@ -6,6 +6,10 @@
 // has the seventh write() of zelto-batch to a file below /tmp/x fail with an input/output error (FAULT_WAY=short: does
 // only a part; FAULT_WAY=kill: ends the process in its stead) and leaves a file at FAULT_LOG to say that it came to that.
 //
+//     FAULT_CALL=malloc FAULT_NUMBER=7 FAULT_WAY=error FAULT_SIZE=4096
+//
+// has the seventh allocation of at least 4096 bytes return nothing (FAULT_WAY=onwards: and all of that size after it).
+//
 //     FOLD_BELOW=/tmp/card
 //
 // has names in the folders below /tmp/card found in any letter case, as memory cards do.
@@ -19,6 +23,7 @@
 #include <signal.h>
 #include <stdarg.h>
 #include <stdatomic.h>
+#include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -27,7 +32,63 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+// The C library's allocator, under the names it keeps for programs that replace malloc.
+extern void* __libc_malloc(size_t bytes);
+extern void* __libc_calloc(size_t items, size_t bytes);
+extern void* __libc_realloc(void* memory, size_t bytes);
+extern void* __libc_memalign(size_t alignment, size_t bytes);
+
 #define REAL(name, ...) ((__typeof__(&name))dlsym(RTLD_NEXT, #name))(__VA_ARGS__)
+
+// What is to become of allocations, read once: they are too many to ask the environment each time.
+static struct {
+    size_t size;  // the smallest that counts; none does until this is set
+    long number;  // the one that fails
+    int onwards;  // whether all after it fail as well
+    atomic_long count;
+} memory = {.size = SIZE_MAX};
+
+__attribute__((constructor)) static void readMemoryFaults(void) {
+    const char* call = getenv("FAULT_CALL");
+    const char* program = getenv("FAULT_PROGRAM");
+    const char* size = getenv("FAULT_SIZE");
+    if (call == NULL || strcmp(call, "malloc") != 0 || size == NULL) return;
+    if (program != NULL && strcmp(program, program_invocation_short_name) != 0) return;
+    memory.number = atol(getenv("FAULT_NUMBER"));
+    memory.onwards = strcmp(getenv("FAULT_WAY"), "onwards") == 0;
+    memory.size = (size_t)atol(size);
+}
+
+static int hasNoMemory(size_t bytes) {
+    if (bytes < memory.size) return 0;
+    const long count = atomic_fetch_add(&memory.count, 1) + 1;
+    if (count < memory.number || (count > memory.number && !memory.onwards)) return 0;
+    if (count == memory.number) REAL(close, REAL(open, getenv("FAULT_LOG"), O_CREAT | O_WRONLY, 0600));
+    errno = ENOMEM;
+    return 1;
+}
+
+void* malloc(size_t bytes) {
+    return hasNoMemory(bytes) ? NULL : __libc_malloc(bytes);
+}
+
+void* calloc(size_t items, size_t bytes) {
+    return hasNoMemory(items * bytes) ? NULL : __libc_calloc(items, bytes);
+}
+
+void* realloc(void* old, size_t bytes) {
+    return hasNoMemory(bytes) ? NULL : __libc_realloc(old, bytes);
+}
+
+int posix_memalign(void** result, size_t alignment, size_t bytes) {
+    void* const found = hasNoMemory(bytes) ? NULL : __libc_memalign(alignment, bytes);
+    if (found != NULL) *result = found;
+    return found == NULL ? ENOMEM : 0;
+}
+
+void* aligned_alloc(size_t alignment, size_t bytes) {
+    return hasNoMemory(bytes) ? NULL : __libc_memalign(alignment, bytes);
+}
 
 static int isBelow(const char* path, const char* variable) {
     const char* folder = getenv(variable);
