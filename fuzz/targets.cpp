@@ -4,8 +4,11 @@
 #include "batch/output_name.h"
 #include "macros/macro_expander.h"
 #include "macros/macro_list.h"
+#include "metadata/embedded_pictures.h"
 #include "metadata/exiftool_process.h"
 #include "metadata/image_properties.h"
+#include "metadata/output_parts.h"
+#include "metadata/recorded_resolution.h"
 #include "persistence/copyright_file.h"
 #include "persistence/output_settings_file.h"
 #include "persistence/setting_file.h"
@@ -15,6 +18,7 @@
 #include "pictures/picture_kind.h"
 #include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
+#include "pictures/picture_writer.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -169,6 +173,34 @@ void writeExiftoolCommand(QByteArrayView input) {
                 "no value becomes an argument");
 }
 
+// A file that exiftool has left in the place of a stand-in. What is taken of it leaves the picture as it was.
+void takeExiftoolsAnswer(QByteArrayView input) {
+    static const QImage picture = [] {
+        QImage drawn(24, 16, QImage::Format_RGB32);
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) drawn.setPixel(x, y, qRgb(x * 10, y * 15, 128));
+        }
+        return drawn;
+    }();
+    static const QByteArray outputs[] = {encodePicture(picture, PictureFormat::Jpeg, {}).value(),
+                                         encodePicture(picture, PictureFormat::Tiff, {}).value()};
+    const QByteArray filled = input.toByteArray();
+    recordsResolution(filled, 72.0);
+    holdsPosition(filled);
+    hasTrailer(filled);
+    holdsPictureAsText(filled);
+    const QByteArray& output = outputs[filled.startsWith("\xFF\xD8") ? 0 : 1];
+    Result<QByteArray> complete = withMetadataOf(filled, output);
+    if (!complete) return;
+    const qsizetype size = complete->size();
+    replaceEmbeddedPictures(*complete, metadataRanges(*complete), picture);
+    promise(complete->size() == size, "small pictures move nothing");
+    const Result<Picture> left = decodePicture(*complete);
+    promise(left.has_value(), "a complete output can be read");
+    promise(left->image.size() == picture.size() || left->image.size() == picture.size().transposed(),
+            "it has its size");
+}
+
 constexpr FuzzTarget Targets[] = {
     {"jpeg", readPictureOf<PictureKind::Jpeg>},
     {"png", readPictureOf<PictureKind::Png>},
@@ -185,6 +217,7 @@ constexpr FuzzTarget Targets[] = {
     {"options", readOptions},
     {"rename", fillRenamePattern},
     {"exiftool", writeExiftoolCommand},
+    {"answer", takeExiftoolsAnswer},
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <system_error>
 #include <utility>
 
 namespace zelto {
@@ -51,11 +52,16 @@ LookAheadLimits LookAheadLimits::forThisMachine() {
 LookAhead::LookAhead(PhotoProcessor& processor, std::function<std::optional<PhotoTask>()> nextTask,
                      LookAheadLimits limits)
     : processor_(processor), nextTask_(std::move(nextTask)), limits_(limits) {
-    for (int i = 0; i < limits_.jobs; ++i) {
-        threads_.emplace_back([this](const std::stop_token& stop) {
-            if (limits_.givesWay) giveWay();
-            work(stop);
-        });
+    threads_.reserve(static_cast<std::size_t>(limits_.jobs));
+    try {
+        for (int i = 0; i < limits_.jobs; ++i) {
+            threads_.emplace_back([this](const std::stop_token& stop) {
+                if (limits_.givesWay) giveWay();
+                work(stop);
+            });
+        }
+    } catch (const std::system_error&) {
+        // With fewer threads than asked for, or at worst on the caller's own, the photos are the same.
     }
 }
 
@@ -65,6 +71,7 @@ LookAhead::~LookAhead() {
 }
 
 std::optional<LookAhead::Ready> LookAhead::take() {
+    if (threads_.empty()) prepareNext({});
     std::unique_lock lock(mutex_);
     changed_.wait(lock,
                   [this] { return inFlight_.empty() ? exhausted_ : inFlight_.front().result.has_value(); });
@@ -81,15 +88,22 @@ void LookAhead::release() {
 }
 
 void LookAhead::work(const std::stop_token& stop) {
-    while (Slot* const slot = admit(stop)) {
-        Result<PreparedPhoto> result = prepared(processor_, slot->task);
-        const std::lock_guard lock(mutex_);
-        const qint64 held = result ? result->bytes() : 0;
-        bytesInFlight_ += held - slot->bytes;
-        slot->bytes = held;
-        slot->result.emplace(std::move(result));
-        changed_.notify_all();
+    while (prepareNext(stop)) {
     }
+}
+
+// False when there is no next photo or the thread is to end.
+bool LookAhead::prepareNext(const std::stop_token& stop) {
+    Slot* const slot = admit(stop);
+    if (slot == nullptr) return false;
+    Result<PreparedPhoto> result = prepared(processor_, slot->task);
+    const std::lock_guard lock(mutex_);
+    const qint64 held = result ? result->bytes() : 0;
+    bytesInFlight_ += held - slot->bytes;
+    slot->bytes = held;
+    slot->result.emplace(std::move(result));
+    changed_.notify_all();
+    return true;
 }
 
 // The slot of the next photo, once there is room for it; null when there is none or the thread is to end.
@@ -99,6 +113,7 @@ LookAhead::Slot* LookAhead::admit(const std::stop_token& stop) {
     if (stop.stop_requested()) return nullptr;
     std::optional<PhotoTask> task = nextTask_();
     const qint64 bytes = task ? memoryNeeded(processor_, *task) : 0;
+    if (task) task->memory = bytes;
     const FileIdentity sourceFile = task ? fileIdentity(task->source) : FileIdentity();
     const FileIdentity outputFile = task ? fileIdentity(task->output) : FileIdentity();
 

@@ -57,6 +57,7 @@ class LookAhead {
     };
 
     void work(const std::stop_token& stop);
+    bool prepareNext(const std::stop_token& stop);
     Slot* admit(const std::stop_token& stop);
     bool hasRoomFor(qint64 bytes, const FileIdentity& sourceFile) const;
 

@@ -75,7 +75,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const std::optional<PictureFormat> format = formatOf(task.output);
     // Starting takes a while, which passes while the first photo is worked on.
     if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
-    if (Result<void> allowed = checkMemory(memoryNeeded(task), QFileInfo(task.source).size()); !allowed)
+    if (Result<void> allowed = checkMemory(task.memory, QFileInfo(task.source).size()); !allowed)
         return tl::unexpected(std::move(allowed.error()));
     std::optional<JpegWay> way;
     if (settings_.options.JpegLossless && format == PictureFormat::Jpeg) {
@@ -107,6 +107,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     photo.jpeg = std::move(way);
     photo.lastAutoNumber = scene->lastAutoNumber;
     photo.warnings = warningsOf(*scene);
+    if (settings_.strict && !photo.warnings.empty()) return photo;
     const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
                                  scene->dpiX, scene->dpiY};
     const double dpi = scene->dpiX;

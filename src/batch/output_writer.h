@@ -35,7 +35,8 @@ class OutputWriter : public PhotoProcessor {
         std::shared_ptr<const WatermarkStack> stack;
         QLocale locale;
         std::optional<CopyRightMetaData> copyright;
-        int metadataJobs = 1;                                         // exiftool programs at a time
+        bool strict = false;   // whether a photo with a warning will not be written
+        int metadataJobs = 1;  // exiftool programs at a time
         std::chrono::milliseconds metadataTimeout = MetadataTimeout;  // for one output
         // Called on the run's thread when a photo is about to be written, at most twice a second, with what is
         // written scaled down to about a screen.

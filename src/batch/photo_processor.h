@@ -25,11 +25,12 @@ struct PhotoTask {
     qint64 row = 0;       // in the photo list, from 0
     qint64 listSize = 1;  // photos in the list
     QString source;
-    QString output;  // the path to write; of no meaning for a page of the combined PDF
-    QDateTime now;   // the moment its dates speak of
+    QString output;     // the path to write; of no meaning for a page of the combined PDF
+    QDateTime now;      // the moment its dates speak of
+    qint64 memory = 0;  // bytes that preparing it takes, as memoryNeeded() has told
 };
 
-// A photo that only has to be written.
+// A photo that only has to be written, or one without a file whose warnings are why it is not to be.
 struct PreparedPhoto {
     QSize size;                            // written pixels
     QByteArray file;                       // the complete file, or

@@ -22,8 +22,10 @@ constexpr QLatin1String DryRunMessage("Dry run: nothing was written.");
 constexpr QLatin1String UnfinishedPdfMessage("The combined PDF was not finished.");
 
 void tellWarnings(const PhotoReport& photo, Console& console) {
-    for (const PhotoWarning& warning : photo.warnings)
-        console.note(photo.source + QStringLiteral(": ") + warning.text);
+    for (const PhotoWarning& warning : photo.warnings) {
+        // Where it is why the photo fails, it is told as that.
+        if (warning.text != photo.error) console.note(photo.source + QStringLiteral(": ") + warning.text);
+    }
 }
 
 // Keeps the report up to date and shows the progress.
@@ -59,6 +61,7 @@ class ReportingObserver : public BatchObserver {
 void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
     PhotoReport& photo = photoAt(report_, outcome.row);
     photo.warnings = outcome.warnings;
+    photo.error = outcome.error;
     tellWarnings(photo, console_);
     if (outcome.succeeded()) {
         photo.status = PhotoReport::Status::Written;
@@ -71,7 +74,6 @@ void ReportingObserver::photoFinished(const PhotoOutcome& outcome) {
         return;
     }
     photo.status = PhotoReport::Status::Failed;
-    photo.error = outcome.error;
     const bool tellsMore = !outcome.reason.isEmpty() && outcome.reason != outcome.error;
     console_.problem(outcome.source + QStringLiteral(": ") + outcome.error +
                      (tellsMore ? QStringLiteral(" (%1)").arg(outcome.reason) : QString()));
@@ -134,7 +136,7 @@ BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& co
     console.begin(static_cast<qint64>(report.photos.size()));
     run.ProcessImaging(plan.request, std::make_unique<OutputWriter>(OutputWriter::Settings{
                                          plan.request.options, plan.stack, userDateLocale(), plan.copyright,
-                                         plan.request.limits.jobs}));
+                                         plan.request.strict, plan.request.limits.jobs}));
     run.wait();
     console.end();
     return report;

@@ -3,6 +3,7 @@
 #include "cli/batch_work.h"
 #include "cli/command_line.h"
 #include "cli/report_merge.h"
+#include "platform/machine_limits.h"
 #include "platform/process_setup.h"
 
 #include <QGuiApplication>
@@ -15,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <new>
 #include <optional>
 
 namespace zelto {
@@ -48,6 +50,8 @@ void showMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
     const bool serious = type == QtCriticalMsg || type == QtFatalMsg;
     if (messageConsole != nullptr && (serious || (ours && type == QtWarningMsg)))
         messageConsole->problem(message);
+    // A library that cannot go on says so once; there is no crash to report.
+    if (type == QtFatalMsg) std::_Exit(exit_status::CannotBeUsed);
 }
 
 // A report of why nothing could be run.
@@ -63,6 +67,7 @@ BatchReport work(const CommandLine& line, Console& console) {
     for (const ScanProblem& problem : plan->problems)
         console.problem(problem.path + QStringLiteral(": ") + problem.text);
     if (line.dryRun) return dryRun(*plan, console);
+    if (const Result<void> started = startDrawingThreads(); !started) return unusable(started.error());
     if (const Result<void> made = makeOutputFolder(*plan); !made) return unusable(made.error());
     return runBatch(*plan, line, console);
 }
@@ -101,6 +106,21 @@ int usageError(const Error& error, bool json) {
     return exit_status::CannotBeUsed;
 }
 
+// Where memory runs out in a place that nothing can be told from, the run ends: what it has written is whole.
+[[noreturn]] void giveUp() noexcept {
+    const char* why = "an error";
+    try {
+        if (std::current_exception()) throw;
+    } catch (const std::bad_alloc&) {
+        why = "there is not enough memory";
+    } catch (const std::exception& exception) {
+        why = exception.what();
+    } catch (...) {
+    }
+    std::fprintf(stderr, "zelto-batch: the run cannot go on: %s\n", why);
+    std::_Exit(exit_status::SomeFailed);
+}
+
 int run(int argc, char** argv) {
     prepareEnvironment();
     QStringList arguments;
@@ -114,6 +134,8 @@ int run(int argc, char** argv) {
 
     Console console({line->quiet, line->color, line->progress});
     if (line->mergeReports) return merge(*line, console);
+    if (const Result<void> enough = checkMemoryToStart(); !enough)
+        return show(unusable(enough.error()), *line, console);
     messageConsole = &console;
     qInstallMessageHandler(showMessage);
     // The arguments are ours; Qt is to find nothing for itself among them.
@@ -131,6 +153,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     zelto::prepareProcess();
+    std::set_terminate(zelto::giveUp);
     try {
         return zelto::run(argc, argv);
     } catch (const std::exception& exception) {

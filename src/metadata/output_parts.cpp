@@ -19,8 +19,10 @@ QByteArray joined(std::initializer_list<QByteArrayView> parts) {
     return bytes;
 }
 
-// What says how the strips of a TIFF are to be read: sizes, bits, compression, colours, planes, predictor, palette.
-constexpr std::array<quint16, 12> LayoutTags = {256, 257, 258, 259, 262, 277, 278, 284, 317, 320, 338, 339};
+// What says how the strips of a TIFF are to be read: sizes, bits and their order, compression, colours, planes,
+// predictor, palette, and that there are no tiles in their place.
+constexpr std::array<quint16, 17> LayoutTags = {256, 257, 258, 259, 262, 266, 277, 278, 284,
+                                                317, 320, 322, 323, 324, 325, 338, 339};
 // Pixel scale, tie points, transform, and the three of the GeoTIFF directory.
 constexpr std::array<quint16, 7> PositionTags = {
     tiff_tag::GpsDirectory, 33550, 33922, 34264, 34735, 34736, 34737};

@@ -9,6 +9,8 @@
 #include <QHash>
 
 #include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,6 +57,26 @@ bool isFound(const QByteArray& folder, const QByteArray& name) {
     return ::lstat((folder + '/' + name).constData(), &status) == 0;
 }
 
+// By its own name in the folder above; nothing where that is of another file system or the name has no letters. Some
+// file systems fold the names of single folders, which then say so.
+std::optional<bool> ownNameIgnoresCase(const QByteArray& folder) {
+    const int file = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (file < 0) return std::nullopt;
+    int flags = 0;
+    const bool saysSo = ::ioctl(file, FS_IOC_GETFLAGS, &flags) == 0 && (flags & FS_CASEFOLD_FL) != 0;
+    ::close(file);
+    if (saysSo) return true;
+    const auto own = statusOf(QFile::decodeName(folder));
+    const QString above = withoutLastPathComponent(QFile::decodeName(folder));
+    const auto parent = statusOf(above);
+    const QByteArray name = QFile::encodeName(lastPathComponent(QFile::decodeName(folder)));
+    const QByteArray other = inOtherCase(name);
+    if (!own || !parent || own->st_dev != parent->st_dev || other == name) return std::nullopt;
+    const QByteArray aboveName = QFile::encodeName(above);
+    if (namesIn(aboveName).contains(other)) return std::nullopt;
+    return isFound(aboveName, other);
+}
+
 // By a file created for a moment. In a folder that takes none no output can take another's place either.
 bool createdNameIgnoresCase(const QByteArray& folder) {
     QByteArray path = folder + "/.zelto-case-XXXXXX";
@@ -72,7 +94,8 @@ bool looksUpInAnyCase(const QByteArray& folder) {
         const QByteArray other = inOtherCase(name);
         if (other != name && !names.contains(other)) return isFound(folder, other);
     }
-    return createdNameIgnoresCase(folder);
+    const std::optional<bool> told = ownNameIgnoresCase(folder);
+    return told ? *told : createdNameIgnoresCase(folder);
 }
 
 bool ignoresCase(const QString& folder, const QByteArray& folderKey) {

@@ -21,8 +21,8 @@ struct FileIdentity {
 };
 
 // Of a path that need not exist; of its folders, those that do not exist count as part of the name. Whether a folder
-// ignores case is asked of its file system once per process, by looking a name in it up in the other case, or by
-// creating one for a moment in a folder that has none.
+// ignores case is asked of its file system once per process: by looking a name in it up in the other case; in a folder
+// that has none by its own name; and where that says nothing, as with an empty card, by creating a file for a moment.
 FileIdentity fileIdentity(const QString& path);
 
 // Whether the two are one file or one place.

@@ -5,9 +5,13 @@
 
 #include <QFile>
 
+#include <malloc.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace zelto {
 namespace {
@@ -35,6 +39,12 @@ std::optional<Hierarchy> memoryHierarchy(const QByteArray& line, const QString& 
                      QStringLiteral("memory.limit_in_bytes")};
 }
 
+std::optional<qint64> addressLimit() {
+    rlimit addresses{};
+    if (::getrlimit(RLIMIT_AS, &addresses) != 0 || addresses.rlim_cur == RLIM_INFINITY) return std::nullopt;
+    return static_cast<qint64>(std::min<rlim_t>(addresses.rlim_cur, std::numeric_limits<qint64>::max()));
+}
+
 }  // namespace
 
 std::optional<qint64> controlGroupMemoryLimit(const QByteArray& membership, const QString& mountPoint) {
@@ -59,7 +69,20 @@ qint64 availableMemory() {
     const qint64 machine = qint64{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
     const auto limit = controlGroupMemoryLimit(contents(QStringLiteral("/proc/self/cgroup")),
                                                QStringLiteral("/sys/fs/cgroup"));
-    return std::min(machine, limit.value_or(machine));
+    return std::min({machine, limit.value_or(machine), addressLimit().value_or(machine)});
+}
+
+Result<void> checkMemoryToStart() {
+    // What fontconfig and the threads of a run take before the first photo, found with limits of the address space.
+    constexpr std::size_t Needed = std::size_t{128} << 20;
+    // The allocator sets 64 MB aside for each thread.
+    if (addressLimit()) ::mallopt(M_ARENA_MAX, 1);
+    void* const memory =
+        ::mmap(nullptr, Needed, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (memory == MAP_FAILED)  // NOLINT(performance-no-int-to-ptr): the system's own constant
+        return fail(ErrorCode::OutOfMemory, QStringLiteral("there is not enough memory to start"));
+    ::munmap(memory, Needed);
+    return {};
 }
 
 }  // namespace zelto

@@ -2,6 +2,8 @@
 // How much of the machine there is for this process. Any thread.
 #pragma once
 
+#include "platform/result.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -9,8 +11,14 @@
 
 namespace zelto {
 
-// The memory this process may have, in bytes: the machine's, or less where a container or a batch system limits it.
+// The memory this process may have, in bytes: the machine's, or less where a container, a batch system or a limit of its
+// address space says so.
 qint64 availableMemory();
+
+// Error where this process cannot have what setting itself up takes. Libraries that run out of memory while they read
+// their own settings, fontconfig above all, crash or go on without them, so it is asked before. Error:
+// ErrorCode::OutOfMemory.
+Result<void> checkMemoryToStart();
 
 // The smallest memory limit of the control groups a process is in and of those above them; nothing where there is
 // none. `membership` is the content of its /proc/PID/cgroup, of version 1 or 2; `mountPoint` where the groups are.

@@ -1,13 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/process_setup.h"
 
+#include <QThreadPool>
+
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <initializer_list>
+#include <latch>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 namespace zelto {
+namespace {
+
+// How many threads the system lets run at once, up to `wanted`. The pool cannot tell: it counts on each it asks for.
+int threadsAllowed(int wanted) {
+    std::latch all(1);
+    std::vector<std::jthread> threads;
+    threads.reserve(static_cast<std::size_t>(wanted));
+    try {
+        while (threads.size() < static_cast<std::size_t>(wanted))
+            threads.emplace_back([&all] { all.wait(); });
+    } catch (const std::system_error&) {
+        // No more than these.
+    }
+    all.count_down();
+    return static_cast<int>(threads.size());
+}
+
+}  // namespace
 
 void prepareProcess() {
     // Opening takes the lowest free number, so in ascending order each gets its own.
@@ -17,6 +41,18 @@ void prepareProcess() {
     }
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+}
+
+Result<void> startDrawingThreads() {
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    const int threads = threadsAllowed(pool.maxThreadCount());
+    if (threads == 0) return fail(ErrorCode::OutOfMemory, QStringLiteral("no thread can be started"));
+    pool.setMaxThreadCount(threads);
+    pool.setExpiryTimeout(-1);
+    std::latch all(threads);
+    for (int i = 0; i < threads; ++i) pool.start([&all] { all.arrive_and_wait(); });
+    pool.waitForDone();
+    return {};
 }
 
 }  // namespace zelto

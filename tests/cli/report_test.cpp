@@ -112,7 +112,11 @@ TEST_F(Report, ADryRunTellsWhatARunWouldDoAndWritesNothing) {
             EXPECT_EQ(before[i].toObject()[key], after[i].toObject()[key]) << key.data() << " of photo " << i;
     }
 
+    QDir(path(u"out"_s)).removeRecursively();
+    QDir().mkpath(path(u"out"_s));
+    const QDateTime made = QFileInfo(path(u"out"_s)).lastModified();
     const ProgramRun text = run(QStringList(u"--dry-run"_s) + arguments);
+    EXPECT_EQ(QFileInfo(path(u"out"_s)).lastModified(), made) << "not even for a moment";
     EXPECT_EQ(
         text.output.split('\n').first(),
         QByteArrayList({path(u"in/a.png"_s).toUtf8(), path(u"out/a_01.png"_s).toUtf8(), "90x74"}).join('\t'));
@@ -194,8 +198,9 @@ TEST_F(Report, TellsWhyAMarkDidNotArriveAndStrictLeavesThatPhotoUnwritten) {
     useSetting(stack);
     const QString photo = makePhoto(u"a.png"_s);
     for (const bool strict : {true, false}) {
-        const QJsonObject report =
-            this->report(strict ? QStringList{u"--strict"_s, photo} : QStringList{photo}, strict);
+        const QStringList arguments = strict ? QStringList{u"--strict"_s, photo} : QStringList{photo};
+        EXPECT_EQ(run(arguments).errors.count("gone.png"), 1) << "told once";
+        const QJsonObject report = this->report(arguments, strict);
         const QJsonObject told = report["photos"_L1].toArray().first().toObject();
         const QJsonObject warning = told["warnings"_L1].toArray().first().toObject();
         EXPECT_EQ(warning["kind"_L1], u"logo-unreadable"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Originals stay, and whatever ends a run leaves whole files only.
 #include "cli/batch_program.h"
+#include "support/records.h"
 #include "support/testing.h"
 
 #include <QDirIterator>
@@ -84,6 +85,27 @@ TEST_F(Safety, NothingIsPrintedButLinesOfOurOwnWhateverThePicturesHold) {
             << line.constData();
     }
     EXPECT_GT(failed, photos.size() / 3);
+}
+
+TEST_F(Safety, LittleMemoryIsToldInWords) {
+    // A text and a picture large enough that Qt would draw them on threads of its own.
+    useSetting(everyKind());
+    const QString photo = makePhoto(u"a.png"_s, {600, 400});
+    ASSERT_EQ(run({photo}).exitStatus, 0);
+    const Files whole = filesBelow(u"out"_s);
+    int written = 0;
+    for (const int megabytes : {110, 130, 150, 170, 190, 210, 230, 260, 1000}) {
+        QDir(path(u"out"_s)).removeRecursively();
+        const QString limited = u"ulimit -v %1; exec \"$0\" \"$@\""_s.arg(megabytes * 1024);
+        const ProgramRun result =
+            runProgram(u"/bin/sh"_s, QStringList{u"-c"_s, limited, program()} + withSetting({photo}));
+        SCOPED_TRACE(::testing::Message() << megabytes << " MB: " << result.errors.toStdString());
+        EXPECT_THAT(result.exitStatus, ::testing::AnyOf(0, 1, 2));
+        EXPECT_EQ(differences(filesBelow(u"out"_s), result.exitStatus == 0 ? whole : Files()), "");
+        EXPECT_TRUE(result.exitStatus == 0 || result.errors.contains("memory"));
+        written += result.exitStatus == 0 ? 1 : 0;
+    }
+    EXPECT_GT(written, 0);
 }
 
 TEST_F(Safety, AnOutputReadByALaterPhotoIsReadAsItWasWritten) {

@@ -35,7 +35,11 @@ RunPlan planRun(const ImageListController& photos, const WatermarkDocument& docu
     plan.request.storeLastAutoNumber = [](qint64 number) {
         setPreference(preference::LastAutoNumber, number);
     };
-    plan.writing = {options, stack, userDateLocale(), document.state().Metadata, plan.request.limits.jobs};
+    plan.writing = {.options = options,
+                    .stack = stack,
+                    .locale = userDateLocale(),
+                    .copyright = document.state().Metadata,
+                    .metadataJobs = plan.request.limits.jobs};
     return plan;
 }
 
