@@ -24,7 +24,7 @@
 namespace zelto {
 namespace {
 
-Q_LOGGING_CATEGORY(outputLog, "zelto.output")
+Q_LOGGING_CATEGORY(outputLog, "zelto.output", QtWarningMsg)
 
 constexpr qint64 BytesPerPixel = 4;
 

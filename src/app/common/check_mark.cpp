@@ -31,4 +31,15 @@ void paintCheckBox(QPainter& painter, const QRect& box, bool isChecked, bool isR
     painter.restore();
 }
 
+void paintFocus(QPainter& painter, const QRect& area, bool isSelected, const QPalette& palette) {
+    constexpr double Width = 2.0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette.color(isSelected ? QPalette::HighlightedText : QPalette::Highlight), Width,
+                        Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(area).adjusted(Width, Width, -Width, -Width));
+    painter.restore();
+}
+
 }  // namespace zelto

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The check box of list rows. It is drawn here because the boxes of common styles all but vanish in dark
+// The check box and the focus of list rows. They are drawn here because those of common styles all but vanish in dark
 // themes and on selected rows. Main thread only.
 #pragma once
 
@@ -14,5 +14,8 @@ inline constexpr int CheckBoxSide = 16;  // device-independent pixels
 
 void paintCheckBox(QPainter& painter, const QRect& box, bool isChecked, bool isRowSelected,
                    const QPalette& palette);
+
+// The frame of the row, or of the area, that has the keyboard.
+void paintFocus(QPainter& painter, const QRect& area, bool isSelected, const QPalette& palette);
 
 }  // namespace zelto

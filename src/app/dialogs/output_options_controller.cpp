@@ -30,7 +30,7 @@
 namespace zelto {
 namespace {
 
-Q_LOGGING_CATEGORY(outputOptions, "zelto.output")
+Q_LOGGING_CATEGORY(outputOptions, "zelto.options")
 
 Result<QString> defaultsPath() {
     return applicationFolder(ZeltoFolder).map([](const QString& folder) {

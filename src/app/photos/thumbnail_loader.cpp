@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/photos/thumbnail_loader.h"
 
+#include "app/common/huge_photo.h"
 #include "pictures/picture_reader.h"
 
 #include <utility>
@@ -19,20 +20,33 @@ QImage thumbnailOf(const QString& path, QSize size) {
 }  // namespace
 
 ThumbnailLoader::ThumbnailLoader(QObject* parent)
-    : QObject(parent), cache_(CacheKilobytes), worker_([this](const Job& job) { make(job); }) {}
+    : QObject(parent),
+      cache_(CacheKilobytes),
+      huge_([this](const Job& job) { makeHuge(job); },
+            [](const Job& waiting, Job newer) {
+                if (waiting.size == newer.size) newer.paths += waiting.paths;
+                return newer;
+            }),
+      worker_([this](const Job& job) { make(job); }) {}
 
 ThumbnailLoader::~ThumbnailLoader() {
     worker_.stop();
+    huge_.stop();
 }
 
 QImage ThumbnailLoader::thumbnail(const QString& path) const {
-    const QImage* picture = cache_.object(path);
-    return picture == nullptr ? QImage() : *picture;
+    const Entry* entry = cache_.object(path);
+    return entry == nullptr ? QImage() : entry->picture;
+}
+
+QSize ThumbnailLoader::photoSize(const QString& path) const {
+    const Entry* entry = cache_.object(path);
+    return entry == nullptr ? QSize() : entry->photo;
 }
 
 bool ThumbnailLoader::isBroken(const QString& path) const {
-    const QImage* picture = cache_.object(path);
-    return picture != nullptr && picture->isNull();
+    const Entry* entry = cache_.object(path);
+    return entry != nullptr && entry->isMade && entry->picture.isNull();
 }
 
 void ThumbnailLoader::want(const QStringList& paths, QSize size) {
@@ -48,19 +62,32 @@ void ThumbnailLoader::want(const QStringList& paths, QSize size) {
 void ThumbnailLoader::make(const Job& job) {
     for (const QString& path : job.paths) {
         if (worker_.hasNewer()) return;
-        QMetaObject::invokeMethod(
-            this,
-            [this, path, size = job.size, picture = thumbnailOf(path, job.size)] {
-                if (size == size_) take(path, picture);
-            },
-            Qt::QueuedConnection);
+        const QSize photo = readPictureSize(path).value_or(QSize());
+        if (isHugePhoto(photo)) {
+            hand(path, job.size, {photo, {}, false});
+            huge_.post({{path}, job.size});
+        } else {
+            hand(path, job.size, {photo, thumbnailOf(path, job.size)});
+        }
     }
 }
 
-void ThumbnailLoader::take(const QString& path, const QImage& picture) {
-    const auto kilobytes = static_cast<int>(1 + picture.sizeInBytes() / 1024);
-    cache_.insert(path, new QImage(picture), kilobytes);
-    Q_EMIT made(path);
+void ThumbnailLoader::makeHuge(const Job& job) {
+    for (const QString& path : job.paths) {
+        hand(path, job.size, {readPictureSize(path).value_or(QSize()), thumbnailOf(path, job.size)});
+    }
+}
+
+void ThumbnailLoader::hand(const QString& path, QSize bound, const Entry& entry) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, path, bound, entry] {
+            const Entry* known = cache_.object(path);
+            if (bound != size_ || (known != nullptr && known->isMade)) return;
+            cache_.insert(path, new Entry(entry), static_cast<int>(1 + entry.picture.sizeInBytes() / 1024));
+            Q_EMIT made(path);
+        },
+        Qt::QueuedConnection);
 }
 
 }  // namespace zelto

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Small pictures of photos, made in the background for those that are seen and kept as long as there is room.
-// Asking for others drops what has not been begun, so that scrolling through a long list never leaves work
-// behind. Main thread only.
+// Small pictures of photos and the sizes of the photos, made in the background for those that are seen and kept as long
+// as there is room. Asking for others drops what has not been begun, so that scrolling through a long list never leaves
+// work behind. Huge photos are worked on apart, so that the others do not wait for them. Main thread only.
 #pragma once
 
 #include "app/common/newest_worker.h"
@@ -24,6 +24,8 @@ class ThumbnailLoader : public QObject {
     // The picture of the photo at `path`, no larger than the size last wanted; null before it is made, and
     // for a file that is not a picture.
     QImage thumbnail(const QString& path) const;
+    // The photo's own size in upright pixels; invalid before it is known.
+    QSize photoSize(const QString& path) const;
     // Whether the file has been looked at and is not a picture.
     bool isBroken(const QString& path) const;
 
@@ -39,12 +41,20 @@ class ThumbnailLoader : public QObject {
         QSize size;
     };
 
-    void make(const Job& job);
-    void take(const QString& path, const QImage& picture);
+    struct Entry {
+        QSize photo;
+        QImage picture;
+        bool isMade = true;  // else the picture is still to come
+    };
 
-    QCache<QString, QImage> cache_;
+    void make(const Job& job);
+    void makeHuge(const Job& job);
+    void hand(const QString& path, QSize bound, const Entry& entry);
+
+    QCache<QString, Entry> cache_;
     QSize size_;
-    NewestWorker<Job> worker_;
+    NewestWorker<Job> huge_;
+    NewestWorker<Job> worker_;  // fills huge_
 };
 
 }  // namespace zelto

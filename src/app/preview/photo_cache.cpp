@@ -48,6 +48,16 @@ Result<std::shared_ptr<const PhotoScene>> PhotoCache::get(const PhotoRequest& re
     return make(request, true);
 }
 
+std::shared_ptr<const PhotoScene> PhotoCache::find(const PhotoRequest& request) {
+    const Source source(request);
+    const std::lock_guard lock(mutex_);
+    const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& each) { return !each.busy && each.source == source; });
+    if (entry == entries_.end()) return nullptr;
+    entries_.splice(entries_.begin(), entries_, entry);
+    return entries_.front().scene;
+}
+
 void PhotoCache::prefetch(const PhotoRequest& request) {
     const Result<QSize> size = readPictureSize(request.path);
     if (!size) return;

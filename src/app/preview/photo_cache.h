@@ -27,6 +27,9 @@ class PhotoCache {
     // The scene of `request`, without layers. Error: as readPicture.
     Result<std::shared_ptr<const PhotoScene>> get(const PhotoRequest& request);
 
+    // The same without waiting: null where it has still to be made.
+    std::shared_ptr<const PhotoScene> find(const PhotoRequest& request);
+
     // Makes a photo ready that may be wanted next, unless it is so large that others would be dropped for it.
     void prefetch(const PhotoRequest& request);
 

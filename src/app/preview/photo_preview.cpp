@@ -4,6 +4,7 @@
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
 #include "platform/dates.h"
+#include "platform/path_parts.h"
 #include "render/effect_diagnostics.h"
 #include "render/placement.h"
 #include "render/scene_geometry.h"
@@ -15,10 +16,13 @@
 namespace zelto {
 namespace {
 
-Q_LOGGING_CATEGORY(preview, "zelto.preview")
+Q_LOGGING_CATEGORY(preview, "zelto.preview", QtWarningMsg)
 
 // How long an effect must have stayed as it is before its pictures are written: encoding takes seconds.
 constexpr int DiagnosticsMilliseconds = 1500;
+
+// What takes longer says that it is at work.
+constexpr int PatienceMilliseconds = 300;
 
 }  // namespace
 
@@ -37,6 +41,9 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     diagnosticsDue_.setSingleShot(true);
     diagnosticsDue_.setInterval(DiagnosticsMilliseconds);
     connect(&diagnosticsDue_, &QTimer::timeout, this, &PhotoPreview::writeDiagnostics);
+    patience_.setSingleShot(true);
+    patience_.setInterval(PatienceMilliseconds);
+    connect(&patience_, &QTimer::timeout, this, &PhotoPreview::showSign);
     connect(&photos_, &ImageListController::photoSelected, this, &PhotoPreview::selectImage);
     connect(&photos_.model(), &QAbstractItemModel::rowsInserted, this,
             [this] { builder_.updateLayers(request()); });
@@ -44,6 +51,7 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
     connect(&view_, &PreviewView::viewChanged, &builder_, &SceneBuilder::setView);
     connect(&builder_, &SceneBuilder::updated, this, &PhotoPreview::take);
     connect(&builder_, &SceneBuilder::failed, this, [this](const QString& /*path*/, const QString& message) {
+        endWaiting();
         watermarks_.model().setWarnings({});
         view_.showMessage(tr("This photo cannot be shown") + QLatin1Char('\n') + message);
     });
@@ -87,6 +95,7 @@ PhotoRequest PhotoPreview::finalRequest() const {
 
 void PhotoPreview::beginRun() {
     isRunning_ = true;
+    endWaiting();
     watermarks_.model().setWarnings({});
 }
 
@@ -104,18 +113,39 @@ void PhotoPreview::selectImage(int row) {
     if (isRunning_) return;
     neighboursOf_ = -1;
     if (row < 0) {
+        endWaiting();
         builder_.clear();
         watermarks_.model().setWarnings({});
         view_.showMessage({});
     } else {
+        beginWaiting();
         builder_.showPhoto(request());
     }
+}
+
+void PhotoPreview::beginWaiting() {
+    if (!patience_.isActive()) patience_.start();
+}
+
+void PhotoPreview::endWaiting() {
+    patience_.stop();
+    view_.showSign({});
+}
+
+// Another photo is not to be taken for the one that is awaited; one that is only being filtered stays.
+void PhotoPreview::showSign() {
+    if (isRunning_) return;
+    const QString path = photos_.selectedPath();
+    const bool isThisPhoto = view_.shown() && view_.shown()->path == path;
+    if (!isThisPhoto) view_.showMessage({});
+    view_.showSign(isThisPhoto ? tr("Working...") : tr("Loading %1...").arg(lastPathComponent(path)));
 }
 
 void PhotoPreview::follow(const StackChange& change) {
     view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata());
     if (photos_.selectedRow() < 0) return;
     if (change.filter || change.effects) {
+        beginWaiting();
         builder_.showPhoto(request());
     } else if (change.list) {
         builder_.updateLayers(request());
@@ -130,7 +160,10 @@ void PhotoPreview::take(const PreviewUpdate& update) {
         qCInfo(preview, "photo size = %d x %d", scene.photoSize.width(), scene.photoSize.height());
         qCInfo(preview, "filtered size = %d x %d", scene.imageRect.width(), scene.imageRect.height());
     }
-    if (update.isOtherPicture) diagnosticsDue_.start();
+    if (update.isOtherPicture) {
+        endWaiting();
+        diagnosticsDue_.start();
+    }
     view_.apply(update);
     const bool isCurrent = update.shown->stack == document_.snapshot();
     if (isCurrent && !isRunning_) showWarnings(scene);

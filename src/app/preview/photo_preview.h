@@ -57,6 +57,9 @@ class PhotoPreview : public QObject {
     void showWarnings(const PhotoScene& scene);
     void prefetchNeighbours();
     void writeDiagnostics();
+    void beginWaiting();
+    void endWaiting();
+    void showSign();
     void nudge(int index, QPoint step);
     void beginGesture(int index);
     void moveGesture(const LayerEdit& edit, Grip::Part part);
@@ -69,6 +72,7 @@ class PhotoPreview : public QObject {
     SceneBuilder builder_;
     NewestWorker<QImage> diagnostics_;  // writes the framed photo into the home folder
     QTimer diagnosticsDue_;
+    QTimer patience_;  // runs while another picture is awaited
     std::shared_ptr<LogoCache> logos_;
     bool isRunning_ = false;
     // A layer in hand: which one, as it was, and the undo step that all of it becomes.

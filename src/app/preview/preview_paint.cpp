@@ -190,6 +190,23 @@ QCursor turnCursor() {
     return QCursor(picture);
 }
 
+void paintSign(QPainter& painter, QSize viewport, const QString& sign, const QPalette& palette,
+               const QFont& font, double ratio) {
+    constexpr int Top = 12;
+    painter.save();
+    painter.scale(ratio, ratio);
+    painter.setFont(font);
+    QRectF place = QRectF(QFontMetrics(font).boundingRect(sign)).adjusted(-12, -6, 12, 6);
+    place.moveTo((viewport.width() / ratio - place.width()) / 2.0, Top);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.color(QPalette::ToolTipBase));
+    painter.drawRoundedRect(place, 4.0, 4.0);
+    painter.setPen(palette.color(QPalette::ToolTipText));
+    painter.drawText(place, Qt::AlignCenter, sign);
+    painter.restore();
+}
+
 void paintCentredMessage(QPainter& painter, QSize viewport, const QString& message, const QPalette& palette,
                          const QFont& font, double ratio) {
     const QString title = message.section(QLatin1Char('\n'), 0, 0);

@@ -37,6 +37,9 @@ void paintGuides(QPainter& painter, const PlaceGuides& guides, const QRectF& fra
                  const QFont& font, double ratio);
 // The pointer on the handle that turns.
 QCursor turnCursor();
+// A line at the top, on a ground of its own.
+void paintSign(QPainter& painter, QSize viewport, const QString& sign, const QPalette& palette,
+               const QFont& font, double ratio);
 // A message in the middle; its first line stands out.
 void paintCentredMessage(QPainter& painter, QSize viewport, const QString& message, const QPalette& palette,
                          const QFont& font, double ratio);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/preview_view.h"
 
+#include "app/common/check_mark.h"
 #include "app/preview/preview_paint.h"
 #include "render/hand_edits.h"
 #include "render/scene_geometry.h"
@@ -76,6 +77,12 @@ void PreviewView::showMessage(const QString& message) {
     viewport()->update();
 }
 
+void PreviewView::showSign(const QString& sign) {
+    if (sign == sign_) return;
+    sign_ = sign;
+    viewport()->update();
+}
+
 void PreviewView::showPicture(const QImage& picture) {
     picture_ = picture;
     viewport()->update();
@@ -92,7 +99,7 @@ void PreviewView::ZoomOut() {
 }
 
 void PreviewView::ActualSize() {
-    scrollToTop(1.0);
+    setGeometryAndView(geometry_.zoomedAbout(1.0, QRectF(QPointF(), geometry_.viewport).center()));
 }
 
 void PreviewView::FittoScreen() {
@@ -347,6 +354,16 @@ void PreviewView::changeEvent(QEvent* event) {
     QAbstractScrollArea::changeEvent(event);
 }
 
+void PreviewView::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void PreviewView::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
 void PreviewView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
     paintOnDevicePixels(painter);
@@ -358,6 +375,11 @@ void PreviewView::paintEvent(QPaintEvent* /*event*/) {
         paintMarks(painter);
     } else {
         paintMessage(painter);
+    }
+    if (!sign_.isEmpty()) paintSign(painter, geometry_.viewport, sign_, palette(), font(), devicePixelRatio_);
+    if (hasFocus()) {
+        painter.resetTransform();
+        paintFocus(painter, viewport()->rect(), false, palette());
     }
 }
 

@@ -27,6 +27,8 @@ class PreviewView : public QAbstractScrollArea {
     // Shows no photo but a message; the first line stands out.
     void showMessage(const QString& message);
     const QString& message() const { return message_; }
+    // A line over the photo while something takes long; an empty one ends that.
+    void showSign(const QString& sign);
     // Shows a picture in place of everything else, as much of it as fits; a null one ends that.
     void showPicture(const QImage& picture);
     const QImage& picture() const { return picture_; }
@@ -75,6 +77,8 @@ class PreviewView : public QAbstractScrollArea {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     struct Piece {
@@ -107,6 +111,7 @@ class PreviewView : public QAbstractScrollArea {
     Piece piece_;  // what was composed last
     Piece whole_;  // the whole picture, for places the last piece does not cover
     QString message_;
+    QString sign_;
     QImage picture_;  // shown in place of the photo
     int selectedLayer_ = -1;
     std::optional<LayerGesture> gesture_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/scene_builder.h"
 
+#include "app/common/huge_photo.h"
 #include "app/preview/region_composer.h"
 #include "pictures/picture_additions.h"
 #include "render/scene_geometry.h"
@@ -28,8 +29,9 @@ class SceneBuilder::Worker {
     explicit Worker(SceneBuilder& owner) : owner_(owner) {}
 
     void work(const Job& job) {
+        bool hasPhoto = true;
         try {
-            if (job.photo) takePhoto(job);
+            if (job.photo) hasPhoto = takePhoto(job);
             if (base_ && !owner_.isStale(job.photoRevision)) {
                 const QRect dirty = rebuild(job, job.photo || job.layers);
                 send(job, dirty, job.photo);
@@ -39,19 +41,24 @@ class SceneBuilder::Worker {
             tellFailure(job, notEnoughMemory(job.request.path));
         }
         QMetaObject::invokeMethod(
-            &owner_, [this, revision = job.revision] { owner_.done_ = revision; }, Qt::QueuedConnection);
+            &owner_,
+            [this, revision = job.revision, photo = job.photoRevision, isThere = job.photo && hasPhoto] {
+                owner_.done_ = revision;
+                if (isThere && !owner_.isStale(photo)) owner_.isLoading_ = false;
+            },
+            Qt::QueuedConnection);
     }
 
   private:
-    void takePhoto(const Job& job) {
+    // Whether the photo is there; otherwise a job that has it follows.
+    bool takePhoto(const Job& job) {
         base_.reset();
-        if (job.request.path.isEmpty()) return;
-        Result<std::shared_ptr<const PhotoScene>> photo = owner_.cache_.get(job.request);
-        if (photo) {
-            base_ = std::move(*photo);
-            return;
-        }
-        tellFailure(job, photo.error());
+        if (job.request.path.isEmpty()) return true;
+        base_ = job.loaded ? job.loaded : owner_.cache_.find(job.request);
+        if (base_) return true;
+        const bool isHuge = isHugePhoto(readPictureSize(job.request.path).value_or(QSize()));
+        (isHuge ? owner_.hugeLoads_ : owner_.loads_).post({job.request, job.photoRevision});
+        return false;
     }
 
     void tellFailure(const Job& job, const Error& error) {
@@ -133,12 +140,16 @@ class SceneBuilder::Worker {
 
 SceneBuilder::SceneBuilder(QObject* parent)
     : QObject(parent),
+      loads_([this](const Load& each) { load(each); }),
+      hugeLoads_([this](const Load& each) { load(each); }),
       worker_(std::make_unique<Worker>(*this)),
       jobs_(std::make_unique<NewestWorker<Job>>(
           [this](const Job& job) { worker_->work(job); },
           [](const Job& waiting, Job newer) {
               newer.photo |= waiting.photo;
               newer.layers |= waiting.layers;
+              if (!newer.loaded && newer.photoRevision == waiting.photoRevision)
+                  newer.loaded = waiting.loaded;
               newer.records.insert(newer.records.end(), waiting.records.begin(), waiting.records.end());
               return newer;
           })),
@@ -153,12 +164,40 @@ SceneBuilder::SceneBuilder(QObject* parent)
 SceneBuilder::~SceneBuilder() {
     prefetches_->stop();
     jobs_->stop();
+    loads_.stop();
+    hugeLoads_.stop();
+}
+
+// On a thread of the loads.
+void SceneBuilder::load(const Load& load) {
+    if (isStale(load.photoRevision)) return;
+    Result<std::shared_ptr<const PhotoScene>> photo;
+    try {
+        photo = cache_.get(load.request);
+    } catch (const std::bad_alloc&) {
+        photo = tl::unexpected(notEnoughMemory(load.request.path));
+    }
+    QMetaObject::invokeMethod(
+        this, [this, load, photo] { take(load, photo); }, Qt::QueuedConnection);
+}
+
+void SceneBuilder::take(const Load& load, const Result<std::shared_ptr<const PhotoScene>>& photo) {
+    if (isStale(load.photoRevision)) return;
+    if (!photo) {
+        isLoading_ = false;
+        Q_EMIT failed(photo.error().path, photo.error().message);
+        return;
+    }
+    next_.loaded = *photo;
+    next_.photo = true;
+    post();
 }
 
 void SceneBuilder::showPhoto(const PhotoRequest& request) {
     photoRevision_ = posted_ + 1;
     next_.request = request;
     next_.photo = true;
+    isLoading_ = true;
     post();
 }
 
@@ -188,6 +227,7 @@ void SceneBuilder::clear() {
     photoRevision_ = posted_ + 1;
     next_.request = {};
     next_.photo = true;
+    isLoading_ = false;
     post();
     prefetches_->post({});
 }
@@ -202,6 +242,7 @@ void SceneBuilder::post() {
     next_.revision = ++posted_;
     next_.photoRevision = photoRevision_;
     jobs_->post(next_);
+    next_.loaded.reset();
     next_.photo = false;
     next_.layers = false;
     next_.records.clear();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Builds what the preview shows on a thread of its own, and sends the main thread pictures that are ready to be put on
 // the screen. The newest request wins: requests that pile up become one, and results for a photo that is no longer
-// wanted are dropped. The last scene is kept, so that an edit rebuilds only the layers it changed and composes only the
+// wanted are dropped. Photos are loaded on threads of their own, huge ones apart from the others, so that the next photo
+// never waits for one that is no longer wanted. The last scene is kept, so that an edit rebuilds only the layers it changed and composes only the
 // pixels they touch. Call it from the main thread.
 #pragma once
 
@@ -56,7 +57,7 @@ class SceneBuilder : public QObject {
     void clear();
 
     // Whether everything asked for has been built and sent.
-    bool isSettled() const { return done_ == posted_; }
+    bool isSettled() const { return done_ == posted_ && !isLoading_; }
 
     // Makes these photos ready, the first one first; replaces what was asked for before.
     void prefetch(const std::vector<PhotoRequest>& requests);
@@ -75,18 +76,28 @@ class SceneBuilder : public QObject {
         bool isBare = false;
         ViewGeometry view;
         quint64 revision = 0;
-        quint64 photoRevision = 0;  // the revision that asked for this photo
+        quint64 photoRevision = 0;                 // the revision that asked for this photo
+        std::shared_ptr<const PhotoScene> loaded;  // the photo, where it had to be loaded first
+    };
+    struct Load {
+        PhotoRequest request;
+        quint64 photoRevision = 0;
     };
     class Worker;
 
     void post();
+    void load(const Load& load);
+    void take(const Load& load, const Result<std::shared_ptr<const PhotoScene>>& photo);
     bool isStale(quint64 photoRevision) const { return photoRevision != photoRevision_; }
 
     Job next_;
     quint64 posted_ = 0;
     quint64 done_ = 0;
     std::atomic<quint64> photoRevision_ = 0;
+    bool isLoading_ = false;  // what is to be shown
     PhotoCache cache_;
+    NewestWorker<Load> loads_;
+    NewestWorker<Load> hugeLoads_;
     std::unique_ptr<Worker> worker_;
     std::unique_ptr<NewestWorker<Job>> jobs_;
     std::unique_ptr<NewestWorker<std::vector<PhotoRequest>>> prefetches_;
