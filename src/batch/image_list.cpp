@@ -51,11 +51,11 @@ void ImageList::insertImages(const Placed& photos) {
     images_ = std::move(all);
 }
 
-void ImageList::markUnprocessed() {
-    for (Image& image : images_) {
-        image.Status = PhotoStatus::NotProcessed;
-        image.Warnings.clear();
-    }
+void ImageList::reorder(const PhotoOrder& order) {
+    std::vector<Image> images;
+    images.reserve(images_.size());
+    for (const std::size_t row : order) images.push_back(std::move(images_.at(row)));
+    images_ = std::move(images);
 }
 
 void ImageList::setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage,

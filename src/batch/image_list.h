@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list of photos a run works on, in the order they were added, and the folders they came from. Paths are compared as
+// The list of photos a run works on, in the order they were added unless the user asks for another, and the folders they came from. Paths are compared as
 // plain text and nothing is looked up on disk, so a path need not be that of a photo. One thread at a time.
 #pragma once
 
 #include "batch/destination_map.h"
+#include "batch/photo_order.h"
 #include "records/image.h"
 
 #include <QSet>
@@ -33,11 +34,11 @@ class ImageList {
     Placed takeImages(const std::vector<std::size_t>& rows);
     void insertImages(const Placed& photos);
 
+    // Puts the photos into another order.
+    void reorder(const PhotoOrder& order);
+
     void setApplyWatermark(std::size_t row, bool apply) { images_.at(row).ApplyWatermark = apply; }
 
-    // The start of a run: every photo shows as not processed. Error texts stay until a new failure replaces
-    // them.
-    void markUnprocessed();
     // How a run left a photo; an empty `errorMessage` keeps the text of an earlier failure.
     void setOutcome(std::size_t row, PhotoStatus status, const QString& errorMessage,
                     const QStringList& warnings = {});

@@ -42,7 +42,7 @@ TEST(ImageList, AnErrorTextStaysUntilANewFailureReplacesIt) {
     ImageList list = listOf({u"/1"_s});
     const auto& image = list.images().front();
     list.setOutcome(0, PhotoStatus::Failed, u"first"_s);
-    list.markUnprocessed();
+    list.setOutcome(0, PhotoStatus::NotProcessed, QString());
     EXPECT_EQ(image.Status, PhotoStatus::NotProcessed);
     list.setOutcome(0, PhotoStatus::Written, QString());
     EXPECT_EQ(image.Status, PhotoStatus::Written);

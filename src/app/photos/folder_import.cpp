@@ -14,10 +14,15 @@ constexpr int CountMilliseconds = 100;  // between two counts
 
 }  // namespace
 
-FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent) : QObject(parent), progress_(window) {
+FolderImport::Words FolderImport::wordsForFolders() {
+    return {tr("Add Folder"), tr("Looking for photos..."), tr("1 photo found"), tr("%L1 photos found")};
+}
+
+FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent, Words words)
+    : QObject(parent), words_(std::move(words)), progress_(window) {
     progress_.setWindowModality(Qt::WindowModal);
-    progress_.setWindowTitle(tr("Add Folder"));
-    progress_.setLabelText(tr("Looking for photos..."));
+    progress_.setWindowTitle(words_.title);
+    progress_.setLabelText(words_.beginning);
     progress_.setMinimumWidth(progress_.fontMetrics().averageCharWidth() * 60);
     progress_.setRange(0, 0);
     progress_.setAutoReset(false);
@@ -42,7 +47,7 @@ FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent) : QObjec
 }
 
 void FolderImport::count(qsizetype photos) {
-    progress_.setLabelText(photos == 1 ? tr("1 photo found") : tr("%L1 photos found").arg(photos));
+    progress_.setLabelText(photos == 1 ? words_.one : words_.many.arg(photos));
 }
 
 void FolderImport::finish(const QStringList& photos, bool isComplete) {

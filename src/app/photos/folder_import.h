@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looks for photos in folders without keeping the window waiting: on a thread of its own, with a message that counts
+// Looks for photos in folders, or into photos, without keeping the window waiting: on a thread of its own, with a message that counts
 // them and can break it off once it takes longer than a moment. Main thread only.
 #pragma once
 
@@ -22,18 +22,28 @@ class FolderImport : public QObject {
     using GoesOn = std::function<bool(qsizetype photos)>;
     using Scan = std::function<QStringList(const GoesOn& goesOn)>;
 
+    // What its message says.
+    struct Words {
+        QString title;
+        QString beginning;
+        QString one;   // "1 photo found"
+        QString many;  // "%L1 photos found"
+    };
+    static Words wordsForFolders();
+
     // Begins at once and deletes itself when it is over; `window` is the parent of the message. One that is deleted
     // before is broken off.
-    FolderImport(Scan scan, QWidget* window, QObject* parent);
+    FolderImport(Scan scan, QWidget* window, QObject* parent, Words words = wordsForFolders());
 
   Q_SIGNALS:
-    // The photos, in the order of the scan. A scan that is broken off or finds nothing never tells.
+    // The photos, or what was read of each, in the order of the scan. A scan that is broken off or finds nothing never tells.
     void found(const QStringList& photos);
 
   private:
     void count(qsizetype photos);
     void finish(const QStringList& photos, bool isComplete);
 
+    Words words_;
     QProgressDialog progress_;
     std::jthread thread_;  // ends before the message goes
 };

@@ -7,6 +7,7 @@
 #include <QUndoCommand>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace zelto {
@@ -60,6 +61,12 @@ bool fits(const Image& photo, PhotoFilter filter) {
     return true;
 }
 
+bool isCalled(const Image& photo, const QString& name) {
+    if (name.isEmpty()) return true;
+    const QStringView path(photo.ImagePath);
+    return path.sliced(path.lastIndexOf(QLatin1Char('/')) + 1).contains(name, Qt::CaseInsensitive);
+}
+
 }  // namespace
 
 // Takes no row that is not shown: views select ranges, and go to the first and last row, across hidden ones.
@@ -70,7 +77,7 @@ class ImageListController::ShownSelection : public QItemSelectionModel {
 
     using QItemSelectionModel::select;
     void select(const QItemSelection& wanted, SelectionFlags command) override {
-        if (photos_.filter() == PhotoFilter::All) {
+        if (photos_.showsAllPhotos()) {
             QItemSelectionModel::select(wanted, command);
             return;
         }
@@ -129,6 +136,34 @@ void ImageListController::AddImages(const QStringList& paths) {
     }
 }
 
+void ImageListController::bring(const QStringList& paths) {
+    QSet<QString> fresh;
+    for (const QString& path : paths) {
+        if (!CheckIfImageExists(path)) fresh.insert(path);
+    }
+    AddImages(paths);
+    const QSet<QString> wanted = fresh.isEmpty() ? QSet<QString>(paths.begin(), paths.end()) : fresh;
+    QItemSelection rows;
+    for (int row = 0; row < count(); ++row) {
+        if (!wanted.contains(images()[static_cast<std::size_t>(row)].ImagePath)) continue;
+        if (!isShown(row)) showAllPhotos();
+        const QModelIndex index = model_.index(row);
+        if (!rows.isEmpty() && rows.last().bottom() == row - 1) {
+            rows.last() = QItemSelectionRange(rows.last().topLeft(), index);
+        } else {
+            rows.append(QItemSelectionRange(index));
+        }
+    }
+    if (rows.isEmpty()) return;
+    selection_->setCurrentIndex(rows.first().topLeft(), QItemSelectionModel::NoUpdate);
+    selection_->select(rows, QItemSelectionModel::ClearAndSelect);
+    const QSet<QString> all(paths.begin(), paths.end());
+    if (const qsizetype known = all.size() - fresh.size(); known > 0) {
+        Q_EMIT noted(known == 1 ? tr("1 photo is in the list already")
+                                : tr("%L1 photos are in the list already").arg(known));
+    }
+}
+
 void ImageListController::addImagesFromUrls(const QList<QUrl>& urls) {
     QStringList paths;
     for (const QUrl& url : urls) paths.append(url.toLocalFile());
@@ -137,13 +172,31 @@ void ImageListController::addImagesFromUrls(const QList<QUrl>& urls) {
 
 void ImageListController::showPhotos(PhotoFilter filter) {
     filter_ = hasPhotosFor(filter) ? filter : PhotoFilter::All;
+    refilter();
+}
+
+void ImageListController::findPhotos(const QString& name) {
+    if (name == soughtName_) return;
+    soughtName_ = name;
+    refilter();
+}
+
+void ImageListController::showAllPhotos() {
+    filter_ = PhotoFilter::All;
+    soughtName_.clear();
+    refilter();
+}
+
+void ImageListController::refilter() {
     Q_EMIT filtered();
     selection_->select(selection_->selection(), QItemSelectionModel::ClearAndSelect);
-    if (selectedRow() >= 0 && !isShown(selectedRow())) selectRow(selectedRow());
+    const int row = selectedRow();
+    if (row >= 0 && !isShown(row) && shownRowNear(row) >= 0) selectRow(row);
 }
 
 bool ImageListController::isShown(int row) const {
-    return fits(images()[static_cast<std::size_t>(row)], filter_);
+    const Image& photo = images()[static_cast<std::size_t>(row)];
+    return fits(photo, filter_) && isCalled(photo, soughtName_);
 }
 
 std::vector<int> ImageListController::shownRows() const {
@@ -194,7 +247,7 @@ void ImageListController::takeChecks(const std::vector<bool>& checks) {
     for (int row = 0; row < count(); ++row) {
         const auto at = static_cast<std::size_t>(row);
         if (checks[at] == before[at] || isShown(row)) continue;
-        showPhotos(PhotoFilter::All);
+        showAllPhotos();
         break;
     }
     model_.setChecks(checks);
@@ -230,9 +283,10 @@ void ImageListController::removeRows(const QString& name, std::vector<int> rows)
 }
 
 void ImageListController::insertPhotos(const ImageList::Placed& photos) {
-    const bool isSeen = std::all_of(photos.images.begin(), photos.images.end(),
-                                    [this](const Image& photo) { return fits(photo, filter_); });
-    if (!isSeen) showPhotos(PhotoFilter::All);
+    const bool isSeen = std::all_of(photos.images.begin(), photos.images.end(), [this](const Image& photo) {
+        return fits(photo, filter_) && isCalled(photo, soughtName_);
+    });
+    if (!isSeen) showAllPhotos();
     int shown = selectedRow();
     model_.insert(photos);
     if (shown < 0) {
@@ -248,9 +302,36 @@ void ImageListController::takePhotos(const std::vector<std::size_t>& rows) {
     const bool isSeen = std::all_of(rows.begin(), rows.end(),
                                     [this](std::size_t row) { return isShown(static_cast<int>(row)); });
     model_.take(rows);
-    showPhotos(isSeen ? filter_ : PhotoFilter::All);
+    if (isSeen) {
+        showPhotos(filter_);
+    } else {
+        showAllPhotos();
+    }
     // The row that took the place of the first one removed, or the new last row.
     selectRow(std::min(static_cast<int>(rows.front()), count() - 1));
+}
+
+void ImageListController::sortPhotos(const QString& name, const PhotoOrder& order) {
+    if (std::is_sorted(order.begin(), order.end())) return;
+    history_.push(new ChangeValue<PhotoOrder>(
+        name,
+        [this](const PhotoOrder& wanted) {
+            model_.reorder(wanted);
+            SelectImage();
+        },
+        inverseOf(order), order));
+}
+
+void ImageListController::step(int photos) {
+    const int direction = photos < 0 ? -1 : 1;
+    int left = std::abs(photos);
+    int target = selectedRow();
+    for (int row = target + direction; left > 0 && row >= 0 && row < count(); row += direction) {
+        if (!isShown(row)) continue;
+        target = row;
+        --left;
+    }
+    if (target >= 0 && target != selectedRow()) selectRow(target);
 }
 
 void ImageListController::ChangeImage(const QString& row) {

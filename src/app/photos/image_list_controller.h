@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What can be done to the photo list: adding, removing, checking and selecting photos, each an undo step, choosing
+// What can be done to the photo list: adding, removing, checking, sorting and selecting photos, each an undo step, choosing
 // which of them are shown, and telling whoever shows the selected photo that it must be shown anew. The rules of the
 // list itself are the batch folder's, its looks are the view's. Main thread only.
 #pragma once
@@ -42,6 +42,8 @@ class ImageListController : public QObject {
     void AddImage(const QString& path);
     // The same for many, as one step.
     void AddImages(const QStringList& paths);
+    // The same, and selects what has come in, the first of it to be shown; where nothing is new, those that were there.
+    void bring(const QStringList& paths);
     bool CheckIfImageExists(const QString& path) const { return model_.list().CheckIfImageExists(path); }
     void addImagesFromUrls(const QList<QUrl>& urls);
 
@@ -51,6 +53,12 @@ class ImageListController : public QObject {
     // photos first where they reach others. The list goes back to all when none is left that `filter` lets through.
     void showPhotos(PhotoFilter filter);
     PhotoFilter filter() const { return filter_; }
+    // Shows, of those, only photos with this in their file names, capitals or not. Where there is none, the photo on show
+    // stays on show.
+    void findPhotos(const QString& name);
+    const QString& soughtName() const { return soughtName_; }
+    void showAllPhotos();
+    bool showsAllPhotos() const { return filter_ == PhotoFilter::All && soughtName_.isEmpty(); }
     bool isShown(int row) const;
     std::vector<int> shownRows() const;  // ascending
     bool hasPhotosFor(PhotoFilter filter) const;
@@ -66,6 +74,11 @@ class ImageListController : public QObject {
     void RemoveImage(int row);
     void RemoveAllImages();
 
+    // Puts the list, and with it the run, into another order.
+    void sortPhotos(const QString& name, const PhotoOrder& order);
+
+    // Goes on by so many of the photos that are shown.
+    void step(int photos);
     // Selects the row whose number `row` spells, alone.
     void ChangeImage(const QString& row);
     // Has the selected photo shown anew.
@@ -78,6 +91,8 @@ class ImageListController : public QObject {
     void photoSelected(int row);
     // The user is to be told something.
     void alert(const QString& title, const QString& text);
+    // The same, in passing.
+    void noted(const QString& text);
     // Other photos may be shown.
     void filtered();
 
@@ -89,12 +104,14 @@ class ImageListController : public QObject {
     void insertPhotos(const ImageList::Placed& photos);
     void takePhotos(const std::vector<std::size_t>& rows);
     void takeChecks(const std::vector<bool>& checks);
+    void refilter();
     void selectRow(int row);
     int shownRowNear(int row) const;
 
     QUndoStack& history_;
     PhotoListModel model_;
     PhotoFilter filter_ = PhotoFilter::All;
+    QString soughtName_;
     std::unique_ptr<QItemSelectionModel> selection_;
 };
 

@@ -19,16 +19,16 @@ namespace {
 constexpr int Margin = 8;
 constexpr int StatusSide = 18;
 
-// The parts of a row, from left to right.
+// The parts of a row, in the order of reading.
 struct RowPlaces {
     QRect check;
     QRect thumbnail;
     QRect name;
-    QRect folder;
+    QRect details;
     QRect status;
 };
 
-RowPlaces placesIn(const QRect& row, const QFontMetrics& metrics) {
+RowPlaces placesIn(const QRect& row, const QFontMetrics& metrics, Qt::LayoutDirection direction) {
     RowPlaces at;
     const auto middle = [&row](int left, QSize size) {
         return QRect(QPoint(left, row.top() + (row.height() - size.height()) / 2), size);
@@ -40,7 +40,9 @@ RowPlaces placesIn(const QRect& row, const QFontMetrics& metrics) {
     const int width = at.status.left() - Margin - left;
     const int lines = 2 * metrics.height();
     at.name = QRect(left, row.top() + (row.height() - lines) / 2, width, metrics.height());
-    at.folder = at.name.translated(0, metrics.height());
+    at.details = at.name.translated(0, metrics.height());
+    for (QRect* part : {&at.check, &at.thumbnail, &at.status, &at.name, &at.details})
+        *part = QStyle::visualRect(direction, row, *part);
     return at;
 }
 
@@ -61,8 +63,8 @@ QSize PhotoDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIn
     return {200, std::max(ThumbnailSize.height() + Margin, 2 * option.fontMetrics.height() + Margin)};
 }
 
-QRect PhotoDelegate::checkBoxRect(const QRect& row) {
-    return placesIn(row, QFontMetrics(QFont())).check;
+QRect PhotoDelegate::checkBoxRect(const QRect& row, Qt::LayoutDirection direction) {
+    return placesIn(row, QFontMetrics(QFont()), direction).check;
 }
 
 void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
@@ -70,7 +72,7 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     QStyleOptionViewItem option = given;
     option.index = index;
     const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();
-    const RowPlaces at = placesIn(option.rect, option.fontMetrics);
+    const RowPlaces at = placesIn(option.rect, option.fontMetrics, option.direction);
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
 
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
@@ -84,14 +86,18 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
         option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     QColor color = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     painter->setPen(color);
-    painter->drawText(
-        at.name, Qt::AlignLeft | Qt::AlignVCenter,
-        option.fontMetrics.elidedText(lastPathComponent(path), Qt::ElideMiddle, at.name.width()));
-    color.setAlphaF(0.65F);
+    // Names and sizes read from left to right wherever they stand.
+    painter->setLayoutDirection(Qt::LeftToRight);
+    const auto drawLine = [&](const QRect& place, const QString& text) {
+        painter->drawText(place, QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter,
+                          option.fontMetrics.elidedText(text, Qt::ElideMiddle, place.width()));
+    };
+    drawLine(at.name, lastPathComponent(path));
+    color.setAlphaF(0.7F);
     painter->setPen(color);
-    painter->drawText(
-        at.folder, Qt::AlignLeft | Qt::AlignVCenter,
-        option.fontMetrics.elidedText(withoutLastPathComponent(path), Qt::ElideMiddle, at.folder.width()));
+    drawLine(at.details, details(path, index.data(PhotoListModel::FolderRole).toString()));
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        paintFocus(*painter, option.rect, isSelected, option.palette);
 
     switch (static_cast<PhotoStatus>(index.data(PhotoListModel::StatusRole).toInt())) {
         case PhotoStatus::Written:
@@ -104,6 +110,15 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
         case PhotoStatus::NotProcessed:
             break;
     }
+}
+
+// "6000 × 4000", and the folder where that tells photos apart.
+QString PhotoDelegate::details(const QString& path, const QString& folder) const {
+    QStringList parts;
+    const QSize size = thumbnails_.photoSize(path);
+    if (size.isValid()) parts.append(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+    if (!folder.isEmpty()) parts.append(folder);
+    return parts.join(QStringLiteral(" · "));
 }
 
 void PhotoDelegate::paintThumbnail(QPainter& painter, const QRect& place, const QString& path) const {
@@ -128,9 +143,9 @@ bool PhotoDelegate::editorEvent(QEvent* event, QAbstractItemModel* /*model*/,
         return false;
     }
     const auto* mouse = static_cast<QMouseEvent*>(event);
-    const QRect box = checkBoxRect(option.rect);
+    const QRect box = checkBoxRect(option.rect, option.direction);
     if (mouse->button() != Qt::LeftButton ||
-        !box.adjusted(-Margin, -Margin, Margin / 2, Margin).contains(mouse->pos())) {
+        !box.adjusted(-Margin / 2, -Margin, Margin / 2, Margin).contains(mouse->pos())) {
         return false;
     }
     if (type == QEvent::MouseButtonRelease) toggled_(index);

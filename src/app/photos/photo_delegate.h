@@ -28,9 +28,10 @@ class PhotoDelegate : public QStyledItemDelegate {
                      const QModelIndex& index) override;
 
     // The check box of a row that is painted into `row`.
-    static QRect checkBoxRect(const QRect& row);
+    static QRect checkBoxRect(const QRect& row, Qt::LayoutDirection direction);
 
   private:
+    QString details(const QString& path, const QString& folder) const;
     void paintThumbnail(QPainter& painter, const QRect& place, const QString& path) const;
 
     const ThumbnailLoader& thumbnails_;

@@ -52,6 +52,10 @@ QVariant PhotoListModel::data(const QModelIndex& index, int role) const {
             return spoken(photo);
         case PathRole:
             return photo.ImagePath;
+        case FolderRole:
+            return list_.InputOutputDictionary().size() > 1
+                       ? lastPathComponent(withoutLastPathComponent(photo.ImagePath))
+                       : QString();
         case StatusRole:
             return static_cast<int>(photo.Status);
         case ErrorRole:
@@ -91,6 +95,18 @@ ImageList::Placed PhotoListModel::take(const std::vector<std::size_t>& rows) {
     return taken;
 }
 
+void PhotoListModel::reorder(const PhotoOrder& order) {
+    Q_EMIT layoutAboutToBeChanged();
+    list_.reorder(order);
+    const PhotoOrder places = inverseOf(order);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex& old : before)
+        after.append(index(static_cast<int>(places[static_cast<std::size_t>(old.row())])));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged();
+}
+
 std::vector<bool> PhotoListModel::checks() const {
     std::vector<bool> checks;
     checks.reserve(images().size());
@@ -100,11 +116,6 @@ std::vector<bool> PhotoListModel::checks() const {
 
 void PhotoListModel::setChecks(const std::vector<bool>& checks) {
     for (std::size_t row = 0; row < checks.size(); ++row) list_.setApplyWatermark(row, checks[row]);
-    announceAll();
-}
-
-void PhotoListModel::markUnprocessed() {
-    list_.markUnprocessed();
     announceAll();
 }
 

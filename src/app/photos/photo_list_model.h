@@ -24,7 +24,8 @@ class PhotoListModel : public QAbstractListModel {
     Q_OBJECT
 
   public:
-    enum Role { PathRole = Qt::UserRole, StatusRole, ErrorRole, WarningsRole };
+    // FolderRole is the name of the photo's folder, where photos came from several; empty where all came from one.
+    enum Role { PathRole = Qt::UserRole, FolderRole, StatusRole, ErrorRole, WarningsRole };
 
     using QAbstractListModel::QAbstractListModel;
 
@@ -37,11 +38,12 @@ class PhotoListModel : public QAbstractListModel {
     void insert(const ImageList::Placed& photos);
     ImageList::Placed take(const std::vector<std::size_t>& rows);  // ascending
 
+    void reorder(const PhotoOrder& order);
+
     std::vector<bool> checks() const;
     void setChecks(const std::vector<bool>& checks);
 
     // See ImageList.
-    void markUnprocessed();
     void setOutcome(int row, PhotoStatus status, const QString& errorMessage);
     void setOutcomes(const std::vector<RowOutcome>& outcomes);
 

@@ -5,6 +5,7 @@
 #include "app/photos/photo_delegate.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -43,11 +44,27 @@ PhotoListView::PhotoListView(ImageListController& photos, QWidget* parent)
     connect(&thumbnails_, &ThumbnailLoader::made, viewport(), qOverload<>(&QWidget::update));
     connect(model(), &QAbstractItemModel::rowsInserted, &settled_, qOverload<>(&QTimer::start));
     connect(model(), &QAbstractItemModel::rowsRemoved, &settled_, qOverload<>(&QTimer::start));
+    connect(model(), &QAbstractItemModel::layoutChanged, this, [this] {
+        scrollTo(currentIndex());
+        settled_.start();
+    });
     connect(model(), &QAbstractItemModel::modelReset, &settled_, qOverload<>(&QTimer::start));
 }
 
 QRect PhotoListView::checkBoxRect(int row) const {
-    return PhotoDelegate::checkBoxRect(visualRect(model()->index(row, 0)));
+    return PhotoDelegate::checkBoxRect(visualRect(model()->index(row, 0)), layoutDirection());
+}
+
+void PhotoListView::setReadOnly(bool readOnly) {
+    isReadOnly_ = readOnly;
+    setAutoScroll(!readOnly);
+}
+
+void PhotoListView::follow(int row) {
+    const bool isSeen =
+        !currentIndex().isValid() || viewport()->rect().intersects(visualRect(currentIndex()));
+    photos_.ChangeImage(QString::number(row));
+    if (isSeen) scrollTo(currentIndex());
 }
 
 // Whatever a row shows, it keeps its height: nothing is laid out anew, as the list view would do for all rows.
@@ -69,6 +86,10 @@ void PhotoListView::hideFilteredOut() {
 }
 
 void PhotoListView::keyPressEvent(QKeyEvent* event) {
+    if (isReadOnly_) {
+        QAbstractScrollArea::keyPressEvent(event);
+        return;
+    }
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && currentIndex().isValid()) {
         std::vector<int> rows;
         for (const QModelIndex& index : selectedIndexes()) rows.push_back(index.row());
@@ -76,6 +97,32 @@ void PhotoListView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QListView::keyPressEvent(event);
+}
+
+void PhotoListView::mousePressEvent(QMouseEvent* event) {
+    if (!isReadOnly_) QListView::mousePressEvent(event);
+}
+
+void PhotoListView::mouseMoveEvent(QMouseEvent* event) {
+    if (!isReadOnly_) QListView::mouseMoveEvent(event);
+}
+
+void PhotoListView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!isReadOnly_) QListView::mouseReleaseEvent(event);
+}
+
+void PhotoListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!isReadOnly_) QListView::mouseDoubleClickEvent(event);
+}
+
+void PhotoListView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (photos_.showsAllPhotos() || photos_.count() == 0 || indexAt({1, 1}).isValid()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                     tr("No photo has “%1” in its name").arg(photos_.soughtName()));
 }
 
 void PhotoListView::resizeEvent(QResizeEvent* event) {

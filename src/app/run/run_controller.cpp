@@ -7,6 +7,7 @@
 #include "app/window/main_window.h"
 #include "platform/path_parts.h"
 
+#include <QApplication>
 #include <QDateTime>
 
 #include <algorithm>
@@ -28,6 +29,16 @@ RunController::RunController(MainWindow& window, MyGlobalInstance& shared, RunPa
     connect(bar.PauseOrResumeProcessing(), &QPushButton::clicked, this,
             &RunController::PauseOrResumeProcessingAction);
     connect(bar.CancelProcessing(), &QPushButton::clicked, this, &RunController::CancelProcessingAction);
+    WindowActions& actions = window_.actions();
+    actions.connectTo(Act::PauseRun, [this] { PauseOrResumeProcessingAction(); });
+    actions.connectTo(Act::CancelRun, [this] { CancelProcessingAction(); });
+    bar.PauseOrResumeProcessing()->setToolTip(actions[Act::PauseRun]->toolTip());
+    bar.CancelProcessing()->setToolTip(actions[Act::CancelRun]->toolTip());
+    const ResultBar& result = window_.result();
+    connect(&result, &ResultBar::showTroubles, this,
+            [this] { window_.photos().showPhotos(PhotoFilter::FailedOrWarned); });
+    connect(&result, &ResultBar::retryFailed, this, &RunController::retryFailed);
+    connect(&result, &ResultBar::openResults, this, [this] { ShowOutputImages(report_, parts_.results); });
     window_.setCloseQuestion([this] { return mayClose(); });
 }
 
@@ -43,44 +54,64 @@ bool RunController::isUnderWay() const {
 // ---- starting
 
 void RunController::ProcessImaging(const OutputOptions& options) {
+    start(options, Photos::Checked);
+}
+
+void RunController::retryFailed() {
+    if (plan_ && window_.photos().hasPhotosFor(PhotoFilter::Failed))
+        start(plan_->request.options, Photos::Failed);
+}
+
+void RunController::start(const OutputOptions& options, Photos which) {
     if (isUnderWay()) return;
     window_.DisableControls();
     questions_.begin();
-    planAndAsk(options);
+    planAndAsk(options, which);
 }
 
-RunController::Plan RunController::makePlan(const OutputOptions& options) {
+RunController::Plan RunController::makePlan(const OutputOptions& options, Photos which) {
     RunPlan plan = planRun(window_.photos(), window_.document(), options,
                            questions_.rulesFor(options.OutputPath), shared_.SettingDirectory);
+    if (which == Photos::Failed) {
+        for (std::size_t row = 0; row < plan.request.photos.size(); ++row) {
+            BatchPhoto& photo = plan.request.photos[row];
+            const bool failed = window_.photos().images()[row].Status == PhotoStatus::Failed;
+            // The names of the others stay theirs.
+            photo.isElsewhere = photo.checked && !failed;
+            photo.checked = failed;
+        }
+    }
     plan.writing.showGlance = [this](qint64 row, const QImage& glance) { feed_.showGlance(row, glance); };
     return std::make_shared<const RunPlan>(std::move(plan));
 }
 
 // Looking for every output on the disk takes a while.
-void RunController::planAndAsk(const OutputOptions& options) {
-    const Plan plan = makePlan(options);
+void RunController::planAndAsk(const OutputOptions& options, Photos which) {
+    const Plan plan = makePlan(options, which);
     inBackground(
         this, [plan] { return planOutputs(plan->request, QDateTime::currentDateTime()); },
-        [this, plan](const OutputPlan& outputs) {
+        [this, plan, which](const OutputPlan& outputs) {
             const OutputOptions& chosen = plan->request.options;
-            questions_.ask(outputs, chosen.OutputPath, [this, plan, chosen](RunQuestions::Answer answer) {
-                switch (answer) {
-                    case RunQuestions::Answer::Start:
-                        launch(plan);
-                        return;
-                    case RunQuestions::Answer::PlanAgain:
-                        planAndAsk(chosen);
-                        return;
-                    case RunQuestions::Answer::ChooseAnotherFolder:
-                        // Not from within the closing of the question: the options are a dialog of their own.
-                        QMetaObject::invokeMethod(&window_.controller(), &ZeltoController::StartWatermarking,
-                                                  Qt::QueuedConnection);
-                        break;
-                    case RunQuestions::Answer::Cancel:
-                        break;
-                }
-                window_.EnableControls();
-            });
+            questions_.ask(outputs, chosen.OutputPath,
+                           [this, plan, chosen, which](RunQuestions::Answer answer) {
+                               switch (answer) {
+                                   case RunQuestions::Answer::Start:
+                                       launch(plan);
+                                       return;
+                                   case RunQuestions::Answer::PlanAgain:
+                                       planAndAsk(chosen, which);
+                                       return;
+                                   case RunQuestions::Answer::ChooseAnotherFolder:
+                                       // Not from within the closing of the question: the options are a dialog of their own.
+                                       QMetaObject::invokeMethod(&window_.controller(),
+                                                                 &ZeltoController::StartWatermarking,
+                                                                 Qt::QueuedConnection);
+                                       break;
+                                   case RunQuestions::Answer::Cancel:
+                                       break;
+                               }
+                               window_.EnableControls();
+                           });
         });
 }
 
@@ -88,7 +119,12 @@ void RunController::launch(const Plan& plan) {
     plan_ = plan;
     done_ = 0;
     photoInHand_ = 0;
-    window_.photos().model().markUnprocessed();
+    std::vector<RowOutcome> begun;
+    for (std::size_t row = 0; row < plan_->request.photos.size(); ++row) {
+        if (!plan_->request.photos[row].isElsewhere)
+            begun.push_back({static_cast<int>(row), PhotoStatus::NotProcessed, {}});
+    }
+    window_.photos().model().setOutcomes(begun);
     window_.processing().begin(static_cast<int>(plan_->request.photos.size()));
     // A pause that took no effect in the last run holds this one after its first photo.
     window_.processing().setPaused(run_.PauseProcessing());
@@ -101,7 +137,7 @@ void RunController::launch(const Plan& plan) {
 void RunController::workerStarts() {
     isFollowed_ = true;
     window_.DisableControls();
-    window_.photos().showPhotos(PhotoFilter::All);
+    window_.photos().showAllPhotos();
     window_.preview().beginRun();
     window_.ShowProcessingControls();
     window_.processing().PauseOrResumeProcessing()->setFocus();
@@ -136,7 +172,7 @@ void RunController::PauseOrResumeProcessingAction() {
 
 // Since the run was stopped, the list and the stack may have changed: it goes on with what they are now.
 void RunController::resumeStopped() {
-    plan_ = makePlan(plan_->request.options);
+    plan_ = makePlan(plan_->request.options, Photos::Checked);
     window_.processing().ProcessingIndicator()->setMaximum(static_cast<int>(plan_->request.photos.size()));
     window_.processing().setPaused(false);
     workerStarts();
@@ -219,8 +255,7 @@ void RunController::showPhotoInHand(qint64 row) {
     if (!holdsPhoto(row)) return;
     window_.processing().setPhoto(
         lastPathComponent(plan_->request.photos[static_cast<std::size_t>(row)].path));
-    window_.photos().ChangeImage(QString::number(row));
-    window_.photoList().scrollTo(window_.photos().model().index(static_cast<int>(row)));
+    window_.photoList().follow(static_cast<int>(row));
 }
 
 void RunController::showProgress(qint64 done) {
@@ -257,40 +292,33 @@ void RunController::ended(const RunReport& report) {
     }
 }
 
-// "67 written, 3 failed, 2 with warnings"; what there is none of is left out.
-QString RunController::counts() const {
+// Counts leave out what there is none of.
+RunResult RunController::resultOf(const RunReport& report) const {
+    RunResult result;
     int written = 0;
-    int failed = 0;
-    int warned = 0;
     for (const Image& photo : window_.photos().images()) {
         written += photo.Status == PhotoStatus::Written ? 1 : 0;
-        failed += photo.Status == PhotoStatus::Failed ? 1 : 0;
-        warned += photo.Warnings.isEmpty() ? 0 : 1;
+        result.failed += photo.Status == PhotoStatus::Failed ? 1 : 0;
+        result.warned += photo.Warnings.isEmpty() ? 0 : 1;
     }
-    QStringList parts = {tr("%1 written").arg(written)};
-    if (failed > 0) parts.append(tr("%1 failed").arg(failed));
-    if (warned > 0) parts.append(tr("%1 with warnings").arg(warned));
-    return parts.join(QStringLiteral(", "));
+    QStringList counts = {tr("%L1 written").arg(written)};
+    if (result.failed > 0) counts.append(tr("%L1 failed").arg(result.failed));
+    if (result.warned > 0) counts.append(tr("%L1 warned").arg(result.warned));
+    result.counts = counts.join(QStringLiteral(", "));
+    result.message = report.message();
+    if (!report.OutPutImageList.isEmpty())
+        result.open = report.opensCombinedPdf() ? tr("Open &PDF") : tr("Open Fol&der");
+    return result;
 }
 
 void RunController::ShowResults(const RunReport& report) {
     dropQuestion();
-    QStringList buttons = {tr("OK")};
-    if (window_.photos().hasPhotosFor(PhotoFilter::FailedOrWarned)) buttons.append(tr("Show"));
-    openMessageSheet(&window_,
-                     {report.ProcessResult ? QMessageBox::Information : QMessageBox::Warning, SummaryTitle,
-                      report.message() + QStringLiteral("\n\n") + counts(), buttons},
-                     [this, report](int answer) {
-                         showTheEnd(report);
-                         if (answer == 1) window_.photos().showPhotos(PhotoFilter::FailedOrWarned);
-                     });
-}
-
-void RunController::showTheEnd(const RunReport& report) {
-    ShowOutputImages(report, parts_.results);
+    report_ = report;
     window_.EnableControls();
     window_.HideProcessingControls();
+    window_.result().tell(resultOf(report));
     window_.photoList().setFocus();
+    QApplication::alert(&window_);
 }
 
 }  // namespace zelto

@@ -7,6 +7,7 @@
 #include "app/run/run_feed.h"
 #include "app/run/run_plan.h"
 #include "app/run/run_questions.h"
+#include "app/window/result_bar.h"
 #include "batch/batch_run.h"
 #include "batch/run_pace.h"
 
@@ -40,6 +41,8 @@ class RunController : public QObject {
 
     // Starts a run, after asking where it would replace photos of the list or files that are there.
     void ProcessImaging(const OutputOptions& options);
+    // The same as the last time, for the photos that failed; the others keep their outputs and how they went.
+    void retryFailed();
     void PauseOrResumeProcessingAction();
     void CancelProcessingAction();
 
@@ -49,8 +52,11 @@ class RunController : public QObject {
   private:
     using Plan = std::shared_ptr<const RunPlan>;
 
-    Plan makePlan(const OutputOptions& options);
-    void planAndAsk(const OutputOptions& options);
+    enum class Photos { Checked, Failed };
+
+    void start(const OutputOptions& options, Photos which);
+    Plan makePlan(const OutputOptions& options, Photos which);
+    void planAndAsk(const OutputOptions& options, Photos which);
     void launch(const Plan& plan);
     void workerStarts();
     void stopFollowing();
@@ -62,8 +68,7 @@ class RunController : public QObject {
     void askWhetherToGoOn();
     void ended(const RunReport& report);
     void ShowResults(const RunReport& report);
-    void showTheEnd(const RunReport& report);
-    QString counts() const;
+    RunResult resultOf(const RunReport& report) const;
     bool holdsPhoto(qint64 row) const;
     bool mayClose();
     void dropQuestion();
@@ -77,6 +82,7 @@ class RunController : public QObject {
     bool isFollowed_ = false;  // the window shows where the run is
     RunPace pace_;
     QString pdfFailure_;
+    RunReport report_;                // of the run that ended last
     QPointer<QMessageBox> question_;  // that only makes sense while the run goes on
     RunQuestions questions_;
     RunFeed feed_;

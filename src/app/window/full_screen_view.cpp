@@ -3,12 +3,14 @@
 
 #include "app/common/icons.h"
 #include "app/common/in_background.h"
+#include "platform/path_parts.h"
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"
 
 #include <QKeyEvent>
 #include <QLoggingCategory>
 #include <QPainter>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -22,14 +24,21 @@ Q_LOGGING_CATEGORY(fullScreen, "zelto.fullscreen", QtWarningMsg)
 
 }  // namespace
 
-FullScreenView* FullScreenView::open(const PhotoRequest& request, QWidget* parent) {
-    auto* view = new FullScreenView(parent);
+FullScreenView* FullScreenView::open(const PhotoRequest& request, Step step, QWidget* parent) {
+    auto* view = new FullScreenView(std::move(step), parent);
     view->showFullScreen();
     view->compose(request);
+    // As a run does for its last photo.
+    inBackground(
+        view, [request] { return writeEffectDiagnosticsOf(request.path, *request.stack); },
+        [](const Result<void>& written) {
+            if (!written) qCInfo(fullScreen, "%s", qUtf8Printable(written.error().message));
+        });
     return view;
 }
 
-FullScreenView::FullScreenView(QWidget* parent) : QWidget(parent, Qt::Window | Qt::FramelessWindowHint) {
+FullScreenView::FullScreenView(Step step, QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint), step_(std::move(step)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setWindowTitle(tr("Full Screen"));
@@ -49,6 +58,13 @@ FullScreenView::FullScreenView(QWidget* parent) : QWidget(parent, Qt::Window | Q
 }
 
 void FullScreenView::compose(const PhotoRequest& request) {
+    constexpr int PatienceMilliseconds = 300;
+    path_ = request.path;
+    QTimer::singleShot(PatienceMilliseconds, this, [this, path = path_] {
+        if (path != path_ || path == shown_) return;
+        message_ = tr("Loading %1...").arg(lastPathComponent(path));
+        update();
+    });
     struct Composed {
         QImage picture;
         QString message;
@@ -60,18 +76,19 @@ void FullScreenView::compose(const PhotoRequest& request) {
             if (!scene) return Composed{{}, scene.error().message};
             return Composed{MakeWatermarkImage(std::move(*scene), *request.stack), {}};
         },
-        [this](const Composed& made) {
+        [this, path = request.path](const Composed& made) {
+            if (path != path_) return;  // another one is wanted by now
+            shown_ = path;
             picture_ = made.picture;
             message_ = made.message;
             update();
             Q_EMIT composed();
         });
-    // As a run does for its last photo.
-    inBackground(
-        this, [request] { return writeEffectDiagnosticsOf(request.path, *request.stack); },
-        [](const Result<void>& written) {
-            if (!written) qCInfo(fullScreen, "%s", qUtf8Printable(written.error().message));
-        });
+}
+
+void FullScreenView::stepBy(int photos) {
+    const PhotoRequest request = step_(photos);
+    if (request.path != path_) compose(request);
 }
 
 void FullScreenView::paintEvent(QPaintEvent* /*event*/) {
@@ -89,11 +106,30 @@ void FullScreenView::paintEvent(QPaintEvent* /*event*/) {
     place.moveCenter(QRectF(rect()).center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, picture_);
+    if (message_.isEmpty()) return;
+    const QRect line = fontMetrics().boundingRect(message_).adjusted(-12, -6, 12, 6);
+    const QRect sign(QPoint((width() - line.width()) / 2, height() - 2 * line.height()), line.size());
+    painter.fillRect(sign, QColor(0, 0, 0, 170));
+    painter.setPen(Qt::white);
+    painter.drawText(sign, Qt::AlignCenter, message_);
 }
 
 void FullScreenView::keyPressEvent(QKeyEvent* event) {
     event->accept();
-    close();
+    switch (event->key()) {
+        case Qt::Key_PageDown:
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            stepBy(1);
+            break;
+        case Qt::Key_PageUp:
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            stepBy(-1);
+            break;
+        default:
+            close();
+    }
 }
 
 }  // namespace zelto

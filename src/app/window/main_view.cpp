@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -30,17 +31,21 @@ class DropFrame : public QWidget {
     }
 };
 
-bool isPhoto(const QUrl& url) {
-    return url.isLocalFile() && isPictureName(url.toLocalFile()) && !QFileInfo(url.toLocalFile()).isDir();
+bool isPhotoOrFolder(const QUrl& url) {
+    return url.isLocalFile() && (isPictureName(url.toLocalFile()) || QFileInfo(url.toLocalFile()).isDir());
 }
 
 }  // namespace
 
 MainView::MainView(QWidget* parent) : QWidget(parent), frame_(new DropFrame(this)) {}
 
+bool MainView::isWelcome(const QMimeData& files) {
+    const QList<QUrl> urls = files.urls();
+    return std::any_of(urls.begin(), urls.end(), isPhotoOrFolder);
+}
+
 bool MainView::draggingEntered(const QMimeData& dragged) {
-    const QList<QUrl> urls = dragged.urls();
-    setReceivingDrag(std::any_of(urls.begin(), urls.end(), isPhoto));
+    setReceivingDrag(isWelcome(dragged));
     return isReceivingDrag_;
 }
 
@@ -50,12 +55,12 @@ void MainView::draggingExited() {
 
 bool MainView::performDragOperation(const QMimeData& dragged) {
     setReceivingDrag(false);
-    QList<QUrl> photos;
+    QStringList paths;
     for (const QUrl& url : dragged.urls()) {
-        if (isPhoto(url)) photos.append(url);
+        if (isPhotoOrFolder(url)) paths.append(url.toLocalFile());
     }
-    if (photos.isEmpty()) return false;
-    add_(photos);
+    if (paths.isEmpty()) return false;
+    add_(paths);
     return true;
 }
 

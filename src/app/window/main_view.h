@@ -3,8 +3,7 @@
 // while they are over the window, and hands them to the photo list. Main thread only.
 #pragma once
 
-#include <QList>
-#include <QUrl>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -19,11 +18,11 @@ class MainView : public QWidget {
   public:
     explicit MainView(QWidget* parent = nullptr);
 
-    // Takes the dropped files: photos, by their names, that are not folders.
-    void setDelegate(std::function<void(const QList<QUrl>&)> addImagesFromUrls) {
-        add_ = std::move(addImagesFromUrls);
-    }
+    // Takes the dropped files: photos, by their names, and folders.
+    void setDelegate(std::function<void(const QStringList& paths)> add) { add_ = std::move(add); }
 
+    // Whether there is anything among the files of a drag, or of the clipboard, that can be taken.
+    static bool isWelcome(const QMimeData& files);
     // The steps of a drag over the window. Each tells whether the drag is welcome.
     bool draggingEntered(const QMimeData& dragged);
     void draggingExited();
@@ -37,7 +36,7 @@ class MainView : public QWidget {
   private:
     void setReceivingDrag(bool receiving);
 
-    std::function<void(const QList<QUrl>&)> add_;
+    std::function<void(const QStringList& paths)> add_;
     QWidget* frame_;
     bool isReceivingDrag_ = false;
 };

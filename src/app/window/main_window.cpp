@@ -4,9 +4,12 @@
 #include "app/common/icons.h"
 #include "app/preview/hold_key.h"
 #include "app/window/empty_state.h"
+#include "app/window/photo_keys.h"
+#include "app/window/window_places.h"
 #include "platform/preferences.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
@@ -64,10 +67,11 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       controller_(new ZeltoController(photos_, watermarks_, *preview_, shared, std::move(dialogs), this)),
       keeper_(new StackKeeper(watermarks_, shared, this)),
       mainView_(new MainView(this)),
-      photoList_(new PhotoListView(photos_, this)),
-      photoFilter_(new PhotoFilterBox(photos_, this)),
+      photoPanel_(
+          new PhotoPanel(photos_, {(*actions_)[Act::SortByName], (*actions_)[Act::SortByDate]}, this)),
       watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, this)),
       inspector_(new Inspector(watermarks_, photos_, editors_, this)),
+      result_(new ResultBar(this)),
       processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
       stackColumn_(new QSplitter(Qt::Vertical, this)),
@@ -80,7 +84,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
     setWindowTitle(QStringLiteral("Zelto"));
     setWindowIcon(applicationIcon());
     setAcceptDrops(true);
-    mainView_->setDelegate([this](const QList<QUrl>& urls) { photos_.addImagesFromUrls(urls); });
+    mainView_->setDelegate([this](const QStringList& paths) { controller_->bringFiles(paths); });
     connectActions();
     connectDialogs();
     actions_->fill(*menuBar(), undo_, redo_);
@@ -90,6 +94,11 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
 
     connect(&photos_, &ImageListController::alert, this,
             [this](const QString& title, const QString& text) { showAlert(this, title, text); });
+    connect(&photos_, &ImageListController::noted, this, [this](const QString& text) {
+        constexpr int Milliseconds = 8000;
+        statusBar()->showMessage(text, Milliseconds);
+    });
+    new PhotoKeys(this);
     const PhotoListModel& photoRows = photos_.model();
     connect(&photoRows, &QAbstractItemModel::dataChanged, this, &MainWindow::showStatus);
     connect(&photoRows, &QAbstractItemModel::rowsInserted, this, &MainWindow::showStatus);
@@ -132,6 +141,12 @@ void MainWindow::connectActions() {
     on(Act::CheckAll, &photos_, &ImageListController::CheckAllImages);
     on(Act::UncheckAll, &photos_, &ImageListController::UncheckAllImages);
     on(Act::ToggleCheck, &photos_, &ImageListController::ToggleCheck);
+    on(Act::SortByName, controller_, &ZeltoController::sortByName);
+    on(Act::SortByDate, controller_, &ZeltoController::sortByDateTaken);
+    on(Act::FindPhotos, photoPanel_, &PhotoPanel::find);
+    actions_->connectTo(Act::NextPhoto, [this] { photos_.step(1); });
+    actions_->connectTo(Act::PreviousPhoto, [this] { photos_.step(-1); });
+    actions_->connectTo(Act::Paste, [this] { paste(); });
     on(Act::MoveUp, &watermarks_, &WatermarkController::MoveWatermarkUp);
     on(Act::MoveDown, &watermarks_, &WatermarkController::MoveWatermarkDown);
     on(Act::RemoveWatermark, &watermarks_, &WatermarkController::RemoveSelectedWatermarks);
@@ -170,7 +185,7 @@ void MainWindow::connectActions() {
         if (editors_.canOpen(opener.kind)) on(opener.act, &editors_, opener.open);
     }
 
-    photoList_->addAction((*actions_)[Act::RemovePhoto]);
+    photoList().addAction((*actions_)[Act::RemovePhoto]);
     undo_->setShortcut(QKeySequence::Undo);
     undo_->setIcon(lineIcon(QLatin1String("undo")));
     redo_->setShortcut(QKeySequence::Redo);
@@ -257,20 +272,10 @@ void MainWindow::makeToolBar() {
 }
 
 void MainWindow::layOut() {
-    auto* photoColumn = new QWidget(this);
-    auto* photoRows = new QVBoxLayout(photoColumn);
-    photoRows->setContentsMargins(0, 0, 0, 0);
-    photoRows->setSpacing(0);
-    auto* photoHeading = new QHBoxLayout;
-    photoHeading->addWidget(makeHeading(tr("Photos"), photoColumn), 1);
-    photoHeading->addWidget(photoFilter_);
-    photoRows->addLayout(photoHeading);
-    photoRows->addWidget(photoList_);
-
     middle_->addWidget(new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], middle_));
     middle_->addWidget(pages_);
 
-    columns_->addWidget(photoColumn);
+    columns_->addWidget(photoPanel_);
     columns_->addWidget(middle_);
     stackColumn_->addWidget(watermarkPanel_);
     stackColumn_->addWidget(inspector_);
@@ -287,6 +292,7 @@ void MainWindow::layOut() {
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(columns_, 1);
+    rows->addWidget(result_);
     rows->addWidget(processing_);
     setCentralWidget(mainView_);
     statusBar()->addWidget(photoCount_, 1);
@@ -300,10 +306,10 @@ void MainWindow::EnableDisableWatermarkControls() {
     actions_->update({.hasPhotos = hasPhotos,
                       .hasRows = watermarks_.model().rowCount() > 0,
                       .hasSelectedRow = watermarks_.selectedRow() >= 0,
-                      .isRunning = isRunning_});
+                      .isRunning = isRunning_,
+                      .hasRun = processing_->isVisibleTo(mainView_)});
     middle_->setCurrentIndex(hasPhotos ? 1 : 0);
-    photoList_->setEnabled(!isRunning_);
-    photoFilter_->setEnabled(!isRunning_);
+    photoPanel_->setReadOnly(isRunning_);
     stackColumn_->setEnabled(!isRunning_);
     if (isRunning_) pages_->showContacts(false);
     previewView_->setEnabled(!isRunning_);
@@ -322,11 +328,14 @@ void MainWindow::DisableControls() {
 }
 
 void MainWindow::ShowProcessingControls() {
+    result_->hide();
     processing_->show();
+    EnableDisableWatermarkControls();
 }
 
 void MainWindow::HideProcessingControls() {
     processing_->hide();
+    EnableDisableWatermarkControls();
 }
 
 void MainWindow::showStatus() {
@@ -345,9 +354,8 @@ void MainWindow::showStatus() {
 }
 
 void MainWindow::restorePlaces() {
-    resize(StartSize);
-    if (const auto geometry = storedPreference(preference::WindowGeometry)) restoreGeometry(*geometry);
-    if (const auto columns = storedPreference(preference::WindowColumns)) columns_->restoreState(*columns);
+    restoreWindow(*this, storedPreference(preference::WindowGeometry), StartSize);
+    restoreColumns(*columns_, storedPreference(preference::WindowColumns), width());
     if (const auto rows = storedPreference(preference::WindowStackColumn)) stackColumn_->restoreState(*rows);
 }
 
@@ -355,6 +363,13 @@ void MainWindow::keepPlaces() const {
     setPreference(preference::WindowGeometry, saveGeometry());
     setPreference(preference::WindowColumns, columns_->saveState());
     setPreference(preference::WindowStackColumn, stackColumn_->saveState());
+}
+
+// Files that were copied elsewhere.
+void MainWindow::paste() {
+    const QMimeData* files = QApplication::clipboard()->mimeData();
+    if (files == nullptr || !mainView_->performDragOperation(*files))
+        statusBar()->showMessage(tr("There are no photos on the clipboard"), 8000);
 }
 
 // ---- events

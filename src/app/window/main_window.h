@@ -6,8 +6,7 @@
 
 #include "app/common/my_global_instance.h"
 #include "app/photos/image_list_controller.h"
-#include "app/photos/photo_filter_box.h"
-#include "app/photos/photo_list_view.h"
+#include "app/photos/photo_panel.h"
 #include "app/preview/photo_preview.h"
 #include "app/preview/preview_pages.h"
 #include "app/preview/preview_view.h"
@@ -18,6 +17,7 @@
 #include "app/window/inspector.h"
 #include "app/window/main_view.h"
 #include "app/window/processing_bar.h"
+#include "app/window/result_bar.h"
 #include "app/window/stack_keeper.h"
 #include "app/window/watermark_panel.h"
 #include "app/window/window_actions.h"
@@ -48,13 +48,15 @@ class MainWindow : public QMainWindow {
     PhotoPreview& preview() { return *preview_; }
     PreviewView& previewView() { return *previewView_; }
     PreviewPages& pages() { return *pages_; }
-    PhotoListView& photoList() { return *photoList_; }
-    PhotoFilterBox& photoFilter() { return *photoFilter_; }
+    PhotoPanel& photoPanel() { return *photoPanel_; }
+    PhotoListView& photoList() { return photoPanel_->list(); }
+    PhotoFilterBox& photoFilter() { return photoPanel_->filter(); }
     QListView& watermarkList() { return watermarkPanel_->list(); }
     Inspector& inspector() { return *inspector_; }
     MainView& mainView() { return *mainView_; }
     WindowActions& actions() { return *actions_; }
     ProcessingBar& processing() { return *processing_; }
+    ResultBar& result() { return *result_; }
     StackKeeper& keeper() { return *keeper_; }
 
     // What a run does to the controls: those that change anything are off while it is under way.
@@ -82,6 +84,7 @@ class MainWindow : public QMainWindow {
     void connectViews();
     void connectDialogs();
     void showStatus();
+    void paste();
     void restorePlaces();
     void keepPlaces() const;
 
@@ -96,10 +99,10 @@ class MainWindow : public QMainWindow {
     ZeltoController* controller_;
     StackKeeper* keeper_;
     MainView* mainView_;
-    PhotoListView* photoList_;
-    PhotoFilterBox* photoFilter_;
+    PhotoPanel* photoPanel_;
     WatermarkPanel* watermarkPanel_;
     Inspector* inspector_;
+    ResultBar* result_;
     ProcessingBar* processing_;
     QSplitter* columns_;
     QSplitter* stackColumn_;

@@ -1,39 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/processing_bar.h"
 
+#include "app/common/elided_label.h"
 #include "app/common/icons.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
-#include <QStyle>
 
 namespace zelto {
-
-// A line of text that takes the room it is given and shows what fits into it, whole in its tool tip.
-class ElidedLabel : public QWidget {
-  public:
-    explicit ElidedLabel(QWidget* parent) : QWidget(parent) {
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-
-    void setText(const QString& text) {
-        text_ = text;
-        setToolTip(text);
-        setAccessibleName(text);
-        update();
-    }
-    QSize sizeHint() const override { return {200, fontMetrics().height()}; }
-
-  protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                              fontMetrics().elidedText(text_, Qt::ElideMiddle, width()), foregroundRole());
-    }
-
-  private:
-    QString text_;
-};
 
 ProcessingBar::ProcessingBar(QWidget* parent)
     : QWidget(parent),

@@ -19,7 +19,8 @@ enum Needs : unsigned {
     Photos = 1,       // at least one photo in the list
     Rows = 2,         // at least one row in the watermark list
     SelectedRow = 4,  // one of them is selected
-    Idle = 8          // no run under way
+    Idle = 8,         // no run under way
+    Run = 256         // one that has not come to its end
 };
 
 struct ActionRow {
@@ -46,9 +47,11 @@ const std::array Rows_ = {
     ActionRow{Act::OpenSettings, FileMenu, TEXT("Saved Se&ttings..."), "settings-list", "Ctrl+L", Idle, true},
     ActionRow{Act::ImportSettings, FileMenu, TEXT("&Import Settings..."), "import", "", Idle},
     ActionRow{Act::ExportSettings, FileMenu, TEXT("&Export Settings..."), "export", "", Idle, true},
-    ActionRow{Act::Start, FileMenu, TEXT("Start &Watermarking..."), "start", "Ctrl+Return", Photos | Idle,
-              true},
+    ActionRow{Act::Start, FileMenu, TEXT("Start &Watermarking..."), "start", "Ctrl+Return", Photos | Idle},
+    ActionRow{Act::PauseRun, FileMenu, TEXT("&Pause or Resume"), "pause", "Ctrl+P", Run},
+    ActionRow{Act::CancelRun, FileMenu, TEXT("&Cancel Watermarking"), "stop", "Ctrl+.", Run, true},
     ActionRow{Act::Quit, FileMenu, TEXT("&Quit"), "", "Ctrl+Q", Nothing},
+    ActionRow{Act::Paste, EditMenu, TEXT("&Paste"), "", "Ctrl+V", Idle},
     ActionRow{Act::AddPhotos, PhotosMenu, TEXT("&Add Photos..."), "add-photos", "Ctrl+O", Idle},
     ActionRow{Act::AddFolder, PhotosMenu, TEXT("Add &Folder..."), "add-folder", "Ctrl+Shift+O", Idle, true},
     ActionRow{Act::RemovePhoto, PhotosMenu, TEXT("&Remove Photo"), "remove", "Del", Photos | Idle},
@@ -56,7 +59,13 @@ const std::array Rows_ = {
               true},
     ActionRow{Act::CheckAll, PhotosMenu, TEXT("&Check All"), "check-all", "Ctrl+Shift+A", Photos | Idle},
     ActionRow{Act::UncheckAll, PhotosMenu, TEXT("&Uncheck All"), "", "", Photos | Idle},
-    ActionRow{Act::ToggleCheck, PhotosMenu, TEXT("&Toggle Check Marks"), "", "Ctrl+Shift+T", Photos | Idle},
+    ActionRow{Act::ToggleCheck, PhotosMenu, TEXT("&Toggle Check Marks"), "", "Ctrl+Shift+T", Photos | Idle,
+              true},
+    ActionRow{Act::NextPhoto, PhotosMenu, TEXT("&Next Photo"), "", "PgDown", Photos | Idle},
+    ActionRow{Act::PreviousPhoto, PhotosMenu, TEXT("&Previous Photo"), "", "PgUp", Photos | Idle},
+    ActionRow{Act::FindPhotos, PhotosMenu, TEXT("F&ind Photos"), "find", "Ctrl+F", Photos | Idle, true},
+    ActionRow{Act::SortByName, PhotosMenu, TEXT("&Sort by Name"), "", "", Photos | Idle},
+    ActionRow{Act::SortByDate, PhotosMenu, TEXT("Sort by &Date Taken"), "", "", Photos | Idle},
     ActionRow{Act::AddText, AddMenu, TEXT("&Text..."), "text", "Ctrl+T", Photos | Idle},
     ActionRow{Act::AddImage, AddMenu, TEXT("&Image..."), "image", "Ctrl+I", Photos | Idle},
     ActionRow{Act::AddShape, AddMenu, TEXT("&Shape..."), "shape", "", Photos | Idle},
@@ -89,7 +98,8 @@ const std::array Rows_ = {
 
 bool isAllowed(unsigned needs, const WindowState& state) {
     return (!(needs & Photos) || state.hasPhotos) && (!(needs & Rows) || state.hasRows) &&
-           (!(needs & SelectedRow) || state.hasSelectedRow) && (!(needs & Idle) || !state.isRunning);
+           (!(needs & SelectedRow) || state.hasSelectedRow) && (!(needs & Idle) || !state.isRunning) &&
+           (!(needs & Run) || state.hasRun);
 }
 
 }  // namespace

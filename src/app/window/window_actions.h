@@ -21,7 +21,10 @@ enum class Act {
     ImportSettings,
     ExportSettings,
     Start,
+    PauseRun,
+    CancelRun,
     Quit,
+    Paste,
     AddPhotos,
     AddFolder,
     RemovePhoto,
@@ -29,6 +32,11 @@ enum class Act {
     CheckAll,
     UncheckAll,
     ToggleCheck,
+    NextPhoto,
+    PreviousPhoto,
+    FindPhotos,
+    SortByName,
+    SortByDate,
     AddImage,
     AddText,
     AddShape,
@@ -59,6 +67,7 @@ struct WindowState {
     bool hasRows = false;         // of the watermark list
     bool hasSelectedRow = false;  // of the watermark list
     bool isRunning = false;
+    bool hasRun = false;  // one that can be paused or cancelled, or resumed
 };
 
 class WindowActions : public QObject {

@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
@@ -27,7 +28,12 @@ ZeltoController::ZeltoController(ImageListController& photos, WatermarkControlle
       window_(window) {}
 
 void ZeltoController::ShowFullScreenImage() {
-    if (photos_.selectedRow() >= 0) FullScreenView::open(preview_.finalRequest(), window_);
+    if (photos_.selectedRow() < 0) return;
+    const auto step = [this](int photos) {
+        photos_.step(photos);
+        return preview_.finalRequest();
+    };
+    FullScreenView::open(preview_.finalRequest(), step, window_);
 }
 
 void ZeltoController::Addimages() {
@@ -35,7 +41,7 @@ void ZeltoController::Addimages() {
     const QStringList paths = dialogs_.choosePhotos(window_, QFileInfo::exists(last) ? last : QString());
     if (paths.isEmpty()) return;
     setPreference(preference::LastImageDirectory, QFileInfo(paths.first()).absolutePath());
-    photos_.AddImages(paths);
+    photos_.bring(paths);
 }
 
 void ZeltoController::OpenAddFolderWindow() {
@@ -52,14 +58,14 @@ void ZeltoController::ImportImagesFromFolder(const QString& folder, bool include
 });
 }  // namespace zelto
 
-void ZeltoController::importPaths(const QStringList& paths) {
-    import([paths, extensions = GetExtensionList(ScanFormats())](const FolderImport::GoesOn& goesOn) {
+void ZeltoController::importPaths(const QStringList& paths, bool includeSubFolders) {
+    import([paths, includeSubFolders, extensions = GetExtensionList(ScanFormats())](const FolderImport::GoesOn& goesOn) {
         QStringList photos;
     for (const QString& path : paths) {
         const QFileInfo file(path);
         if (file.isDir()) {
             photos +=
-                zelto::ImportImagesFromFolder(file.absoluteFilePath(), false, extensions,
+                zelto::ImportImagesFromFolder(file.absoluteFilePath(), includeSubFolders, extensions,
                                               [&](qsizetype found) { return goesOn(photos.size() + found); })
                     .value_or(QStringList());
         } else {
@@ -72,7 +78,42 @@ void ZeltoController::importPaths(const QStringList& paths) {
 
 void ZeltoController::import(FolderImport::Scan scan) {
     auto* import = new FolderImport(std::move(scan), window_, this);
-    connect(import, &FolderImport::found, &photos_, &ImageListController::AddImages);
+    connect(import, &FolderImport::found, &photos_, &ImageListController::bring);
+}
+
+void ZeltoController::bringFiles(const QStringList& paths) {
+    const bool hasFolders =
+        std::any_of(paths.begin(), paths.end(), [](const QString& path) { return QFileInfo(path).isDir(); });
+    if (hasFolders) {
+        importPaths(paths, true);
+    } else {
+        photos_.bring(paths);
+    }
+}
+
+void ZeltoController::sortByName() {
+    photos_.sortPhotos(tr("Sort by Name"), orderByName(photos_.images()));
+}
+
+// Each photo has to be looked into.
+void ZeltoController::sortByDateTaken() {
+    QStringList paths;
+    for (const Image& photo : photos_.images()) paths.append(photo.ImagePath);
+    const auto readMoments = [paths](const FolderImport::GoesOn& goesOn) {
+        QStringList moments;
+        for (const QString& path : paths) {
+            if (!goesOn(moments.size())) break;
+            moments.append(momentTaken(path));
+        }
+        return moments;
+    };
+    const QString name = tr("Sort by Date Taken");
+    auto* reading =
+        new FolderImport(readMoments, window_, this,
+                         {name, tr("Reading dates..."), tr("1 photo read"), tr("%L1 photos read")});
+    connect(reading, &FolderImport::found, &photos_, [this, name, paths](const QStringList& moments) {
+        if (moments.size() == photos_.count()) photos_.sortPhotos(name, orderByMoment(moments));
+    });
 }
 
 void ZeltoController::StartWatermarking() {

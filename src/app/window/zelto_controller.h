@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The actions of the main window that belong neither to the photo list nor to the watermark list: the full
-// screen, adding files and folders, starting a run, tips and the version check. Thin: it opens the
+// screen, adding files and folders, sorting photos, starting a run, tips and the version check. Thin: it opens the
 // dialogs it was given and hands on what they return. Main thread only.
 #pragma once
 
@@ -34,8 +34,14 @@ class ZeltoController : public QObject {
     void OpenAddFolderWindow();
     // Adds the photos of a folder once they are found; the window goes on meanwhile.
     void ImportImagesFromFolder(const QString& folder, bool includeSubFolders, const QString& extensionList);
-    // The same for files and folders in any order; of the folders, the photos that lie directly in them.
-    void importPaths(const QStringList& paths);
+    // The same for files and folders in any order; of the folders, the photos that lie directly in them, or everywhere
+    // below them.
+    void importPaths(const QStringList& paths, bool includeSubFolders = false);
+    // Files and folders that were dropped or pasted, the folders with all that is below them.
+    void bringFiles(const QStringList& paths);
+    // Puts the photo list into another order.
+    void sortByName();
+    void sortByDateTaken();
     void StartWatermarking();
     void ShowTips();
     void CheckLatestVersion();

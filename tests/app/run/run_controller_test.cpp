@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/run/run_controller.h"
 
+#include "app/hands.h"
 #include "app/run/run_window.h"
 #include "persistence/setting_file.h"
 #include "pictures/picture_reader.h"
@@ -85,7 +86,8 @@ TEST_F(RunWindow, WhatFailedIsShownAloneAndTellsWhyWhenItIsDoubleClicked) {
     addPhotos(u"gbg"_s);
     start();
     EXPECT_FALSE(window->photoFilter().isVisible());
-    answer(u"Show"_s);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->result().isVisible(); }, 10000));
+    click(window->result(), "Show");
     QString text;
     QTimer::singleShot(100, window.get(), [&] {
         text = message()->informativeText();
@@ -122,14 +124,30 @@ TEST_F(RunWindow, WhatFailedIsShownAloneAndTellsWhyWhenItIsDoubleClicked) {
     EXPECT_THAT(shown(), ElementsAre(0, 1, 2));
 }
 
+TEST_F(RunWindow, WhatFailedIsTriedAgainAlone) {
+    addPhotos(u"gbg"_s);
+    start();
+    EXPECT_TRUE(waitFor(u"wxw"_s));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->result().isVisible(); }, 10000));
+    ASSERT_TRUE(QFile::remove(options.OutputPath + u"/photo0.png"_s));
+    ASSERT_TRUE(QFile::remove(path(u"in/photo1.png"_s)));
+    ASSERT_TRUE(QFile::copy(path(u"in/photo0.png"_s), path(u"in/photo1.png"_s)));
+    click(window->result(), "Retry Failed");
+    EXPECT_TRUE(waitFor(u"www"_s));
+    EXPECT_EQ(summary(), Succeeded + u"3 written"_s);
+    EXPECT_THAT(outputs(), ElementsAre(u"photo1.png"_s, u"photo2.png"_s));
+}
+
 TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     addPhotos(u"gggg"_s);
     startGated();
     EXPECT_FALSE(isEnabled(Act::AddPhotos));
-    EXPECT_FALSE(window->photoList().isEnabled());
+    EXPECT_TRUE(window->photoList().isReadOnly());
+    QTest::keyClick(&window->photoList(), Qt::Key_Space);
+    EXPECT_TRUE(window->photos().images()[0].ApplyWatermark) << "the list is only to be looked at";
     QPushButton* pause = window->processing().PauseOrResumeProcessing();
     EXPECT_EQ(pause->text(), u"Pause"_s);
-    QTest::mouseClick(pause, Qt::LeftButton);
+    QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(pause->text(), u"Resume"_s);
     letThrough(1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return pace() == u"Paused"_s; }, 10000));
@@ -147,7 +165,7 @@ TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     EXPECT_THAT(outputs(), ElementsAre(u"photo0.png"_s, u"photo1.png"_s))
         << "the paused one is written again";
 
-    QTest::mouseClick(window->processing().CancelProcessing(), Qt::LeftButton);
+    QTest::keyClick(window.get(), Qt::Key_Period, Qt::ControlModifier);
     EXPECT_FALSE(window->processing().isVisible());
     EXPECT_TRUE(isEnabled(Act::AddPhotos));
     letThrough(2);
@@ -271,7 +289,7 @@ TEST_F(RunWindow, TakenNamesAreAskedAboutOncePerFolder) {
     ASSERT_TRUE(QDir().mkpath(options.OutputPath));
     start();
     answer(u"Replace"_s);
-    EXPECT_EQ(summary(), Succeeded + u"2 written, 1 with warnings"_s);
+    EXPECT_EQ(summary(), Succeeded + u"2 written, 1 warned"_s);
     EXPECT_THAT(outputs(), ElementsAre(u"same.png"_s));
 }
 

@@ -2,6 +2,7 @@
 #include "app/run/run_window.h"
 
 #include "app/dialogs/standard_dialogs.h"
+#include "app/hands.h"
 #include "platform/path_parts.h"
 #include "support/test_pictures.h"
 
@@ -142,10 +143,14 @@ void RunWindow::answer(const QString& button) {
 }
 
 QString RunWindow::summary() {
-    const QMessageBox* box = message();
-    if (box == nullptr || box->text() != QLatin1String("Watermark Output")) return QStringLiteral("(none)");
-    const QString text = box->informativeText();
-    answer(QStringLiteral("OK"));
+    ResultBar& bar = window->result();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }, Patience));
+    const QString text = bar.accessibleDescription();
+    for (auto* button : bar.findChildren<QPushButton*>()) {
+        if (button->isVisible() && withoutMnemonic(button->text()).startsWith(QLatin1String("Open")))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    bar.hide();
     return text;
 }
 

@@ -42,8 +42,8 @@ class RunWindow : public ::testing::Test {
     static QMessageBox* message();
     static QStringList buttons(const QMessageBox& message);
     static void answer(const QString& button);
-    // Waits for the summary, dismisses it and returns its text.
-    static QString summary();
+    // Waits for the summary, has it open what it offers, closes it and returns what it says.
+    QString summary();
 
     QStringList outputs() const;  // the files of the output folder
 

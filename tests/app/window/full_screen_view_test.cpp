@@ -15,7 +15,7 @@ namespace zelto {
 namespace {
 
 TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
-    addPhotos(QStringLiteral("g"));
+    addPhotos(QStringLiteral("gg"));
     window->watermarks().ReflectWatermark(boxRecord(20, 20, 1, Color::black()));
     window->watermarks().AddEffects(PhotoEffects());
     for (const bool byKey : {true, false}) {
@@ -31,6 +31,8 @@ TEST_F(RunWindow, TheFullScreenShowsThePhotoUntilAKeyOrItsButtonIsPressed) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return !view->picture().isNull(); }, 10000));
         const PhotoRequest request = window->preview().finalRequest();
         EXPECT_EQ(view->picture(), MakeWatermarkImage(*buildPhotoScene(request), *request.stack));
+        QTest::keyClick(view, byKey ? Qt::Key_PageDown : Qt::Key_Left);
+        EXPECT_EQ(window->photos().selectedRow(), byKey ? 1 : 0);
         if (byKey) {
             QTest::keyClick(view, Qt::Key_A);
         } else {

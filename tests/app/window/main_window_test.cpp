@@ -4,10 +4,15 @@
 
 #include "app/dialogs/standard_dialogs.h"
 #include "app/watermarks/watermark_delegate.h"
+#include "platform/path_parts.h"
+#include "support/exiftool.h"
 #include "support/records.h"
+#include "support/test_pictures.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
@@ -209,11 +214,63 @@ TEST_F(MainWindowTest, FilesAreDroppedAnywhereAndFramedMeanwhile) {
         return true;
     };
     EXPECT_FALSE(drop({note}));
-    EXPECT_FALSE(drop({pictures})) << "a folder, whatever its name";
-    EXPECT_TRUE(drop({note, paths[1], pictures, paths[0]}));
+    EXPECT_TRUE(drop({note, paths[1], paths[0]}));
     ASSERT_EQ(window->photos().count(), 2);
     EXPECT_EQ(window->photos().images()[0].ImagePath, paths[1]);
     EXPECT_EQ(window->photos().selectedRow(), 0);
+
+    ASSERT_TRUE(QFile::copy(paths[0], pictures + QStringLiteral("/photo10.png")));
+    ASSERT_TRUE(QFile::copy(paths[0], pictures + QStringLiteral("/photo9.png")));
+    EXPECT_TRUE(drop({pictures})) << "a folder, whatever its name";
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->photos().count() == 4; }, 10000));
+    EXPECT_EQ(window->photos().selectedRow(), 2) << "what is new is selected";
+    EXPECT_EQ(window->photos().selection().selectedIndexes().size(), 2);
+    auto* copied = new QMimeData;
+    copied->setUrls({QUrl::fromLocalFile(paths[0])});
+    QApplication::clipboard()->setMimeData(copied);
+    QTest::keyClick(window.get(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(window->photos().selectedPath(), paths[0]) << "what was there already is shown";
+    EXPECT_EQ(window->photos().count(), 4);
+}
+
+TEST_F(MainWindowTest, PhotosAreFoundSortedAndSteppedThrough) {
+    QStringList paths = makePhotos(3);
+    ASSERT_TRUE(QFile::rename(paths[2], folder.filePath(QStringLiteral("Photo10.png"))));
+    paths[2] = folder.filePath(QStringLiteral("Photo10.png"));
+    ASSERT_TRUE(writeTags({QStringLiteral("-DateTimeOriginal=2020:01:01 13:00:00")}, {paths[1]}));
+    ASSERT_TRUE(writeTags({QStringLiteral("-DateTimeOriginal=2020:01:01 12:30:00")}, {paths[2]}));
+    window->photos().AddImages({paths[2], paths[0], paths[1]});
+    const auto order = [this] {
+        QStringList names;
+        for (const Image& photo : window->photos().images()) names.append(lastPathComponent(photo.ImagePath));
+        return names.join(QLatin1Char(' '));
+    };
+    auto* find = window->findChild<QLineEdit*>();
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(find->hasFocus());
+    for (const auto& [key, row] : {std::pair(Qt::Key_PageDown, 1), std::pair(Qt::Key_PageDown, 2),
+                                   std::pair(Qt::Key_PageDown, 2), std::pair(Qt::Key_PageUp, 1)}) {
+        QTest::keyClick(find, key);
+        EXPECT_EQ(window->photos().selectedRow(), row);
+    }
+    QTest::keyClicks(find, QStringLiteral("PHOTO1"));
+    EXPECT_THAT(window->photos().shownRows(), ::testing::ElementsAre(0, 2));
+    EXPECT_EQ(window->photos().selectedRow(), 2);
+    QTest::keyClicks(find, QStringLiteral("x"));
+    EXPECT_EQ(window->photos().selectedRow(), 2) << "the photo on show stays where none is found";
+    QTest::keyClick(find, Qt::Key_Escape);
+    EXPECT_EQ(window->photos().shownRows().size(), 3U);
+    EXPECT_TRUE(window->photoList().hasFocus());
+
+    window->actions()[Act::SortByName]->trigger();
+    EXPECT_EQ(order(), QStringLiteral("photo0.png photo1.png Photo10.png"));
+    EXPECT_EQ(window->photos().selectedPath(), paths[1]);
+    window->actions()[Act::SortByDate]->trigger();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return order() == QStringLiteral("Photo10.png photo1.png photo0.png"); }, 10000));
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(order(), QStringLiteral("Photo10.png photo0.png photo1.png"));
 }
 
 TEST_F(MainWindowTest, TheWheelZoomsAboutThePointerAndKeysInSteps) {
@@ -375,13 +432,13 @@ TEST_F(MainWindowTest, ControlsFollowThePhotosAndTheRun) {
          {Act::AddPhotos, Act::RemovePhoto, Act::AddText, Act::MoveUp, Act::ZoomIn, Act::FullScreen}) {
         EXPECT_FALSE(enabled(act));
     }
-    EXPECT_FALSE(window->photoList().isEnabled());
+    EXPECT_TRUE(window->photoList().isReadOnly());
     EXPECT_TRUE(window->processing().CancelProcessing()->isVisible());
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(window->document().count(), 1) << "nothing is undone during a run";
     window->EnableControls();
     EXPECT_TRUE(enabled(Act::AddPhotos));
-    EXPECT_TRUE(window->photoList().isEnabled());
+    EXPECT_FALSE(window->photoList().isReadOnly());
 }
 
 }  // namespace
