@@ -30,7 +30,7 @@ void encode(benchmark::State& state, PictureFormat format, int quality, bool alp
     const QImage& picture = photo(alpha);
     std::size_t bytes = 0;
     for (auto _ : state) {
-        const Result<QByteArray> file = encodePicture(picture, format, {.jpegQuality = quality});
+        const Result<QByteArray> file = encodePicture(picture, format, {.quality = quality});
         if (!file) std::abort();
         bytes = static_cast<std::size_t>(file->size());
     }

@@ -87,6 +87,13 @@ void rewriteJpeg(QByteArrayView input) {
     promise(picture && picture->image.size() == size, "what is written is the photo");
 }
 
+// Raw files that are TIFF files within are told by more than their beginning.
+void readRaw(QByteArrayView input) {
+    const PictureKind kind = pictureKindOf(input);
+    if (kind == PictureKind::Raw) readPictureOf<PictureKind::Raw>(input);
+    if (kind == PictureKind::Tiff) readPictureOf<PictureKind::Tiff>(input);
+}
+
 // Every kind of pixel by the profile.
 void readProfile(QByteArrayView input) {
     const QByteArray profile = input.toByteArray();
@@ -209,6 +216,9 @@ constexpr FuzzTarget Targets[] = {
     {"bmp", readPictureOf<PictureKind::Bmp>},
     {"webp", readPictureOf<PictureKind::Webp>},
     {"jpeg-lossless", rewriteJpeg},
+    {"heif", readPictureOf<PictureKind::Heif>},
+    {"jxl", readPictureOf<PictureKind::Jxl>},
+    {"raw", readRaw},
     {"profile", readProfile},
     {"metadata", readMetadata},
     {"macros", expandMacros},

@@ -27,6 +27,10 @@ constexpr std::array FormatPieces = {
     FormatPiece{&ScanFormats::Tiff, QLatin1String(".tiff;.tif;")},
     FormatPiece{&ScanFormats::Gif, QLatin1String(".gif;")},
     FormatPiece{&ScanFormats::Bmp, QLatin1String(".bmp;")},
+    FormatPiece{&ScanFormats::Heic, QLatin1String(".heic;.heif;")},
+    FormatPiece{&ScanFormats::Avif, QLatin1String(".avif;")},
+    FormatPiece{&ScanFormats::Webp, QLatin1String(".webp;")},
+    FormatPiece{&ScanFormats::Jxl, QLatin1String(".jxl;")},
 };
 
 // How many entries of a folder are listed between two questions whether to go on.

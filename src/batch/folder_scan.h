@@ -20,6 +20,10 @@ struct ScanFormats {
     bool Tiff = true;
     bool Gif = true;
     bool Bmp = true;
+    bool Heic = false;
+    bool Avif = false;
+    bool Webp = false;
+    bool Jxl = false;
 };
 
 // The extensions of the ticked formats, each with its dot and a semicolon behind it: ".jpg;.jpeg;.png;".

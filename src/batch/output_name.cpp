@@ -2,6 +2,7 @@
 #include "batch/output_name.h"
 
 #include "batch/rename_pattern.h"
+#include "pictures/picture_names.h"
 #include "platform/path_parts.h"
 
 #include <QFileInfo>
@@ -15,7 +16,7 @@ bool combinesIntoOnePdf(const OutputOptions& options) {
 
 QString outputExtension(const QString& sourcePath, const OutputOptions& options) {
     const QString extension = options.OutputFormat == SameAsSourceFormat
-                                  ? pathExtension(lastPathComponent(sourcePath)).toLower()
+                                  ? writtenExtension(pathExtension(lastPathComponent(sourcePath)))
                                   : asFileName(options.OutputFormat);
     return QLatin1Char('.') + extension;
 }

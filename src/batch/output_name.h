@@ -27,8 +27,8 @@ struct OutputPlace {
 // that format only.
 bool combinesIntoOnePdf(const OutputOptions& options);
 
-// With its dot: the source's own in lower case, or the chosen one as it stands. "." where the source has
-// none.
+// With its dot: the source's own in lower case, "jpg" where its kind cannot be written, or the chosen one as it stands.
+// "." where the source has none.
 QString outputExtension(const QString& sourcePath, const OutputOptions& options);
 
 // The file name without its extension: the source's or the rename pattern filled in, then the number.

@@ -4,6 +4,7 @@
 #include "batch/lossless_photo.h"
 #include "batch/output_name.h"
 #include "batch/output_size.h"
+#include "pictures/picture_names.h"
 #include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
 #include "pictures/picture_writer.h"
@@ -41,6 +42,27 @@ std::optional<PictureFormat> formatOf(const QString& output) {
     return pictureFormatForExtension(pathExtension(lastPathComponent(output)));
 }
 
+bool isWrittenAsAnotherKind(const PhotoTask& task, const OutputOptions& options) {
+    const QString kind = pathExtension(lastPathComponent(task.source)).toLower();
+    return options.OutputFormat == SameAsSourceFormat && writtenExtension(kind) != kind;
+}
+
+PhotoWarning anotherKindWarning(const PhotoTask& task) {
+    return {-1, QStringLiteral("format"),
+            QStringLiteral("Files of the kind “%1” are not written here: the output is a JPEG.")
+                .arg(pathExtension(lastPathComponent(task.source)).toLower())};
+}
+
+// The metadata, or none with a warning.
+template <class Metadata>
+Metadata givenOrWarned(PreparedPhoto& photo, Result<Metadata> metadata) {
+    if (metadata) return *std::move(metadata);
+    photo.warnings.push_back(
+        {-1, QStringLiteral("metadata"),
+         QStringLiteral("The photo was written without its metadata: %1").arg(metadata.error().message)});
+    return {};
+}
+
 }  // namespace
 
 struct OutputWriter::CombinedPdf {
@@ -74,7 +96,8 @@ qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
 Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const std::optional<PictureFormat> format = formatOf(task.output);
     // Starting takes a while, which passes while the first photo is worked on.
-    if (format && takesMetadata(*format)) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
+    const MetadataWay metadata = format ? metadataWay(*format) : MetadataWay::None;
+    if (metadata != MetadataWay::None) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
     if (Result<void> allowed = checkMemory(task.memory, QFileInfo(task.source).size()); !allowed)
         return tl::unexpected(std::move(allowed.error()));
     std::optional<JpegWay> way;
@@ -107,9 +130,10 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     photo.jpeg = std::move(way);
     photo.lastAutoNumber = scene->lastAutoNumber;
     photo.warnings = warningsOf(*scene);
+    if (isWrittenAsAnotherKind(task, options)) photo.warnings.push_back(anotherKindWarning(task));
     if (settings_.strict && !photo.warnings.empty()) return photo;
-    const EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
-                                 scene->dpiX, scene->dpiY};
+    EncodeOptions encoding{static_cast<int>(std::clamp<std::int64_t>(options.JPEGQuality, 0, 100)),
+                           scene->dpiX, scene->dpiY};
     const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
     if (!picture.isNull() && isGlanceDue()) photo.glance = glanceOf(picture);
@@ -121,10 +145,15 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
         if (!page) return tl::unexpected(std::move(page.error()));
         photo.page = std::move(*page);
     } else {
+        if (metadata == MetadataWay::AsBlocks) {
+            encoding.metadata = givenOrWarned(
+                photo, metadata_.blocksFor(
+                           picture, {{}, task.source, options.ExifDataToInclude, dpi, settings_.copyright}));
+        }
         Result<QByteArray> file = encodePicture(picture, *format, encoding);
         if (!file) return tl::unexpected(std::move(file.error()));
         photo.file = std::move(*file);
-        if (takesMetadata(*format))
+        if (metadata == MetadataWay::IntoFile)
             addMetadata(
                 photo, [&] { return picture; }, dpi, task.source);
     }
@@ -163,15 +192,11 @@ Result<PreparedPhoto> OutputWriter::prepareLossless(const PhotoTask& task) {
 
 void OutputWriter::addMetadata(PreparedPhoto& photo, const std::function<QImage()>& picture, double dpi,
                                const QString& source) {
-    Result<QByteArray> complete = metadata_.CopyExifDataTo(
-        photo.file, picture, {{}, source, settings_.options.ExifDataToInclude, dpi, settings_.copyright});
-    if (complete) {
-        photo.file = *std::move(complete);
-    } else {
-        photo.warnings.push_back(
-            {-1, QStringLiteral("metadata"),
-             QStringLiteral("The photo was written without its metadata: %1").arg(complete.error().message)});
-    }
+    QByteArray complete = givenOrWarned(
+        photo, metadata_.CopyExifDataTo(
+                   photo.file, picture,
+                   {{}, source, settings_.options.ExifDataToInclude, dpi, settings_.copyright}));
+    if (!complete.isEmpty()) photo.file = std::move(complete);
 }
 
 bool OutputWriter::isGlanceDue() {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
+#include "pictures/picture_libraries.h"
+#include "pictures/picture_writer.h"
+
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -82,15 +85,21 @@ Complaint applyLongestSide(CommandLine& line, const QString& value) {
 }
 
 Complaint applyFormat(CommandLine& line, const QString& value) {
-    static constexpr std::array<Choice<const char*>, 7> formats = {{{"same", nullptr},
-                                                                    {"jpg", "jpg"},
-                                                                    {"png", "png"},
-                                                                    {"tiff", "tiff"},
-                                                                    {"bmp", "bmp"},
-                                                                    {"gif", "gif"},
-                                                                    {"pdf", "pdf"}}};
+    static constexpr std::array<Choice<const char*>, 11> formats = {{{"same", nullptr},
+                                                                     {"jpg", "jpg"},
+                                                                     {"png", "png"},
+                                                                     {"tiff", "tiff"},
+                                                                     {"bmp", "bmp"},
+                                                                     {"gif", "gif"},
+                                                                     {"pdf", "pdf"},
+                                                                     {"webp", "webp"},
+                                                                     {"avif", "avif"},
+                                                                     {"jxl", "jxl"},
+                                                                     {"heic", "heic"}}};
     const char* extension = nullptr;
     const Complaint complaint = choose<const char*>(formats, value, extension);
+    if (extension != nullptr && !pictureFormatForExtension(QString(QLatin1String(extension))))
+        return QStringLiteral("cannot be %1: this machine has no encoder for it").arg(value);
     if (complaint.isNull()) {
         line.format = extension != nullptr ? QLatin1String(extension) : SameAsSourceFormat;
     }
@@ -107,11 +116,15 @@ Complaint applyMetadata(CommandLine& line, const QString& value) {
 }
 
 Complaint applyExtensions(CommandLine& line, const QString& value) {
-    static constexpr std::array<Choice<bool ScanFormats::*>, 5> formats = {{{"jpeg", &ScanFormats::Jpeg},
+    static constexpr std::array<Choice<bool ScanFormats::*>, 9> formats = {{{"jpeg", &ScanFormats::Jpeg},
                                                                             {"png", &ScanFormats::Png},
                                                                             {"tiff", &ScanFormats::Tiff},
                                                                             {"gif", &ScanFormats::Gif},
-                                                                            {"bmp", &ScanFormats::Bmp}}};
+                                                                            {"bmp", &ScanFormats::Bmp},
+                                                                            {"heic", &ScanFormats::Heic},
+                                                                            {"avif", &ScanFormats::Avif},
+                                                                            {"webp", &ScanFormats::Webp},
+                                                                            {"jxl", &ScanFormats::Jxl}}};
     line.extensions = {false, false, false, false, false};
     for (const QString& word : value.split(QLatin1Char(','))) {
         bool ScanFormats::*ticked = nullptr;
@@ -171,8 +184,11 @@ const std::array Options = {
            text<&CommandLine::output>},
     Option{nullptr, "options", "FILE", "start from an OutputSettings.xml; the options below override it",
            text<&CommandLine::optionsFile>},
-    Option{"f", "format", "FORMAT", "same, jpg, png, tiff, bmp, gif or pdf (default: same)", applyFormat},
-    Option{"q", "quality", "0..100", "JPEG quality (default: 90)",
+    Option{"f", "format", "FORMAT",
+           "same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)", applyFormat},
+    Option{"q", "quality", "0..100",
+           "quality of JPEG, WebP, AVIF, JPEG XL and HEIC; at 100 WebP, JPEG XL\nand, where its encoder can, "
+           "AVIF are lossless (default: 90)",
            wholeNumber<&CommandLine::quality, 0, 100>},
     Option{nullptr, "jpeg-lossless", nullptr,
            "JPEG to JPEG: only the blocks that a watermark touches are encoded\nagain, with the photo's own "
@@ -206,7 +222,8 @@ const std::array Options = {
            "a Copyright.xml to write into the outputs\n(default: your own, if the setting asks for it)",
            text<&CommandLine::copyrightFile>},
     Option{"r", "recursive", nullptr, "scan sub-folders too", turn<&CommandLine::recursive>},
-    Option{nullptr, "extensions", "LIST", "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: all)",
+    Option{nullptr, "extensions", "LIST",
+           "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these)\nand heic,avif,webp,jxl",
            applyExtensions},
     Option{"j", "jobs", "N", "photos worked on at a time (default: the number of cores)",
            wholeNumber<&CommandLine::jobs, 1, Unbounded>},
@@ -321,6 +338,11 @@ Result<CommandLine> parseCommandLine(const QStringList& arguments) {
 
 bool asksForJson(const QStringList& arguments) {
     return arguments.contains(QStringLiteral("--json"));
+}
+
+QString versionText() {
+    return QStringLiteral("zelto-batch " ZELTO_VERSION "\nWith ") +
+           pictureLibraries().join(QStringLiteral(", ")) + QLatin1Char('\n');
 }
 
 QString helpText() {

@@ -69,4 +69,7 @@ bool asksForJson(const QStringList& arguments);
 
 QString helpText();
 
+// The program's version and those of the picture libraries that this build has.
+QString versionText();
+
 }  // namespace zelto

@@ -2,6 +2,7 @@
 #include "cli/console.h"
 
 #include "cli/printable.h"
+#include "platform/process_setup.h"
 
 #include <QByteArray>
 
@@ -9,7 +10,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace zelto {
 namespace {
@@ -28,9 +28,7 @@ int columns() {
 }
 
 void print(const QString& text) {
-    const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
-    std::fflush(stderr);
+    printError(text.toLocal8Bit());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 
 #include <langinfo.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <clocale>
@@ -117,7 +118,7 @@ int usageError(const Error& error, bool json) {
         why = exception.what();
     } catch (...) {
     }
-    std::fprintf(stderr, "zelto-batch: the run cannot go on: %s\n", why);
+    ::dprintf(STDERR_FILENO, "zelto-batch: the run cannot go on: %s\n", why);
     std::_Exit(exit_status::SomeFailed);
 }
 
@@ -128,7 +129,7 @@ int run(int argc, char** argv) {
     const Result<CommandLine> line = parseCommandLine(arguments);
     if (!line) return usageError(line.error(), asksForJson(arguments));
     if (line->help || line->version) {
-        const QString text = line->help ? helpText() : QStringLiteral("zelto-batch " ZELTO_VERSION "\n");
+        const QString text = line->help ? helpText() : versionText();
         return printResult(text.toUtf8()) ? exit_status::Success : exit_status::SomeFailed;
     }
 
@@ -153,11 +154,12 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     zelto::prepareProcess();
+    zelto::keepLibrariesQuiet();
     std::set_terminate(zelto::giveUp);
     try {
         return zelto::run(argc, argv);
     } catch (const std::exception& exception) {
-        std::fprintf(stderr, "zelto-batch: %s\n", exception.what());
+        zelto::printError(QByteArray("zelto-batch: ") + exception.what() + '\n');
         return zelto::exit_status::CannotBeUsed;
     }
 }

@@ -30,8 +30,7 @@ QByteArray smallVersion(const QImage& picture, QSize box, qsizetype bytes) {
          box /= 2) {
         const QImage small = reduced(picture, box);
         for (const int quality : Qualities) {
-            const Result<QByteArray> file =
-                encodePicture(small, PictureFormat::Jpeg, {.jpegQuality = quality});
+            const Result<QByteArray> file = encodePicture(small, PictureFormat::Jpeg, {.quality = quality});
             if (file && file->size() <= bytes) return *file;
         }
     }

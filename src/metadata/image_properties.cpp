@@ -24,6 +24,7 @@ std::mutex& parserMutex() {
     static std::mutex mutex;
     static const bool ready = [] {
         Exiv2::LogMsg::setHandler(logMessage);
+        Exiv2::enableBMFF(true);  // HEIC, AVIF, JPEG XL and some raw files
         return Exiv2::XmpParser::initialize();
     }();
     Q_UNUSED(ready)
@@ -37,11 +38,12 @@ ImageProperties readImageProperties(const QString& path) {
     // exiv2 would wait for a pipe, and take a relative path such as "http:x" for an address.
     if (!file.isFile()) return {};
     ImageProperties properties;
+    std::mutex& mutex = parserMutex();
     try {
         const auto image =
             Exiv2::ImageFactory::open(QFile::encodeName(file.absoluteFilePath()).toStdString());
         try {
-            const std::lock_guard lock(parserMutex());
+            const std::lock_guard lock(mutex);
             image->readMetadata();
         } catch (const std::exception& error) {
             qCDebug(metadataLog) << path << error.what();

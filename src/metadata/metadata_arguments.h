@@ -14,7 +14,7 @@
 namespace zelto {
 
 struct MetadataRequest {
-    QString output;  // the JPEG or TIFF that gets the metadata
+    QString output;  // the JPEG, TIFF or WebP that gets the metadata
     QString source;  // the photo that has them
     std::int64_t exifDataToInclude = 0;
     double resolution = 72.0;  // of the output picture, dots per inch
@@ -30,7 +30,7 @@ struct MetadataFaults {
     bool resolution = false;  // the output does not record the request's resolution
     bool positions = false;   // it may say where the photo was taken, though it is not to
     bool pictures = false;  // it holds pictures of the photo without its watermarks, in XMP or behind its own
-    bool isJpeg = true;     // and not a TIFF, which has no JFIF block
+    bool isJpeg = true;     // and not a TIFF or WebP, which have no JFIF block
 };
 
 // The argument list of a second command that sets right where the first misses what it is for; empty when nothing is to

@@ -4,6 +4,7 @@
 #include "metadata/embedded_pictures.h"
 #include "metadata/output_parts.h"
 #include "metadata/recorded_resolution.h"
+#include "metadata/webp_chunks.h"
 #include "pictures/jpeg_decoder.h"
 #include "pictures/picture_kind.h"
 #include "platform/kept_file.h"
@@ -115,8 +116,19 @@ QByteArray withOwnSmallPictures(QByteArray file, const std::function<QImage()>& 
 
 }  // namespace
 
-bool takesMetadata(PictureFormat format) {
-    return format == PictureFormat::Jpeg || format == PictureFormat::Tiff;
+MetadataWay metadataWay(PictureFormat format) {
+    switch (format) {
+        case PictureFormat::Jpeg:
+        case PictureFormat::Tiff:
+            return MetadataWay::IntoFile;
+        case PictureFormat::Webp:
+        case PictureFormat::Avif:
+        case PictureFormat::Heic:
+        case PictureFormat::Jxl:
+            return MetadataWay::AsBlocks;
+        default:
+            return MetadataWay::None;
+    }
 }
 
 Result<QString> MetadataTransfer::privatePath() {
@@ -129,15 +141,8 @@ Result<QString> MetadataTransfer::privatePath() {
     return folder_->filePath(QStringLiteral("output%1").arg(++lastNumber_));
 }
 
-Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output, const QImage& picture,
-                                                    MetadataRequest request) {
-    return CopyExifDataTo(
-        output, [&] { return picture; }, std::move(request));
-}
-
-Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output,
-                                                    const std::function<QImage()>& picture,
-                                                    MetadataRequest request) {
+Result<QByteArray> MetadataTransfer::filled(const QByteArray& standIn, const std::function<QImage()>& picture,
+                                            MetadataRequest request) {
     // An absolute path: none starts like an option, and exiftool's working folder is not this program's.
     request.source = QFileInfo(request.source).absoluteFilePath();
     std::optional<KeptFile> safeSource;
@@ -151,15 +156,39 @@ Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output,
     if (!path) return tl::unexpected(path.error());
     request.output = *path;
     const StandInFile file(*path, pool_, Clock::now() + timeout_);
-    return file.begin(standIn(output))
+    return file.begin(standIn)
         .and_then([&] { return file.after(metadataArguments(request)); })
-        .and_then([&](QByteArray filled) -> Result<QByteArray> {
-            const QStringList mend = mendArguments(request, faultsOf(filled, request));
-            return mend.isEmpty() ? Result<QByteArray>(std::move(filled)) : file.after(mend);
+        .and_then([&](QByteArray first) -> Result<QByteArray> {
+            const QStringList mend = mendArguments(request, faultsOf(first, request));
+            return mend.isEmpty() ? Result<QByteArray>(std::move(first)) : file.after(mend);
         })
-        .and_then([&](QByteArray filled) { return withoutSecrets(std::move(filled), request); })
-        .and_then([&](const QByteArray& filled) { return withMetadataOf(filled, output); })
-        .map([&](QByteArray whole) { return withOwnSmallPictures(std::move(whole), picture); });
+        .and_then([&](QByteArray mended) { return withoutSecrets(std::move(mended), request); })
+        .map([&](QByteArray mended) { return withOwnSmallPictures(std::move(mended), picture); });
+}
+
+Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output, const QImage& picture,
+                                                    MetadataRequest request) {
+    return CopyExifDataTo(
+        output, [&] { return picture; }, std::move(request));
+}
+
+Result<QByteArray> MetadataTransfer::CopyExifDataTo(const QByteArray& output,
+                                                    const std::function<QImage()>& picture,
+                                                    MetadataRequest request) {
+    return filled(standIn(output), picture, std::move(request)).and_then([&](const QByteArray& file) {
+        return withMetadataOf(file, output);
+    });
+}
+
+Result<MetadataBlocks> MetadataTransfer::blocksFor(const QImage& picture, MetadataRequest request) {
+    return filled(
+               smallestWebp(), [&] { return picture; }, std::move(request))
+        .and_then([](const QByteArray& file) -> Result<MetadataBlocks> {
+            if (!webpChunks(file))
+                return fail(ErrorCode::ProgramFailed,
+                            QStringLiteral("exiftool left a file that is not the one it was given."));
+            return MetadataBlocks{exifOfWebp(file).toByteArray(), xmpOfWebp(file).toByteArray()};
+        });
 }
 
 }  // namespace zelto

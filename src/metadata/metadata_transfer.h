@@ -27,8 +27,13 @@ namespace zelto {
 // How long exiftool may take for one output.
 inline constexpr std::chrono::milliseconds MetadataTimeout = std::chrono::seconds(60);
 
-// Whether outputs of `format` are given metadata at all.
-bool takesMetadata(PictureFormat format);
+// How outputs of a format are given metadata.
+enum class MetadataWay {
+    None,
+    IntoFile,  // CopyExifDataTo() puts them into the encoded file
+    AsBlocks   // blocksFor() makes the blocks that its encoder is given
+};
+MetadataWay metadataWay(PictureFormat format);
 
 // Any thread, several outputs at a time.
 class MetadataTransfer {
@@ -46,8 +51,15 @@ class MetadataTransfer {
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const std::function<QImage()>& picture,
                                       MetadataRequest request);
 
+    // The same for an output of another kind that is yet to be encoded from `picture`: exiftool fills a tiny WebP file, and
+    // the Exif and XMP blocks are taken from that. IPTC has no place in such files.
+    Result<MetadataBlocks> blocksFor(const QImage& picture, MetadataRequest request);
+
   private:
     Result<QString> privatePath();
+    // What exiftool makes of `standIn`, with nothing in it that the request leaves out, and small pictures of `picture`.
+    Result<QByteArray> filled(const QByteArray& standIn, const std::function<QImage()>& picture,
+                              MetadataRequest request);
 
     ExiftoolPool& pool_;
     const std::chrono::milliseconds timeout_;

@@ -3,6 +3,7 @@
 
 #include "metadata/jpeg_segments.h"
 #include "metadata/tiff_entries.h"
+#include "metadata/webp_chunks.h"
 
 #include <algorithm>
 #include <array>
@@ -138,10 +139,18 @@ std::vector<ByteRange> metadataRanges(QByteArrayView file) {
         }
         return ranges;
     }
+    if (const auto chunks = webpChunks(file)) {
+        for (const WebpChunk& chunk : *chunks) {
+            const qsizetype from = chunk.content.data() - file.data();
+            if (chunk.isMetadata()) ranges.emplace_back(from, from + chunk.content.size());
+        }
+        return ranges;
+    }
     return gapsBetween(strips(file).value_or(std::vector<ByteRange>()), file.size());
 }
 
 bool holdsPosition(QByteArrayView file) {
+    if (webpChunks(file)) return hasPositionTag(exifOfWebp(file));
     const std::optional<JpegParts> parts = jpegParts(file);
     if (!parts) return hasPositionTag(file);
     return std::any_of(parts->segments.begin(), parts->segments.end(),

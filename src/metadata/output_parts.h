@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which bytes of a written JPEG or TIFF file are its picture and which are about it. exiftool only ever touches the
+// Which bytes of a written JPEG or TIFF file, or of a WebP stand-in, are its picture and which are about it. exiftool only ever touches the
 // latter, so it is given a stand-in, and what it made of that is looked at before it goes into the output. Any thread.
 #pragma once
 

@@ -2,6 +2,7 @@
 #include "metadata/recorded_resolution.h"
 
 #include "metadata/jpeg_segments.h"
+#include "metadata/webp_chunks.h"
 #include "pictures/exif_facts.h"
 #include "pictures/resolution.h"
 
@@ -41,7 +42,8 @@ std::vector<double> resolutionsOf(const JpegParts& jpeg) {
 
 bool recordsResolution(QByteArrayView file, double dpi) {
     const std::optional<JpegParts> jpeg = jpegParts(file);
-    std::vector<double> stated = jpeg ? resolutionsOf(*jpeg) : std::vector{readExifFacts(file).dpiX};
+    const QByteArrayView exif = webpChunks(file) ? exifOfWebp(file) : file;
+    std::vector<double> stated = jpeg ? resolutionsOf(*jpeg) : std::vector{readExifFacts(exif).dpiX};
     if (stated.empty()) stated.push_back(DefaultDpi);
     constexpr double WholeDotsPerCentimetre = 1.28;
     return std::all_of(stated.begin(), stated.end(), [dpi](double value) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The resolution a JPEG or TIFF file states, told from its header without decoding it. Any thread.
+// The resolution a JPEG, TIFF or WebP file states, told from its header without decoding it. Any thread.
 #pragma once
 
 #include <QByteArrayView>

@@ -53,6 +53,8 @@ ExifFacts readExifFacts(QByteArrayView exif) {
     // Its warnings about camera makers' private data would end up among the program's own messages.
     static const bool quiet = (Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute), true);
     Q_UNUSED(quiet)
+    constexpr QByteArrayView Signature("Exif\0\0", 6);
+    if (exif.startsWith(Signature)) exif = exif.sliced(Signature.size());
     try {
         Exiv2::ExifData data;
         Exiv2::ExifParser::decode(data, reinterpret_cast<const Exiv2::byte*>(exif.data()),

@@ -19,8 +19,8 @@ void setUp(jpeg_compress_struct& codec, const QImage& picture, const EncodeOptio
     codec.input_components = 4;
     codec.in_color_space = QRgbOrder;
     jpeg_set_defaults(&codec);
-    jpeg_set_quality(&codec, options.jpegQuality, TRUE);
-    if (options.jpegQuality >= WholeChromaQuality) {
+    jpeg_set_quality(&codec, options.quality, TRUE);
+    if (options.quality >= WholeChromaQuality) {
         codec.comp_info[0].h_samp_factor = 1;
         codec.comp_info[0].v_samp_factor = 1;
     }
@@ -82,7 +82,7 @@ Result<QByteArray> encodeJpeg(const QImage& picture, const EncodeOptions& option
 }
 
 Result<QByteArray> encodeJpegColours(const QImage& picture, int quality) {
-    return encode(picture, {.jpegQuality = quality}, rowOpaque);
+    return encode(picture, {.quality = quality}, rowOpaque);
 }
 
 }  // namespace zelto

@@ -100,7 +100,7 @@ ExifFacts JpegFile::readExif() const {
     for (auto* marker = info_.marker_list; marker != nullptr; marker = marker->next) {
         const QByteArrayView data(marker->data, qsizetype{marker->data_length});
         if (marker->marker == JPEG_APP0 + 1 && data.startsWith(Signature)) {
-            return readExifFacts(data.sliced(Signature.size()));
+            return readExifFacts(data);
         }
     }
     return {};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The encoder of each file format, one per file. encodePicture() chooses among them after it has checked what
 // they all rely on: a picture of pixels, RGB32 or premultiplied ARGB32, within the format's limits. They read
-// it row by row, so that no second whole picture is ever made. Errors: ErrorCode::CannotWrite with the
+// it row by row, so that no second whole picture is ever made but where a library asks for one. Errors: ErrorCode::CannotWrite with the
 // library's own words. Any thread.
 #pragma once
 
@@ -22,6 +22,14 @@ Result<QByteArray> encodeTiff(const QImage& picture, const EncodeOptions& option
 Result<QByteArray> encodeBmp(const QImage& picture, const EncodeOptions& options);
 Result<QByteArray> encodeGif(const QImage& picture, const EncodeOptions& options);
 Result<QByteArray> encodePdf(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeWebp(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeAvif(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeHeic(const QImage& picture, const EncodeOptions& options);
+Result<QByteArray> encodeJxl(const QImage& picture, const EncodeOptions& options);
+
+// Whether libheif has an encoder for the format on this machine.
+bool canEncodeAvif();
+bool canEncodeHeic();
 
 // For the callbacks that libraries hand their bytes to: false where memory does not suffice, since no exception may
 // pass through a library written in C.

@@ -2,7 +2,6 @@
 #include "pictures/picture_facts.h"
 
 #include "pictures/color_profile.h"
-#include "pictures/exif_facts.h"
 #include "pictures/resolution.h"
 #include "pictures/upright.h"
 
@@ -24,32 +23,6 @@ std::optional<PictureFacts> readBmpFacts(QIODevice& device) {
         const char* dots = header.constData() + DotsPerMeterAt;
         facts.dpiX = qFromLittleEndian<qint32>(dots) / InchesPerMeter;
         facts.dpiY = qFromLittleEndian<qint32>(dots + 4) / InchesPerMeter;
-    }
-    return facts;
-}
-
-std::optional<PictureFacts> readWebpFacts(QIODevice& device) {
-    constexpr qint64 ChunkHeader = 8;
-    constexpr qint64 MaximumExif = 1 << 20;
-    const QByteArray riff = device.read(12);
-    if (riff.size() != 12) return std::nullopt;
-    const qint64 end = ChunkHeader + qFromLittleEndian<quint32>(riff.constData() + 4);
-    if (end > device.size()) return std::nullopt;
-
-    PictureFacts facts;
-    for (qint64 position = 12; position + ChunkHeader <= end;) {
-        if (!device.seek(position)) return std::nullopt;
-        const QByteArray header = device.read(ChunkHeader);
-        if (header.size() != ChunkHeader) return std::nullopt;
-        const qint64 length = qFromLittleEndian<quint32>(header.constData() + 4);
-        if (header.startsWith("EXIF") && length <= MaximumExif) {
-            const ExifFacts exif = readExifFacts(device.read(length));
-            facts.orientation = exif.orientation;
-            facts.dpiX = exif.dpiX;
-            facts.dpiY = exif.dpiY;
-            break;
-        }
-        position += ChunkHeader + length + length % 2;
     }
     return facts;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a file says about its picture beside the pixels: resolution, EXIF orientation, ICC profile. The functions read
+// What a file says about its picture beside the pixels: resolution, EXIF orientation, ICC profile. The function reads
 // it where no decoder passes it on, and check that the file is complete; each leaves `device` wherever it likes.
 #pragma once
 
@@ -18,12 +18,11 @@ struct PictureFacts {
     double dpiX = 0.0;    // as stored (not upright); 0 where none is recorded
     double dpiY = 0.0;
     // The profile to convert from, empty for sRGB. Not set where the decoded picture knows its colours.
-    std::optional<QByteArray> profile;
+    std::optional<QByteArray> profile = std::nullopt;
 };
 
-// Nothing where the file ends early or its headers are broken.
+// Those of a BMP file, which no decoder passes on. Leaves `device` wherever it likes.
 std::optional<PictureFacts> readBmpFacts(QIODevice& device);
-std::optional<PictureFacts> readWebpFacts(QIODevice& device);
 
 // What a picture of `stored` pixels that takes `memory` bytes to decode needs in all, being turned included.
 PictureNeeds needsOf(QSize stored, int orientation, qint64 memory);

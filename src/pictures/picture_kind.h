@@ -14,6 +14,9 @@ enum class PictureKind {
     Gif,
     Bmp,
     Webp,
+    Heif,  // HEIC and AVIF
+    Jxl,
+    Raw,      // of a camera; those that are TIFF files within are told apart by isCameraRaw()
     Drawing,  // shapes rather than pixels (SVG, PDF, PostScript): known, so that it can be refused in words
 };
 

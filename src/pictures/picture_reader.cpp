@@ -2,13 +2,19 @@
 #include "pictures/picture_reader.h"
 
 #include "pictures/gif_decoder.h"
+#include "pictures/heif_decoder.h"
 #include "pictures/jpeg_decoder.h"
+#include "pictures/jxl_decoder.h"
 #include "pictures/picture_file.h"
 #include "pictures/picture_kind.h"
+#include "pictures/picture_libraries.h"
 #include "pictures/picture_memory.h"
 #include "pictures/picture_needs.h"
 #include "pictures/plugin_decoder.h"
 #include "pictures/png_decoder.h"
+#include "pictures/raw_decoder.h"
+#include "pictures/tiff_decoder.h"
+#include "pictures/webp_decoder.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -35,20 +41,45 @@ constexpr Decoder Decoders[] = {
     {PictureKind::Gif, gifNeeds, decodeGif},
     PluginDecoder<PictureKind::Tiff>,
     PluginDecoder<PictureKind::Bmp>,
-    PluginDecoder<PictureKind::Webp>,
+    {PictureKind::Webp, webpNeeds, decodeWebp},
+    {PictureKind::Heif, heifNeeds, decodeHeif},
+    {PictureKind::Jxl, jxlNeeds, decodeJxl},
+    {PictureKind::Raw, rawPreviewNeeds, decodeRawPreview},
 };
 
 tl::unexpected<Error> damaged() {
     return fail(ErrorCode::Damaged, QString(DamagedPictureMessage));
 }
 
-Result<const Decoder*> decoderOf(QIODevice& device) {
+// The kinds that a build may do without.
+struct OptionalKind {
+    PictureKind kind;
+    const char* name;
+    const char* (*library)();
+};
+constexpr OptionalKind OptionalKinds[] = {{PictureKind::Webp, "WebP", webpLibrary},
+                                          {PictureKind::Heif, "HEIC and AVIF", heifLibrary},
+                                          {PictureKind::Jxl, "JPEG XL", jxlLibrary},
+                                          {PictureKind::Raw, "camera raw", rawLibrary}};
+
+PictureKind kindOf(QIODevice& device) {
     const PictureKind kind = pictureKindOf(device.peek(PictureKindBytes));
+    if (kind != PictureKind::Tiff || !isCameraRaw(device)) return kind;
+    return PictureKind::Raw;
+}
+
+Result<const Decoder*> decoderOf(QIODevice& device) {
+    const PictureKind kind = kindOf(device);
+    device.seek(0);
     if (kind == PictureKind::Drawing) {
         return fail(ErrorCode::Damaged,
-                    QStringLiteral(
-                        "This is a drawing (SVG, PDF or PostScript). Zelto reads JPEG, PNG, TIFF, GIF, BMP "
-                        "and WebP pictures: save it as PNG."));
+                    QStringLiteral("This is a drawing (SVG, PDF or PostScript). Zelto reads photos and other "
+                                   "pictures made of pixels: save it as PNG."));
+    }
+    const auto* optional = std::ranges::find(OptionalKinds, kind, &OptionalKind::kind);
+    if (optional != std::end(OptionalKinds) && optional->library() == nullptr) {
+        return fail(ErrorCode::Damaged, QStringLiteral("This Zelto was built without a reader of %1 files.")
+                                            .arg(QLatin1String(optional->name)));
     }
     const auto* found = std::ranges::find(Decoders, kind, &Decoder::kind);
     if (found == std::end(Decoders)) return damaged();
@@ -127,6 +158,11 @@ Result<PictureNeeds> readPictureNeeds(const QString& path) {
     return withFile(path, [](QFile& file) {
         return decoderOf(file).and_then([&](const Decoder* decoder) { return checkedNeeds(file, *decoder); });
     });
+}
+
+bool isRawPreview(const QString& path) {
+    return withFile(path, [](QFile& file) -> Result<PictureKind> { return kindOf(file); }) ==
+           PictureKind::Raw;
 }
 
 Result<QSize> readPictureSize(const QString& path) {

@@ -8,8 +8,8 @@
 //     paint(photo->image);
 //
 // What all of src/pictures shares:
-// - Files come from strangers. Only regular files are opened, only JPEG, PNG, TIFF, GIF, BMP and WebP are read, told by
-//   their bytes and never by their names. A file's headers say what reading will cost before anything is decoded
+// - Files come from strangers. Only regular files are opened, only JPEG, PNG, TIFF, GIF, BMP, WebP, HEIC, AVIF and
+//   JPEG XL are read, and the previews in cameras' raw files, told by their bytes and never by their names. A file's headers say what reading will cost before anything is decoded
 //   (picture_needs.h); too much is refused. A file that ends early counts as damaged: no half picture is returned.
 // - Memory that runs out is an error (ErrorCode::OutOfMemory), never a picture without some part. Inside the folder it
 //   travels as std::bad_alloc, and readers and writers of pictures turn it into the error; no exception passes through
@@ -63,5 +63,8 @@ Result<Picture> readThumbnail(const QString& path, QSize bound);
 // From the file's headers, without decoding its pixels: the upright size, and all that reading will need.
 Result<QSize> readPictureSize(const QString& path);
 Result<PictureNeeds> readPictureNeeds(const QString& path);
+
+// Whether readPicture() gives the preview in a camera's raw file and not what the camera's data could be made into.
+bool isRawPreview(const QString& path);
 
 }  // namespace zelto

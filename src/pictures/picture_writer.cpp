@@ -2,6 +2,7 @@
 #include "pictures/picture_writer.h"
 
 #include "pictures/picture_encoders.h"
+#include "pictures/picture_libraries.h"
 #include "pictures/picture_memory.h"
 
 #include <algorithm>
@@ -17,7 +18,21 @@ struct FormatEntry {
     qint64 maximumBytes;  // of the pixels as the format stores them uncompressed
     int bytesPerPixel;
     Result<QByteArray> (*encode)(const QImage&, const EncodeOptions&);
+    bool (*isAvailable)();
+    bool hasQuality = false;
 };
+
+bool always() {
+    return true;
+}
+
+bool hasWebp() {
+    return webpLibrary() != nullptr;
+}
+
+bool hasJxl() {
+    return jxlLibrary() != nullptr;
+}
 
 constexpr qint64 NoLimit = std::numeric_limits<qint64>::max();
 constexpr qint64 FourGigabytes = qint64{1} << 32;
@@ -26,12 +41,16 @@ constexpr int AnySide = std::numeric_limits<int>::max();
 // In the order of the enumeration. PNG itself could hold larger sides, but its library, and so nearly every reader,
 // refuses them.
 constexpr std::array Formats = {
-    FormatEntry{PictureFormat::Jpeg, "JPEG", 65500, NoLimit, 3, encodeJpeg},
-    FormatEntry{PictureFormat::Png, "PNG", 1000000, NoLimit, 4, encodePng},
-    FormatEntry{PictureFormat::Tiff, "TIFF", AnySide, FourGigabytes, 4, encodeTiff},
-    FormatEntry{PictureFormat::Bmp, "BMP", AnySide, FourGigabytes, 3, encodeBmp},
-    FormatEntry{PictureFormat::Gif, "GIF", 65535, NoLimit, 1, encodeGif},
-    FormatEntry{PictureFormat::Pdf, "PDF", 65500, NoLimit, 3, encodePdf},
+    FormatEntry{PictureFormat::Jpeg, "JPEG", 65500, NoLimit, 3, encodeJpeg, always, true},
+    FormatEntry{PictureFormat::Png, "PNG", 1000000, NoLimit, 4, encodePng, always},
+    FormatEntry{PictureFormat::Tiff, "TIFF", AnySide, FourGigabytes, 4, encodeTiff, always},
+    FormatEntry{PictureFormat::Bmp, "BMP", AnySide, FourGigabytes, 3, encodeBmp, always},
+    FormatEntry{PictureFormat::Gif, "GIF", 65535, NoLimit, 1, encodeGif, always},
+    FormatEntry{PictureFormat::Pdf, "PDF", 65500, NoLimit, 3, encodePdf, always},
+    FormatEntry{PictureFormat::Webp, "WebP", 16383, NoLimit, 4, encodeWebp, hasWebp, true},
+    FormatEntry{PictureFormat::Avif, "AVIF", 65536, NoLimit, 4, encodeAvif, canEncodeAvif, true},
+    FormatEntry{PictureFormat::Heic, "HEIC", 16384, NoLimit, 4, encodeHeic, canEncodeHeic, true},
+    FormatEntry{PictureFormat::Jxl, "JPEG XL", AnySide, NoLimit, 4, encodeJxl, hasJxl, true},
 };
 
 struct ExtensionEntry {
@@ -48,6 +67,11 @@ constexpr std::array Extensions = {
     ExtensionEntry{QLatin1String("bmp"), PictureFormat::Bmp},
     ExtensionEntry{QLatin1String("gif"), PictureFormat::Gif},
     ExtensionEntry{QLatin1String("pdf"), PictureFormat::Pdf},
+    ExtensionEntry{QLatin1String("webp"), PictureFormat::Webp},
+    ExtensionEntry{QLatin1String("avif"), PictureFormat::Avif},
+    ExtensionEntry{QLatin1String("heic"), PictureFormat::Heic},
+    ExtensionEntry{QLatin1String("heif"), PictureFormat::Heic},
+    ExtensionEntry{QLatin1String("jxl"), PictureFormat::Jxl},
 };
 
 }  // namespace
@@ -57,8 +81,13 @@ std::optional<PictureFormat> pictureFormatForExtension(QStringView extension) {
         std::find_if(Extensions.begin(), Extensions.end(), [extension](const auto& candidate) {
             return extension.compare(candidate.extension, Qt::CaseInsensitive) == 0;
         });
-    if (entry == Extensions.end()) return std::nullopt;
+    if (entry == Extensions.end() || !Formats[static_cast<std::size_t>(entry->format)].isAvailable())
+        return std::nullopt;
     return entry->format;
+}
+
+bool hasQuality(PictureFormat format) {
+    return Formats[static_cast<std::size_t>(format)].hasQuality;
 }
 
 Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, const EncodeOptions& options) {

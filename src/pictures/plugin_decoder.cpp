@@ -63,7 +63,6 @@ const FormatRow& rowOf(PictureKind kind) {
     static constexpr FormatRow Rows[] = {
         {PictureKind::Tiff, "tiff", readTiffFacts, false, 8},
         {PictureKind::Bmp, "bmp", readBmpFacts, true, 5},
-        {PictureKind::Webp, "webp", readWebpFacts, false, 16},
     };
     return *std::ranges::find(Rows, kind, &FormatRow::kind);
 }

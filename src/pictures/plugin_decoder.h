@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The kinds of files that one of Qt's image format plugins decodes: TIFF (but for the layouts of tiff_decoder.h), BMP
-// and WebP.
+// The kinds of files that one of Qt's image format plugins decodes: TIFF (but for the layouts of tiff_decoder.h) and
+// BMP.
 #pragma once
 
 #include "pictures/picture_kind.h"

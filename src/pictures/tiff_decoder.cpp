@@ -15,6 +15,8 @@
 namespace zelto {
 namespace {
 
+constexpr std::uint16_t LinearRaw = 34892;  // a photometric interpretation that libtiff has no name for
+
 // What libtiff reads from. It asks for exactly the bytes that the file says are there, so a read that comes
 // up short means that the file has lost its end, even where libtiff makes do with a default.
 struct Source {
@@ -277,6 +279,27 @@ std::optional<TiffSamples> readTiffSamples(QIODevice& device) {
     if (!layout->isCmyk) spreadGrey(image);
     samples.image = std::move(image);
     return samples;
+}
+
+bool isCameraRaw(QIODevice& device) {
+    device.seek(0);
+    Source source{device};
+    const TiffHandle tiff = openTiff(source);
+    if (!tiff) return false;
+    const auto isSensorData = [&] {
+        const auto photometric = field<std::uint16_t>(tiff.get(), TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+        return photometric == PHOTOMETRIC_CFA || photometric == LinearRaw;
+    };
+    std::uint16_t count = 0;
+    void* data = nullptr;
+    if (isSensorData() || TIFFGetField(tiff.get(), TIFFTAG_DNGVERSION, &data) == 1) return true;
+    if (TIFFGetField(tiff.get(), TIFFTAG_SUBIFD, &count, &data) != 1) return false;
+    constexpr std::uint16_t MostPictures = 8;
+    const auto* const first = static_cast<const toff_t*>(data);
+    const std::vector<toff_t> directories(first, first + std::min(count, MostPictures));
+    return std::ranges::any_of(directories, [&](toff_t directory) {
+        return TIFFSetSubDirectory(tiff.get(), directory) == 1 && isSensorData();
+    });
 }
 
 }  // namespace zelto

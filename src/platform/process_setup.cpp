@@ -6,7 +6,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <initializer_list>
 #include <latch>
 #include <system_error>
@@ -53,6 +56,20 @@ Result<void> startDrawingThreads() {
     for (int i = 0; i < threads; ++i) pool.start([&all] { all.arrive_and_wait(); });
     pool.waitForDone();
     return {};
+}
+
+void keepLibrariesQuiet() {
+    // In the GNU C library standard error is a variable that may be set like any other.
+    if (std::FILE* const nowhere = std::fopen("/dev/null", "we")) stderr = nowhere;
+}
+
+void printError(const QByteArray& text) {
+    for (qsizetype done = 0; done < text.size();) {
+        const auto left = static_cast<std::size_t>(text.size() - done);
+        const ssize_t written = ::write(STDERR_FILENO, text.constData() + done, left);
+        if (written < 0 && errno != EINTR) return;
+        done += std::max<ssize_t>(written, 0);
+    }
 }
 
 }  // namespace zelto

@@ -4,6 +4,8 @@
 
 #include "platform/result.h"
 
+#include <QByteArray>
+
 namespace zelto {
 
 // Opens the null device for standard input, output and error where they are closed: the first photo opened would
@@ -15,5 +17,12 @@ void prepareProcess();
 // the system then refuses (a limit of threads or memory) waits for them for ever. Error where not even one could be
 // started. Needs an application object.
 Result<void> startDrawingThreads();
+
+// Has what libraries print on standard error by themselves go nowhere: some know no other way to be quiet. What the
+// program itself has to say there goes through printError().
+void keepLibrariesQuiet();
+
+// Writes `text` to standard error, in one piece where that takes it. What it does not take is lost. Any thread.
+void printError(const QByteArray& text);
 
 }  // namespace zelto

@@ -81,7 +81,7 @@ TEST_F(Options, HelpAndVersionNeedNothing) {
     EXPECT_LT(help.output.indexOf("Examples"), help.output.indexOf("Options:")) << "examples first";
     for (const char* option : {"--setting", "--shard", "--on-repeated-failure", "Exit status"})
         EXPECT_TRUE(help.output.contains(option)) << option;
-    EXPECT_EQ(runBare({u"--version"_s}).output, "zelto-batch " ZELTO_VERSION "\n");
+    EXPECT_TRUE(runBare({u"--version"_s}).output.startsWith("zelto-batch " ZELTO_VERSION "\nWith libheif "));
 }
 
 TEST_F(Options, ASettingIsFoundByItsNameOrItsPath) {

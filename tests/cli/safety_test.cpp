@@ -60,7 +60,8 @@ TEST_F(Safety, OriginalsAreKnownWhereLetterCaseIsIgnored) {
 
 TEST_F(Safety, NothingIsPrintedButLinesOfOurOwnWhateverThePicturesHold) {
     QStringList photos;
-    for (const QString& kind : {u"jpeg"_s, u"png"_s, u"tiff"_s, u"gif"_s, u"bmp"_s, u"webp"_s}) {
+    for (const QString& kind :
+         {u"jpeg"_s, u"png"_s, u"tiff"_s, u"gif"_s, u"bmp"_s, u"webp"_s, u"heif"_s, u"jxl"_s, u"raw"_s}) {
         QDirIterator files(QStringLiteral(ZELTO_SOURCE_DIR "/fuzz/corpus/") + kind, QDir::Files);
         while (files.hasNext()) {
             QByteArray bytes = contents(files.next());

@@ -179,9 +179,9 @@ TEST_F(TransferTest, AnyNameOfASourceWillDo) {
 TEST_F(TransferTest, NoSmallPictureShowsThePhotoWithoutItsWatermarks) {
     // Each holds a position of its own as well. The thumbnail is larger than one segment of a file.
     const QString small = cameraPhoto(u"small.jpg"_s);
-    const QString large =
-        write(u"large.jpg"_s, encodePicture(drawnScene({900, 600}), PictureFormat::Jpeg, {.jpegQuality = 100})
-                                  .value_or(QByteArray()));
+    const QString large = write(
+        u"large.jpg"_s,
+        encodePicture(drawnScene({900, 600}), PictureFormat::Jpeg, {.quality = 100}).value_or(QByteArray()));
     EXPECT_GT(QFileInfo(large).size(), 70'000);
     const QString source =
         tag(cameraPhoto(u"s.jpg"_s), {u"-ThumbnailImage<="_s + large, u"-ObjectPreviewData<="_s + small,

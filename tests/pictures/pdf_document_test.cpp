@@ -68,8 +68,7 @@ TEST_F(PdfTest, PageIsThePictureOnePointAPixel) {
         for (int x = 0; x < size.width(); x += 2) opaque.setPixel(x, size.height() / 2, qRgb(255, 0, 0));
         for (const QImage& picture : {opaque, opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied),
                                       drawnSceneWithAlpha(size)}) {
-            const QByteArray document =
-                encodePicture(picture, PictureFormat::Pdf, {.jpegQuality = 5}).value();
+            const QByteArray document = encodePicture(picture, PictureFormat::Pdf, {.quality = 5}).value();
             EXPECT_THAT(facts(document), HasSubstr("size: " + std::to_string(size.width()) + " x " +
                                                    std::to_string(size.height()) + " pts"));
             // No more than JPEG's finest tables leave, however low the quality asked for JPEG files is.

@@ -43,7 +43,10 @@ std::vector<File> oneOfEachFormat() {
             {"gif", encodePicture(scene, PictureFormat::Gif, {}).value()},
             {"bmp", written(scene, "bmp")},
             {"bmp with palette", written(scene.convertToFormat(QImage::Format_Indexed8), "bmp")},
-            {"webp", written(scene, "webp")}};
+            {"webp", encodePicture(scene, PictureFormat::Webp, {}).value()},
+            {"heic", encodePicture(scene, PictureFormat::Heic, {}).value()},
+            {"avif", encodePicture(scene, PictureFormat::Avif, {}).value()},
+            {"jxl", encodePicture(scene, PictureFormat::Jxl, {}).value()}};
 }
 
 TEST(PictureReader, AFileCutShortAnywhereIsDamaged) {

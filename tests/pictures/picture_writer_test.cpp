@@ -65,7 +65,7 @@ TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
     for (const Row& row : rows) {
         for (const QSize size : {QSize(1, 1), QSize(3, 5), QSize(257, 131), QSize(301, 1200)}) {
             SCOPED_TRACE(::testing::Message() << static_cast<int>(row.format) << ' ' << size.width());
-            const EncodeOptions options{.jpegQuality = 95};
+            const EncodeOptions options{.quality = 95};
             const QImage opaque = drawnScene(size);
             EXPECT_LE(difference(readBack(encoded(opaque, row.format, options)), opaque), row.opaqueError);
             const QImage alpha = drawnSceneWithAlpha(size);
@@ -77,7 +77,7 @@ TEST(EncodePicture, ReadsBackAsWhatWasWritten) {
 }
 
 TEST(EncodePicture, RecordsSizeResolutionAndCompressionForOtherPrograms) {
-    const EncodeOptions options{.jpegQuality = 90, .dpiX = 300, .dpiY = 150};
+    const EncodeOptions options{.quality = 90, .dpiX = 300, .dpiY = 150};
     const QImage opaque = drawnScene({64, 48});
     const QImage alpha = drawnSceneWithAlpha({64, 48});
     const char* const resolution = "-ImageSize -XResolution -YResolution -ResolutionUnit";
@@ -94,7 +94,7 @@ TEST(EncodePicture, RecordsSizeResolutionAndCompressionForOtherPrograms) {
         {encoded(alpha, F::Bmp, options), "-ImageSize -PixelsPerMeterX -PixelsPerMeterY", "64x48 11811 5906"},
         {encoded(alpha, F::Gif, options), "-FileType -ImageSize", "GIF 64x48"},
         // Coloured detail is kept whole from quality 90 on.
-        {encoded(opaque, F::Jpeg, {.jpegQuality = 89}), "-YCbCrSubSampling", "YCbCr4:2:0 (2 2)"},
+        {encoded(opaque, F::Jpeg, {.quality = 89}), "-YCbCrSubSampling", "YCbCr4:2:0 (2 2)"},
         {encoded(opaque, F::Jpeg, options), "-YCbCrSubSampling", "YCbCr4:4:4 (1 1)"},
     };
     for (const auto& row : rows) EXPECT_EQ(tagsOf(row.file, row.tags), row.values);

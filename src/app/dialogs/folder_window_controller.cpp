@@ -26,10 +26,13 @@ struct FormatBox {
     bool ScanFormats::*ticked;
 };
 constexpr std::array FormatBoxes = {
-    FormatBox{"&JPEG", &ScanFormats::Jpeg}, FormatBox{"&PNG", &ScanFormats::Png},
-    FormatBox{"&TIFF", &ScanFormats::Tiff}, FormatBox{"&GIF", &ScanFormats::Gif},
-    FormatBox{"B&MP", &ScanFormats::Bmp},
+    FormatBox{"&JPEG", &ScanFormats::Jpeg},   FormatBox{"&PNG", &ScanFormats::Png},
+    FormatBox{"&TIFF", &ScanFormats::Tiff},   FormatBox{"&GIF", &ScanFormats::Gif},
+    FormatBox{"B&MP", &ScanFormats::Bmp},     FormatBox{"&HEIC", &ScanFormats::Heic},
+    FormatBox{"A&VIF", &ScanFormats::Avif},   FormatBox{"&WebP", &ScanFormats::Webp},
+    FormatBox{"JPEG &XL", &ScanFormats::Jxl},
 };
+constexpr std::size_t MainFormats = 5;  // in the first row of boxes
 
 }  // namespace
 
@@ -44,18 +47,21 @@ FolderWindowController::FolderWindowController(QWidget* parent)
     form->addRow(folderLabel, folder_);
     form->addRow(QString(), includeSubFolders_);
     auto* boxes = new QHBoxLayout;
-    const ScanFormats all;
+    auto* more = new QHBoxLayout;
+    const ScanFormats first;
     for (const FormatBox& format : FormatBoxes) {
         auto* box = new QCheckBox(QLatin1String(format.text), this);
-        box->setChecked(all.*format.ticked);
+        box->setChecked(first.*format.ticked);
         if (format.ticked == &ScanFormats::Gif) {
             box->setToolTip(tr("A folder's GIF photos are passed over; add them one by one."));
         }
-        boxes->addWidget(box);
+        (formats_.size() < MainFormats ? boxes : more)->addWidget(box);
         formats_.push_back(box);
     }
     boxes->addStretch(1);
+    more->addStretch(1);
     form->addRow(tr("Formats:"), boxes);
+    form->addRow(tr("More formats:"), more);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->addButton(tr("&Add Photos"), QDialogButtonBox::AcceptRole)->setDefault(true);

@@ -27,6 +27,9 @@ constexpr std::array FormatTitles = {
     SameAsSourceFormat,   QLatin1String("jpg"), QLatin1String("png"), QLatin1String("tif"),
     QLatin1String("bmp"), QLatin1String("gif"), QLatin1String("pdf"),
 };
+// Those below the line, where this machine can write them.
+constexpr std::array MoreFormatTitles = {QLatin1String("webp"), QLatin1String("avif"), QLatin1String("jxl"),
+                                         QLatin1String("heic")};
 
 struct MetadataRow {
     const char* title;
@@ -78,11 +81,16 @@ OutputPanel::OutputPanel(QWidget* parent)
 
 QLayout* OutputPanel::makeFormatRow() {
     for (const QLatin1String title : FormatTitles) format_->addItem(title);
+    format_->insertSeparator(format_->count());
+    for (const QLatin1String title : MoreFormatTitles) {
+        if (pictureFormatForExtension(QString(title))) format_->addItem(title);
+    }
     format_->setAccessibleName(tr("Format"));
     qualityLabel_->setBuddy(quality_);
     quality_->setRange(0, 100);
-    quality_->setAccessibleName(tr("JPEG quality"));
-    quality_->setToolTip(tr("0 is the smallest file, 100 the best picture"));
+    quality_->setAccessibleName(tr("Quality"));
+    quality_->setToolTip(
+        tr("0 is the smallest file, 100 the best picture: with WebP, JPEG XL and AVIF, without any loss"));
     auto* row = new QHBoxLayout;
     row->addWidget(format_);
     row->addSpacing(12);
@@ -118,12 +126,12 @@ bool OutputPanel::combines() const {
 
 void OutputPanel::SetOutputFormat() {
     const PictureFormat format = formatOf(format_->currentText());
-    const bool hasQuality = format == PictureFormat::Jpeg;
-    qualityLabel_->setVisible(hasQuality);
-    quality_->setVisible(hasQuality);
+    qualityLabel_->setText(format == PictureFormat::Jpeg ? tr("JPEG &quality:") : tr("&Quality:"));
+    qualityLabel_->setVisible(hasQuality(format));
+    quality_->setVisible(hasQuality(format));
     combine_->setVisible(format == PictureFormat::Pdf);
     keepStructure_->setEnabled(!combines());
-    metadata_->setEnabled(takesMetadata(format));
+    metadata_->setEnabled(metadataWay(format) != MetadataWay::None);
     showMetadataNote();
 }
 
@@ -133,7 +141,7 @@ void OutputPanel::setMetadataPresent(bool present) {
 }
 
 void OutputPanel::showMetadataNote() {
-    const bool hasNone = !takesMetadata(formatOf(format_->currentText()));
+    const bool hasNone = metadataWay(formatOf(format_->currentText())) == MetadataWay::None;
     const bool lacksCopyright =
         !hasNone && !isMetadataPresent_ && metadata_->currentData().toLongLong() == exif_data::CopyrightOnly;
     noteIcon_->setVisible(lacksCopyright);

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures/raw_decoder.h"
+
+#include "pictures/device_bytes.h"
+#include "pictures/jpeg_decoder.h"
+#include "pictures/picture_facts.h"
+#include "pictures/picture_libraries.h"
+#include "pictures/picture_memory.h"
+#include "pictures/upright.h"
+
+#include <QBuffer>
+
+#include <libraw/libraw.h>
+
+#include <cstring>
+#include <memory>
+
+namespace zelto {
+namespace {
+
+// The EXIF orientation of LibRaw's number for it.
+int orientationOfFlip(int flip) {
+    switch (flip) {
+        case 3:
+            return 3;
+        case 5:
+            return 8;
+        case 6:
+            return 6;
+        default:
+            return 1;
+    }
+}
+
+struct Preview {
+    QByteArray jpeg;
+    QImage pixels;  // where it is no JPEG
+    int orientation = 1;
+};
+
+// JPEG previews with an Exif block of their own say themselves how they are to be turned.
+bool knowsItsOrientation(const QByteArray& jpeg) {
+    constexpr qsizetype FirstSegments = 512;
+    return jpeg.first(qMin(jpeg.size(), FirstSegments)).contains(QByteArray("Exif\0\0", 6));
+}
+
+QImage pixelsOf(const libraw_thumbnail_t& thumbnail) {
+    const QSize size(thumbnail.twidth, thumbnail.theight);
+    const qint64 stride = qint64{3} * size.width();
+    if (size.isEmpty() || stride * size.height() > thumbnail.tlength) return {};
+    QImage pixels = newPicture(size, QImage::Format_RGB888);
+    for (int y = 0; y < size.height(); ++y)
+        std::memcpy(pixels.scanLine(y), thumbnail.thumb + stride * y, static_cast<std::size_t>(stride));
+    return pixels;
+}
+
+// Nothing where LibRaw knows no such camera or file, or it holds no preview.
+std::optional<Preview> previewOf(QIODevice& device) {
+    const QByteArray bytes = allBytes(device);
+    // Some hundred kilobytes: too many for a thread's stack.
+    const auto raw =
+        std::make_unique<LibRaw>(LIBRAW_OPIONS_NO_MEMERR_CALLBACK | LIBRAW_OPIONS_NO_DATAERR_CALLBACK);
+    // It only reads the buffer; its interface has no const.
+    auto* const data = const_cast<char*>(bytes.constData());  // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    if (raw->open_buffer(data, static_cast<std::size_t>(bytes.size())) != LIBRAW_SUCCESS) return std::nullopt;
+    const libraw_thumbnail_t& thumbnail = raw->imgdata.thumbnail;
+    constexpr qint64 BytesPerPixel = 6;
+    const qint64 pixels = qint64{thumbnail.twidth} * thumbnail.theight * BytesPerPixel;
+    if (thumbnail.tlength > bytes.size() || pixels > memoryAllowed(bytes.size())) return std::nullopt;
+    if (raw->unpack_thumb() != LIBRAW_SUCCESS) return std::nullopt;
+
+    Preview preview;
+    if (thumbnail.tformat == LIBRAW_THUMBNAIL_JPEG) {
+        preview.jpeg = QByteArray(thumbnail.thumb, static_cast<qsizetype>(thumbnail.tlength));
+    } else if (thumbnail.tformat == LIBRAW_THUMBNAIL_BITMAP) {
+        preview.pixels = pixelsOf(thumbnail);
+    }
+    if (preview.jpeg.isEmpty() && preview.pixels.isNull()) return std::nullopt;
+    if (!knowsItsOrientation(preview.jpeg)) preview.orientation = orientationOfFlip(raw->imgdata.sizes.flip);
+    return preview;
+}
+
+}  // namespace
+
+std::optional<PictureNeeds> rawPreviewNeeds(QIODevice& device) {
+    std::optional<Preview> preview = previewOf(device);
+    if (!preview) return std::nullopt;
+    if (preview->jpeg.isEmpty())
+        return needsOf(preview->pixels.size(), preview->orientation,
+                       device.size() + preview->pixels.sizeInBytes() * 3);
+    QBuffer jpeg(&preview->jpeg);
+    jpeg.open(QIODevice::ReadOnly);
+    const std::optional<PictureNeeds> needs = jpegNeeds(jpeg);
+    if (!needs) return std::nullopt;
+    return needsOf(needs->size, preview->orientation, needs->memory + device.size() + preview->jpeg.size());
+}
+
+std::optional<Picture> decodeRawPreview(QIODevice& device) {
+    std::optional<Preview> preview = previewOf(device);
+    if (!preview) return std::nullopt;
+    if (preview->jpeg.isEmpty())
+        return finishedPicture(std::move(preview->pixels), {.orientation = preview->orientation});
+    QBuffer jpeg(&preview->jpeg);
+    jpeg.open(QIODevice::ReadOnly);
+    std::optional<Picture> picture = decodeJpeg(jpeg);
+    if (picture) {
+        picture->image = uprightPicture(std::move(picture->image), preview->orientation);
+        setResolution(*picture, picture->dpiX, picture->dpiY, preview->orientation);
+    }
+    return picture;
+}
+
+const char* rawLibrary() {
+    static const QByteArray name = QByteArray("LibRaw ") + LibRaw::version();
+    return name.constData();
+}
+
+}  // namespace zelto
