@@ -103,6 +103,7 @@ Result<Picture> decode(QIODevice& device, QSize bound = {}) {
                                          ? decodeJpeg(device, needs->size.scaled(bound, Qt::KeepAspectRatio))
                                          : (*decoder)->decode(device);
     if (!picture) return damaged();
+    picture->isRawPreview = (*decoder)->kind == PictureKind::Raw;
     return std::move(*picture);
 }
 
@@ -158,11 +159,6 @@ Result<PictureNeeds> readPictureNeeds(const QString& path) {
     return withFile(path, [](QFile& file) {
         return decoderOf(file).and_then([&](const Decoder* decoder) { return checkedNeeds(file, *decoder); });
     });
-}
-
-bool isRawPreview(const QString& path) {
-    return withFile(path, [](QFile& file) -> Result<PictureKind> { return kindOf(file); }) ==
-           PictureKind::Raw;
 }
 
 Result<QSize> readPictureSize(const QString& path) {

@@ -35,6 +35,8 @@ struct Picture {
     QImage image;
     double dpiX = 72.0;  // of the upright picture; 72 where the file records none
     double dpiY = 72.0;
+    bool isRawPreview =
+        false;  // the preview in a camera's raw file, not what the camera's data could be made into
 };
 
 // The largest picture that is read, in pixels.
@@ -63,8 +65,5 @@ Result<Picture> readThumbnail(const QString& path, QSize bound);
 // From the file's headers, without decoding its pixels: the upright size, and all that reading will need.
 Result<QSize> readPictureSize(const QString& path);
 Result<PictureNeeds> readPictureNeeds(const QString& path);
-
-// Whether readPicture() gives the preview in a camera's raw file and not what the camera's data could be made into.
-bool isRawPreview(const QString& path);
 
 }  // namespace zelto

@@ -246,13 +246,13 @@ TEST_F(MoreFormats, ARawFileIsItsPreviewAsTheCameraWasHeld) {
     write("photo.dng", dngBytes(jpegBytes(scene, {.quality = 100})));
     write("own.dng", dngBytes(jpegBytes(scene, {.quality = 100, .orientation = 3})));
     const QString dng = path(u"photo.dng"_s);
-    EXPECT_TRUE(isRawPreview(dng));
+    EXPECT_TRUE(read("photo.dng").isRawPreview);
     EXPECT_EQ(readPictureSize(dng).value_or(QSize()), QSize(60, 90));
     write("turned.jpg", jpegBytes(scene, {.quality = 100, .orientation = 6}));
     EXPECT_EQ(largestDifference(read("photo.dng").image, read("turned.jpg").image), 0);
     write("turned.jpg", jpegBytes(scene, {.quality = 100, .orientation = 3}));
     EXPECT_EQ(largestDifference(read("own.dng").image, read("turned.jpg").image), 0);
-    EXPECT_FALSE(isRawPreview(path(u"turned.jpg"_s)));
+    EXPECT_FALSE(read("turned.jpg").isRawPreview);
     write("none.dng", dngBytes({}));
     EXPECT_FALSE(readPicture(path(u"none.dng"_s)));
 }

@@ -88,7 +88,6 @@ QLayout* OutputPanel::makeFormatRow() {
     format_->setAccessibleName(tr("Format"));
     qualityLabel_->setBuddy(quality_);
     quality_->setRange(0, 100);
-    quality_->setAccessibleName(tr("Quality"));
     quality_->setToolTip(
         tr("0 is the smallest file, 100 the best picture: with WebP, JPEG XL and AVIF, without any loss"));
     auto* row = new QHBoxLayout;
@@ -126,6 +125,7 @@ bool OutputPanel::combines() const {
 
 void OutputPanel::SetOutputFormat() {
     const PictureFormat format = formatOf(format_->currentText());
+    quality_->setAccessibleName(format == PictureFormat::Jpeg ? tr("JPEG quality") : tr("Quality"));
     qualityLabel_->setText(format == PictureFormat::Jpeg ? tr("JPEG &quality:") : tr("&Quality:"));
     qualityLabel_->setVisible(hasQuality(format));
     quality_->setVisible(hasQuality(format));

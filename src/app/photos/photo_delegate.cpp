@@ -112,11 +112,12 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     }
 }
 
-// "6000 × 4000", and the folder where that tells photos apart.
+// "6000 × 4000", what else is to be known, and the folder where that tells photos apart.
 QString PhotoDelegate::details(const QString& path, const QString& folder) const {
     QStringList parts;
     const QSize size = thumbnails_.photoSize(path);
     if (size.isValid()) parts.append(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+    if (thumbnails_.isRawPreview(path)) parts.append(tr("preview of a raw file"));
     if (!folder.isEmpty()) parts.append(folder);
     return parts.join(QStringLiteral(" · "));
 }

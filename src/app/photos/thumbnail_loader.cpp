@@ -11,12 +11,6 @@ namespace {
 
 constexpr int CacheKilobytes = 48 * 1024;
 
-QImage thumbnailOf(const QString& path, QSize size) {
-    return readThumbnail(path, size)
-        .value_or(Picture())
-        .image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
 }  // namespace
 
 ThumbnailLoader::ThumbnailLoader(QObject* parent)
@@ -49,6 +43,11 @@ bool ThumbnailLoader::isBroken(const QString& path) const {
     return entry != nullptr && entry->isMade && entry->picture.isNull();
 }
 
+bool ThumbnailLoader::isRawPreview(const QString& path) const {
+    const Entry* entry = cache_.object(path);
+    return entry != nullptr && entry->isRawPreview;
+}
+
 void ThumbnailLoader::want(const QStringList& paths, QSize size) {
     if (size != size_) cache_.clear();
     size_ = size;
@@ -64,17 +63,22 @@ void ThumbnailLoader::make(const Job& job) {
         if (worker_.hasNewer()) return;
         const QSize photo = readPictureSize(path).value_or(QSize());
         if (isHugePhoto(photo)) {
-            hand(path, job.size, {photo, {}, false});
+            hand(path, job.size, {.photo = photo, .picture = {}, .isMade = false});
             huge_.post({{path}, job.size});
         } else {
-            hand(path, job.size, {photo, thumbnailOf(path, job.size)});
+            hand(path, job.size, entryOf(path, job.size, photo));
         }
     }
 }
 
+ThumbnailLoader::Entry ThumbnailLoader::entryOf(const QString& path, QSize size, QSize photo) {
+    const Picture read = readThumbnail(path, size).value_or(Picture());
+    return {photo, read.image.convertToFormat(QImage::Format_ARGB32_Premultiplied), read.isRawPreview};
+}
+
 void ThumbnailLoader::makeHuge(const Job& job) {
     for (const QString& path : job.paths) {
-        hand(path, job.size, {readPictureSize(path).value_or(QSize()), thumbnailOf(path, job.size)});
+        hand(path, job.size, entryOf(path, job.size, readPictureSize(path).value_or(QSize())));
     }
 }
 

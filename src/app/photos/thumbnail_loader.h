@@ -28,6 +28,8 @@ class ThumbnailLoader : public QObject {
     QSize photoSize(const QString& path) const;
     // Whether the file has been looked at and is not a picture.
     bool isBroken(const QString& path) const;
+    // Whether it is the preview in a camera's raw file; known once the thumbnail is made.
+    bool isRawPreview(const QString& path) const;
 
     // These photos are seen now; `size` in device pixels bounds their thumbnails.
     void want(const QStringList& paths, QSize size);
@@ -44,9 +46,11 @@ class ThumbnailLoader : public QObject {
     struct Entry {
         QSize photo;
         QImage picture;
+        bool isRawPreview = false;
         bool isMade = true;  // else the picture is still to come
     };
 
+    static Entry entryOf(const QString& path, QSize size, QSize photo);
     void make(const Job& job);
     void makeHuge(const Job& job);
     void hand(const QString& path, QSize bound, const Entry& entry);
