@@ -200,7 +200,7 @@ void takeExiftoolsAnswer(QByteArrayView input) {
     Result<QByteArray> complete = withMetadataOf(filled, output);
     if (!complete) return;
     const qsizetype size = complete->size();
-    replaceEmbeddedPictures(*complete, metadataRanges(*complete), picture);
+    replaceEmbeddedPictures(*complete, metadataRanges(*complete), [] { return picture; });
     promise(complete->size() == size, "small pictures move nothing");
     const Result<Picture> left = decodePicture(*complete);
     promise(left.has_value(), "a complete output can be read");
