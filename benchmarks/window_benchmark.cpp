@@ -34,15 +34,19 @@ class Window {
         : window_(shared_, standardDialogs(), std::move(editors)) {
         window_.resize(1280, 800);
         window_.show();
-        const QByteArray bytes = jpegBytes(drawnScene(PhotoSize), {.fullChroma = false});
+        addPhotos(photos, PhotoSize);
+        settle();
+    }
+
+    void addPhotos(int photos, QSize size) {
+        const QByteArray bytes = jpegBytes(drawnScene(size), {.fullChroma = false});
         QStringList paths;
         for (int i = 0; i < photos; ++i) {
-            paths.append(folder_.filePath(QStringLiteral("%1.jpg").arg(i)));
+            paths.append(folder_.filePath(QStringLiteral("%1 %2.jpg").arg(size.width()).arg(i)));
             QFile file(paths.last());
             if (file.open(QFile::WriteOnly)) file.write(bytes);
         }
         window_.photos().AddImages(paths);
-        settle();
     }
 
     MainWindow& operator*() { return window_; }
@@ -110,6 +114,34 @@ void NextPhoto(benchmark::State& state) {
     }
 }
 BENCHMARK(NextPhoto)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
+
+// A photo that is selected while one of 150 megapixels is being loaded; "toHuge" is the time it takes in units of loading
+// that one.
+void PhotoAfterAHugeOne(benchmark::State& state) {
+    constexpr QSize HugeSize(15000, 10000);
+    double shown = 0.0;
+    double huge = 0.0;
+    for (auto _ : state) {
+        Window window(1);
+        window.addPhotos(1, HugeSize);
+        Window::waitInBackground(3000);
+        QElapsedTimer timer;
+        timer.start();
+        window->photos().ChangeImage(QStringLiteral("1"));
+        Window::waitInBackground(50);
+        const qint64 before = timer.nsecsElapsed();
+        window->photos().ChangeImage(QStringLiteral("0"));
+        window.settle();
+        const double seconds = static_cast<double>(timer.nsecsElapsed() - before) * 1e-9;
+        state.SetIterationTime(seconds);
+        shown += seconds;
+        window->photos().ChangeImage(QStringLiteral("1"));
+        window.settle();
+        huge += static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+    }
+    state.counters["toHuge"] = shown / huge;
+}
+BENCHMARK(PhotoAfterAHugeOne)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(2);
 
 // A letter typed into a text watermark; the median of a hundred.
 void TypedLetter(benchmark::State& state) {
@@ -270,7 +302,7 @@ BENCHMARK(ContactEdit)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(50);
 
-// Photos added to the list, until the list shows them.
+// Photos added to the list and selected, until the list shows them.
 void AddedPhotos(benchmark::State& state) {
     QStringList paths;
     for (int i = 0; i < state.range(0); ++i)
@@ -282,7 +314,7 @@ void AddedPhotos(benchmark::State& state) {
         QCoreApplication::processEvents();
         QElapsedTimer timer;
         timer.start();
-        window.photos().AddImages(paths);
+        window.photos().bring(paths);
         QCoreApplication::processEvents();
         window.photoList().viewport()->repaint();
         state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);

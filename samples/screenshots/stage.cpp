@@ -7,7 +7,6 @@
 #include "platform/preferences.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QTimer>
@@ -206,8 +205,6 @@ void Stage::startRun(int photos) {
 
 void Stage::finishRun() {
     *letThrough_ = 1000;
-    when([] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; },
-         [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept(); });
     window_->controller().StartWatermarking();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QStyle>
 
 #include <utility>
 
@@ -34,6 +35,9 @@ ExampleView::ExampleView(QWidget* parent)
     grid->setColumnStretch(1, 1);
     for (QLabel* label : {nameLabel_, detailsLabel_}) {
         label->setTextFormat(Qt::PlainText);
+        // Paths read from left to right, wherever they stand.
+        label->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter);
+        label->setLayoutDirection(Qt::LeftToRight);
         // A long name is shortened instead of widening the dialog.
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }

@@ -21,6 +21,7 @@ FolderField::FolderField(const QString& chooserTitle, QWidget* parent)
     folders->setRootPath(QString());
     completer->setModel(folders);
     edit_->setCompleter(completer);
+    edit_->setLayoutDirection(Qt::LeftToRight);  // paths are the same everywhere
     edit_->setAccessibleName(tr("Folder"));
     setFocusProxy(edit_);
 

@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -88,9 +90,17 @@ RunController::Plan RunController::makePlan(const OutputOptions& options, Photos
 // Looking for every output on the disk takes a while.
 void RunController::planAndAsk(const OutputOptions& options, Photos which) {
     const Plan plan = makePlan(options, which);
+    constexpr int PatienceMilliseconds = 300;
+    auto* patience = new QTimer(this);
+    patience->setSingleShot(true);
+    connect(patience, &QTimer::timeout, this,
+            [this] { window_.statusBar()->showMessage(tr("Looking at the names of the outputs...")); });
+    patience->start(PatienceMilliseconds);
     inBackground(
         this, [plan] { return planOutputs(plan->request, QDateTime::currentDateTime()); },
-        [this, plan, which](const OutputPlan& outputs) {
+        [this, plan, which, patience](const OutputPlan& outputs) {
+            patience->deleteLater();
+            window_.statusBar()->clearMessage();
             const OutputOptions& chosen = plan->request.options;
             questions_.ask(outputs, chosen.OutputPath,
                            [this, plan, chosen, which](RunQuestions::Answer answer) {
@@ -307,7 +317,7 @@ RunResult RunController::resultOf(const RunReport& report) const {
     result.counts = counts.join(QStringLiteral(", "));
     result.message = report.message();
     if (!report.OutPutImageList.isEmpty())
-        result.open = report.opensCombinedPdf() ? tr("Open &PDF") : tr("Open Fol&der");
+        result.open = report.opensCombinedPdf() ? tr("Open P&DF") : tr("Open Fol&der");
     return result;
 }
 

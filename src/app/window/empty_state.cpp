@@ -14,7 +14,7 @@ namespace {
 
 // A button that does what an action does and can be done when that can.
 QPushButton* makeButton(QAction* action, QWidget* parent) {
-    auto* button = new QPushButton(action->icon(), action->text(), parent);
+    auto* button = new QPushButton(action->icon(), QString(action->text()).remove(QLatin1Char('&')), parent);
     QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
     const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
     QObject::connect(action, &QAction::changed, button, follow);

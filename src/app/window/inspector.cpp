@@ -93,6 +93,9 @@ EditorPage* Inspector::pageOf(EditorKind kind) {
     EditorPage*& page = pages_[kind];
     if (page == nullptr && editors_.canOpen(kind)) {
         page = editors_.editors().at(kind).makePage(watermarks_);
+        // Left to the page, Tab would pass over what stands before the field it begins with.
+        starts_[page] = page->focusProxy();
+        page->setFocusProxy(nullptr);
         auto* area = new QScrollArea(stack_);
         area->setWidgetResizable(true);
         area->setFrameShape(QFrame::NoFrame);
@@ -128,10 +131,10 @@ void Inspector::comeForward() {
     if (page_ == nullptr) return;
     auto* area = static_cast<QScrollArea*>(stack_->currentWidget());
     area->verticalScrollBar()->setValue(0);
-    page_->setFocus(Qt::OtherFocusReason);
+    QWidget* start = starts_.at(page_);
+    if (start != nullptr) start->setFocus(Qt::OtherFocusReason);
     // What something new begins with is typed over.
-    if (auto* text = qobject_cast<QPlainTextEdit*>(page_->focusProxy());
-        text != nullptr && editors_.isNew()) {
+    if (auto* text = qobject_cast<QPlainTextEdit*>(start); text != nullptr && editors_.isNew()) {
         text->selectAll();
     }
 }

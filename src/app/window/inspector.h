@@ -49,6 +49,7 @@ class Inspector : public QWidget {
     WatermarkController& watermarks_;
     WatermarkEditors& editors_;
     std::map<EditorKind, EditorPage*> pages_;
+    std::map<const EditorPage*, QWidget*> starts_;  // the field that a page begins with
     EditorPage* page_ = nullptr;
     QLabel* title_;
     QToolButton* revert_;

@@ -3,6 +3,7 @@
 
 #include "app/common/icons.h"
 #include "app/preview/hold_key.h"
+#include "app/window/disabled_scroll.h"
 #include "app/window/empty_state.h"
 #include "app/window/photo_keys.h"
 #include "app/window/window_places.h"
@@ -99,6 +100,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
         statusBar()->showMessage(text, Milliseconds);
     });
     new PhotoKeys(this);
+    new DisabledScroll(watermarkList());
     const PhotoListModel& photoRows = photos_.model();
     connect(&photoRows, &QAbstractItemModel::dataChanged, this, &MainWindow::showStatus);
     connect(&photoRows, &QAbstractItemModel::rowsInserted, this, &MainWindow::showStatus);
@@ -295,6 +297,9 @@ void MainWindow::layOut() {
     rows->addWidget(result_);
     rows->addWidget(processing_);
     setCentralWidget(mainView_);
+    // Tab follows the columns, however late their parts were made.
+    setTabOrder(&photoList(), previewView_);
+    setTabOrder(previewView_, &watermarkList());
     statusBar()->addWidget(photoCount_, 1);
     statusBar()->addPermanentWidget(zoom_);
 }

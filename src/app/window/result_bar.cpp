@@ -18,7 +18,7 @@ ResultBar::ResultBar(QWidget* parent)
       sign_(new QLabel(this)),
       counts_(new QLabel(this)),
       message_(new ElidedLabel(this, Qt::ElideRight)),
-      show_(new QPushButton(tr("Sho&w"), this)),
+      show_(new QPushButton(tr("&Show"), this)),
       retry_(new QPushButton(tr("Retr&y Failed"), this)),
       open_(new QPushButton(this)) {
     QFont bold = counts_->font();

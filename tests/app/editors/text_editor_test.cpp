@@ -70,7 +70,7 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
                       pressed("TextEffect", Qt::Key_Down, &W::TextEffect, 3),
                       pressed("TextEffect", Qt::Key_Up, &W::TextEffect, 0, embossed),
                       clicked("IsTextTransparent", &W::UseTransparentColor, true, embossed),
-                      pressed("Transparency", Qt::Key_PageUp, &W::Transparency, 0.4F),
+                      pressed("Transparency", Qt::Key_Right, &W::Transparency, 0.49F),
                   });
 }
 

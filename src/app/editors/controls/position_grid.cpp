@@ -52,6 +52,8 @@ QImage cellDrawing(int cell) {
 }  // namespace
 
 PositionGrid::PositionGrid(QWidget* parent) : QWidget(parent), cells_(new QButtonGroup(this)) {
+    // A place on a photo does not follow the direction of reading.
+    setLayoutDirection(Qt::LeftToRight);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2);

@@ -46,7 +46,7 @@ RotationControl::RotationControl(QWidget* parent)
     dial_->setWrapping(true);
     dial_->setPageStep(15);
     dial_->setFixedSize(48, 48);
-    dial_->setFocusPolicy(Qt::StrongFocus);
+    dial_->setFocusPolicy(Qt::ClickFocus);  // its field has the keyboard
     dial_->setAccessibleName(tr("Rotation"));
     field_->setAccessibleName(tr("Rotation in degrees"));
     presets_->setAccessibleName(tr("Usual rotations"));

@@ -204,6 +204,7 @@ QWidget* TextStyleGroup::makeColors() {
 QWidget* TextStyleGroup::makeEffect() {
     auto* widget = new QWidget(this);
     auto* effect = named("TextEffect", new QComboBox(widget));
+    effect->setAccessibleName(tr("Effect"));
     effect->addItem(tr("None"), text_effect::None);
     effect->addItem(tr("Emboss"), text_effect::Emboss);
     auto* transparent = named("IsTextTransparent", new QCheckBox(tr("Transparent letters"), widget));
