@@ -120,8 +120,10 @@ TEST(Composition, AReducedSceneLooksLikeTheWholeOneMadeSmaller) {
             for (int x = 0; x < seen.width(); ++x)
                 difference += std::abs(qGray(seen.pixel(x, y)) - qGray(expected.pixel(x, y)));
         }
-        // What remains is how edges are smoothed; a layer of another size or place differs by ten times as much.
-        EXPECT_LT(difference / (seen.width() * seen.height()), 1.5) << mark.Type << " " << mark.Rotation;
+        // What remains is how edges are smoothed, of which many small letters have many; a layer of another size or
+        // place differs by ten times as much.
+        EXPECT_LT(difference / (seen.width() * seen.height()), mark.HorizontalTiling ? 5.0 : 1.5)
+            << mark.Type << " " << mark.Rotation;
     }
 }
 

@@ -160,6 +160,7 @@ TEST(LayerAt, TakesTheTopmostOfThePlainLayersAndTiledOnesLast) {
     PhotoScene scene;
     WatermarkStack stack;
     scene.picture = QImage(1000, 800, QImage::Format_RGB32);
+    scene.size = scene.picture.size();
     scene.referenceRect = scene.picture.rect();
     for (const QRectF& frame :
          {QRectF(100, 600, 200, 100), QRectF(250, 550, 200, 100), QRectF(0, 0, 1000, 800)}) {
