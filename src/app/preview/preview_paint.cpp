@@ -74,14 +74,16 @@ void paintTag(QPainter& painter, QPointF centre, const QString& text, const QPal
     painter.restore();
 }
 
-// The nine positions as dots under (or over) the frame, the one it has standing out.
-void paintCell(QPainter& painter, const QRectF& frame, int cell, const QPalette& palette, double ratio) {
+// The nine positions as dots, the one that the frame has standing out: under the frame, or over it where there is no
+// room or something else is.
+void paintCell(QPainter& painter, const QRectF& frame, int cell, bool isTakenBelow, const QPalette& palette,
+               double ratio) {
     constexpr double Step = 7.0;
     constexpr double Side = 4.0 * Step;
     constexpr double Gap = 10.0;
     painter.save();
     const double below = frame.bottom() + Gap * ratio;
-    const bool fits = below + Side * ratio <= painter.viewport().height();
+    const bool fits = !isTakenBelow && below + Side * ratio <= painter.viewport().height();
     painter.translate(frame.center().x(), fits ? below : frame.top() - (Gap + Side) * ratio);
     painter.scale(ratio, ratio);
     painter.setPen(Qt::NoPen);
@@ -162,11 +164,13 @@ void paintGuides(QPainter& painter, const PlaceGuides& guides, const QRectF& fra
         path.lineTo(line.p2());
         paintLine(painter, pen, path);
     }
+    bool isTakenBelow = false;
     for (const PlaceGuides::Distance& distance : guides.distances) {
+        isTakenBelow = isTakenBelow || distance.line.y1() > frame.bottom();
         paintLine(painter, pen, dimensionLine(distance.line, ratio));
         paintTag(painter, distance.line.center(), distance.label, palette, font, ratio);
     }
-    if (guides.cell > 0) paintCell(painter, frame, guides.cell, palette, ratio);
+    if (guides.cell > 0) paintCell(painter, frame, guides.cell, isTakenBelow, palette, ratio);
     painter.restore();
 }
 
