@@ -47,7 +47,7 @@ class MetadataTransfer {
     // ErrorCode::CannotWrite for the source and the stand-in.
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const QImage& picture,
                                       MetadataRequest request);
-    // The same with a picture that is only made where one is needed; half its size will do, down to a screen's.
+    // The same with a picture that is only made where one is needed, and need not be larger than a screen.
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const std::function<QImage()>& picture,
                                       MetadataRequest request);
 

@@ -60,6 +60,7 @@ TEST_F(OutputSettingsFile, ReadsEverythingBackButThePixelHeight) {
     for (const std::int64_t type : {resize_type::Percentage, resize_type::Pixels, resize_type::LongerSide}) {
         OutputSettings s = full();
         s.options.ResizeType = type;
+        s.options.JpegLossless = type == resize_type::Pixels;  // an element that is not there where it is off
         if (type == resize_type::Percentage) s.options.ResizeWidth = 30, s.options.ResizeHeight = 20;
         if (type == resize_type::Pixels) s.options.ResizeWidth = 640, s.options.ResizeHeight = 480;
         ASSERT_TRUE(saveOutputSettings(s, path_));

@@ -50,6 +50,7 @@ class OutputPanel : public QGroupBox {
     QLabel* qualityLabel_;
     QSpinBox* quality_;
     QCheckBox* combine_;
+    QCheckBox* lossless_;
     QComboBox* metadata_;
     QLabel* noteIcon_;
     QLabel* note_;

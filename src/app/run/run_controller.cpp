@@ -253,6 +253,8 @@ void RunController::showOutcomes(const std::vector<PhotoOutcome>& outcomes) {
         if (!holdsPhoto(outcome.row)) continue;
         QStringList warnings;
         for (const PhotoWarning& warning : outcome.warnings) warnings.append(warning.text);
+        if (outcome.jpeg && !outcome.jpeg->isLossless)
+            warnings.append(tr("Encoded as usual: %1").arg(outcome.jpeg->reason));
         rows.push_back({static_cast<int>(outcome.row),
                         outcome.succeeded() ? PhotoStatus::Written : PhotoStatus::Failed, outcome.error,
                         warnings});

@@ -96,6 +96,7 @@ TEST_F(OutputOptionsDialog, HandsOverWhatItShows) {
     control<QSpinBox>(*dialog, "JPEG quality").setValue(77);
     choice("Metadata").setCurrentText(u"Exclude Geolocation"_s);
     click(*dialog, "Maintain the directory structure");
+    click(*dialog, "Keep untouched areas as they are (JPEG to JPEG)");
     tick("Rename photos");
     retype(control<QLineEdit>(*dialog, "Name pattern"), u"x[#]"_s);
     tick("Resize photos");
@@ -118,6 +119,7 @@ TEST_F(OutputOptionsDialog, HandsOverWhatItShows) {
     expected.ResizeWidth = 800;
     expected.ResizeHeight = 600;
     expected.DontEnlargeSmallImage = true;
+    expected.JpegLossless = true;
     EXPECT_EQ(dialog->getOptions(), expected);
 }
 
@@ -192,6 +194,8 @@ TEST_F(OutputOptionsDialog, TheFormatDecidesWhatElseIsAsked) {
         EXPECT_EQ(choice("Format").currentText(), QLatin1String(row.format));
         EXPECT_EQ(control<QSpinBox>(*dialog, "JPEG quality").isVisible(), row.quality) << row.format;
         EXPECT_EQ(button(*dialog, "Combine to a single PDF").isVisible(), row.combine) << row.format;
+        EXPECT_EQ(button(*dialog, "Keep untouched areas as they are (JPEG to JPEG)").isEnabled(),
+                  row.quality);
         EXPECT_EQ(choice("Metadata").isEnabled(), row.metadata) << row.format;
     }
     // The box that "jpg" hides must not keep the folders from being resolved.
