@@ -11,8 +11,10 @@
 #include <langinfo.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -122,6 +124,24 @@ int usageError(const Error& error, bool json) {
     std::_Exit(exit_status::SomeFailed);
 }
 
+// The last words of a crash, which a library may still come to where memory runs out.
+void sayThatItCrashed(int signal) {
+    constexpr char Words[] = "zelto-batch: crashed; the outputs it has written are whole\n";
+    [[maybe_unused]] const ssize_t ignored = ::write(STDERR_FILENO, Words, sizeof Words - 1);
+    ::raise(signal);  // which by now has its usual effect
+}
+
+// On a stack of its own, since the usual one may be what ran out.
+void sayCrashes() {
+    static std::array<char, 16'384> stack;
+    const stack_t other{stack.data(), 0, stack.size()};
+    ::sigaltstack(&other, nullptr);
+    struct sigaction action {};
+    action.sa_handler = sayThatItCrashed;
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_ONSTACK | SA_NODEFER);
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT}) ::sigaction(signal, &action, nullptr);
+}
+
 int run(int argc, char** argv) {
     prepareEnvironment();
     QStringList arguments;
@@ -156,6 +176,7 @@ int main(int argc, char** argv) {
     zelto::prepareProcess();
     zelto::keepLibrariesQuiet();
     std::set_terminate(zelto::giveUp);
+    zelto::sayCrashes();
     try {
         return zelto::run(argc, argv);
     } catch (const std::exception& exception) {

@@ -60,7 +60,10 @@ class JpegFile {
     template <class Step>
     bool guarded(Step step) {
         // NOLINTNEXTLINE(cert-err52-cpp): libjpeg's only way out of an error
-        if (setjmp(errors_.escape) != 0) return false;
+        if (setjmp(errors_.escape) != 0) {
+            if (errors_.manager.msg_code == JERR_OUT_OF_MEMORY) throw std::bad_alloc();
+            return false;
+        }
         step();
         return true;
     }

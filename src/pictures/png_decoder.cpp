@@ -26,6 +26,17 @@ namespace {
 
 void stayQuiet(png_structp, png_const_charp) {}
 
+// libpng's memory: what it cannot get is noted, since its message is one of many.
+png_voidp allocate(png_structp png, png_alloc_size_t bytes) {
+    void* const memory = std::malloc(bytes);
+    if (memory == nullptr) *static_cast<bool*>(png_get_mem_ptr(png)) = true;
+    return memory;
+}
+
+void release(png_structp, png_voidp memory) {
+    std::free(memory);
+}
+
 void readFrom(png_structp png, png_bytep target, std::size_t count) {
     auto* device = static_cast<QIODevice*>(png_get_io_ptr(png));
     if (readBytes(*device, target, static_cast<qint64>(count)) != static_cast<qint64>(count))
@@ -41,7 +52,8 @@ constexpr std::array<png_byte, 50> SkippedChunks = {
 class PngFile {
   public:
     explicit PngFile(QIODevice& device)
-        : png_(png_create_read_struct(PNG_LIBPNG_VER_STRING, &escape_, leave, stayQuiet)),
+        : png_(png_create_read_struct_2(PNG_LIBPNG_VER_STRING, &escape_, leave, stayQuiet, &ranOut_, allocate,
+                                        release)),
           info_(png_ == nullptr ? nullptr : png_create_info_struct(png_)) {
         if (info_ == nullptr) throw std::bad_alloc();
         png_set_read_fn(png_, &device, readFrom);
@@ -108,7 +120,10 @@ class PngFile {
     template <class Step>
     bool guarded(Step step) {
         // NOLINTNEXTLINE(cert-err52-cpp): libpng's only way out of an error
-        if (setjmp(escape_) != 0) return false;
+        if (setjmp(escape_) != 0) {
+            if (ranOut_) throw std::bad_alloc();
+            return false;
+        }
         step();
         return true;
     }
@@ -207,6 +222,7 @@ class PngFile {
     }
 
     std::jmp_buf escape_{};
+    bool ranOut_ = false;
     png_structp png_;
     png_infop info_;
 };
