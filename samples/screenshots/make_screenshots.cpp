@@ -26,8 +26,9 @@ void takeWhenSet(const ScreenshotScene& scene, Stage& stage, const QString& file
         } else if (!sinceSet.isValid()) {
             sinceSet.start();
         } else if (sinceSet.hasExpired(RestMilliseconds)) {
-            const QImage picture =
-                scene.shot == ScreenshotScene::Shot::Window ? stage.picture() : Stage::dialogPicture();
+            const QImage picture = scene.shot == ScreenshotScene::Shot::Window   ? stage.picture()
+                                   : scene.shot == ScreenshotScene::Shot::Dialog ? Stage::dialogPicture()
+                                                                                 : stage.inspectorPicture();
             QApplication::exit(picture.save(file) ? 0 : 1);
         }
     });

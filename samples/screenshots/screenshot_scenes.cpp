@@ -45,8 +45,8 @@ void setOutputOptions(Stage& stage) {
     stage.openOutputOptions();
 }
 
-// An editor, and the setting and photo it is shown with. `row` is a row of the watermark list; without one, `open`
-// opens the editor.
+// A page of the inspector, and the setting and photo it is shown with. `row` is a row of the watermark list; without
+// one, `open` opens the page.
 struct EditorScene {
     const char* name;
     void (*set)(Stage& stage);
@@ -64,7 +64,9 @@ constexpr EditorScene Editors[] = {
     {"copyright", setWindow, -1, &WatermarkEditors::OpenMetadataWindow},
 };
 
+// In a window so high that the whole page is seen.
 void setEditor(Stage& stage, const EditorScene& editor) {
+    stage.window().resize(1280, 1700);
     editor.set(stage);
     if (editor.open != nullptr) {
         (stage.window().editors().*editor.open)();
@@ -86,7 +88,7 @@ bool hasDialog(Stage& /*stage*/) {
     return dialog != nullptr && dialog->isVisible();
 }
 
-// Every editor in both palettes, at both sizes of a pixel.
+// Every page in both palettes, at both sizes of a pixel.
 void addEditors(std::vector<ScreenshotScene>& scenes) {
     for (const EditorScene& editor : Editors) {
         for (const Look look : {Look::Light, Look::Dark}) {
@@ -94,7 +96,7 @@ void addEditors(std::vector<ScreenshotScene>& scenes) {
                 const std::string name = std::string("editor-") + editor.name +
                                          (look == Look::Dark ? "-dark-" : "-light-") +
                                          std::to_string(percent);
-                scenes.push_back({name, look, percent / 100.0, Shot::Window,
+                scenes.push_back({name, look, percent / 100.0, Shot::Inspector,
                                   [&editor](Stage& stage) { setEditor(stage, editor); }, isAtRest});
             }
         }
@@ -104,6 +106,12 @@ void addEditors(std::vector<ScreenshotScene>& scenes) {
 std::vector<ScreenshotScene> makeScenes() {
     std::vector<ScreenshotScene> scenes = {
         {"window", Look::Light, 1.0, Shot::Window, setWindow, isAtRest},
+        {"window-editing", Look::Light, 1.0, Shot::Window,
+         [](Stage& stage) {
+             setWindow(stage);
+             stage.openEditor(2);
+         },
+         isAtRest},
         {"window-dark", Look::Dark, 1.0, Shot::Window, setFramed, isAtRest},
         {"window-empty", Look::Light, 1.0, Shot::Window, [](Stage&) {}, isAtRest},
         {"window-running", Look::Light, 1.0, Shot::Window, setRunning, isRunning},

@@ -12,7 +12,7 @@ namespace zelto::samples {
 
 struct ScreenshotScene {
     enum class Look { Light, Dark };
-    enum class Shot { Window, Dialog };  // everything, or only the dialog that was opened last
+    enum class Shot { Window, Dialog, Inspector };  // everything, the dialog that was opened last, the page
 
     std::string name;  // of the picture's file, without extension
     Look look;

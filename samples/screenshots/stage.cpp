@@ -11,6 +11,7 @@
 #include <QProxyStyle>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -246,6 +247,13 @@ QImage Stage::picture() const {
         paintLifted(painter, grabbed(*each), place);
     }
     return picture;
+}
+
+QImage Stage::inspectorPicture() {
+    Inspector& inspector = window_->inspector();
+    const EditorPage& page = *inspector.page();
+    const int end = page.mapTo(&inspector, QPoint(0, page.minimumSizeHint().height())).y();
+    return inspector.grab(QRect(0, 0, inspector.width(), std::min(end, inspector.height()))).toImage();
 }
 
 QImage Stage::dialogPicture() {

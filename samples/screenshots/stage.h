@@ -40,7 +40,7 @@ class Stage {
     void doubleClickPhoto(const QString& name);
     // Opens the dialog that a run begins with, and waits for it.
     void openOutputOptions();
-    // Opens the editor of a row of the watermark list, and waits for it.
+    // Opens the editor of a row of the watermark list.
     void openEditor(int row) { window_->editors().WatermarkListDoubleClicked(row); }
 
     // Calls `act` as soon as `condition` holds, which may be within the event loop of a dialog.
@@ -50,6 +50,8 @@ class Stage {
 
     // What a user sees: the window, with its dialogs upon it.
     QImage picture() const;
+    // The inspector alone, as long as its page.
+    QImage inspectorPicture();
     // The dialog alone that was opened last.
     static QImage dialogPicture();
 

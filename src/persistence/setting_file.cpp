@@ -105,6 +105,7 @@ void textFields(Io& io, W& w) {
         io.field("Underline"_L1, w.FontUnderline);
         io.field("Strike"_L1, w.FontStrikethrough);
         io.field("Size"_L1, w.FontSize);
+        io.addition("SizeFraction"_L1, w.FontSizeFraction);
         io.field("IsRelative"_L1, w.IsRelative);
     });
     io.field("Shadow"_L1, w.Shadow);

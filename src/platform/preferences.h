@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <optional>
@@ -40,6 +41,8 @@ inline constexpr Preference<QByteArray> WindowStackColumn{QLatin1String("Window/
 // By the name of a group of the inspector, whether it is folded.
 inline constexpr Preference<QVariantMap> FoldedGroups{QLatin1String("Inspector/Folded")};
 inline constexpr Preference<QVariantMap> LastTextStyle{QLatin1String("Editors/LastText")};
+inline constexpr Preference<QStringList> RecentColors{
+    QLatin1String("Editors/RecentColors")};  // as "#rrggbbaa"
 inline constexpr Preference<QString> LastAddedFolder{QLatin1String("AddFolder/Folder")};
 inline constexpr Preference<bool> AddsSubFolders{QLatin1String("AddFolder/SubFolders")};
 inline constexpr Preference<QString> LastSettingsFolder{QLatin1String("Settings/LastFolder")};  // of a copy

@@ -105,7 +105,8 @@ struct Watermark {
     QImage TypeImage;  // small icon for the watermark list
     QString Text;      // of a text, and the content of a QR code; may hold macros
     QString FontFamily;
-    std::int64_t FontSize = 0;  // points (= photo pixels); per cent when IsRelative is set
+    std::int64_t FontSize = 0;              // points (= photo pixels); per cent when IsRelative is set
+    std::optional<float> FontSizeFraction;  // 0 to 1, to be added to FontSize; none is 0
     bool FontBold = false;
     bool FontItalic = false;
     bool FontUnderline = false;

@@ -27,7 +27,8 @@ constexpr int ShadowBlur = 5;
 constexpr QPoint ShadowOffset(5, -5);  // right and up
 
 double pointSize(const Watermark& record, QSizeF reference) {
-    const auto size = static_cast<double>(record.FontSize);
+    const double size =
+        static_cast<double>(record.FontSize) + static_cast<double>(record.FontSizeFraction.value_or(0.0F));
     if (!record.IsRelative) return std::min(size, LargestFontSize);
     const bool byWidth = sideNamed(record.FontRelativeSize, reference) == Side::Width;
     const double side = byWidth ? reference.width() : reference.height();

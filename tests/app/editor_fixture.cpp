@@ -15,7 +15,7 @@ EditorTest::EditorTest() : window(shared, standardDialogs(), standardEditors()) 
     QImage photo(PhotoSize, QImage::Format_RGB32);
     photo.fill(PhotoColor);
     photo.save(photoPath());
-    window.resize(1200, 800);
+    window.resize(1300, 800);
     window.show();
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

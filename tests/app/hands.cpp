@@ -2,8 +2,8 @@
 #include "app/hands.h"
 
 #include <QApplication>
-#include <QColorDialog>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QPointer>
 
@@ -75,10 +75,13 @@ void choose(const QWidget& window, const char* name, int row) {
 
 void pickColor(const QWidget& window, const char* name, const QColor& color, Qt::Key close) {
     click(window, name);
-    auto* colors = control(window, name).findChild<QColorDialog*>();
-    ASSERT_NE(colors, nullptr) << name;
-    colors->setCurrentColor(color);
-    QTest::keyClick(colors, close);
+    const auto* panel = window.findChild<QWidget*>(QLatin1String(name) + QLatin1String("Panel"));
+    ASSERT_NE(panel, nullptr) << name;
+    ASSERT_TRUE(panel->isVisible()) << name;
+    const QString alpha = QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
+    type(*panel, "Hex", color.name() + alpha);
+    QTest::keyClick(&control(*panel, "Hex"), close);
+    EXPECT_FALSE(panel->isVisible()) << name;
 }
 
 bool says(const QWidget& window, const QString& text) {
@@ -98,6 +101,10 @@ std::shared_ptr<bool> whenAnyOpened(const std::function<bool(QWidget&)>& drive) 
     }
     QObject::connect(timer, &QTimer::timeout, timer, [timer, came, before, drive] {
         QWidget* window = QApplication::activeModalWidget();
+        for (QWidget* each : QApplication::topLevelWidgets()) {
+            const bool isNewDialog = qobject_cast<QDialog*>(each) != nullptr && each->isVisible();
+            if (window == nullptr && isNewDialog && !before.contains(each)) window = each;
+        }
         if (window == nullptr || before.contains(window) || !window->isVisible()) return;
         timer->stop();
         timer->deleteLater();

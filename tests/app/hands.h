@@ -42,13 +42,13 @@ void retype(QWidget& field, const QString& text);
 void type(const QWidget& window, const char* name, const QString& text);
 // Chooses a row of a list with the keyboard; of a size's units where the control is a size.
 void choose(const QWidget& window, const char* name, int row);
-// Opens the dialog of a colour well, sets a colour there and closes it with a key.
+// Opens the panel of a colour well, types a colour there and closes it with a key.
 void pickColor(const QWidget& window, const char* name, const QColor& color, Qt::Key close = Qt::Key_Return);
 
 // Whether the user can read a text that begins so.
 bool says(const QWidget& window, const QString& text);
 
-// Has `drive` work on the next modal window of class `Dialog` as soon as it is open; to be called before it is opened.
+// Has `drive` work on the next modal window or dialog of class `Dialog` as soon as it is open; to be called before it is opened.
 // The result tells, later, whether it came; a window of another class is closed and fails the test.
 std::shared_ptr<bool> whenAnyOpened(const std::function<bool(QWidget&)>& drive);
 template <class Dialog>

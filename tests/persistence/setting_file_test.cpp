@@ -56,6 +56,7 @@ TEST(SettingFile, HoldsEveryFieldOfEachTypeInItsOrderAndReadsItBack) {
     text.Text = u"#1 <<AUTO:##1+1>> ]]> &amp;\n"_s;
     text.FontFamily = u"Serif"_s;
     text.FontSize = 40;
+    text.FontSizeFraction = 0.5F;
     text.FontBold = text.FontItalic = text.FontUnderline = text.FontStrikethrough = true;
     text.Shadow = text.IsRelative = text.UseTransparentColor = true;
     text.ShadowColor.reset();
@@ -104,7 +105,8 @@ TEST(SettingFile, HoldsEveryFieldOfEachTypeInItsOrderAndReadsItBack) {
     const std::pair<WatermarkStack, QLatin1String> rows[] = {
         {{{text}, {}, 0, false},
          "Watermark@1|Text=&hash;1 <<AUTO:&hash;&hash;1+1>> ]]> &amp;\n|Font/Name=Serif|"
-         "Font/Bold=1|Font/Italic=1|Font/Underline=1|Font/Strike=1|Font/Size=40|Font/IsRelative=1|Shadow=1|"
+         "Font/Bold=1|Font/Italic=1|Font/Underline=1|Font/Strike=1|Font/Size=40|Font/"
+         "SizeFraction=0.500000|Font/IsRelative=1|Shadow=1|"
          "ShadowColor=|Color=NSCalibratedRGBColorSpace 1 0.5 0 1|Alignment=2|TextEffect=3|"
          "UseTransparentColor=1|ProportionalResize=2|"_L1},
         {{{shape}, {}, 0, false},

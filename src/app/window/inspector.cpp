@@ -30,6 +30,29 @@ bool hasOwnHistory(const QObject& field, bool redo) {
     return line != nullptr && (redo ? line->isRedoAvailable() : line->isUndoAvailable());
 }
 
+// Scrolls up and down only: it is never narrower than its page.
+class PageArea : public QScrollArea {
+  public:
+    PageArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(page);
+    }
+
+    QSize minimumSizeHint() const override {
+        constexpr int Height = 60;
+        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), Height};
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
+
 }  // namespace
 
 Inspector::Inspector(WatermarkController& watermarks, const ImageListController& photos,
@@ -96,13 +119,7 @@ EditorPage* Inspector::pageOf(EditorKind kind) {
         // Left to the page, Tab would pass over what stands before the field it begins with.
         starts_[page] = page->focusProxy();
         page->setFocusProxy(nullptr);
-        auto* area = new QScrollArea(stack_);
-        area->setWidgetResizable(true);
-        area->setFrameShape(QFrame::NoFrame);
-        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area->setFocusPolicy(Qt::NoFocus);
-        area->setWidget(page);
-        stack_->addWidget(area);
+        stack_->addWidget(new PageArea(page, stack_));
     }
     return page;
 }

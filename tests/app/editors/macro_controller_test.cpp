@@ -93,7 +93,7 @@ TEST_F(MacroControllerTest, DatesAskForTheirFormatAndRememberIt) {
             QTest::keyClick(&field, Qt::Key_Return);
         });
         pressReturn();
-        return *came;
+        return QTest::qWaitFor([came] { return *came; });
     };
     QString sample;
     EXPECT_TRUE(insertDate(u"today"_s, u"[d.m.y]"_s, sample));
@@ -133,7 +133,7 @@ TEST_F(MacroControllerTest, RunningNumbersAreComposed) {
         click(dialog, "btnInsertMacro");
     });
     pressInsert();
-    EXPECT_TRUE(*came);
+    EXPECT_TRUE(QTest::qWaitFor([came] { return *came; }));
     EXPECT_EQ(shown, u"Macro Generated:<<AUTO:###1+5>>"_s);
     EXPECT_EQ(text.toPlainText(), u"a<<AUTO:###1+5>>b"_s);
 }
@@ -154,7 +154,7 @@ TEST_F(MacroControllerTest, SpecialCharactersAreFoundByName) {
             QTest::keyClick(&list, Qt::Key_Return);
         });
     click(*macros, "SpecialCharacter");
-    EXPECT_TRUE(*came);
+    EXPECT_TRUE(QTest::qWaitFor([came] { return *came; }));
     EXPECT_EQ(text.toPlainText(), u"a😀b"_s);
 }
 

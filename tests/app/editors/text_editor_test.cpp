@@ -55,6 +55,8 @@ TEST_F(TextEditorTest, EachControlChangesItsFieldsThePreviewAndOneUndoStep) {
                        [](W& w) { w.HorizontalTiling = true, w.Position = 2; }},
                       pressed("searchFonts", Qt::Key_Down, &W::FontFamily, nextFamily),
                       typed("FontSize", u"12"_s, &W::FontSize, 12),
+                      {"half a per cent", [](QWidget& e) { type(e, "FontSize", u"8.5"_s); },
+                       set(&W::FontSizeFraction, 0.5F)},
                       typed("FontSize", u"3100"_s, &W::FontSize, 3100, fixed),
                       pressed("UsualSizes", Qt::Key_Home, &W::FontSize, 12, fixed),
                       pressed("FontRelativeSize", Qt::Key_End, &W::FontRelativeSize, u"Longer Side"_s),

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/color_well.h"
 
+#include "app/editors/controls/color_panel.h"
 #include "render/qt_color.h"
 
+#include <QEvent>
+#include <QFormLayout>
 #include <QPainter>
+#include <QVBoxLayout>
 
 #include <cmath>
 
 namespace zelto {
 namespace {
 
-constexpr int Frame = 6;   // of the button around its colour
-constexpr int Square = 5;  // of the ground that shows through
+constexpr int Frame = 6;  // of the button around its colour
 
 QString describe(const std::optional<Color>& color) {
     if (!color) return ColorWell::tr("No colour");
@@ -20,12 +23,47 @@ QString describe(const std::optional<Color>& color) {
     return ColorWell::tr("%1, %2% opaque").arg(shown.name()).arg(std::lround(shown.alphaF() * 100.0F));
 }
 
-void paintGround(QPainter& painter, const QRect& area) {
-    painter.fillRect(area, Qt::white);
-    for (int y = 0; y * Square < area.height(); ++y) {
-        for (int x = y % 2; x * Square < area.width(); x += 2) {
-            const QRect square(area.x() + x * Square, area.y() + y * Square, Square, Square);
-            painter.fillRect(square.intersected(area), Qt::lightGray);
+// Where an item lies: in which layout, at which place.
+struct Spot {
+    QLayout* layout;
+    int index;
+};
+
+std::optional<Spot> spotOf(QLayout& layout, const QObject& child) {
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* item = layout.itemAt(i);
+        if (item->widget() == &child || item->layout() == &child) return Spot{&layout, i};
+        if (item->layout() == nullptr) continue;
+        if (const auto spot = spotOf(*item->layout(), child)) return spot;
+    }
+    return std::nullopt;
+}
+
+// Puts `panel` below the row that `anchor` stands in, across the whole form or column.
+void putBelow(QWidget& anchor, QWidget* panel) {
+    const QObject* child = &anchor;
+    QWidget* parent = anchor.parentWidget();
+    while (parent != nullptr) {
+        const auto spot = parent->layout() != nullptr ? spotOf(*parent->layout(), *child) : std::nullopt;
+        if (spot) {
+            if (auto* form = qobject_cast<QFormLayout*>(spot->layout)) {
+                int row = 0;
+                QFormLayout::ItemRole role{};
+                form->getItemPosition(spot->index, &row, &role);
+                form->insertRow(row + 1, panel);
+                return;
+            }
+            if (auto* column = qobject_cast<QVBoxLayout*>(spot->layout)) {
+                column->insertWidget(spot->index + 1, panel);
+                return;
+            }
+        }
+        // It stands in a row: below whatever holds the row.
+        if (spot && spot->layout != parent->layout()) {
+            child = spot->layout;
+        } else {
+            child = parent;
+            parent = parent->parentWidget();
         }
     }
 }
@@ -35,12 +73,14 @@ void paintGround(QPainter& painter, const QRect& area) {
 ColorWell::ColorWell(const QString& title, QWidget* parent) : QToolButton(parent) {
     setAccessibleName(title);
     setFocusPolicy(Qt::StrongFocus);
-    connect(this, &QToolButton::clicked, this, &ColorWell::openDialog);
+    setCheckable(true);
+    connect(this, &QToolButton::toggled, this, &ColorWell::openPanel);
     load(std::nullopt);
 }
 
 void ColorWell::load(const std::optional<Color>& color) {
     color_ = color;
+    if (panel_ != nullptr && isChecked() && color) panel_->load(toQColor(*color));
     setAccessibleDescription(describe(color));
     setToolTip(accessibleDescription());
     update();
@@ -51,23 +91,33 @@ QSize ColorWell::sizeHint() const {
     return {height * 2, height};
 }
 
-void ColorWell::openDialog() {
-    if (dialog_ != nullptr) {
-        dialog_->raise();
-        return;
+void ColorWell::openPanel(bool open) {
+    if (open) {
+        for (ColorWell* other : window()->findChildren<ColorWell*>()) {
+            if (other != this) other->setChecked(false);
+        }
+        before_ = color_;
+        if (panel_ == nullptr) {
+            panel_ = new ColorPanel(parentWidget());
+            panel_->setObjectName(objectName() + QLatin1String("Panel"));
+            putBelow(*this, panel_);
+            connect(panel_, &ColorPanel::chosen, this,
+                    [this](const QColor& color) { choose(toColor(color)); });
+            connect(panel_, &ColorPanel::finished, this, [this](bool cancelled) {
+                if (cancelled && before_) choose(*before_);
+                setFocus();  // before what has it is hidden
+                setChecked(false);
+            });
+        }
+        panel_->load(color_ ? toQColor(*color_) : QColor(Qt::white));
     }
-    dialog_ = new QColorDialog(color_ ? toQColor(*color_) : QColor(Qt::white), this);
-    dialog_->setAttribute(Qt::WA_DeleteOnClose);
-    dialog_->setWindowTitle(accessibleName());
-    // The toolkit's own dialog can also take a colour from the screen, and tells of each one looked at.
-    dialog_->setOptions(QColorDialog::ShowAlphaChannel | QColorDialog::DontUseNativeDialog);
-    const auto take = [this](const QColor& color) { choose(toColor(color)); };
-    if (color_) {
-        connect(dialog_, &QColorDialog::currentColorChanged, this, take);
-        connect(dialog_, &QColorDialog::rejected, this, [this, before = *color_] { choose(before); });
-    }
-    connect(dialog_, &QColorDialog::colorSelected, this, take);
-    dialog_->open();
+    if (panel_ != nullptr) panel_->setVisible(open);
+}
+
+// A colour that counts no longer is not to be chosen.
+void ColorWell::changeEvent(QEvent* event) {
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) setChecked(false);
 }
 
 void ColorWell::choose(const Color& color) {
@@ -82,7 +132,7 @@ void ColorWell::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const QRect area = rect().adjusted(Frame, Frame, -Frame, -Frame);
     painter.setOpacity(isEnabled() ? 1.0 : 0.4);
-    paintGround(painter, area);
+    paintSeeThroughGround(painter, area);
     if (color_) painter.fillRect(area, toQColor(*color_));
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5));

@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A button that shows a colour with its transparency and lets the user choose another; each colour looked at
-// in the colour dialog is told at once, and cancelling the dialog brings back the first one. Main thread only.
+// A button that shows a colour with its transparency and opens a panel below its row to choose another; each colour
+// looked at is told at once, and Escape in the panel brings back the first one. Main thread only.
 #pragma once
 
 #include "records/color.h"
 
-#include <QColorDialog>
-#include <QPointer>
 #include <QToolButton>
 
 #include <optional>
 
 namespace zelto {
 
+class ColorPanel;
+
 class ColorWell : public QToolButton {
     Q_OBJECT
 
   public:
-    // `title` is that of the dialog and the button's accessible name.
+    // `title` is the button's accessible name.
     explicit ColorWell(const QString& title, QWidget* parent = nullptr);
 
     // None shows as a field crossed out.
@@ -32,13 +32,15 @@ class ColorWell : public QToolButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
-    void openDialog();
+    void openPanel(bool open);
     void choose(const Color& color);
 
     std::optional<Color> color_;
-    QPointer<QColorDialog> dialog_;
+    std::optional<Color> before_;  // the colour when the panel was opened
+    ColorPanel* panel_ = nullptr;  // made when it is first opened
 };
 
 }  // namespace zelto

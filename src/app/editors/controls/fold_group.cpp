@@ -11,9 +11,9 @@ namespace zelto {
 FoldGroup::FoldGroup(const QString& name, const QString& title, AtFirst atFirst, QWidget* parent)
     : QWidget(parent), name_(name), atFirst_(atFirst), title_(new QToolButton(this)) {
     setObjectName(name + QLatin1String("Group"));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     title_->setObjectName(name + QLatin1String("Title"));
     title_->setText(title);
-    title_->setCheckable(true);
     title_->setAutoRaise(true);
     title_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     title_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -26,7 +26,7 @@ FoldGroup::FoldGroup(const QString& name, const QString& title, AtFirst atFirst,
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(title_);
-    connect(title_, &QToolButton::clicked, this, [this](bool open) { setFolded(!open); });
+    connect(title_, &QToolButton::clicked, this, [this] { setFolded(!isFolded_); });
     show(atFirst_ == AtFirst::Folded);
 }
 
@@ -47,7 +47,7 @@ void FoldGroup::setFolded(bool folded) {
 }
 
 void FoldGroup::show(bool folded) {
-    title_->setChecked(!folded);
+    isFolded_ = folded;
     title_->setArrowType(folded ? Qt::RightArrow : Qt::DownArrow);
     title_->setAccessibleDescription(folded ? tr("Folded") : tr("Unfolded"));
     if (content_ != nullptr) content_->setVisible(!folded);

@@ -19,7 +19,7 @@ class FoldGroup : public QWidget {
     // Becomes the parent of `content`, which is made after the group: Tab goes to the title first.
     void setContent(QWidget* content);
 
-    bool isFolded() const { return !title_->isChecked(); }
+    bool isFolded() const { return isFolded_; }
     void setFolded(bool folded);
 
   protected:
@@ -31,6 +31,7 @@ class FoldGroup : public QWidget {
 
     QString name_;
     AtFirst atFirst_;
+    bool isFolded_ = false;
     QToolButton* title_;
     QWidget* content_ = nullptr;
 };

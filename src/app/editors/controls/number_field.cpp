@@ -46,6 +46,14 @@ QValidator::State NumberField::validate(QString& text, int& position) const {
     return std::max(QDoubleSpinBox::validate(text, position), QValidator::Intermediate);
 }
 
+QString NumberField::textFromValue(double value) const {
+    QString text = QDoubleSpinBox::textFromValue(value);
+    if (decimals() == 0) return text;
+    while (text.endsWith(locale().zeroDigit())) text.chop(1);
+    if (text.endsWith(locale().decimalPoint())) text.chop(1);
+    return text;
+}
+
 void NumberField::fixup(QString& text) const {
     if (emptyValue_ && cleanText().isEmpty()) {
         text = textFromValue(*emptyValue_) + suffix();

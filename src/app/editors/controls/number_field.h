@@ -46,6 +46,8 @@ class NumberField : public QDoubleSpinBox {
     // What is wrong with the text; empty for nothing.
     QString problem() const;
 
+    // Without zeros behind the point that say nothing.
+    QString textFromValue(double value) const override;
     QValidator::State validate(QString& text, int& position) const override;
     void fixup(QString& text) const override;
 

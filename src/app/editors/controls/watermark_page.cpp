@@ -21,12 +21,12 @@ WatermarkPage::WatermarkPage(const QString& name, const QString& title, Watermar
       column_(new QVBoxLayout(this)) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(0);
-    column_->setAlignment(Qt::AlignTop);
+    column_->addStretch();
 }
 
 FoldGroup& WatermarkPage::addGroup(const QString& name, const QString& title) {
     auto* group = new FoldGroup(name, title, FoldGroup::AtFirst::Open, this);
-    column_->addWidget(group);
+    column_->insertWidget(column_->count() - 1, group);
     return *group;
 }
 

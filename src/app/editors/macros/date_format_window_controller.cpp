@@ -81,7 +81,6 @@ DateFormatWindowControlller::DateFormatWindowControlller(QString macroName, cons
     rows->addWidget(legend);
     rows->addStretch();
     rows->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
 
     connect(dateFormat_, &QComboBox::editTextChanged, this, &DateFormatWindowControlller::GetDatePreview);
     GetDatePreview();

@@ -14,11 +14,13 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
@@ -183,22 +185,41 @@ void MacroController::choose(const QModelIndex& row, MacroGesture gesture) {
         case MacroAction::InsertToken:
             insert_(token);
             return;
-        case MacroAction::OpenDateFormat: {
-            DateFormatWindowControlller dialog(token, QDateTime::currentDateTime(), window());
-            if (dialog.exec() == QDialog::Accepted) insert_(dialog.MacroName());
+        case MacroAction::OpenDateFormat:
+            openBeside(new DateFormatWindowControlller(token, QDateTime::currentDateTime(), this),
+                       &DateFormatWindowControlller::MacroName);
             return;
-        }
-        case MacroAction::OpenAutoNumber: {
-            AutoNumberWindowController dialog(window());
-            if (dialog.exec() == QDialog::Accepted) insert_(dialog.MacroName());
+        case MacroAction::OpenAutoNumber:
+            openBeside(new AutoNumberWindowController(this), &AutoNumberWindowController::MacroName);
             return;
-        }
     }
 }
 
 void MacroController::OpenSpecialCharwindow() {
-    SpecialCharacterWindowController dialog(window());
-    if (dialog.exec() == QDialog::Accepted) insert_(dialog.character());
+    openBeside(new SpecialCharacterWindowController(this), &SpecialCharacterWindowController::character);
+}
+
+// Over the column that this list stands in, so that the photo stays in view; everything else can be used meanwhile.
+template <class Dialog, class Picked>
+void MacroController::openBeside(Dialog* dialog, Picked picked) {
+    delete dialog_;
+    dialog_ = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, picked] { insert_((dialog->*picked)()); });
+    dialog->adjustSize();
+    const QPoint corner = parentWidget()->mapToGlobal(QPoint());
+    const QRect screen = this->screen()->availableGeometry();
+    const QSize size = dialog->sizeHint();
+    dialog->move(
+        std::clamp(corner.x(), screen.left(), std::max(screen.left(), screen.right() - size.width())),
+        std::clamp(corner.y(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
+    dialog_->show();
+    dialog_->activateWindow();
+}
+
+void MacroController::hideEvent(QHideEvent* event) {
+    if (!event->spontaneous()) delete dialog_;
+    QWidget::hideEvent(event);
 }
 
 }  // namespace zelto

@@ -7,6 +7,8 @@
 #include "app/watermarks/editor_page.h"
 #include "macros/photo_macros.h"
 
+#include <QDialog>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -50,6 +52,7 @@ class MacroController : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
     void layOut();
@@ -57,6 +60,8 @@ class MacroController : public QWidget {
     void AddMacroItem(const Macro& macro, const QString& value);
     void take(const PhotoMacros& macros);
     void choose(const QModelIndex& row, MacroGesture gesture);
+    template <class Dialog, class Picked>
+    void openBeside(Dialog* dialog, Picked picked);
 
     Insert insert_;
     QList<Macro> macros_;
@@ -67,6 +72,7 @@ class MacroController : public QWidget {
     QPushButton* insertButton_;
     SelectedPhoto photo_;
     std::optional<SelectedPhoto> read_;  // the photo that was asked for last
+    QPointer<QDialog> dialog_;           // that asks for a format or a character
     bool isComplete_ = false;
 };
 

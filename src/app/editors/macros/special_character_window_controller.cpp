@@ -57,7 +57,7 @@ namespace {
 
 // More than anybody looks through.
 constexpr qsizetype MostFound = 1000;
-constexpr int Columns = 16;
+constexpr int Columns = 7;  // as wide as the column of the window that it is opened over
 
 // Draws a character in the middle of its cell.
 class CellDelegate : public QStyledItemDelegate {
@@ -124,7 +124,7 @@ SpecialCharacterWindowController::SpecialCharacterWindowController(QWidget* pare
     setWindowTitle(tr("Special Characters"));
     for (const QString& character : specialCharacters()) items_ += character.front().unicode();
     search_->setObjectName(QStringLiteral("search"));
-    search_->setPlaceholderText(tr("Search all characters by name or code, such as “arrow” or “U+2192”"));
+    search_->setPlaceholderText(tr("Search by name or code: “arrow”, “U+2192”"));
     search_->setAccessibleName(tr("Search"));
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);

@@ -64,7 +64,7 @@ FontFamilyList::FontFamilyList(QWidget* parent)
     list_->setItemDelegate(new FaceDelegate(list_));
     list_->setUniformItemSizes(true);
     list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list_->setMinimumHeight(fontMetrics().height() * 7);
+    list_->setFixedHeight(fontMetrics().height() * 7);
     missing_->setWordWrap(true);
     missing_->setTextFormat(Qt::PlainText);
     missing_->hide();

@@ -92,6 +92,7 @@ LogoFileGroup::LogoFileGroup(RecordBinder<Watermark>& binder, QWidget* parent)
     choose->setAutoDefault(false);
     setFocusProxy(choose);
     sample_ = new LogoSample(this);
+    sample_->setFixedHeight(fontMetrics().height() * 7);
     auto* row = new QHBoxLayout;
     row->addWidget(path_, 1);
     row->addWidget(choose);
@@ -163,13 +164,12 @@ QWidget* LogoGroup::makeResize() {
     auto* grid = new QGridLayout(box);
     grid->addWidget(proportional, 0, 0);
     grid->addWidget(percent_, 0, 1);
-    grid->addWidget(side, 0, 2);
-    grid->addWidget(absolute, 1, 0);
-    grid->addWidget(width_, 1, 1);
-    grid->addWidget(height_, 1, 2);
-    grid->addWidget(keepAspect, 2, 1, 1, 2);
+    grid->addWidget(side, 1, 1);
+    grid->addWidget(absolute, 2, 0);
+    grid->addWidget(width_, 2, 1);
+    grid->addWidget(height_, 3, 1);
+    grid->addWidget(keepAspect, 4, 1);
     grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
 
     // A choice of the kind of size takes the size from the fields of that kind.
     binder_.bind(box, &Watermark::Resize,

@@ -16,7 +16,7 @@
 namespace zelto {
 namespace {
 
-constexpr NumberKind PercentOfSide{1, 1'000, 0, QLatin1String(" %")};
+constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
 constexpr NumberKind Pixels{1, 10'000, 0, QLatin1String(" px")};
 constexpr int UsualSizes[] = {12, 18, 24, 36, 48, 72, 96, 144, 200, 300, 400};
 constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
@@ -116,10 +116,23 @@ QWidget* TextStyleGroup::makeSize() {
     rows->addWidget(side, 1, 0, 1, 2);
     rows->addWidget(usual, 1, 0, 1, 2);
 
-    binder_.bind(kind, &Watermark::IsRelative);
+    binder_.bind(kind, &Watermark::IsRelative, [](Watermark& record, const QVariant& isRelative) {
+        record.IsRelative = isRelative.toBool();
+        if (!record.IsRelative) record.FontSizeFraction.reset();
+    });
     binder_.follow(
         [size](const Watermark& record) { size->setKind(record.IsRelative ? PercentOfSide : Pixels); });
-    binder_.bind(size, &Watermark::FontSize);
+    binder_.bind(
+        size,
+        [](const Watermark& record) {
+            return static_cast<double>(record.FontSize) +
+                   static_cast<double>(record.FontSizeFraction.value_or(0.0F));
+        },
+        [](Watermark& record, double value) {
+            record.FontSize = static_cast<std::int64_t>(std::floor(value));
+            const auto fraction = static_cast<float>(value - std::floor(value));
+            record.FontSizeFraction = fraction > 0.0F ? std::optional(fraction) : std::nullopt;
+        });
     binder_.bind(usual, &Watermark::FontSize);
     binder_.bind(
         side,
