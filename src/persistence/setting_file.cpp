@@ -202,6 +202,7 @@ void watermarkFields(Io& io, W& w) {
     io.addition("HorizontalSpacingShare"_L1, w.HorizontalSpacingShare);
     io.addition("VerticalSpacingShare"_L1, w.VerticalSpacingShare);
     io.field(ProportionalResize, Side{w.ImageProportionalResize, SideOne::LeavesConstructed});
+    io.addition("LabelName"_L1, w.LabelName);
 }
 
 template <class Io, class E>
@@ -234,6 +235,7 @@ constexpr auto WatermarkName = "Watermark"_L1;
 constexpr auto EffectsName = "Effects"_L1;
 constexpr auto SelectedFilterName = "SelectedFilter"_L1;
 constexpr auto MetadataName = "Metadata"_L1;
+constexpr auto SwitchedOffName = "SwitchedOff"_L1;  // an addition; what is in it is applied by no reader
 
 void writeWatermark(QXmlStreamWriter& writer, const Watermark& w) {
     const bool hasOwnFields = w.Type >= watermark_type::Text && w.Type <= watermark_type::QrCode;
@@ -266,6 +268,12 @@ QByteArray writeSettingDocument(const WatermarkStack& stack) {
         }
         fields.field(SelectedFilterName, stack.SelectedFilter);
         if (stack.Metadata) fields.field(MetadataName, stack.Metadata);
+        if (stack.Off == SwitchedOff()) return;
+        fields.group(SwitchedOffName, [&] {
+            if (stack.Off.Effects)
+                fields.group(EffectsName, [&] { effectsFields(fields, *stack.Off.Effects); });
+            fields.field(SelectedFilterName, stack.Off.SelectedFilter);
+        });
     });
 }
 
@@ -285,13 +293,17 @@ Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QSt
             fromText(element.text, stack.SelectedFilter);
         } else if (element.name == MetadataName) {
             stack.Metadata = toBool(element.text, true);
+        } else if (element.name == SwitchedOffName) {
+            FieldReader fields(element);
+            fields.group(EffectsName, [&] { effectsFields(fields, stack.Off.Effects.emplace()); });
+            fields.field(SelectedFilterName, stack.Off.SelectedFilter);
         }
     }
     return stack;
 }
 
 bool hasAnythingToSave(const WatermarkStack& stack) {
-    return !stack.Watermarks.empty() || stack.Effects;
+    return !stack.Watermarks.empty() || effectsOf(stack);
 }
 
 Result<void> SaveWatermarkSettings(const WatermarkStack& stack, const QString& path) {

@@ -9,7 +9,7 @@
 //         io.older("Colour", r.Color);  // an element that only older files have, before the one that replaced it
 //         io.field("Color", r.Color);
 //         io.unread("Size", r.Size);    // one that is written, but never read back
-//         io.addition("Share", r.Share);  // one of later versions, written where it has a value or is on
+//         io.addition("Share", r.Share);  // one of later versions, written where it holds something or is on
 //     }
 //
 // A value goes through the overloads of toText() and fromText() for its type. Where the type alone does not tell how a
@@ -72,6 +72,9 @@ class FieldWriter {
     void addition(QLatin1String name, bool value) {
         if (value) field(name, value);
     }
+    void addition(QLatin1String name, const QString& value) {
+        if (!value.isEmpty()) field(name, value);
+    }
     template <class Value>
     void addition(QLatin1String name, const std::optional<Value>& value) {
         if (value) field(name, *value);
@@ -108,6 +111,7 @@ class FieldReader {
     void unread(QLatin1String, const Value&) {}
 
     void addition(QLatin1String name, bool& value) { field(name, value); }
+    void addition(QLatin1String name, QString& value) { field(name, value); }
     template <class Value>
     void addition(QLatin1String name, std::optional<Value>& value) {
         field(name, value);

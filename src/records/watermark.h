@@ -136,6 +136,7 @@ struct Watermark {
     std::optional<float> PaddingBottomShare;
     bool IsRelative = false;
     QString FontRelativeSize;  // one of photo_side, or "Fixed"
+    QString LabelName;         // the user's own name for it; empty for one made of what it shows
     bool IsEnabled = false;
     std::uint64_t Alignment = text_alignment::Left;
     bool Resize = false;

@@ -12,13 +12,30 @@
 
 namespace zelto {
 
+// What the user has switched off but not removed. Nothing that makes pictures looks at it.
+struct SwitchedOff {
+    std::optional<PhotoEffects> Effects;
+    int SelectedFilter = 0;
+
+    bool operator==(const SwitchedOff&) const = default;
+};
+
 struct WatermarkStack {
     std::vector<Watermark> Watermarks;    // first drawn first
     std::optional<PhotoEffects> Effects;  // none: the photo is not framed at all
     int SelectedFilter = 0;               // photo filter number, 0 for none
     bool Metadata = false;                // copyright data is switched on
+    SwitchedOff Off{};
 
     bool operator==(const WatermarkStack&) const = default;
 };
+
+// What there is to switch on or off, applied or not.
+inline const std::optional<PhotoEffects>& effectsOf(const WatermarkStack& stack) {
+    return stack.Effects ? stack.Effects : stack.Off.Effects;
+}
+inline int filterOf(const WatermarkStack& stack) {
+    return stack.SelectedFilter != 0 ? stack.SelectedFilter : stack.Off.SelectedFilter;
+}
 
 }  // namespace zelto

@@ -151,6 +151,9 @@ TEST(SettingFile, HoldsEveryFieldOfEachTypeInItsOrderAndReadsItBack) {
         EXPECT_EQ(outline(stack), expected.toStdString());
         EXPECT_EQ(readBack(writeSettingDocument(stack)), stack) << expected.toStdString();
     }
+    WatermarkStack added{{text}, {}, 0, false, {effects, 12}};
+    added.Watermarks[0].LabelName = u"Mine"_s;
+    EXPECT_EQ(readBack(writeSettingDocument(added)), added);
 }
 
 TEST(SettingFile, WhatAFileCannotExpressReadsBackAsTheNearestItCan) {
