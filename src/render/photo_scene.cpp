@@ -13,19 +13,6 @@
 namespace zelto {
 namespace {
 
-MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) {
-    return {.photoPath = request.path,
-            .pixelSize = scene.photoSize,
-            .dpiX = scene.dpiX,
-            .dpiY = scene.dpiY,
-            .row = request.row,
-            .listSize = request.listSize,
-            .batchRunning = request.batchRunning,
-            .now = request.now,
-            .locale = request.locale,
-            .properties = scene.properties};
-}
-
 // Whether the frame was put on; there is none that would make the photo too large.
 bool frame(PhotoScene& scene, const std::optional<PhotoEffects>& effect, bool final) {
     scene.size = scene.photoSize;
@@ -76,6 +63,19 @@ void buildLayers(PhotoScene& scene, const PhotoRequest& request, std::size_t fir
 }
 
 }  // namespace
+
+MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request) {
+    return {.photoPath = request.path,
+            .pixelSize = scene.photoSize,
+            .dpiX = scene.dpiX,
+            .dpiY = scene.dpiY,
+            .row = request.row,
+            .listSize = request.listSize,
+            .batchRunning = request.batchRunning,
+            .now = request.now,
+            .locale = request.locale,
+            .properties = scene.properties};
+}
 
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request) {
     Result<Picture> photo = readPicture(request.path);

@@ -12,6 +12,7 @@
 // ARGB32. Where memory does not suffice in the middle of drawing, std::bad_alloc ends the whole photo (canvas.h).
 #pragma once
 
+#include "macros/macro_expander.h"
 #include "metadata/image_properties.h"
 #include "pictures/picture_reader.h"
 #include "platform/result.h"
@@ -86,6 +87,9 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture reduced,
 
 // What is told of a photo that memory does not suffice for.
 Error notEnoughMemory(const QString& path);
+
+// What the texts of a scene are expanded with.
+MacroContext macroContext(const PhotoScene& scene, const PhotoRequest& request);
 
 // The warnings of a scene, in the order of its records.
 std::vector<PhotoWarning> warningsOf(const PhotoScene& scene);
