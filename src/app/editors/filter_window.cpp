@@ -106,8 +106,7 @@ FilterWindow::FilterWindow(WatermarkController& controller)
 }
 
 FilterChoice FilterWindow::value() const {
-    const StackState& state = controller().document().state();
-    return {state.Stack.SelectedFilter, state.SelectedFilter};
+    return {controller().document().state().Stack.SelectedFilter, controller().GetFilter()};
 }
 
 void FilterWindow::put(const FilterChoice& choice) {
@@ -115,7 +114,7 @@ void FilterWindow::put(const FilterChoice& choice) {
         controller().removeFilter(visitStep());
     } else {
         controller().AddFilter(choice.chosen, visitStep());
-        if (choice.applied != choice.chosen) controller().MakeFilterImage(choice.applied);
+        if (choice.applied != choice.chosen) controller().setFilterEnabled(false);
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
@@ -67,9 +68,9 @@ PhotoPreview::PhotoPreview(ImageListController& photos, WatermarkController& wat
 
 PhotoRequest PhotoPreview::requestFor(int row, bool final) const {
     PhotoRequest request;
-    request.path = photos_.model().index(row).data(PhotoListModel::PathRole).toString();
-    request.row = row;
-    request.listSize = photos_.count();
+    request.path = row < 0 ? sample_ : photos_.model().index(row).data(PhotoListModel::PathRole).toString();
+    request.row = std::max(0, row);
+    request.listSize = std::max(1, photos_.count());
     request.final = final;
     request.now = QDateTime::currentDateTime();
     request.locale = userDateLocale();
@@ -93,6 +94,20 @@ PhotoRequest PhotoPreview::finalRequest() const {
     return requestFor(photos_.selectedRow(), true);
 }
 
+void PhotoPreview::showSample(const QString& path) {
+    if (path == sample_) return;
+    sample_ = path;
+    if (photos_.selectedRow() < 0) selectImage(-1);
+}
+
+std::optional<MacroContext> PhotoPreview::shownContext() const {
+    const auto& shown = view_.shown();
+    if (!shown) return std::nullopt;
+    PhotoRequest shownRequest = request();
+    shownRequest.path = shown->path;
+    return macroContext(shown->scene, shownRequest);
+}
+
 void PhotoPreview::beginRun() {
     isRunning_ = true;
     endWaiting();
@@ -112,7 +127,7 @@ void PhotoPreview::endRun() {
 void PhotoPreview::selectImage(int row) {
     if (isRunning_) return;
     neighboursOf_ = -1;
-    if (row < 0) {
+    if (row < 0 && sample_.isEmpty()) {
         endWaiting();
         builder_.clear();
         watermarks_.model().setWarnings({});
@@ -135,7 +150,7 @@ void PhotoPreview::endWaiting() {
 // Another photo is not to be taken for the one that is awaited; one that is only being filtered stays.
 void PhotoPreview::showSign() {
     if (isRunning_) return;
-    const QString path = photos_.selectedPath();
+    const QString path = request().path;
     const bool isThisPhoto = view_.shown() && view_.shown()->path == path;
     if (!isThisPhoto) view_.showMessage({});
     view_.showSign(isThisPhoto ? tr("Working...") : tr("Loading %1...").arg(lastPathComponent(path)));
@@ -143,7 +158,7 @@ void PhotoPreview::showSign() {
 
 void PhotoPreview::follow(const StackChange& change) {
     view_.selectLayer(watermarks_.watermarkRowIndexAfterRemovingFilterAndMetadata());
-    if (photos_.selectedRow() < 0) return;
+    if (photos_.selectedRow() < 0 && sample_.isEmpty()) return;
     if (change.filter || change.effects) {
         beginWaiting();
         builder_.showPhoto(request());

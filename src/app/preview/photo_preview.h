@@ -33,6 +33,11 @@ class PhotoPreview : public QObject {
     // The request for the selected photo as the run would write it.
     PhotoRequest finalRequest() const;
 
+    // The photo at `path` is shown while there are none in the list; nothing for an empty path.
+    void showSample(const QString& path);
+    // What texts read on the photo on show; nothing where there is none.
+    std::optional<MacroContext> shownContext() const;
+
     // Between the two the canvas shows the pictures that a run hands over, and photos that are selected are not loaded.
     void beginRun();
     void showRunPicture(const QImage& picture);
@@ -74,6 +79,7 @@ class PhotoPreview : public QObject {
     QTimer diagnosticsDue_;
     QTimer patience_;  // runs while another picture is awaited
     std::shared_ptr<LogoCache> logos_;
+    QString sample_;
     bool isRunning_ = false;
     // A layer in hand: which one, as it was, and the undo step that all of it becomes.
     struct Gesture {

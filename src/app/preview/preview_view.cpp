@@ -249,6 +249,8 @@ void PreviewView::mousePressEvent(QMouseEvent* event) {
                 isPanning_ = true;
             }
         }
+    } else if (event->button() == Qt::RightButton) {
+        Q_EMIT layerPicked(layerUnder(*event).value_or(-1));
     }
     updateCursor(*event);
 }

@@ -42,9 +42,7 @@ void AppDelegate::start(const StartRequest& request) {
     window_->EnableDisableWatermarkControls();
     showWindow();
     shared_.ReadTips(tipsDocument());
-    if (dialogs_.tips && storedPreference(preference::ShowTips).value_or(false)) {
-        dialogs_.tips(window_.get(), shared_);
-    }
+    if (storedPreference(preference::ShowTips).value_or(false)) showTip();
     flushPreferences();
     loadSetting(request);
     if (!request.photos.isEmpty()) window_->controller().importPaths(request.photos);
@@ -60,6 +58,16 @@ void AppDelegate::showWindow() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+}
+
+// At the first start nothing is to lie over the welcome: the tip is a line of it.
+void AppDelegate::showTip() {
+    if (shared_.FirstRun) {
+        window_->welcome().showTip(shared_.GetCurrentTip(shared_.CurrentTip),
+                                   [this] { return shared_.nextTip(); });
+    } else if (dialogs_.tips) {
+        dialogs_.tips(window_.get(), shared_);
+    }
 }
 
 void AppDelegate::loadSetting(const StartRequest& request) {

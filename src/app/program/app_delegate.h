@@ -35,6 +35,7 @@ class AppDelegate {
 
   private:
     void showWindow();
+    void showTip();
     void loadSetting(const StartRequest& request);
     void load(const QString& path);
     QString savedSettingPath(const QString& name) const;

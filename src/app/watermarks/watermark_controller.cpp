@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/watermark_controller.h"
 
+#include "app/watermarks/ready_made_stacks.h"
+#include "app/watermarks/watermark_clipboard.h"
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
+#include "persistence/settings_library.h"
 
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QLoggingCategory>
+#include <QMimeData>
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <utility>
 
 namespace zelto {
@@ -48,12 +56,31 @@ Watermark& recordAt(StackState& state, int index) {
     return state.Stack.Watermarks[static_cast<std::size_t>(index)];
 }
 
+void switchFilter(StackState& state, bool on) {
+    const int number = filterOf(state.Stack);
+    state.Stack.SelectedFilter = on ? number : 0;
+    state.Stack.Off.SelectedFilter = on ? 0 : number;
+}
+
+void switchMetadata(StackState& state, bool on) {
+    if (state.Metadata) state.Metadata->Enabled = on;
+}
+
 }  // namespace
 
 WatermarkController::WatermarkController(WatermarkDocument& document, QObject* parent)
     : QObject(parent),
       document_(document),
-      model_(document, [this](int row, bool on) { setRowEnabled(row, on); }),
+      model_(document, {.checked = [this](int row, bool on) { setRowsEnabled({row}, on); },
+                        .renamed = [this](int index, const QString& name) { renameWatermark(index, name); },
+                        .moved = [this](const std::vector<int>& indices,
+                                        int before) { MoveWatermarks(indices, before); },
+                        .dropped =
+                            [this](const QMimeData& data, int before) {
+                                const Result<std::vector<Watermark>> read = watermarksOf(data);
+                                if (read) insertWatermarks(*read, before, tr("Drop Watermarks"));
+                                return read.has_value();
+                            }}),
       selection_(&model_) {
     connect(&model_, &QAbstractItemModel::rowsRemoved, this,
             [this](const QModelIndex&, int first) { keepARowSelected(first); });
@@ -66,7 +93,25 @@ const Watermark& WatermarkController::GetWatermarkAtRow(int index) const {
 // ---- the selected row
 
 int WatermarkController::selectedRow() const {
+    const QModelIndex current = selection_.currentIndex();
+    if (selection_.isSelected(current)) return current.row();
     return selection_.selectedIndexes().value(0).row();
+}
+
+std::vector<int> WatermarkController::selectedRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : selection_.selectedIndexes()) rows.push_back(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+std::vector<int> WatermarkController::selectedWatermarks() const {
+    std::vector<int> indices;
+    for (const int row : selectedRows()) {
+        if (model_.kindOf(row) == WatermarkListModel::RowKind::Watermark)
+            indices.push_back(model_.watermarkOf(row));
+    }
+    return indices;
 }
 
 void WatermarkController::selectWatermark(int index) {
@@ -75,6 +120,18 @@ void WatermarkController::selectWatermark(int index) {
     } else {
         selection_.clear();
     }
+}
+
+void WatermarkController::selectWatermarks(const std::vector<int>& indices) {
+    QItemSelection rows;
+    QModelIndex last;
+    for (const int index : indices) {
+        if (!document_.contains(index)) continue;
+        last = model_.index(model_.rowOf(index));
+        rows.select(last, last);
+    }
+    selection_.setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+    selection_.select(rows, QItemSelectionModel::ClearAndSelect);
 }
 
 // Qt makes a neighbour of a removed row the current one, but does not select it.
@@ -143,8 +200,8 @@ void WatermarkController::AddFilter(int number, const QString& step) {
     document_.change(
         tr("Choose Filter"),
         [number](StackState& state) {
-            state.SelectedFilter = number;
             state.Stack.SelectedFilter = number;
+            state.Stack.Off.SelectedFilter = 0;
         },
         mergeKey(step));
 }
@@ -156,21 +213,40 @@ void WatermarkController::removeFilter(const QString& step) {
     }
     document_.change(
         tr("Remove Filter"),
-        [](StackState& state) {
-            state.SelectedFilter = 0;
-            state.Stack.SelectedFilter = 0;
-        },
+        [](StackState& state) { state.Stack.SelectedFilter = state.Stack.Off.SelectedFilter = 0; },
         mergeKey(step));
 }
 
-void WatermarkController::MakeFilterImage(int number) {
-    document_.change(number == 0 ? tr("Switch Filter Off") : tr("Switch Filter On"),
-                     [number](StackState& state) { state.Stack.SelectedFilter = number; });
+void WatermarkController::setFilterEnabled(bool on) {
+    document_.change(on ? tr("Switch Filter On") : tr("Switch Filter Off"),
+                     [on](StackState& state) { switchFilter(state, on); });
 }
 
 void WatermarkController::AddEffects(const std::optional<PhotoEffects>& effects, const QString& step) {
     document_.change(
-        tr("Edit Effects"), [&effects](StackState& state) { state.Stack.Effects = effects; }, mergeKey(step));
+        tr("Edit Effects"),
+        [&effects](StackState& state) {
+            state.Stack.Effects = effects;
+            state.Stack.Off.Effects.reset();
+        },
+        mergeKey(step));
+}
+
+void WatermarkController::setEffectsEnabled(bool on) {
+    document_.change(on ? tr("Switch Border and Shadow On") : tr("Switch Border and Shadow Off"),
+                     [on](StackState& state) {
+                         std::optional<PhotoEffects> effects = effectsOf(state.Stack);
+                         std::optional<PhotoEffects> none;
+                         state.Stack.Effects = on ? effects : none;
+                         state.Stack.Off.Effects = on ? none : effects;
+                     });
+}
+
+void WatermarkController::removeEffects() {
+    document_.change(tr("Remove Border and Shadow"), [](StackState& state) {
+        state.Stack.Effects.reset();
+        state.Stack.Off.Effects.reset();
+    });
 }
 
 void WatermarkController::SetMetadata(const std::optional<CopyRightMetaData>& metadata, const QString& step) {
@@ -178,76 +254,169 @@ void WatermarkController::SetMetadata(const std::optional<CopyRightMetaData>& me
         tr("Edit Copyright"), [&metadata](StackState& state) { state.Metadata = metadata; }, mergeKey(step));
 }
 
+void WatermarkController::setMetadataEnabled(bool on) {
+    document_.change(on ? tr("Switch Copyright On") : tr("Switch Copyright Off"),
+                     [on](StackState& state) { switchMetadata(state, on); });
+}
+
+void WatermarkController::removeMetadata() {
+    document_.change(tr("Remove Copyright"), [](StackState& state) { state.Metadata.reset(); });
+}
+
 // ---- rows
 
-void WatermarkController::setRowEnabled(int row, bool on) {
-    switch (model_.kindOf(row)) {
-        case WatermarkListModel::RowKind::Filter:
-            MakeFilterImage(on ? document_.state().SelectedFilter : 0);
-            return;
-        case WatermarkListModel::RowKind::Metadata:
-            document_.change(on ? tr("Switch Copyright On") : tr("Switch Copyright Off"),
-                             [on](StackState& state) { state.Metadata->Enabled = on; });
-            return;
-        case WatermarkListModel::RowKind::Watermark:
-            break;
-    }
-    const int index = model_.watermarkOf(row);
-    if (!document_.contains(index)) return;
-    document_.change(on ? tr("Switch Watermark On") : tr("Switch Watermark Off"),
-                     [index, on](StackState& state) { recordAt(state, index).IsEnabled = on; });
+void WatermarkController::setRowsEnabled(const std::vector<int>& rows, bool on) {
+    using RowKind = WatermarkListModel::RowKind;
+    const QString name = on ? tr("Switch Watermark On") : tr("Switch Watermark Off");
+    document_.change(name, [&](StackState& state) {
+        for (const int row : rows) {
+            if (row < 0 || row >= model_.rowCount()) continue;
+            const RowKind kind = model_.kindOf(row);
+            if (kind == RowKind::Filter) switchFilter(state, on);
+            if (kind == RowKind::Metadata) switchMetadata(state, on);
+            if (kind == RowKind::Watermark) recordAt(state, model_.watermarkOf(row)).IsEnabled = on;
+        }
+    });
 }
 
 void WatermarkController::EnableDisableWatermark(int row) {
-    const QModelIndex index = model_.index(row);
-    if (index.isValid()) setRowEnabled(row, index.data(Qt::CheckStateRole).toInt() != Qt::Checked);
+    setRowsEnabled({row}, !model_.isOn(row));
 }
 
-void WatermarkController::RemoveWatermark(int row) {
-    if (row < 0 || row >= model_.rowCount()) return;
-    switch (model_.kindOf(row)) {
-        case WatermarkListModel::RowKind::Filter:
-            removeFilter();
-            return;
-        case WatermarkListModel::RowKind::Metadata:
-            document_.change(tr("Remove Copyright"), [](StackState& state) { state.Metadata.reset(); });
-            return;
-        case WatermarkListModel::RowKind::Watermark:
-            break;
+void WatermarkController::toggleSelected() {
+    const std::vector<int> rows = selectedRows();
+    const bool areOn = std::all_of(rows.begin(), rows.end(), [this](int row) { return model_.isOn(row); });
+    setRowsEnabled(rows, !areOn);
+}
+
+void WatermarkController::removeRows(std::vector<int> rows) {
+    std::erase_if(rows, [this](int row) { return row < 0 || row >= model_.rowCount(); });
+    if (rows.empty()) return;
+    // What the rows are, before any of them goes.
+    std::vector<int> indices;
+    bool hasFilter = false;
+    bool hasMetadata = false;
+    for (const int row : rows) {
+        const auto kind = model_.kindOf(row);
+        hasFilter = hasFilter || kind == WatermarkListModel::RowKind::Filter;
+        hasMetadata = hasMetadata || kind == WatermarkListModel::RowKind::Metadata;
+        if (kind == WatermarkListModel::RowKind::Watermark) indices.push_back(model_.watermarkOf(row));
     }
-    const int index = model_.watermarkOf(row);
-    document_.change(tr("Remove Watermark"), [index](StackState& state) {
-        state.Stack.Watermarks.erase(state.Stack.Watermarks.begin() + index);
+    const QString name = rows.size() > 1 ? tr("Remove %1 Rows").arg(rows.size())
+                         : hasFilter     ? tr("Remove Filter")
+                         : hasMetadata   ? tr("Remove Copyright")
+                                         : tr("Remove Watermark");
+    document_.change(name, [&](StackState& state) {
+        if (hasFilter) state.Stack.SelectedFilter = state.Stack.Off.SelectedFilter = 0;
+        if (hasMetadata) state.Metadata.reset();
+        std::sort(indices.rbegin(), indices.rend());
+        for (const int index : indices) state.Stack.Watermarks.erase(state.Stack.Watermarks.begin() + index);
     });
 }
 
 void WatermarkController::RemoveAllWatermarks() {
     document_.change(tr("Remove All Watermarks"), [](StackState& state) {
         state.Stack.Watermarks.clear();
-        state.Stack.SelectedFilter = 0;
-        state.SelectedFilter = 0;
+        state.Stack.SelectedFilter = state.Stack.Off.SelectedFilter = 0;
         state.Metadata.reset();
     });
     resetCurrentWatermarkIndex();
+    Q_EMIT told(GetEffect()
+                    ? tr("Watermarks, filter and copyright data removed; border and shadow stay. "
+                         "Undo brings everything back.")
+                    : tr("Watermarks, filter and copyright data removed. Undo brings everything back."));
 }
 
-void WatermarkController::MoveWatermarkUp() {
-    const int index = watermarkRowIndexAfterRemovingFilterAndMetadata();
-    if (index >= 1) MoveWatermarks(index, index - 1);
-}
-
-void WatermarkController::MoveWatermarkDown() {
-    const int index = watermarkRowIndexAfterRemovingFilterAndMetadata();
-    if (index >= 0) MoveWatermarks(index, index + 1);
-}
-
-void WatermarkController::MoveWatermarks(int from, int to) {
-    if (!document_.contains(from) || !document_.contains(to)) return;
-    document_.change(tr("Move Watermark"), [from, to](StackState& state) {
-        std::swap(recordAt(state, from), recordAt(state, to));
+void WatermarkController::moveSelected(int by) {
+    std::vector<int> indices = selectedWatermarks();
+    if (by > 0) std::reverse(indices.begin(), indices.end());
+    std::vector<int> places;
+    document_.change(tr("Move Watermark"), [&](StackState& state) {
+        for (const int index : indices) {
+            const int to = index + by;
+            const bool isFree =
+                document_.contains(to) && std::find(places.begin(), places.end(), to) == places.end();
+            if (isFree) std::swap(recordAt(state, index), recordAt(state, to));
+            places.push_back(isFree ? to : index);
+        }
     });
-    selectWatermark(to);
+    if (!places.empty()) selectWatermarks(places);
 }
+
+void WatermarkController::MoveWatermarks(const std::vector<int>& indices, int before) {
+    std::vector<Watermark> picked;
+    std::vector<Watermark> rest;
+    std::size_t place = 0;
+    for (int i = 0; i < document_.count(); ++i) {
+        const bool isPicked = std::find(indices.begin(), indices.end(), i) != indices.end();
+        (isPicked ? picked : rest).push_back(GetWatermarkAtRow(i));
+        if (!isPicked && i < before) place = rest.size();
+    }
+    std::vector<int> places(picked.size());
+    std::iota(places.begin(), places.end(), static_cast<int>(place));
+    rest.insert(rest.begin() + static_cast<std::ptrdiff_t>(place), picked.begin(), picked.end());
+    document_.change(tr("Move Watermark"), [&](StackState& state) { state.Stack.Watermarks = rest; });
+    selectWatermarks(places);
+}
+
+std::vector<Watermark> WatermarkController::copiesOf(const std::vector<int>& indices) const {
+    std::vector<Watermark> copies;
+    for (const int index : indices) copies.push_back(GetWatermarkAtRow(index));
+    return copies;
+}
+
+void WatermarkController::duplicateSelected() {
+    const std::vector<Watermark> copies = copiesOf(selectedWatermarks());
+    if (!copies.empty()) insertWatermarks(copies, insertionPlace(), tr("Duplicate Watermark"));
+}
+
+void WatermarkController::renameWatermark(int index, const QString& name) {
+    if (!document_.contains(index)) return;
+    document_.change(tr("Rename Watermark"),
+                     [&](StackState& state) { recordAt(state, index).LabelName = name.simplified(); });
+}
+
+// ---- watermarks from elsewhere
+
+int WatermarkController::insertionPlace() const {
+    const std::vector<int> selected = selectedWatermarks();
+    return selected.empty() ? document_.count() : selected.back() + 1;
+}
+
+void WatermarkController::insertWatermarks(const std::vector<Watermark>& watermarks, int before,
+                                           const QString& stepName) {
+    const int place = std::clamp(before, 0, document_.count());
+    document_.change(stepName, [&](StackState& state) {
+        std::vector<Watermark>& list = state.Stack.Watermarks;
+        list.insert(list.begin() + place, watermarks.begin(), watermarks.end());
+    });
+    std::vector<int> places(watermarks.size());
+    std::iota(places.begin(), places.end(), place);
+    selectWatermarks(places);
+}
+
+void WatermarkController::copySelected() const {
+    const std::vector<Watermark> copies = copiesOf(selectedWatermarks());
+    if (!copies.empty()) QGuiApplication::clipboard()->setMimeData(watermarksAsMime(copies).release());
+}
+
+void WatermarkController::cutSelected() {
+    const std::vector<int> indices = selectedWatermarks();
+    if (indices.empty()) return;
+    copySelected();
+    document_.change(tr("Cut Watermark"), [&indices](StackState& state) {
+        for (auto index = indices.rbegin(); index != indices.rend(); ++index)
+            state.Stack.Watermarks.erase(state.Stack.Watermarks.begin() + *index);
+    });
+}
+
+Result<void> WatermarkController::paste(const QMimeData& data) {
+    return watermarksOf(data).map([this](const std::vector<Watermark>& watermarks) {
+        insertWatermarks(watermarks, insertionPlace(), tr("Paste Watermark"));
+    });
+}
+
+// ---- changes by hand
 
 void WatermarkController::placeWatermark(int index, const Watermark& placed, const QString& name,
                                          const QString& step) {
@@ -256,15 +425,32 @@ void WatermarkController::placeWatermark(int index, const Watermark& placed, con
         name, [&](StackState& state) { recordAt(state, index) = placed; }, mergeKey(step));
 }
 
+// ---- the whole stack
+
 void WatermarkController::replaceStack(const WatermarkStack& stack,
                                        const std::optional<CopyRightMetaData>& metadata,
-                                       const QString& stepName) {
+                                       const QString& stepName, const QString& setting) {
     resetCurrentWatermarkIndex();
-    document_.change(stepName, [&](StackState& state) {
-        state.Stack = stack;
-        state.SelectedFilter = stack.SelectedFilter;
-        state.Metadata = metadata;
+    StackState state{stack, metadata};
+    state.Stack.Metadata = metadata && metadata->Enabled;
+    document_.load(stepName, state, setting);
+}
+
+void WatermarkController::addStack(const WatermarkStack& stack, const QString& stepName) {
+    resetCurrentWatermarkIndex();
+    const int place = document_.count();
+    document_.change(stepName, [&stack](StackState& state) {
+        std::vector<Watermark>& list = state.Stack.Watermarks;
+        list.insert(list.end(), stack.Watermarks.begin(), stack.Watermarks.end());
+        if (!effectsOf(state.Stack)) state.Stack.Effects = stack.Effects;
+        if (filterOf(state.Stack) == 0) state.Stack.SelectedFilter = stack.SelectedFilter;
     });
+    selectWatermark(place);
+}
+
+void WatermarkController::addReadyMade(int place) {
+    const ReadyMadeStack& stack = readyMadeStacks().at(static_cast<std::size_t>(place));
+    addStack(stack.make(), tr("Add %1").arg(stack.name));
 }
 
 Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
@@ -277,14 +463,18 @@ Result<void> WatermarkController::LoadWatermarkSetting(const QString& path) {
         metadata = read.value_or(CopyRightMetaData());
         if (!read) metadata->Enabled = true;
     }
-    replaceStack(*stack, metadata, tr("Load Setting"));
+    // A stack that was brought back goes on without a name.
+    const bool isNamed = QFileInfo(path).completeBaseName() != LastWatermarkSetting;
+    replaceStack(*stack, metadata, tr("Load Setting"), isNamed ? path : QString());
     Q_EMIT keptAs(path);
     return {};
 }
 
 Result<void> WatermarkController::SaveWatermarkSettings(const QString& path) {
     const Result<void> saved = zelto::SaveWatermarkSettings(document_.state().Stack, path);
-    if (saved) Q_EMIT keptAs(path);
+    if (!saved) return saved;
+    document_.setSetting(path);
+    Q_EMIT keptAs(path);
     return saved;
 }
 

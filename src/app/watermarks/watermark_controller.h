@@ -13,6 +13,9 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
+
+class QMimeData;
 
 namespace zelto {
 
@@ -29,7 +32,9 @@ class WatermarkController : public QObject {
     // ---- what there is
 
     const Watermark& GetWatermarkAtRow(int index) const;
-    const std::optional<PhotoEffects>& GetEffect() const { return document_.state().Stack.Effects; }
+    // The border and shadow, and the filter, applied to the photos or switched off.
+    const std::optional<PhotoEffects>& GetEffect() const { return effectsOf(document_.state().Stack); }
+    int GetFilter() const { return filterOf(document_.state().Stack); }
     const std::optional<CopyRightMetaData>& Metadata() const { return document_.state().Metadata; }
     // -1 while a new watermark is being edited, and while none is.
     int CurrentWatermark() const { return document_.currentWatermark(); }
@@ -37,16 +42,20 @@ class WatermarkController : public QObject {
     // A record of `type` with the values a new watermark of the list starts with.
     static Watermark startingWatermark(std::int32_t type);
 
-    // ---- the selected row
+    // ---- the selected rows
 
-    // At most one row is selected. It stays selected while rows come and go around it; when it is removed itself, the
-    // row that takes its place is selected.
+    // Rows stay selected while others come and go around them; when all are removed, the row that takes their place is
+    // selected.
     QItemSelectionModel& selection() { return selection_; }
-    int selectedRow() const;  // -1 for none
+    // The one that is edited and outlined on the photo: of several, the one with the focus. -1 for none.
+    int selectedRow() const;
+    std::vector<int> selectedRows() const;        // ascending
+    std::vector<int> selectedWatermarks() const;  // ascending; rows that are no watermarks left out
     // The watermark of the selected row; negative for a filter or metadata row, and for none.
     int watermarkRowIndexAfterRemovingFilterAndMetadata() const { return model_.watermarkOf(selectedRow()); }
     // Selects the row of a watermark; -1 selects nothing.
     void selectWatermark(int index);
+    void selectWatermarks(const std::vector<int>& indices);
 
     // ---- changes
     //
@@ -66,8 +75,12 @@ class WatermarkController : public QObject {
     void AddFilter(int number, const QString& step = {});
     // Takes the filter and its row away.
     void removeFilter(const QString& step = {});
-    // Shows the photos with filter `number`, 0 for none. The filter's row stays.
-    void MakeFilterImage(int number);
+    // What is switched off stays, with its row, and is not applied.
+    void setFilterEnabled(bool on);
+    void setEffectsEnabled(bool on);
+    void setMetadataEnabled(bool on);
+    void removeEffects();
+    void removeMetadata();
     void AddEffects(const std::optional<PhotoEffects>& effects, const QString& step = {});
     void SetMetadata(const std::optional<CopyRightMetaData>& metadata, const QString& step = {});
 
@@ -75,21 +88,46 @@ class WatermarkController : public QObject {
     // that of the undo step.
     void placeWatermark(int index, const Watermark& placed, const QString& name, const QString& step = {});
 
-    void RemoveSelectedWatermarks() { RemoveWatermark(selectedRow()); }
-    void RemoveWatermark(int row);
+    void RemoveSelectedWatermarks() { removeRows(selectedRows()); }
+    void RemoveWatermark(int row) { removeRows({row}); }
+    void removeRows(std::vector<int> rows);
+    // Removes the watermarks, the filter and the copyright data, but neither border nor shadow, and tells so.
     void RemoveAllWatermarks();
-    void MoveWatermarkUp();
-    void MoveWatermarkDown();
-    void MoveWatermarks(int from, int to);
-    // Toggles the check box of a row.
+    // Moves the selected watermarks by one place; those that cannot go on stay.
+    void MoveWatermarkUp() { moveSelected(-1); }
+    void MoveWatermarkDown() { moveSelected(1); }
+    // Takes watermarks out of the list and puts them, in their order, before the one that is at `before` now.
+    void MoveWatermarks(const std::vector<int>& indices, int before);
+    // Copies the selected watermarks to the place behind the last of them.
+    void duplicateSelected();
+    // The user's own name for a watermark; an empty one lets the list name it again.
+    void renameWatermark(int index, const QString& name);
+    // Toggles the eye of a row.
     void EnableDisableWatermark(int row);
-    void setRowEnabled(int row, bool on);
+    // Switches all selected rows on, or off where all are on.
+    void toggleSelected();
+    void setRowsEnabled(const std::vector<int>& rows, bool on);
+
+    // ---- watermarks from elsewhere
+
+    // Puts watermarks before the one at `before` and selects them.
+    void insertWatermarks(const std::vector<Watermark>& watermarks, int before, const QString& stepName);
+    // The place behind the selected ones, or at the end.
+    int insertionPlace() const;
+    void copySelected() const;
+    void cutSelected();
+    // Error: as watermarksOf.
+    Result<void> paste(const QMimeData& data);
 
     // ---- the whole stack
 
-    // Takes the stack from elsewhere.
+    // Takes the stack from elsewhere; `setting` is the setting file that holds it, empty for none.
     void replaceStack(const WatermarkStack& stack, const std::optional<CopyRightMetaData>& metadata,
-                      const QString& stepName);
+                      const QString& stepName, const QString& setting = {});
+    // Adds the watermarks of a stack to those there are, and its filter and frame where there is none.
+    void addStack(const WatermarkStack& stack, const QString& stepName);
+    // The same with one of readyMadeStacks().
+    void addReadyMade(int place);
 
     // Takes the stack of a setting file, and the copyright data from its file where the setting wants some.
     // Error: as zelto::LoadWatermarkSetting, with the stack as it was.
@@ -101,10 +139,14 @@ class WatermarkController : public QObject {
   Q_SIGNALS:
     // The stack is now the one that the setting file at `path` holds.
     void keptAs(const QString& path);
+    // The user is to be told something that needs no answer.
+    void told(const QString& text);
 
   private:
     QString mergeKey(const QString& step) const;
     void keepARowSelected(int removedFrom);
+    void moveSelected(int by);
+    std::vector<Watermark> copiesOf(const std::vector<int>& indices) const;
 
     WatermarkDocument& document_;
     WatermarkListModel model_;

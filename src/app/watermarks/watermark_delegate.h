@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Paints a row of the watermark list and takes clicks on its check box, and the space bar. Main thread only.
+// Paints a row of the watermark list: an eye, open or closed, a picture of the mark, its name with what the record holds
+// below it where that reads differently, and a sign where it draws nothing. Takes clicks on the eye, and the field for
+// the name. Main thread only.
 #pragma once
 
 #include <QIcon>
@@ -11,6 +13,8 @@ class WatermarkDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
   public:
+    static constexpr int PortraitSide = 24;
+
     explicit WatermarkDelegate(QObject* parent);
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -18,12 +22,17 @@ class WatermarkDelegate : public QStyledItemDelegate {
                const QModelIndex& index) const override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                      const QModelIndex& index) override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
 
-    // The check box of a row that is painted into `row`.
-    static QRect checkBoxRect(const QRect& row);
+    // The eye of a row that is painted into `row`, and whether a click at `point` is meant for it.
+    static QRect eyeRect(const QRect& row);
+    static bool isOnEye(const QRect& row, QPoint point);
 
   private:
     QIcon warningIcon_;
+    QIcon openEye_;
+    QIcon closedEye_;
 };
 
 }  // namespace zelto

@@ -23,8 +23,9 @@ StackChange changeBetween(const StackState& before, const StackState& after) {
         if (!(old[i] == now[i])) change.records.push_back(static_cast<int>(i));
     }
     change.filter = before.Stack.SelectedFilter != after.Stack.SelectedFilter ||
-                    before.SelectedFilter != after.SelectedFilter;
-    change.effects = before.Stack.Effects != after.Stack.Effects;
+                    before.Stack.Off.SelectedFilter != after.Stack.Off.SelectedFilter;
+    change.effects =
+        before.Stack.Effects != after.Stack.Effects || before.Stack.Off.Effects != after.Stack.Off.Effects;
     change.metadata = before.Metadata != after.Metadata || before.Stack.Metadata != after.Stack.Metadata;
     return change;
 }
@@ -46,6 +47,24 @@ bool WatermarkDocument::change(const QString& name, const Mutate& mutate, const 
     history_.push(new ChangeValue<StackState>(
         name, [this](const StackState& state) { apply(state); }, state_, std::move(next), mergeKey));
     return true;
+}
+
+void WatermarkDocument::setSetting(const QString& path) {
+    if (path == setting_) return;
+    setting_ = path;
+    Q_EMIT settingChanged();
+}
+
+void WatermarkDocument::load(const QString& name, const StackState& state, const QString& setting) {
+    if (state == state_) {
+        setSetting(setting);
+        return;
+    }
+    history_.beginMacro(name);
+    history_.push(new ChangeValue<QString>(
+        name, [this](const QString& path) { setSetting(path); }, setting_, setting));
+    change(name, [&state](StackState& now) { now = state; });
+    history_.endMacro();
 }
 
 void WatermarkDocument::amendRecord(int index, const std::function<void(Watermark&)>& amend) {

@@ -21,10 +21,7 @@ namespace zelto {
 
 // Everything an undo step brings back.
 struct StackState {
-    // `Stack.SelectedFilter` is the filter applied to the photos, `Stack.Metadata` whether `Metadata` is
-    // switched on.
-    WatermarkStack Stack;
-    int SelectedFilter = 0;  // the filter of the filter row, applied or not; 0 for no such row
+    WatermarkStack Stack;  // its `Metadata` says whether the one below is switched on
     std::optional<CopyRightMetaData> Metadata;
 
     bool operator==(const StackState&) const = default;
@@ -72,17 +69,26 @@ class WatermarkDocument : public QObject {
     // logo.
     void amendRecord(int index, const std::function<void(Watermark&)>& amend);
 
+    // The setting file that the stack was loaded from or saved to last; empty for none. Saving it under another name is
+    // no step of the history, but undoing the loading of another stack brings the name back as well.
+    const QString& setting() const { return setting_; }
+    void setSetting(const QString& path);
+    // Replaces the state and the setting in one step.
+    void load(const QString& name, const StackState& state, const QString& setting);
+
     // The history; it takes the changes of the photo list too, so that one undo goes back whatever came last.
     QUndoStack& history() { return history_; }
 
   Q_SIGNALS:
     void changed(const zelto::StackChange& change);
+    void settingChanged();
 
   private:
     void apply(const StackState& state);
     void announce(const StackChange& change);
 
     StackState state_;
+    QString setting_;
     int currentWatermark_ = NoWatermark;
     mutable std::shared_ptr<const WatermarkStack> snapshot_;
     QUndoStack history_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/watermark_editors.h"
 
+#include "app/common/sample_photo.h"
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
 
@@ -45,6 +46,8 @@ WatermarkEditors::WatermarkEditors(WatermarkController& watermarks, const ImageL
 }
 
 SelectedPhoto WatermarkEditors::photo() const {
+    // The sample photo is on show until there are photos.
+    if (photos_.count() == 0) return {samplePhotoPath(), 0};
     return {photos_.selectedPath(), std::max(0, photos_.selectedRow())};
 }
 

@@ -2,6 +2,7 @@
 #include "app/window/empty_state.h"
 
 #include "app/common/icons.h"
+#include "app/window/stack_gallery.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -22,27 +23,33 @@ QPushButton* makeButton(QAction* action, QWidget* parent) {
     return button;
 }
 
+QLabel* makeHeading(const QString& text, double size, QWidget* parent) {
+    auto* heading = new QLabel(text, parent);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * size);
+    font.setBold(true);
+    heading->setFont(font);
+    heading->setAlignment(Qt::AlignCenter);
+    return heading;
+}
+
+QLabel* makeText(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
 }  // namespace
 
-EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder, QWidget* parent) : QWidget(parent) {
+EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder,
+                       const std::function<void(int place)>& addReadyMade, QWidget* parent)
+    : QWidget(parent), tipLine_(new QWidget(this)), tip_(new QLabel(this)), nextTip_(new QPushButton(this)) {
     auto* picture = new QLabel(this);
-    constexpr int IconSide = 72;
+    constexpr int IconSide = 56;
     picture->setPixmap(lineIcon(QLatin1String("image"))
                            .pixmap(QSize(IconSide, IconSide), devicePixelRatioF(), QIcon::Disabled));
     picture->setAlignment(Qt::AlignCenter);
-
-    auto* title = new QLabel(tr("Drop photos here"), this);
-    QFont large = title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.7);
-    large.setBold(true);
-    title->setFont(large);
-    title->setAlignment(Qt::AlignCenter);
-
-    auto* text = new QLabel(
-        tr("Add the photos to be watermarked, compose your watermarks at the right, then press Start."),
-        this);
-    text->setAlignment(Qt::AlignCenter);
-    text->setWordWrap(true);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -50,16 +57,63 @@ EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder, QWidget* parent) 
     buttons->addWidget(makeButton(addFolder, this));
     buttons->addStretch();
 
+    constexpr QSize PictureSize(132, 88);
+    constexpr int Columns = 4;
+    auto* readyMade = new QHBoxLayout;
+    readyMade->addStretch();
+    readyMade->addWidget(makeReadyMadeButtons(Columns, PictureSize, addReadyMade, this));
+    readyMade->addStretch();
+
+    auto* tipRow = new QHBoxLayout(tipLine_);
+    auto* tipIcon = new QLabel(tipLine_);
+    tipIcon->setPixmap(lineIcon(QLatin1String("tips")).pixmap(QSize(20, 20), devicePixelRatioF()));
+    tip_->setObjectName(QStringLiteral("Tip"));
+    tip_->setWordWrap(true);
+    tip_->setAccessibleName(tr("Tip"));
+    nextTip_->setText(tr("&Next Tip"));
+    nextTip_->setFlat(true);
+    tipRow->addWidget(tipIcon);
+    tipRow->addWidget(tip_, 1);
+    tipRow->addWidget(nextTip_);
+    tipLine_->hide();
+
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(32, 32, 32, 32);
-    column->setSpacing(12);
-    column->addStretch();
+    column->setContentsMargins(24, 16, 24, 12);
+    column->setSpacing(8);
+    column->addStretch(2);
     column->addWidget(picture);
-    column->addWidget(title);
-    column->addWidget(text);
-    column->addSpacing(8);
+    column->addWidget(makeHeading(tr("Drop photos here"), 1.7, this));
+    column->addWidget(
+        makeText(tr("Add the photos to be watermarked, compose your watermarks at the right, then press "
+                    "Start."),
+                 this));
     column->addLayout(buttons);
-    column->addStretch();
+    column->addSpacing(24);
+    column->addWidget(makeHeading(tr("or begin with the watermarks"), 1.2, this));
+    column->addWidget(makeText(tr("A sample photo shows them until you add your own."), this));
+    column->addLayout(readyMade);
+    column->addStretch(3);
+    column->addWidget(tipLine_);
+}
+
+void EmptyState::showTip(const QString& tip, const std::function<QString()>& next) {
+    tip_->setText(tip);
+    tipLine_->setVisible(!tip.isEmpty());
+    nextTip_->disconnect(this);
+    connect(nextTip_, &QPushButton::clicked, this, [this, next] { tip_->setText(next()); });
+}
+
+QWidget* makeSampleBar(QAction* addPhotos, QAction* addFolder, QWidget* parent) {
+    auto* bar = new QFrame(parent);
+    bar->setObjectName(QStringLiteral("SampleBar"));
+    bar->setBackgroundRole(QPalette::AlternateBase);
+    bar->setAutoFillBackground(true);
+    auto* text = new QLabel(EmptyState::tr("This is a sample photo. Drop your own anywhere."), bar);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(10, 4, 8, 4);
+    row->addWidget(text, 1);
+    for (QAction* action : {addPhotos, addFolder}) row->addWidget(makeButton(action, bar));
+    return bar;
 }
 
 }  // namespace zelto

@@ -2,15 +2,18 @@
 #include "app/window/main_window.h"
 
 #include "app/common/icons.h"
+#include "app/common/sample_photo.h"
 #include "app/preview/hold_key.h"
+#include "app/watermarks/stack_faces.h"
+#include "app/watermarks/watermark_delegate.h"
 #include "app/window/disabled_scroll.h"
-#include "app/window/empty_state.h"
 #include "app/window/photo_keys.h"
+#include "app/window/stack_work.h"
 #include "app/window/window_places.h"
+#include "persistence/setting_file.h"
 #include "platform/preferences.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
@@ -33,6 +36,7 @@ namespace zelto {
 namespace {
 
 constexpr QSize StartSize(1280, 800);
+constexpr int StatusMilliseconds = 8000;  // that a line stays in the status bar
 
 QWidget* makeSpacer(QWidget* parent) {
     auto* spacer = new QWidget(parent);
@@ -70,8 +74,10 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       mainView_(new MainView(this)),
       photoPanel_(
           new PhotoPanel(photos_, {(*actions_)[Act::SortByName], (*actions_)[Act::SortByDate]}, this)),
-      watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, this)),
+      watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, *keeper_, this)),
       inspector_(new Inspector(watermarks_, photos_, editors_, this)),
+      faces_(
+          new StackFaces(watermarks_, qRound(WatermarkDelegate::PortraitSide * devicePixelRatioF()), this)),
       result_(new ResultBar(this)),
       processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
@@ -88,6 +94,18 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
     mainView_->setDelegate([this](const QStringList& paths) { controller_->bringFiles(paths); });
     connectActions();
     connectDialogs();
+    connectStack(
+        {.window = *this,
+         .actions = *actions_,
+         .watermarks = watermarks_,
+         .keeper = *keeper_,
+         .panel = *watermarkPanel_,
+         .preview = *previewView_,
+         .photos = photoPanel_->list(),
+         .dialogs = controller_->dialogs(),
+         .shared = shared,
+         .tell = [this](const QString& text) { statusBar()->showMessage(text, StatusMilliseconds); },
+         .addPhotos = [this](const QMimeData& files) { return mainView_->performDragOperation(files); }});
     actions_->fill(*menuBar(), undo_, redo_);
     makeToolBar();
     layOut();
@@ -116,6 +134,8 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
     connect(inspector_, &Inspector::left, &watermarkList(), [this] { watermarkList().setFocus(); });
     connect(previewView_, &PreviewView::scaleChanged, this, &MainWindow::showStatus);
     connect(preview_, &PhotoPreview::shown, this, &MainWindow::showStatus);
+    connect(preview_, &PhotoPreview::shown, this, [this] { faces_->setPhoto(preview_->shownContext()); });
+    connect(keeper_, &StackKeeper::changed, this, &MainWindow::EnableDisableWatermarkControls);
     EnableDisableWatermarkControls();
     showStatus();
 }
@@ -126,6 +146,7 @@ MainWindow::~MainWindow() {
     photos_.model().disconnect(this);
     // Whatever refers to the document and the photo list goes before them.
     delete takeCentralWidget();
+    delete faces_;
     delete keeper_;
     delete controller_;
     delete preview_;
@@ -148,11 +169,6 @@ void MainWindow::connectActions() {
     on(Act::FindPhotos, photoPanel_, &PhotoPanel::find);
     actions_->connectTo(Act::NextPhoto, [this] { photos_.step(1); });
     actions_->connectTo(Act::PreviousPhoto, [this] { photos_.step(-1); });
-    actions_->connectTo(Act::Paste, [this] { paste(); });
-    on(Act::MoveUp, &watermarks_, &WatermarkController::MoveWatermarkUp);
-    on(Act::MoveDown, &watermarks_, &WatermarkController::MoveWatermarkDown);
-    on(Act::RemoveWatermark, &watermarks_, &WatermarkController::RemoveSelectedWatermarks);
-    on(Act::RemoveAllWatermarks, &watermarks_, &WatermarkController::RemoveAllWatermarks);
     on(Act::ZoomIn, previewView_, &PreviewView::ZoomIn);
     on(Act::ZoomOut, previewView_, &PreviewView::ZoomOut);
     on(Act::FitToScreen, previewView_, &PreviewView::FittoScreen);
@@ -218,14 +234,8 @@ void MainWindow::connectDialogs() {
     if (dialogs.versionCheck) {
         actions_->connectTo(Act::VersionCheck, [this] { controller_->CheckLatestVersion(); });
     }
-    struct LibraryRow {
-        Act act;
-        const std::function<void(QWidget*, WatermarkController&)>& dialog;
-    };
-    for (const LibraryRow& row : {LibraryRow{Act::SaveSettings, dialogs.saveSettings},
-                                  LibraryRow{Act::OpenSettings, dialogs.openSettings}}) {
-        if (row.dialog)
-            actions_->connectTo(row.act, [this, &dialog = row.dialog] { dialog(this, watermarks_); });
+    if (dialogs.openSettings) {
+        actions_->connectTo(Act::OpenSettings, [this, &dialogs] { dialogs.openSettings(this, watermarks_); });
     }
     if (dialogs.importSettings) {
         actions_->connectTo(Act::ImportSettings, [this, &dialogs] { dialogs.importSettings(this); });
@@ -246,8 +256,6 @@ void MainWindow::makeToolBar() {
     add({Act::AddPhotos, Act::AddFolder, Act::RemovePhoto});
     bar->addSeparator();
     bar->addActions({undo_, redo_});
-    bar->addSeparator();
-    add({Act::OpenSettings, Act::SaveSettings});
     bar->addWidget(makeSpacer(bar));
     add({Act::ZoomOut, Act::ZoomIn, Act::FitToScreen, Act::ActualSize, Act::FullScreen});
     bar->addSeparator();
@@ -274,8 +282,18 @@ void MainWindow::makeToolBar() {
 }
 
 void MainWindow::layOut() {
-    middle_->addWidget(new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], middle_));
-    middle_->addWidget(pages_);
+    const auto addReadyMade = [this](int place) { watermarks_.addReadyMade(place); };
+    welcome_ =
+        new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], addReadyMade, middle_);
+    middle_->addWidget(welcome_);
+    auto* picture = new QWidget(middle_);
+    auto* pictureRows = new QVBoxLayout(picture);
+    pictureRows->setContentsMargins(0, 0, 0, 0);
+    pictureRows->setSpacing(0);
+    sampleBar_ = makeSampleBar((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], picture);
+    pictureRows->addWidget(sampleBar_);
+    pictureRows->addWidget(pages_, 1);
+    middle_->addWidget(picture);
 
     columns_->addWidget(photoPanel_);
     columns_->addWidget(middle_);
@@ -283,7 +301,7 @@ void MainWindow::layOut() {
     stackColumn_->addWidget(inspector_);
     stackColumn_->setStretchFactor(1, 1);
     stackColumn_->setChildrenCollapsible(false);
-    stackColumn_->setSizes({260, 400});
+    stackColumn_->setSizes({300, 360});
     columns_->addWidget(stackColumn_);
     columns_->setStretchFactor(1, 1);
     columns_->setChildrenCollapsible(false);
@@ -308,12 +326,27 @@ void MainWindow::layOut() {
 
 void MainWindow::EnableDisableWatermarkControls() {
     const bool hasPhotos = photos_.count() > 0;
+    const bool hasStack = hasAnythingToSave(document_.state().Stack);
+    const bool hasRows = watermarks_.model().rowCount() > 0;
+    // Watermarks can be made before there are photos to put them on.
+    const bool showsSample = !hasPhotos && (hasStack || hasRows);
     actions_->update({.hasPhotos = hasPhotos,
-                      .hasRows = watermarks_.model().rowCount() > 0,
+                      .hasPicture = hasPhotos || showsSample,
+                      .hasStack = hasStack,
+                      .hasSetting = keeper_->mayLoadAtStart(),
+                      .hasRows = hasRows,
                       .hasSelectedRow = watermarks_.selectedRow() >= 0,
+                      .hasSelectedMark = !watermarks_.selectedWatermarks().empty(),
                       .isRunning = isRunning_,
                       .hasRun = processing_->isVisibleTo(mainView_)});
-    middle_->setCurrentIndex(hasPhotos ? 1 : 0);
+    preview_->showSample(showsSample ? samplePhotoPath() : QString());
+    sampleBar_->setVisible(showsSample);
+    // Without photos the welcome offers them.
+    watermarkPanel_->offerReadyMade(hasPhotos && !hasRows);
+    setWindowTitle(keeper_->name().isEmpty() ? QStringLiteral("Zelto")
+                                             : tr("%1[*] – Zelto").arg(keeper_->name()));
+    setWindowModified(keeper_->isChanged());
+    middle_->setCurrentIndex(hasPhotos || showsSample ? 1 : 0);
     photoPanel_->setReadOnly(isRunning_);
     stackColumn_->setEnabled(!isRunning_);
     if (isRunning_) pages_->showContacts(false);
@@ -371,12 +404,6 @@ void MainWindow::keepPlaces() const {
 }
 
 // Files that were copied elsewhere.
-void MainWindow::paste() {
-    const QMimeData* files = QApplication::clipboard()->mimeData();
-    if (files == nullptr || !mainView_->performDragOperation(*files))
-        statusBar()->showMessage(tr("There are no photos on the clipboard"), 8000);
-}
-
 // ---- events
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

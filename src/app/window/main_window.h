@@ -14,6 +14,7 @@
 #include "app/watermarks/watermark_document.h"
 #include "app/watermarks/watermark_editors.h"
 #include "app/window/dialog_set.h"
+#include "app/window/empty_state.h"
 #include "app/window/inspector.h"
 #include "app/window/main_view.h"
 #include "app/window/processing_bar.h"
@@ -31,6 +32,8 @@ class QSplitter;
 class QStackedWidget;
 
 namespace zelto {
+
+class StackFaces;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -51,13 +54,14 @@ class MainWindow : public QMainWindow {
     PhotoPanel& photoPanel() { return *photoPanel_; }
     PhotoListView& photoList() { return photoPanel_->list(); }
     PhotoFilterBox& photoFilter() { return photoPanel_->filter(); }
-    QListView& watermarkList() { return watermarkPanel_->list(); }
+    WatermarkListView& watermarkList() { return watermarkPanel_->list(); }
     Inspector& inspector() { return *inspector_; }
     MainView& mainView() { return *mainView_; }
     WindowActions& actions() { return *actions_; }
     ProcessingBar& processing() { return *processing_; }
     ResultBar& result() { return *result_; }
     StackKeeper& keeper() { return *keeper_; }
+    EmptyState& welcome() { return *welcome_; }
 
     // What a run does to the controls: those that change anything are off while it is under way.
     void EnableControls();
@@ -84,7 +88,6 @@ class MainWindow : public QMainWindow {
     void connectViews();
     void connectDialogs();
     void showStatus();
-    void paste();
     void restorePlaces();
     void keepPlaces() const;
 
@@ -102,11 +105,14 @@ class MainWindow : public QMainWindow {
     PhotoPanel* photoPanel_;
     WatermarkPanel* watermarkPanel_;
     Inspector* inspector_;
+    StackFaces* faces_;
     ResultBar* result_;
     ProcessingBar* processing_;
     QSplitter* columns_;
     QSplitter* stackColumn_;
     QStackedWidget* middle_;
+    EmptyState* welcome_ = nullptr;
+    QWidget* sampleBar_ = nullptr;  // above the sample photo
     QPushButton* start_;
     QLabel* photoCount_;
     QLabel* zoom_;

@@ -8,6 +8,7 @@
 #include "persistence/settings_library.h"
 #include "platform/preferences.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <utility>
@@ -35,20 +36,57 @@ QString nameOf(const QString& path) {
 
 StackKeeper::StackKeeper(WatermarkController& watermarks, const MyGlobalInstance& shared, QWidget* window)
     : QObject(window), watermarks_(watermarks), shared_(shared), window_(window) {
-    connect(&watermarks_, &WatermarkController::keptAs, this, &StackKeeper::noteSetting);
+    connect(&watermarks_, &WatermarkController::keptAs, this, [this](const QString& path) {
+        kept_.insert(path, stack());
+        Q_EMIT changed();
+    });
+    connect(&watermarks_.document(), &WatermarkDocument::changed, this, &StackKeeper::changed);
+    connect(&watermarks_.document(), &WatermarkDocument::settingChanged, this, &StackKeeper::changed);
 }
 
 const WatermarkStack& StackKeeper::stack() const {
     return watermarks_.document().state().Stack;
 }
 
-void StackKeeper::noteSetting(const QString& path) {
-    // A stack that was brought back goes on without a name.
-    if (path == lastWatermarkPath()) {
-        setting_.reset();
-    } else {
-        setting_ = Setting{path, stack()};
+const QString& StackKeeper::setting() const {
+    return watermarks_.document().setting();
+}
+
+bool StackKeeper::holdsTheStack() const {
+    const auto kept = kept_.constFind(setting());
+    return !setting().isEmpty() && kept != kept_.constEnd() && areTheSameWork(stack(), *kept);
+}
+
+QString StackKeeper::name() const {
+    return nameOf(setting());
+}
+
+bool StackKeeper::isChanged() const {
+    return !setting().isEmpty() && !holdsTheStack();
+}
+
+bool StackKeeper::save() {
+    if (setting().isEmpty()) return false;
+    const Result<void> saved = watermarks_.SaveWatermarkSettings(setting());
+    if (!saved) showAlert(window_, tr("Setting Save Error"), saved.error().message);
+    return true;
+}
+
+bool StackKeeper::mayLoadAtStart() const {
+    return !setting().isEmpty() && QFileInfo(setting()).absoluteDir() == QDir(shared_.SettingDirectory);
+}
+
+bool StackKeeper::isLoadedAtStart() const {
+    return mayLoadAtStart() && storedPreference(preference::AutoLoadSetting) == name();
+}
+
+void StackKeeper::setLoadedAtStart(bool on) {
+    if (on && mayLoadAtStart()) {
+        setPreference(preference::AutoLoadSetting, name());
+    } else if (isLoadedAtStart()) {
+        removePreference(preference::AutoLoadSetting);
     }
+    Q_EMIT changed();
 }
 
 QString StackKeeper::lastWatermarkPath() const {
@@ -61,12 +99,12 @@ QString StackKeeper::lastWatermarkPath() const {
 bool StackKeeper::mayClose() {
     if (isGivenUp_) return true;
     if (question_ && question_->isVisible()) return false;
-    const bool isSetting = setting_ && areTheSameWork(stack(), setting_->stack);
+    const bool isSetting = holdsTheStack();
     if (stack() == WatermarkStack() || isSetting) {
-        setPreference(preference::StackAtClose, isSetting ? setting_->path : QString());
+        setPreference(preference::StackAtClose, isSetting ? setting() : QString());
         return true;
     }
-    if (setting_ && hasAnythingToSave(stack())) {
+    if (!setting().isEmpty() && hasAnythingToSave(stack())) {
         askAboutTheChanges();
         return false;
     }
@@ -75,19 +113,16 @@ bool StackKeeper::mayClose() {
 
 void StackKeeper::askAboutTheChanges() {
     enum Answer { Save, Keep, Cancel };
-    ask(tr("“%1” Has Been Changed").arg(nameOf(setting_->path)),
+    ask(tr("“%1” Has Been Changed").arg(name()),
         tr("Save the changes in the setting, or keep these watermarks for the next start without changing "
            "the setting?"),
         {tr("Save"), tr("Keep for Next Time"), tr("Cancel")}, Keep, [this](int answer) {
             if (answer == Cancel) return;
             if (answer == Save) {
-                const Result<void> saved = watermarks_.SaveWatermarkSettings(setting_->path);
-                if (!saved) {
-                    showAlert(window_, tr("Setting Save Error"), saved.error().message);
-                    return;
-                }
+                save();
+                if (!holdsTheStack()) return;
             } else {
-                setting_.reset();
+                watermarks_.document().setSetting({});
             }
             window_->close();
         });
@@ -127,8 +162,8 @@ std::optional<QString> StackKeeper::bringBack() {
     const Result<void> loaded = watermarks_.LoadWatermarkSetting(path);
     if (!loaded)
         return tr("The watermarks of the last time cannot be brought back: %1").arg(loaded.error().message);
-    return setting_ ? tr("“%1” is loaded again, as when Zelto was closed.").arg(nameOf(path))
-                    : tr("The watermarks of the last time are back.");
+    return !setting().isEmpty() ? tr("“%1” is loaded again, as when Zelto was closed.").arg(nameOf(path))
+                                : tr("The watermarks of the last time are back.");
 }
 
 }  // namespace zelto

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sees to it that the stack on screen is never lost: when the window closes, a stack that no setting file holds is kept
+// Knows which setting the stack on screen belongs to and whether it has been changed since, saves it there, and sees to
+// it that the stack is never lost: when the window closes, a stack that no setting file holds is kept
 // as "Last Watermark", and the next start brings back what was on screen. Where a saved setting was loaded and changed,
 // the user is asked first. Main thread only.
 #pragma once
 
 #include "records/watermark_stack.h"
 
+#include <QHash>
 #include <QMessageBox>
 #include <QObject>
 #include <QPointer>
@@ -26,6 +28,18 @@ class StackKeeper : public QObject {
     // `window` is the one that is closed. All outlive the keeper.
     StackKeeper(WatermarkController& watermarks, const MyGlobalInstance& shared, QWidget* window);
 
+    // The name of the setting; empty for a stack that has none.
+    QString name() const;
+    // Whether the stack is not what its setting holds; false without a setting.
+    bool isChanged() const;
+    // Saves it in its setting, without a question. False where it has none. The user is told of an error.
+    bool save();
+    // Whether the setting is one of the saved ones, and so may be loaded at every start.
+    bool mayLoadAtStart() const;
+    // Whether the setting is the one that every start of the program loads.
+    bool isLoadedAtStart() const;
+    void setLoadedAtStart(bool on);
+
     // Keeps the stack and tells whether the window may close now. Where it may not, a question has been opened that
     // closes the window with its answer.
     bool mayClose();
@@ -34,14 +48,14 @@ class StackKeeper : public QObject {
     // no such stack.
     std::optional<QString> bringBack();
 
-  private:
-    struct Setting {
-        QString path;
-        WatermarkStack stack;
-    };
+  Q_SIGNALS:
+    // The name, or whether the stack has been changed, or whether it is loaded at start may be another.
+    void changed();
 
+  private:
     const WatermarkStack& stack() const;
-    void noteSetting(const QString& path);
+    const QString& setting() const;
+    bool holdsTheStack() const;
     QString lastWatermarkPath() const;
     bool keepForNextTime();
     void askAboutTheChanges();
@@ -51,7 +65,8 @@ class StackKeeper : public QObject {
     WatermarkController& watermarks_;
     const MyGlobalInstance& shared_;
     QWidget* window_;
-    std::optional<Setting> setting_;  // the named setting that was loaded or saved last, with what it holds
+    QHash<QString, WatermarkStack>
+        kept_;  // what setting files hold that were loaded or saved, by their paths
     QPointer<QMessageBox> question_;
     bool isGivenUp_ = false;  // the user closes the window though the stack cannot be kept
 };

@@ -2,8 +2,10 @@
 #include "app/window/watermark_panel.h"
 
 #include "app/watermarks/watermark_controller.h"
-#include "app/watermarks/watermark_delegate.h"
 #include "app/watermarks/watermark_editors.h"
+#include "app/window/photo_strip.h"
+#include "app/window/stack_gallery.h"
+#include "app/window/stack_head.h"
 #include "app/window/window_actions.h"
 
 #include <QHBoxLayout>
@@ -13,6 +15,12 @@
 #include <QVBoxLayout>
 
 namespace zelto {
+namespace {
+
+// Actions whose keys belong to the list that has the focus.
+constexpr Act ListActs[] = {Act::RemoveWatermark, Act::Cut, Act::Copy, Act::ToggleWatermark};
+
+}  // namespace
 
 QLabel* makeHeading(const QString& text, QWidget* parent) {
     auto* heading = new QLabel(text, parent);
@@ -24,19 +32,21 @@ QLabel* makeHeading(const QString& text, QWidget* parent) {
 }
 
 WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WatermarkEditors& editors,
-                               WindowActions& actions, QWidget* parent)
-    : QWidget(parent), list_(new QListView(this)) {
-    list_->setModel(&watermarks.model());
-    list_->setSelectionModel(&watermarks.selection());
-    list_->setUniformItemSizes(true);
-    list_->setItemDelegate(new WatermarkDelegate(list_));
-    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setFrameShape(QFrame::NoFrame);
-    list_->setAccessibleName(tr("Watermarks"));
-    list_->addAction(actions[Act::RemoveWatermark]);
-    connect(list_, &QListView::doubleClicked, this,
-            [&editors](const QModelIndex& index) { editors.WatermarkListDoubleClicked(index.row()); });
+                               WindowActions& actions, StackKeeper& keeper, QWidget* parent)
+    : QWidget(parent),
+      head_(new StackHead(keeper, actions, this)),
+      list_(new WatermarkListView(watermarks, this)),
+      readyMade_(makeReadyMadeButtons(
+          2, QSize(108, 72), [&watermarks](int place) { watermarks.addReadyMade(place); },
+          list_->viewport())) {
+    auto* room = new QVBoxLayout(list_->viewport());
+    room->setContentsMargins(8, 40, 8, 8);  // below the words of the empty list
+    room->addWidget(readyMade_);
+    room->addStretch(1);
+    readyMade_->hide();
+    for (const Act act : ListActs) list_->addAction(actions[act]);
+    connect(list_, &WatermarkListView::opened, this,
+            [&editors](int row) { editors.WatermarkListDoubleClicked(row); });
 
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(6, 4, 6, 6);
@@ -58,17 +68,21 @@ WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WatermarkEditors
     add->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     add->setPopupMode(QToolButton::InstantPopup);
     buttons->addStretch();
-    for (const Act act :
-         {Act::EditWatermark, Act::MoveUp, Act::MoveDown, Act::RemoveWatermark, Act::RemoveAllWatermarks}) {
+    for (const Act act : {Act::DuplicateWatermark, Act::MoveUp, Act::MoveDown, Act::RemoveWatermark}) {
         addButton(actions[act]);
     }
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(makeHeading(tr("Watermarks"), this));
-    column->addWidget(list_);
+    column->addWidget(head_);
+    column->addWidget(list_, 1);
     column->addLayout(buttons);
+    column->addWidget(new PhotoStrip(watermarks, actions, this));
+}
+
+void WatermarkPanel::offerReadyMade(bool on) {
+    readyMade_->setVisible(on);
 }
 
 }  // namespace zelto

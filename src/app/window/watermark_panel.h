@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The watermark list on the screen, with its buttons. Main thread only.
+// The stack on the screen: its head, the watermark list with its buttons, and what belongs to the photo as a whole. Main thread only.
 #pragma once
 
-#include <QListView>
+#include "app/watermarks/watermark_list_view.h"
+
 #include <QWidget>
 
 class QLabel;
 
 namespace zelto {
 
+class StackHead;
+class StackKeeper;
 class WatermarkController;
 class WatermarkEditors;
 class WindowActions;
@@ -18,12 +21,18 @@ class WatermarkPanel : public QWidget {
 
   public:
     WatermarkPanel(WatermarkController& watermarks, WatermarkEditors& editors, WindowActions& actions,
-                   QWidget* parent = nullptr);
+                   StackKeeper& keeper, QWidget* parent = nullptr);
 
-    QListView& list() { return *list_; }
+    StackHead& head() { return *head_; }
+    // Shows the ready-made stacks in the place of rows.
+    void offerReadyMade(bool on);
+
+    WatermarkListView& list() { return *list_; }
 
   private:
-    QListView* list_;
+    StackHead* head_;
+    WatermarkListView* list_;
+    QWidget* readyMade_;
 };
 
 // The line above a list, telling what it holds.

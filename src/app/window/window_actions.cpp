@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -16,11 +17,15 @@ namespace {
 // When an action can be done.
 enum Needs : unsigned {
     Nothing = 0,
-    Photos = 1,       // at least one photo in the list
-    Rows = 2,         // at least one row in the watermark list
-    SelectedRow = 4,  // one of them is selected
-    Idle = 8,         // no run under way
-    Run = 256         // one that has not come to its end
+    Photos = 1,         // at least one photo in the list
+    Rows = 2,           // at least one row in the watermark list
+    SelectedRow = 4,    // one of them is selected
+    Idle = 8,           // no run under way
+    SelectedMark = 16,  // a watermark is selected, not only the filter or the copyright data
+    Picture = 32,       // a photo, or the sample photo, on the preview
+    Stack = 64,         // something that could be saved
+    Setting = 128,      // the stack has a name and may be loaded at start
+    Run = 256           // one that has not come to its end
 };
 
 struct ActionRow {
@@ -43,7 +48,10 @@ const char* const ViewMenu = TEXT("&View");
 const char* const HelpMenu = TEXT("&Help");
 
 const std::array Rows_ = {
-    ActionRow{Act::SaveSettings, FileMenu, TEXT("&Save Setting..."), "save", "Ctrl+S", Photos | Idle},
+    ActionRow{Act::SaveSettings, FileMenu, TEXT("&Save Setting"), "save", "Ctrl+S", Stack | Idle},
+    ActionRow{Act::SaveSettingsAs, FileMenu, TEXT("Save Setting &As..."), "", "Ctrl+Shift+S", Stack | Idle},
+    ActionRow{Act::LoadAtStart, FileMenu, TEXT("&Load at Start"), "", "", Setting | Idle, true},
+    ActionRow{Act::ChooseStack, FileMenu, TEXT("Saved Stac&ks"), "stacks", "Ctrl+Shift+L", Idle},
     ActionRow{Act::OpenSettings, FileMenu, TEXT("Saved Se&ttings..."), "settings-list", "Ctrl+L", Idle, true},
     ActionRow{Act::ImportSettings, FileMenu, TEXT("&Import Settings..."), "import", "", Idle},
     ActionRow{Act::ExportSettings, FileMenu, TEXT("&Export Settings..."), "export", "", Idle, true},
@@ -51,7 +59,6 @@ const std::array Rows_ = {
     ActionRow{Act::PauseRun, FileMenu, TEXT("&Pause or Resume"), "pause", "Ctrl+P", Run},
     ActionRow{Act::CancelRun, FileMenu, TEXT("&Cancel Watermarking"), "stop", "Ctrl+.", Run, true},
     ActionRow{Act::Quit, FileMenu, TEXT("&Quit"), "", "Ctrl+Q", Nothing},
-    ActionRow{Act::Paste, EditMenu, TEXT("&Paste"), "", "Ctrl+V", Idle},
     ActionRow{Act::AddPhotos, PhotosMenu, TEXT("&Add Photos..."), "add-photos", "Ctrl+O", Idle},
     ActionRow{Act::AddFolder, PhotosMenu, TEXT("Add &Folder..."), "add-folder", "Ctrl+Shift+O", Idle, true},
     ActionRow{Act::RemovePhoto, PhotosMenu, TEXT("&Remove Photo"), "remove", "Del", Photos | Idle},
@@ -66,26 +73,34 @@ const std::array Rows_ = {
     ActionRow{Act::FindPhotos, PhotosMenu, TEXT("F&ind Photos"), "find", "Ctrl+F", Photos | Idle, true},
     ActionRow{Act::SortByName, PhotosMenu, TEXT("&Sort by Name"), "", "", Photos | Idle},
     ActionRow{Act::SortByDate, PhotosMenu, TEXT("Sort by &Date Taken"), "", "", Photos | Idle},
-    ActionRow{Act::AddText, AddMenu, TEXT("&Text..."), "text", "Ctrl+T", Photos | Idle},
-    ActionRow{Act::AddImage, AddMenu, TEXT("&Image..."), "image", "Ctrl+I", Photos | Idle},
-    ActionRow{Act::AddShape, AddMenu, TEXT("&Shape..."), "shape", "", Photos | Idle},
-    ActionRow{Act::AddQrCode, AddMenu, TEXT("&QR Code..."), "qr-code", "", Photos | Idle, true},
-    ActionRow{Act::AddFilter, AddMenu, TEXT("&Filter..."), "filter", "", Photos | Idle},
-    ActionRow{Act::AddEffects, AddMenu, TEXT("&Border and Shadow..."), "effects", "", Photos | Idle},
-    ActionRow{Act::AddCopyright, AddMenu, TEXT("&Copyright..."), "copyright", "", Photos | Idle},
-    ActionRow{Act::EditWatermark, WatermarksMenu, TEXT("&Edit..."), "edit", "F2", SelectedRow | Idle, true},
-    ActionRow{Act::MoveUp, WatermarksMenu, TEXT("Move &Up"), "move-up", "Alt+Up",
-              Photos | SelectedRow | Idle},
-    ActionRow{Act::MoveDown, WatermarksMenu, TEXT("Move &Down"), "move-down", "Alt+Down",
-              Photos | SelectedRow | Idle, true},
+    ActionRow{Act::AddText, AddMenu, TEXT("&Text..."), "text", "Ctrl+T", Idle},
+    ActionRow{Act::AddImage, AddMenu, TEXT("&Image..."), "image", "Ctrl+I", Idle},
+    ActionRow{Act::AddShape, AddMenu, TEXT("&Shape..."), "shape", "", Idle},
+    ActionRow{Act::AddQrCode, AddMenu, TEXT("&QR Code..."), "qr-code", "", Idle, true},
+    ActionRow{Act::AddFilter, AddMenu, TEXT("&Filter..."), "filter", "", Idle},
+    ActionRow{Act::AddEffects, AddMenu, TEXT("&Border and Shadow..."), "effects", "", Idle},
+    ActionRow{Act::AddCopyright, AddMenu, TEXT("&Copyright..."), "copyright", "", Idle},
+    ActionRow{Act::Cut, EditMenu, TEXT("Cu&t"), "cut", "Ctrl+X", SelectedMark | Idle},
+    ActionRow{Act::Copy, EditMenu, TEXT("&Copy"), "copy", "Ctrl+C", SelectedMark | Idle},
+    ActionRow{Act::Paste, EditMenu, TEXT("&Paste"), "paste", "Ctrl+V", Idle},
+    ActionRow{Act::DuplicateWatermark, EditMenu, TEXT("&Duplicate"), "duplicate", "Ctrl+D",
+              SelectedMark | Idle},
+    ActionRow{Act::EditWatermark, WatermarksMenu, TEXT("&Edit..."), "edit", "F2", SelectedRow | Idle},
+    ActionRow{Act::RenameWatermark, WatermarksMenu, TEXT("Re&name"), "rename", "Shift+F2",
+              SelectedMark | Idle},
+    ActionRow{Act::ToggleWatermark, WatermarksMenu, TEXT("&Show or Hide"), "eye", "Space", SelectedRow | Idle,
+              true},
+    ActionRow{Act::MoveUp, WatermarksMenu, TEXT("Move &Up"), "move-up", "Alt+Up", SelectedMark | Idle},
+    ActionRow{Act::MoveDown, WatermarksMenu, TEXT("Move &Down"), "move-down", "Alt+Down", SelectedMark | Idle,
+              true},
     ActionRow{Act::RemoveWatermark, WatermarksMenu, TEXT("&Remove Watermark"), "remove", "Del",
-              Photos | SelectedRow | Idle},
+              SelectedRow | Idle},
     ActionRow{Act::RemoveAllWatermarks, WatermarksMenu, TEXT("Remove A&ll Watermarks"), "remove-all", "",
-              Photos | Rows | Idle},
-    ActionRow{Act::ZoomIn, ViewMenu, TEXT("Zoom &In"), "zoom-in", "Ctrl++", Photos | Idle},
-    ActionRow{Act::ZoomOut, ViewMenu, TEXT("Zoom &Out"), "zoom-out", "Ctrl+-", Photos | Idle, true},
-    ActionRow{Act::FitToScreen, ViewMenu, TEXT("&Fit to Screen"), "zoom-fit", "Ctrl+0", Photos | Idle},
-    ActionRow{Act::ActualSize, ViewMenu, TEXT("&Actual Size"), "zoom-actual", "Ctrl+1", Photos | Idle, true},
+              Rows | Idle},
+    ActionRow{Act::ZoomIn, ViewMenu, TEXT("Zoom &In"), "zoom-in", "Ctrl++", Picture | Idle},
+    ActionRow{Act::ZoomOut, ViewMenu, TEXT("Zoom &Out"), "zoom-out", "Ctrl+-", Picture | Idle, true},
+    ActionRow{Act::FitToScreen, ViewMenu, TEXT("&Fit to Screen"), "zoom-fit", "Ctrl+0", Picture | Idle},
+    ActionRow{Act::ActualSize, ViewMenu, TEXT("&Actual Size"), "zoom-actual", "Ctrl+1", Picture | Idle, true},
     ActionRow{Act::Contacts, ViewMenu, TEXT("&Contact View"), "contact", "F9", Photos | Idle},
     ActionRow{Act::Before, ViewMenu, TEXT("Show Without &Marks (Hold F8)"), "before", "", Photos | Idle,
               true},
@@ -97,9 +112,18 @@ const std::array Rows_ = {
 #undef TEXT
 
 bool isAllowed(unsigned needs, const WindowState& state) {
-    return (!(needs & Photos) || state.hasPhotos) && (!(needs & Rows) || state.hasRows) &&
-           (!(needs & SelectedRow) || state.hasSelectedRow) && (!(needs & Idle) || !state.isRunning) &&
-           (!(needs & Run) || state.hasRun);
+    const std::pair<unsigned, bool> conditions[] = {{Photos, state.hasPhotos},
+                                                    {Rows, state.hasRows},
+                                                    {SelectedRow, state.hasSelectedRow},
+                                                    {Idle, !state.isRunning},
+                                                    {SelectedMark, state.hasSelectedMark},
+                                                    {Picture, state.hasPicture},
+                                                    {Stack, state.hasStack},
+                                                    {Setting, state.hasSetting},
+                                                    {Run, state.hasRun}};
+    return std::all_of(std::begin(conditions), std::end(conditions), [needs](const auto& condition) {
+        return (needs & condition.first) == 0 || condition.second;
+    });
 }
 
 }  // namespace
@@ -120,8 +144,12 @@ WindowActions::WindowActions(QWidget* window) : QObject(window), addMenu_(new QM
     }
     actions_[Act::Quit]->setMenuRole(QAction::QuitRole);
     actions_[Act::About]->setMenuRole(QAction::AboutRole);
-    // One key for two lists: it belongs to the one that has the focus.
-    for (const Act act : {Act::RemovePhoto, Act::RemoveWatermark}) {
+    actions_[Act::LoadAtStart]->setCheckable(true);
+    actions_[Act::RemoveAllWatermarks]->setToolTip(
+        tr("Remove the watermarks, the filter and the copyright data; border and shadow stay"));
+    // Keys that mean something else elsewhere belong to the list that has the focus.
+    for (const Act act :
+         {Act::RemovePhoto, Act::RemoveWatermark, Act::Cut, Act::Copy, Act::ToggleWatermark}) {
         actions_[act]->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     }
 }
@@ -141,6 +169,18 @@ void WindowActions::update(const WindowState& state) {
     addMenu_->menuAction()->setEnabled(canAdd);
 }
 
+QMenu* WindowActions::makeMenu(std::initializer_list<Act> acts, QWidget* parent) const {
+    auto* menu = new QMenu(parent);
+    for (const Act act : acts) {
+        if (act == Act::Separator) {
+            menu->addSeparator();
+        } else {
+            menu->addAction(actions_.at(act));
+        }
+    }
+    return menu;
+}
+
 void WindowActions::fill(QMenuBar& bar, QAction* undo, QAction* redo) {
     std::map<const char*, QMenu*> menus;
     for (const char* title : {FileMenu, EditMenu, PhotosMenu, WatermarksMenu, ViewMenu, HelpMenu}) {
@@ -149,6 +189,7 @@ void WindowActions::fill(QMenuBar& bar, QAction* undo, QAction* redo) {
     menus[AddMenu] = addMenu_;
     menus[WatermarksMenu]->addMenu(addMenu_);
     menus[EditMenu]->addActions({undo, redo});
+    menus[EditMenu]->addSeparator();
     for (const ActionRow& row : Rows_) {
         menus[row.menu]->addAction(actions_[row.act]);
         if (row.endsGroup) menus[row.menu]->addSeparator();

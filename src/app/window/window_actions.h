@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 
 class QMenuBar;
@@ -17,6 +18,9 @@ namespace zelto {
 
 enum class Act {
     SaveSettings,
+    SaveSettingsAs,
+    LoadAtStart,
+    ChooseStack,
     OpenSettings,
     ImportSettings,
     ExportSettings,
@@ -24,7 +28,6 @@ enum class Act {
     PauseRun,
     CancelRun,
     Quit,
-    Paste,
     AddPhotos,
     AddFolder,
     RemovePhoto,
@@ -44,7 +47,13 @@ enum class Act {
     AddFilter,
     AddEffects,
     AddCopyright,
+    Cut,
+    Copy,
+    Paste,
+    DuplicateWatermark,
     EditWatermark,
+    RenameWatermark,
+    ToggleWatermark,
     MoveUp,
     MoveDown,
     RemoveWatermark,
@@ -58,14 +67,19 @@ enum class Act {
     FullScreen,
     Tips,
     VersionCheck,
-    About
+    About,
+    Separator  // no action: what lies between two in a menu
 };
 
 // What the state of the window allows.
 struct WindowState {
     bool hasPhotos = false;
-    bool hasRows = false;         // of the watermark list
-    bool hasSelectedRow = false;  // of the watermark list
+    bool hasPicture = false;       // on the preview: a photo, or the sample photo
+    bool hasStack = false;         // that could be saved
+    bool hasSetting = false;       // the stack has a name
+    bool hasRows = false;          // of the watermark list
+    bool hasSelectedRow = false;   // of the watermark list
+    bool hasSelectedMark = false;  // a selected row that is a watermark
     bool isRunning = false;
     bool hasRun = false;  // one that can be paused or cancelled, or resumed
 };
@@ -85,6 +99,8 @@ class WindowActions : public QObject {
 
     // Fills the menu bar; `undo` and `redo` are the history's own actions.
     void fill(QMenuBar& bar, QAction* undo, QAction* redo);
+    // A menu of some of the actions; Act::Separator between them.
+    QMenu* makeMenu(std::initializer_list<Act> acts, QWidget* parent) const;
     // The menu of what can be added to the watermark list.
     QMenu* addMenu() const { return addMenu_; }
 

@@ -49,7 +49,7 @@ TEST_F(FilterWindowTest, AFilterIsSeenAtOnceAndUndoneByAnother) {
     EXPECT_EQ(history().undoText(), QStringLiteral("Choose Filter"));
     history().undo();
     EXPECT_EQ(chosen(), 0);
-    EXPECT_EQ(window.document().state().SelectedFilter, 0) << "one step";
+    EXPECT_EQ(window.watermarks().GetFilter(), 0) << "one step";
 }
 
 TEST_F(FilterWindowTest, EveryFilterIsOfferedWithThePhotoInIt) {

@@ -9,6 +9,7 @@
 #include "support/testing.h"
 
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QTest>
@@ -63,12 +64,16 @@ class StartUp : public ::testing::Test {
     int rowsThen = -1;
 };
 
-TEST_F(StartUp, TheFirstStartMakesTheSettingsFolderAndShowsTips) {
+TEST_F(StartUp, TheFirstStartMakesTheSettingsFolderAndTipsLieOverNothing) {
     start();
+    const auto* tip = delegate->window().welcome().findChild<QLabel*>(QStringLiteral("Tip"));
+    EXPECT_TRUE(tip->isVisible() && !tip->text().isEmpty());
+    EXPECT_EQ(tipsShown, 0) << "the welcome is not covered";
     EXPECT_TRUE(delegate->CurrentInstance().FirstRun);
     EXPECT_TRUE(QFileInfo(settings).isDir());
     EXPECT_EQ(storedPreference(preference::SettingDirectory), settings);
     EXPECT_EQ(storedPreference(preference::FirstRun), false);
+    start();
     EXPECT_EQ(tipsShown, 1);
     EXPECT_FALSE(tipSeen.isEmpty());
     EXPECT_TRUE(wasVisible);
@@ -83,6 +88,8 @@ TEST_F(StartUp, TheAutoloadSettingIsLoadedAfterTheTipsAndCannotBeUndone) {
     stack.Metadata = true;
     save(QStringLiteral("Mine"), stack);
     setPreference(preference::AutoLoadSetting, QStringLiteral("Mine"));
+    setPreference(preference::FirstRun, false);
+    setPreference(preference::ShowTips, true);
     start();
     EXPECT_EQ(rowsThen, 0);
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("hello")));
@@ -127,8 +134,9 @@ TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
         },
         [](auto& stack) { stack.AddEffects(PhotoEffects()); },
         [](auto& stack) { stack.AddFilter(3); },
-        [](auto& stack) { stack.setRowEnabled(1, false); },
+        [](auto& stack) { stack.EnableDisableWatermark(1); },
         [](auto& stack) { stack.RemoveWatermark(1); },
+        [](auto& stack) { stack.setEffectsEnabled(false); },
         [](auto& stack) { stack.AddEffects({}); },
         [](auto& stack) { stack.RemoveAllWatermarks(); },
     };
@@ -158,7 +166,8 @@ TEST_F(StartUp, AChangedSettingIsNeitherLostNorReplacedUnasked) {
         delegate->window().close();
         EXPECT_FALSE(delegate->window().isVisible()) << "as it is saved there is nothing to ask";
         delegate->window().show();
-        delegate->window().watermarks().replaceStack(stackOf(QStringLiteral("new")), {}, {});
+        delegate->window().watermarks().replaceStack(stackOf(QStringLiteral("new")), {}, {},
+                                                     delegate->window().document().setting());
         const auto asked = whenOpened<QMessageBox>([&](const QMessageBox& box) {
             for (QAbstractButton* each : box.buttons()) {
                 if (each->text() == QLatin1String(row.button)) each->click();

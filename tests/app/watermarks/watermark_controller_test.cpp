@@ -4,7 +4,10 @@
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_editors.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QListView>
+#include <QMimeData>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -193,6 +196,62 @@ TEST_F(WatermarkControllerTest, MovingExchangesNeighboursAndKeepsTheSelection) {
     EXPECT_EQ(history().undoText(), QStringLiteral("Move Watermark"));
     history().undo();
     EXPECT_EQ(order(), QStringLiteral("bac"));
+}
+
+TEST_F(WatermarkControllerTest, SeveralRowsAreMovedCopiedAndRemovedInOneStepEach) {
+    for (const char* each : {"a", "b", "c", "d"}) add(text(QLatin1String(each)));
+    watermarks.AddFilter(1);
+    history().clear();
+    const auto order = [this] { return rows().mid(1).join(QString()).remove(QLatin1Char('+')); };
+    WatermarkListModel& model = watermarks.model();
+    const auto drag = [&](Qt::DropAction action, int beforeRow) {
+        const std::unique_ptr<QMimeData> data(model.mimeData(watermarks.selection().selectedIndexes()));
+        model.dropMimeData(data.get(), action, beforeRow, 0, {});
+    };
+    struct Row {
+        const char* what;
+        std::vector<int> selected;
+        std::function<void()> act;
+        const char* order;
+        std::vector<int> selectedThen;
+    };
+    QMimeData foreign;
+    foreign.setText(
+        QStringLiteral("<WatermarkList><Watermark Type='1'><Text>x</Text></Watermark></WatermarkList>"));
+    const Row table[] = {
+        {"up", {0, 2}, [&] { watermarks.MoveWatermarkUp(); }, "acbd", {0, 1}},
+        {"down", {1, 3}, [&] { watermarks.MoveWatermarkDown(); }, "acbd", {2, 3}},
+        {"dragged down", {0, 1}, [&] { drag(Qt::MoveAction, 4); }, "cabd", {1, 2}},
+        {"dragged to the end", {0}, [&] { drag(Qt::MoveAction, -1); }, "bcda", {3}},
+        {"dragged over the filter", {2}, [&] { drag(Qt::MoveAction, 0); }, "cabd", {0}},
+        {"copied by a drag", {0}, [&] { drag(Qt::CopyAction, 3); }, "abacd", {2}},
+        {"duplicated", {0, 2}, [&] { watermarks.duplicateSelected(); }, "abcacd", {3, 4}},
+        {"cut", {1, 2}, [&] { watermarks.cutSelected(); }, "ad", {1}},
+        {"pasted what was cut",
+         {3},
+         [&] { watermarks.paste(*QGuiApplication::clipboard()->mimeData()); },
+         "abcdbc",
+         {4, 5}},
+        {"pasted from elsewhere", {0}, [&] { watermarks.paste(foreign); }, "axbcd", {1}},
+        {"removed", {0, 3}, [&] { watermarks.RemoveSelectedWatermarks(); }, "bc", {0}},
+        {"renamed",
+         {1},
+         [&] { model.setData(model.index(2), QStringLiteral("Mine"), Qt::EditRole); },
+         "abcd",
+         {1}},
+        {"hidden", {0, 1}, [&] { watermarks.toggleSelected(); }, "-a-bcd", {0, 1}},
+    };
+    for (const Row& row : table) {
+        watermarks.selectWatermarks(row.selected);
+        row.act();
+        EXPECT_EQ(order().toStdString(), row.order) << row.what;
+        EXPECT_EQ(watermarks.selectedWatermarks(), row.selectedThen) << row.what;
+        EXPECT_EQ(history().index(), 1) << row.what;
+        history().undo();
+        EXPECT_EQ(order(), QStringLiteral("abcd")) << row.what;
+    }
+    foreign.setText(QStringLiteral("<WatermarkList/>"));
+    EXPECT_FALSE(watermarks.paste(foreign));
 }
 
 TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {

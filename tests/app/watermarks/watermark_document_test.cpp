@@ -53,7 +53,7 @@ TEST(WatermarkDocument, ADifferenceNamesWhatChangedAndNothingElse) {
          {.records = {0, 2}}},
         {"a record removed", [](StackState& s) { s.Stack.Watermarks.pop_back(); }, {.list = true}},
         {"the filter", [](StackState& s) { s.Stack.SelectedFilter = 3; }, {.filter = true}},
-        {"a filter row", [](StackState& s) { s.SelectedFilter = 3; }, {.filter = true}},
+        {"a filter row", [](StackState& s) { s.Stack.Off.SelectedFilter = 3; }, {.filter = true}},
         {"the frame", [](StackState& s) { s.Stack.Effects = PhotoEffects(); }, {.effects = true}},
         {"the copyright", [](StackState& s) { s.Metadata = CopyRightMetaData(); }, {.metadata = true}},
     };

@@ -2,6 +2,7 @@
 // The real window, driven with mouse and keys.
 #include "app/window/main_window.h"
 
+#include "app/common/sample_photo.h"
 #include "app/dialogs/standard_dialogs.h"
 #include "app/watermarks/watermark_delegate.h"
 #include "platform/path_parts.h"
@@ -137,7 +138,7 @@ TEST_F(MainWindowTest, AClickOnACheckBoxChecksAndDoesNotSelect) {
     QListView& watermarks = window->watermarkList();
     const QRect row = watermarks.visualRect(watermarks.model()->index(0, 0));
     QTest::mouseClick(watermarks.viewport(), Qt::LeftButton, Qt::NoModifier,
-                      WatermarkDelegate::checkBoxRect(row).center());
+                      WatermarkDelegate::eyeRect(row).center());
     EXPECT_FALSE(window->watermarks().GetWatermarkAtRow(0).IsEnabled);
     watermarks.setFocus();
     QTest::keyClick(&watermarks, Qt::Key_Space);
@@ -418,10 +419,14 @@ TEST_F(MainWindowTest, APhotoThatCannotBeReadIsSaidSoAndTheNextOneIsShown) {
 TEST_F(MainWindowTest, ControlsFollowThePhotosAndTheRun) {
     const auto enabled = [this](Act act) { return window->actions()[act]->isEnabled(); };
     EXPECT_FALSE(enabled(Act::ZoomIn));
-    EXPECT_FALSE(enabled(Act::AddText));
+    EXPECT_TRUE(enabled(Act::AddText)) << "watermarks can be made before there are photos";
     EXPECT_TRUE(enabled(Act::AddPhotos));
-    addPhotos(1);
     addWatermark(boxRecord(120, 80, 1));
+    const auto shows = [this] { return view().shown() ? view().shown()->path : QString(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shows() == samplePhotoPath(); }));
+    EXPECT_FALSE(enabled(Act::Start) || enabled(Act::FullScreen));
+    addPhotos(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shows() == window->photos().selectedPath(); }));
     EXPECT_TRUE(enabled(Act::ZoomIn));
     EXPECT_TRUE(enabled(Act::AddText));
     EXPECT_TRUE(enabled(Act::MoveUp));

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Stacks to begin with, made for photos of any size. Main thread only.
+#pragma once
+
+#include "records/watermark_stack.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace zelto {
+
+struct ReadyMadeStack {
+    QString name;
+    QString tip;  // what it holds, in one line
+    WatermarkStack (*make)();
+};
+
+const std::vector<ReadyMadeStack>& readyMadeStacks();
+
+}  // namespace zelto

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/photo_strip.h"
+
+#include "app/common/icons.h"
+#include "app/watermarks/watermark_controller.h"
+#include "app/window/window_actions.h"
+#include "render/photo_filters.h"
+
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace zelto {
+namespace {
+
+#define TEXT(text) QT_TRANSLATE_NOOP("zelto::PhotoStrip", text)
+
+QToolButton* makeButton(const QString& name, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setAutoRaise(true);
+    button->setIconSize({16, 16});
+    return button;
+}
+
+}  // namespace
+
+// One thing that a photo may have.
+struct PhotoStrip::Part {
+    const char* objectName;
+    const char* name;   // in the strip
+    const char* named;  // in sentences
+    Act edit;
+    bool (*isThere)(const StackState&);
+    bool (*isOn)(const StackState&);
+    void (WatermarkController::*setOn)(bool);
+    void (*remove)(WatermarkController&);
+};
+
+PhotoStrip::PhotoStrip(WatermarkController& watermarks, WindowActions& actions, QWidget* parent)
+    : QWidget(parent), watermarks_(watermarks) {
+    static constexpr Part Parts[] = {
+        {"Filter", TEXT("Filter"), TEXT("the filter"), Act::AddFilter,
+         [](const StackState& state) { return filterOf(state.Stack) != 0; },
+         [](const StackState& state) { return state.Stack.SelectedFilter != 0; },
+         &WatermarkController::setFilterEnabled, [](WatermarkController& all) { all.removeFilter(); }},
+        {"Effects", TEXT("Border"), TEXT("border and shadow"), Act::AddEffects,
+         [](const StackState& state) { return effectsOf(state.Stack).has_value(); },
+         [](const StackState& state) { return state.Stack.Effects.has_value(); },
+         &WatermarkController::setEffectsEnabled, [](WatermarkController& all) { all.removeEffects(); }},
+        {"Copyright", TEXT("Copyright"), TEXT("the copyright data"), Act::AddCopyright,
+         [](const StackState& state) { return state.Metadata.has_value(); },
+         [](const StackState& state) { return state.Metadata && state.Metadata->Enabled; },
+         &WatermarkController::setMetadataEnabled, [](WatermarkController& all) { all.removeMetadata(); }},
+    };
+    setAccessibleName(tr("The photo as a whole"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 3, 6, 3);
+    row->setSpacing(4);
+    for (const Part& part : Parts) {
+        const QString name = QString::fromLatin1(part.objectName);
+        Cell cell{&part, makeButton(name + QStringLiteral("Eye"), this),
+                  makeButton(name + QStringLiteral("Edit"), this),
+                  makeButton(name + QStringLiteral("Remove"), this)};
+        cell.remove->setIcon(lineIcon(QLatin1String("close")));
+        cell.remove->setIconSize({12, 12});
+        cell.remove->setToolTip(tr("Remove %1").arg(tr(part.named)));
+        cell.remove->setAccessibleName(cell.remove->toolTip());
+        cell.edit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        const QAction* edit = actions[part.edit];
+        connect(cell.edit, &QToolButton::clicked, edit, &QAction::trigger);
+        const auto enable = [button = cell.edit, edit] { button->setEnabled(edit->isEnabled()); };
+        connect(edit, &QAction::changed, cell.edit, enable);
+        enable();
+        connect(cell.eye, &QToolButton::clicked, this, [this, &part] {
+            const bool isOn = part.isOn(watermarks_.document().state());
+            (watermarks_.*part.setOn)(!isOn);
+        });
+        connect(cell.remove, &QToolButton::clicked, this, [this, &part] { part.remove(watermarks_); });
+        auto* chip = new QHBoxLayout;
+        chip->setSpacing(0);
+        for (QToolButton* button : {cell.eye, cell.edit, cell.remove}) chip->addWidget(button);
+        row->addLayout(chip);
+        cells_.push_back(cell);
+    }
+    row->addStretch(1);
+    connect(&watermarks_.document(), &WatermarkDocument::changed, this, &PhotoStrip::follow);
+    follow();
+}
+
+void PhotoStrip::follow() {
+    const StackState& state = watermarks_.document().state();
+    for (const Cell& cell : cells_) {
+        const Part& part = *cell.part;
+        const bool isThere = part.isThere(state);
+        const bool isOn = part.isOn(state);
+        cell.eye->setVisible(isThere);
+        cell.remove->setVisible(isThere);
+        cell.eye->setIcon(lineIcon(isOn ? QLatin1String("eye") : QLatin1String("eye-off")));
+        cell.eye->setToolTip(isOn ? tr("Switch %1 off").arg(tr(part.named))
+                                  : tr("Switch %1 on").arg(tr(part.named)));
+        cell.eye->setAccessibleName(cell.eye->toolTip());
+        cell.edit->setIcon(isThere ? QIcon() : lineIcon(QLatin1String("add")));
+        cell.edit->setText(tr(part.name));
+        QString what = isThere ? tr("Edit %1").arg(tr(part.named)) : tr("Add %1").arg(tr(part.named));
+        if (isThere && part.edit == Act::AddFilter)
+            what += QStringLiteral(": ") + GetFilterName(filterOf(state.Stack));
+        cell.edit->setToolTip(what);
+        cell.edit->setAccessibleName(what);
+    }
+}
+
+}  // namespace zelto
