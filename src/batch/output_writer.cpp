@@ -20,6 +20,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace zelto {
@@ -90,7 +91,15 @@ qint64 OutputWriter::memoryNeeded(const PhotoTask& task) {
     const QSize written = outputSize(photo->size, settings_.options);
     const qint64 resized =
         settings_.options.ResizeImage ? std::min(pixelCount(written), MaximumPicturePixels) : 0;
-    return std::max(photo->memory, (made + resized) * BytesPerPixel);
+    qint64 memory = std::max(photo->memory, (made + resized) * BytesPerPixel);
+    if (const std::optional<PictureFormat> format = formatOf(task.output)) {
+        const QSize encoded = settings_.options.ResizeImage ? written
+                              : effects                     ? sizeWithEffects(photo->size, *effects)
+                                                            : photo->size;
+        if (pixelCount(encoded) <= MaximumPicturePixels)
+            memory = std::max(memory, pixelCount(encoded) * BytesPerPixel + memoryToEncode(*format, encoded));
+    }
+    return memory;
 }
 
 Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
@@ -98,7 +107,11 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     // Starting takes a while, which passes while the first photo is worked on.
     const MetadataWay metadata = format ? metadataWay(*format) : MetadataWay::None;
     if (metadata != MetadataWay::None) std::call_once(exiftoolIsExpected_, [this] { exiftool_.warmUp(); });
-    if (Result<void> allowed = checkMemory(task.memory, QFileInfo(task.source).size()); !allowed)
+    // What an encoder takes is the chosen format's doing, not the file's: then only the machine limits it.
+    constexpr qint64 AnyFile = std::numeric_limits<qint64>::max();
+    const bool encoderIsHungry = format && memoryToEncode(*format, {1, 1}) > 0;
+    const qint64 fileBytes = encoderIsHungry ? AnyFile : QFileInfo(task.source).size();
+    if (Result<void> allowed = checkMemory(task.memory, fileBytes); !allowed)
         return tl::unexpected(std::move(allowed.error()));
     std::optional<JpegWay> way;
     if (settings_.options.JpegLossless && format == PictureFormat::Jpeg) {

@@ -20,6 +20,7 @@ struct FormatEntry {
     Result<QByteArray> (*encode)(const QImage&, const EncodeOptions&);
     bool (*isAvailable)();
     bool hasQuality = false;
+    int memoryPerPixel = 0;  // bytes that the library needs, measured; 0 where it goes row by row
 };
 
 bool always() {
@@ -47,10 +48,10 @@ constexpr std::array Formats = {
     FormatEntry{PictureFormat::Bmp, "BMP", AnySide, FourGigabytes, 3, encodeBmp, always},
     FormatEntry{PictureFormat::Gif, "GIF", 65535, NoLimit, 1, encodeGif, always},
     FormatEntry{PictureFormat::Pdf, "PDF", 65500, NoLimit, 3, encodePdf, always},
-    FormatEntry{PictureFormat::Webp, "WebP", 16383, NoLimit, 4, encodeWebp, hasWebp, true},
-    FormatEntry{PictureFormat::Avif, "AVIF", 65536, NoLimit, 4, encodeAvif, canEncodeAvif, true},
-    FormatEntry{PictureFormat::Heic, "HEIC", 16384, NoLimit, 4, encodeHeic, canEncodeHeic, true},
-    FormatEntry{PictureFormat::Jxl, "JPEG XL", AnySide, NoLimit, 4, encodeJxl, hasJxl, true},
+    FormatEntry{PictureFormat::Webp, "WebP", 16383, NoLimit, 4, encodeWebp, hasWebp, true, 20},
+    FormatEntry{PictureFormat::Avif, "AVIF", 65536, NoLimit, 4, encodeAvif, canEncodeAvif, true, 22},
+    FormatEntry{PictureFormat::Heic, "HEIC", 16384, NoLimit, 4, encodeHeic, canEncodeHeic, true, 22},
+    FormatEntry{PictureFormat::Jxl, "JPEG XL", AnySide, NoLimit, 4, encodeJxl, hasJxl, true, 64},
 };
 
 struct ExtensionEntry {
@@ -88,6 +89,10 @@ std::optional<PictureFormat> pictureFormatForExtension(QStringView extension) {
 
 bool hasQuality(PictureFormat format) {
     return Formats[static_cast<std::size_t>(format)].hasQuality;
+}
+
+qint64 memoryToEncode(PictureFormat format, QSize size) {
+    return qint64{size.width()} * size.height() * Formats[static_cast<std::size_t>(format)].memoryPerPixel;
 }
 
 Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, const EncodeOptions& options) {

@@ -38,6 +38,9 @@ struct EncodeOptions {
     MetadataBlocks metadata = {};
 };
 
+// What encoding a picture of `size` pixels takes beside the picture, in bytes: the library's own buffers.
+qint64 memoryToEncode(PictureFormat format, QSize size);
+
 // The bytes of a complete file. A PDF is one page of the picture's size, one point per pixel. Error:
 // ErrorCode::InvalidValue for a picture without pixels or too large for the format, ErrorCode::CannotWrite when the
 // encoder fails, ErrorCode::OutOfMemory.

@@ -134,8 +134,9 @@ bool OutputPanel::combines() const {
 
 void OutputPanel::SetOutputFormat() {
     const PictureFormat format = formatOf(format_->currentText());
-    quality_->setAccessibleName(format == PictureFormat::Jpeg ? tr("JPEG quality") : tr("Quality"));
-    qualityLabel_->setText(format == PictureFormat::Jpeg ? tr("JPEG &quality:") : tr("&Quality:"));
+    const bool ofOthers = hasQuality(format) && format != PictureFormat::Jpeg;
+    quality_->setAccessibleName(ofOthers ? tr("Quality") : tr("JPEG quality"));
+    qualityLabel_->setText(ofOthers ? tr("&Quality:") : tr("JPEG &quality:"));
     qualityLabel_->setVisible(hasQuality(format));
     quality_->setVisible(hasQuality(format));
     lossless_->setEnabled(format == PictureFormat::Jpeg);
