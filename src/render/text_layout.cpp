@@ -76,6 +76,8 @@ class Line {
     Line(const QString& text, const Setting& setting) : layout_(text, setting.font) {
         QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
         option.setWrapMode(QTextOption::NoWrap);
+        // The desktop's direction of reading must not change what is written on photos.
+        option.setTextDirection(Qt::LeftToRight);
         option.setUseDesignMetrics(true);
         constexpr double TabStop = 28.0;  // pixels
         option.setTabStopDistance(TabStop / setting.scale);
