@@ -24,6 +24,18 @@ double scaleShare(float& share, double factor) {
     return before > 0.0 ? after / before : 1.0;
 }
 
+// A font size in tenths of a per cent of the photo, or in whole points.
+double scaleFont(Watermark& record, double factor) {
+    const double before =
+        static_cast<double>(record.FontSize) + static_cast<double>(record.FontSizeFraction.value_or(0.0F));
+    const double steps = record.IsRelative ? 10.0 : 1.0;
+    const double after = std::max(1.0, std::round(before * factor * steps) / steps);
+    record.FontSize = static_cast<std::int64_t>(std::floor(after));
+    record.FontSizeFraction.reset();
+    if (after > std::floor(after)) record.FontSizeFraction = static_cast<float>(after - std::floor(after));
+    return before > 0.0 ? after / before : 1.0;
+}
+
 QSizeF resizeShape(Watermark& record, QSizeF factors) {
     return {record.ResizeWidthByPercent ? scaleShare(record.ResizeWidth, factors.width())
                                         : scaleWhole(record.Width, factors.width()),
@@ -65,7 +77,7 @@ QSizeF resizeBy(Watermark& record, QSizeF factors, QSizeF reference) {
     if (record.Type == watermark_type::Shape) return resizeShape(record, factors);
     if (record.Type == watermark_type::Image) return resizeLogo(record, factors, reference);
     if (record.Type == watermark_type::Text) {
-        const double factor = scaleWhole(record.FontSize, factors.width());
+        const double factor = scaleFont(record, factors.width());
         return {factor, factor};
     }
     const double factor = record.ResizeFormat == qr_resize::Relative
