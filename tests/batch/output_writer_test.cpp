@@ -6,9 +6,13 @@
 #include "platform/whole_file.h"
 #include "support/exiftool.h"
 #include "support/test_pictures.h"
-#include "support/testing.h"
 
+#include <QDir>
+#include <QFile>
 #include <QMap>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <future>
 
@@ -16,6 +20,7 @@ namespace zelto {
 namespace {
 
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
 using Files = QMap<QString, QByteArray>;
 
@@ -23,10 +28,10 @@ class CountingObserver : public BatchObserver {
   public:
     void runStarted(bool) override {}
     void photoStarted(qint64) override {}
+    void photoFinished(const PhotoOutcome& outcome) override { succeeded += outcome.succeeded(); }
     void progressed(qint64) override {}
     void successiveFail() override {}
     void combinedPdfFailed(const QString&) override {}
-    void photoFinished(const PhotoOutcome& outcome) override { succeeded += outcome.succeeded(); }
     void runEnded(const RunReport& report) override { end = report.end; }
 
     int succeeded = 0;

@@ -116,6 +116,7 @@ EditorPage* Inspector::pageOf(EditorKind kind) {
     EditorPage*& page = pages_[kind];
     if (page == nullptr && editors_.canOpen(kind)) {
         page = editors_.editors().at(kind).makePage(watermarks_);
+        if (page == nullptr) return nullptr;
         // Left to the page, Tab would pass over what stands before the field it begins with.
         starts_[page] = page->focusProxy();
         page->setFocusProxy(nullptr);
