@@ -55,11 +55,14 @@ Watermark posed(Watermark record, const QString& text) {
     record.HorizontalTiling = record.VerticalTiling = false;
     record.Position = 1;
     record.PaddingLeft = record.PaddingTop = record.PaddingRight = record.PaddingBottom = 0;
+    record.PaddingLeftShare.reset();
+    record.PaddingTopShare.reset();
     switch (record.Type) {
         case watermark_type::Text:
             record.Text = firstLetters(text);
             record.IsRelative = false;
             record.FontSize = static_cast<std::int64_t>(DrawnSide * 0.75);
+            record.FontSizeFraction.reset();
             break;
         case watermark_type::Shape:
             fitShape(record);
@@ -92,10 +95,11 @@ QImage drawn(const Watermark& record, LogoCache& logos) {
     PhotoScene scene;
     const QSize box(static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())));
     scene.referenceRect = QRect({Reach, Reach}, box);
-    scene.picture = QImage(box + QSize(2 * Reach, 2 * Reach), QImage::Format_ARGB32_Premultiplied);
-    scene.picture.fill(Qt::transparent);
     scene.layers.push_back(std::move(layer.view));
-    return MakeWatermarkImage(std::move(scene), stack);
+    QImage picture(box + QSize(2 * Reach, 2 * Reach), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    addWatermarkTo(picture, scene, stack);
+    return picture;
 }
 
 // What there is to see of a picture; null for an empty one.
