@@ -96,7 +96,8 @@ void StallWhileABatchRuns(benchmark::State& state) {
         runEventsFor(1000);
         StallWatchdog watchdog;
         run.ProcessImaging(options);
-        while (!window.result().isVisible()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        while (!window.result().isVisible())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
         longest = std::max(longest, watchdog.longestStall());
     }
     state.counters["longest_stall_ms"] = longest;

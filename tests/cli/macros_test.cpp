@@ -48,8 +48,8 @@ TEST_F(Macros, PrintWhatTheyKnowOfEachPhotoOfAList) {
 
 TEST_F(Macros, NameOutputsAndNoValueLeadsElsewhere) {
     const QStringList photos = {makePhoto(u"a.jpg"_s), makePhoto(u"b.jpg"_s), makePhoto(u"[O]c.jpg"_s)};
-    ASSERT_TRUE(writeTags({u"-DateTimeOriginal=2014:05:03 14:41:07"_s, u"-IPTC:City=../Zü\trich:"_s},
-                          {photos[0]}));
+    ASSERT_TRUE(
+        writeTags({u"-DateTimeOriginal=2014:05:03 14:41:07"_s, u"-IPTC:City=../Zü\trich:"_s}, {photos[0]}));
     ASSERT_TRUE(writeTags({u"-IPTC:City="_s + QString(400, u'x')}, {photos[1]}));
     useSetting(WatermarkStack());
     const QString pattern = u"<<EXIF:DateTimeOriginal[Y-M-D]>>_<<IPTC:City>> <<IMGNAME>>_[##]<<no [#]"_s;

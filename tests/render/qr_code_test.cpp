@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/qr_code.h"
 
-#include "support/records.h"
 #include "render/placement.h"
 #include "render/tiling.h"
 #include "support/ink.h"
 #include "support/qr_reader.h"
+#include "support/records.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/shape.h"
 
-#include "support/records.h"
 #include "render/tiling.h"
 #include "support/ink.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/text_block.h"
 
-#include "support/records.h"
 #include "render/text_layout.h"
 #include "support/ink.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 

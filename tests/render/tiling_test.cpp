@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/tiling.h"
 
-#include "support/records.h"
 #include "pictures/lengths.h"
 #include "render/text_block.h"
 #include "support/ink.h"
+#include "support/records.h"
 
 #include <QPainter>
 
