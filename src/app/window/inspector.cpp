@@ -109,7 +109,7 @@ void Inspector::layOut() {
     column->setSpacing(0);
     column->addLayout(head);
     column->addWidget(stack_, 1);
-    setMinimumHeight(120);
+    setMinimumHeight(72);
 }
 
 EditorPage* Inspector::pageOf(EditorKind kind) {

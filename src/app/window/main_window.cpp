@@ -22,6 +22,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -285,7 +286,12 @@ void MainWindow::layOut() {
     const auto addReadyMade = [this](int place) { watermarks_.addReadyMade(place); };
     welcome_ =
         new EmptyState((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], addReadyMade, middle_);
-    middle_->addWidget(welcome_);
+    // It may be larger than a small screen has room for.
+    auto* beginning = new QScrollArea(middle_);
+    beginning->setFrameShape(QFrame::NoFrame);
+    beginning->setWidgetResizable(true);
+    beginning->setWidget(welcome_);
+    middle_->addWidget(beginning);
     auto* picture = new QWidget(middle_);
     auto* pictureRows = new QVBoxLayout(picture);
     pictureRows->setContentsMargins(0, 0, 0, 0);
