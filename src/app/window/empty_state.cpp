@@ -103,7 +103,7 @@ void EmptyState::showTip(const QString& tip, const std::function<QString()>& nex
     connect(nextTip_, &QPushButton::clicked, this, [this, next] { tip_->setText(next()); });
 }
 
-QWidget* makeSampleBar(QAction* addPhotos, QAction* addFolder, QWidget* parent) {
+QWidget* makeSampleBar(QAction* addPhotos, QWidget* parent) {
     auto* bar = new QFrame(parent);
     bar->setObjectName(QStringLiteral("SampleBar"));
     bar->setBackgroundRole(QPalette::AlternateBase);
@@ -111,8 +111,9 @@ QWidget* makeSampleBar(QAction* addPhotos, QAction* addFolder, QWidget* parent) 
     auto* text = new QLabel(EmptyState::tr("This is a sample photo. Drop your own anywhere."), bar);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(10, 4, 8, 4);
+    text->setWordWrap(true);
     row->addWidget(text, 1);
-    for (QAction* action : {addPhotos, addFolder}) row->addWidget(makeButton(action, bar));
+    row->addWidget(makeButton(addPhotos, bar));
     return bar;
 }
 

@@ -30,6 +30,6 @@ class EmptyState : public QWidget {
 };
 
 // Says that the photo below it is only a sample.
-QWidget* makeSampleBar(QAction* addPhotos, QAction* addFolder, QWidget* parent);
+QWidget* makeSampleBar(QAction* addPhotos, QWidget* parent);
 
 }  // namespace zelto

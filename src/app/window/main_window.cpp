@@ -296,7 +296,7 @@ void MainWindow::layOut() {
     auto* pictureRows = new QVBoxLayout(picture);
     pictureRows->setContentsMargins(0, 0, 0, 0);
     pictureRows->setSpacing(0);
-    sampleBar_ = makeSampleBar((*actions_)[Act::AddPhotos], (*actions_)[Act::AddFolder], picture);
+    sampleBar_ = makeSampleBar((*actions_)[Act::AddPhotos], picture);
     pictureRows->addWidget(sampleBar_);
     pictureRows->addWidget(pages_, 1);
     middle_->addWidget(picture);

@@ -89,6 +89,18 @@ class MainWindowTest : public ::testing::Test {
     std::unique_ptr<MainWindow> window;
 };
 
+TEST_F(MainWindowTest, FitsASmallScreen) {
+    const auto fits = [this] {
+        const QSize least = window->minimumSizeHint();
+        return least.width() <= 558 && least.height() <= 350;
+    };
+    EXPECT_TRUE(fits()) << "empty";
+    addWatermark(boxRecord(120, 80, 1));
+    EXPECT_TRUE(fits()) << "with the sample photo";
+    addPhotos(1);
+    EXPECT_TRUE(fits());
+}
+
 TEST_F(MainWindowTest, WhatTheScreenShowsIsWhatWasComposed) {
     addPhotos(1);
     view().ActualSize();
