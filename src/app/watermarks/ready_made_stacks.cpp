@@ -3,7 +3,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 
 namespace zelto {
@@ -13,7 +13,7 @@ constexpr std::int32_t Centre = 5;
 constexpr std::int32_t BottomLeft = 7;
 constexpr std::int32_t BottomCentre = 8;
 constexpr std::int32_t BottomRight = 9;
-constexpr std::int64_t Margin = 24;
+constexpr float Margin = 0.025F;  // of the photo's shorter side
 
 QString tr(const char* text) {
     return QCoreApplication::translate("ReadyMadeStacks", text);
@@ -23,7 +23,7 @@ QString tr(const char* text) {
 Watermark text(const QString& content, QLatin1String side, std::int64_t percent, std::int32_t position) {
     Watermark w(watermark_type::Text);
     w.Text = content;
-    w.FontFamily = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    w.FontFamily = QFontInfo(QFont()).family();  // a name such as "Sans" is no installed family
     w.FontSize = percent;
     w.IsRelative = true;
     w.FontRelativeSize = side;
@@ -40,13 +40,13 @@ Watermark diagonal(const QString& content, float opacity) {
     w.Transparency = opacity;
     w.Rotation = -30;
     w.HorizontalTiling = w.VerticalTiling = true;
-    w.HorizontalSpacing = 100;
-    w.VerticalSpacing = 60;
+    w.HorizontalSpacingShare = 0.1F;
+    w.VerticalSpacingShare = 0.06F;
     return w;
 }
 
-void setPaddings(Watermark& w, std::int64_t pixels) {
-    w.PaddingLeft = w.PaddingTop = w.PaddingRight = w.PaddingBottom = pixels;
+void setPaddings(Watermark& w, float share) {
+    w.PaddingLeftShare = w.PaddingTopShare = w.PaddingRightShare = w.PaddingBottomShare = share;
 }
 
 // What stands where the user's own logo is to come.
@@ -99,12 +99,12 @@ WatermarkStack captionBar() {
     bar.Transparency = 0.55F;
     bar.Position = BottomCentre;
     Watermark name = text(QStringLiteral("<<IMGNAME>>"), photo_side::Height, 5, BottomLeft);
-    name.PaddingLeft = Margin;
-    name.PaddingBottom = 16;
+    name.PaddingLeftShare = Margin;
+    name.PaddingBottomShare = 0.02F;
     Watermark date =
         text(QStringLiteral("<<EXIF:DateTimeOriginal[D MM Y]>>"), photo_side::Height, 5, BottomRight);
-    date.PaddingRight = Margin;
-    date.PaddingBottom = 16;
+    date.PaddingRightShare = Margin;
+    date.PaddingBottomShare = 0.02F;
     return {{bar, name, date}, {}, 0, false, {}};
 }
 
