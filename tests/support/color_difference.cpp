@@ -11,9 +11,16 @@ namespace zelto {
 namespace {
 
 cmsCIELab labOf(QRgb color) {
-    static const cmsHTRANSFORM transform =
-        cmsCreateTransform(cmsCreate_sRGBProfile(), TYPE_RGB_8, cmsCreateLab4Profile(nullptr), TYPE_Lab_DBL,
-                           INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE);
+    static const cmsHTRANSFORM transform = [] {
+        const cmsHPROFILE srgb = cmsCreate_sRGBProfile();
+        const cmsHPROFILE labProfile = cmsCreateLab4Profile(nullptr);
+        const cmsHTRANSFORM made =
+            cmsCreateTransform(srgb, TYPE_RGB_8, labProfile, TYPE_Lab_DBL, INTENT_RELATIVE_COLORIMETRIC,
+                               cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE);
+        cmsCloseProfile(srgb);
+        cmsCloseProfile(labProfile);
+        return made;
+    }();
     const std::array<quint8, 3> bytes{static_cast<quint8>(qRed(color)), static_cast<quint8>(qGreen(color)),
                                       static_cast<quint8>(qBlue(color))};
     cmsCIELab lab{};
