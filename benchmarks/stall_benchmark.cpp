@@ -71,12 +71,14 @@ void StallWhileABatchRuns(benchmark::State& state) {
     OutputOptions options;
     options.OutputFormat = SameAsSourceFormat;
     options.JPEGQuality = 90;
-    options.OutputPath = folder.filePath(QStringLiteral("out"));
     options.ExifDataToInclude = exif_data::ExcludeAll;
-    QDir().mkpath(options.OutputPath);
 
     double longest = 0.0;
+    int round = 0;
     for (auto _ : state) {
+        // A folder of its own, or the window asks about the files of the round before.
+        options.OutputPath = folder.filePath(QStringLiteral("out%1").arg(round++));
+        QDir().mkpath(options.OutputPath);
         MyGlobalInstance shared;
         MainWindow window(shared, standardDialogs(), EditorSet());
         RunParts parts = standardRunParts();
