@@ -341,8 +341,10 @@ bool asksForJson(const QStringList& arguments) {
 }
 
 QString versionText() {
-    return QStringLiteral("zelto-batch " ZELTO_VERSION "\nWith ") +
-           pictureLibraries().join(QStringLiteral(", ")) + QLatin1Char('\n');
+    const QStringList libraries = pictureLibraries();
+    const QString with = libraries.isEmpty() ? QStringLiteral("Without libraries for newer formats")
+                                             : QStringLiteral("With ") + libraries.join(QStringLiteral(", "));
+    return QStringLiteral("zelto-batch " ZELTO_VERSION "\n") + with + QLatin1Char('\n');
 }
 
 QString helpText() {
