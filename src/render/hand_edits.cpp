@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/hand_edits.h"
 
+#include "render/font_size.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -26,13 +28,10 @@ double scaleShare(float& share, double factor) {
 
 // A font size in tenths of a per cent of the photo, or in whole points.
 double scaleFont(Watermark& record, double factor) {
-    const double before =
-        static_cast<double>(record.FontSize) + static_cast<double>(record.FontSizeFraction.value_or(0.0F));
+    const double before = fontSizeOf(record);
     const double steps = record.IsRelative ? 10.0 : 1.0;
     const double after = std::max(1.0, std::round(before * factor * steps) / steps);
-    record.FontSize = static_cast<std::int64_t>(std::floor(after));
-    record.FontSizeFraction.reset();
-    if (after > std::floor(after)) record.FontSizeFraction = static_cast<float>(after - std::floor(after));
+    setFontSize(record, after);
     return before > 0.0 ? after / before : 1.0;
 }
 

@@ -3,6 +3,7 @@
 
 #include "pictures/picture_additions.h"
 #include "render/canvas.h"
+#include "render/font_size.h"
 #include "render/lengths.h"
 #include "render/opacity.h"
 #include "render/photo_shadow.h"
@@ -27,8 +28,7 @@ constexpr int ShadowBlur = 5;
 constexpr QPoint ShadowOffset(5, -5);  // right and up
 
 double pointSize(const Watermark& record, QSizeF reference) {
-    const double size =
-        static_cast<double>(record.FontSize) + static_cast<double>(record.FontSizeFraction.value_or(0.0F));
+    const double size = fontSizeOf(record);
     if (!record.IsRelative) return std::min(size, LargestFontSize);
     const bool byWidth = sideNamed(record.FontRelativeSize, reference) == Side::Width;
     const double side = byWidth ? reference.width() : reference.height();

@@ -46,6 +46,11 @@ class StackFaces::Painter {
         record.CustomPositionLeft = record.CustomPositionTop = 0;
         record.PaddingLeft = record.PaddingTop = record.PaddingRight = record.PaddingBottom = 0;
         record.HorizontalSpacing = record.VerticalSpacing = 0;
+        for (auto share : {&Watermark::PaddingLeftShare, &Watermark::PaddingTopShare,
+                           &Watermark::PaddingRightShare, &Watermark::PaddingBottomShare,
+                           &Watermark::HorizontalSpacingShare, &Watermark::VerticalSpacingShare}) {
+            (record.*share).reset();
+        }
         record.IsEnabled = plain.IsEnabled;
         record.LabelName.clear();
         return record;

@@ -5,13 +5,13 @@
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/value_page.h"
 #include "app/editors/text/font_family_list.h"
+#include "render/font_size.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <cmath>
 
 namespace zelto {
 namespace {
@@ -122,17 +122,7 @@ QWidget* TextStyleGroup::makeSize() {
     });
     binder_.follow(
         [size](const Watermark& record) { size->setKind(record.IsRelative ? PercentOfSide : Pixels); });
-    binder_.bind(
-        size,
-        [](const Watermark& record) {
-            return static_cast<double>(record.FontSize) +
-                   static_cast<double>(record.FontSizeFraction.value_or(0.0F));
-        },
-        [](Watermark& record, double value) {
-            record.FontSize = static_cast<std::int64_t>(std::floor(value));
-            const auto fraction = static_cast<float>(value - std::floor(value));
-            record.FontSizeFraction = fraction > 0.0F ? std::optional(fraction) : std::nullopt;
-        });
+    binder_.bind(size, fontSizeOf, setFontSize);
     binder_.bind(usual, &Watermark::FontSize);
     binder_.bind(
         side,
