@@ -124,10 +124,24 @@ void JpegBlocks::clear(Rows& rows, int end) const {
     }
 }
 
-void JpegBlocks::receive(jpeg_decompress_struct& file) {
-    file.client_data = this;
-    file.mem->request_virt_barray = request;
-    file.mem->access_virt_barray = accessToRead;
+JBLOCKARRAY JpegBlocks::accessToShow(j_common_ptr, jvirt_barray_ptr array, JDIMENSION first, JDIMENSION,
+                                     boolean writable) {
+    auto& rows = *reinterpret_cast<Rows*>(array);
+    return writable ? rows.owner->unwantedRows_.data() : rows.pointers.data() + first % rows.pointers.size();
+}
+
+void JpegBlocks::keepArraysOf(j_common_ptr codec, Access access) {
+    codec->client_data = this;
+    codec->mem->request_virt_barray = request;
+    codec->mem->access_virt_barray = access;
+    requested_ = 0;
+}
+
+void JpegBlocks::show(jpeg_decompress_struct& file) {
+    const auto widest = std::ranges::max_element(rows_, {}, &Rows::width);
+    unwanted_.resize(widest->width * DCTSIZE2);
+    unwantedRows_.fill(reinterpret_cast<JBLOCKROW>(unwanted_.data()));
+    keepArraysOf(reinterpret_cast<j_common_ptr>(&file), accessToShow);
 }
 
 void JpegBlocks::finishReading() {

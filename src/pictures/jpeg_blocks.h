@@ -14,6 +14,7 @@
 #include <QRect>
 #include <QSize>
 
+#include <array>
 #include <functional>
 #include <vector>
 
@@ -54,9 +55,16 @@ class JpegBlocks {
     JBLOCKROW row(std::size_t component, int y) const;
     void addRow(std::size_t component, JBLOCKROW row) { rows_[component].pointers.push_back(row); }
 
-    // Has `file` read its coefficients into this. What no scan speaks of is 0 after finishReading().
-    void receive(jpeg_decompress_struct& file);
+    // Has `codec`, a file that is read or one of several scans that is written, keep its coefficients here. What no
+    // scan that is read speaks of is 0 after finishReading().
+    template <class Codec>
+    void receive(Codec& codec) {
+        keepArraysOf(reinterpret_cast<j_common_ptr>(&codec), accessToRead);
+    }
     void finishReading();
+
+    // Has `file`, whose whole image libjpeg keeps, show these blocks instead of those that it reads.
+    void show(jpeg_decompress_struct& file);
 
     // Has `file` take its coefficients from here: hand the result to jpeg_write_coefficients(). `prepare`, where it is
     // set, is called with each row of sampling units before that is read, and says whether it is there.
@@ -76,12 +84,18 @@ class JpegBlocks {
         int cleared;  // rows of blocks that have been filled with zeros for reading
     };
 
+    using Access = JBLOCKARRAY (*)(j_common_ptr codec, jvirt_barray_ptr array, JDIMENSION first,
+                                   JDIMENSION count, boolean writable);
+
     static jvirt_barray_ptr request(j_common_ptr codec, int pool, boolean zero, JDIMENSION width,
                                     JDIMENSION rows, JDIMENSION atATime);
     static JBLOCKARRAY accessToRead(j_common_ptr codec, jvirt_barray_ptr array, JDIMENSION first,
                                     JDIMENSION count, boolean writable);
     static JBLOCKARRAY accessToWrite(j_common_ptr codec, jvirt_barray_ptr array, JDIMENSION first,
                                      JDIMENSION count, boolean writable);
+    static JBLOCKARRAY accessToShow(j_common_ptr codec, jvirt_barray_ptr array, JDIMENSION first,
+                                    JDIMENSION count, boolean writable);
+    void keepArraysOf(j_common_ptr codec, Access access);
     void clear(Rows& rows, int end) const;
 
     JpegGeometry geometry_;
@@ -89,6 +103,9 @@ class JpegBlocks {
     std::vector<Rows> rows_;  // by component; never grows, so that pointers to its elements stay
     std::vector<jvirt_barray_ptr> arrays_;
     std::size_t requested_ = 0;  // components that libjpeg has asked room for
+    // Where libjpeg may put what is not wanted: one row of blocks, in the place of as many as it asks for at a time.
+    std::vector<JCOEF> unwanted_;
+    std::array<JBLOCKROW, MAX_SAMP_FACTOR> unwantedRows_{};
 };
 
 }  // namespace zelto

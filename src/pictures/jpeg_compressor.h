@@ -10,9 +10,6 @@
 
 namespace zelto {
 
-// How libjpeg calls the memory of a QRgb.
-inline constexpr J_COLOR_SPACE QRgbOrder = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRX : JCS_EXT_XRGB;
-
 // Every call into libjpeg goes through guarded(), whose step may hold nothing that needs a destructor: an error leaves it
 // by a long jump.
 class JpegCompressor {

@@ -39,8 +39,7 @@ class PixelDecoder {
         output_ = QSize(static_cast<int>(info_.output_width), static_cast<int>(info_.output_height));
         file_.limitScans();
         QImage picture = newPicture(uprightSize(output_, orientation), QImage::Format_RGB32);
-        // BGRA rather than BGRX: only the former promises the 255 that a QImage without alpha expects.
-        info_.out_color_space = isCmyk() ? JCS_CMYK : JCS_EXT_BGRA;
+        info_.out_color_space = isCmyk() ? JCS_CMYK : OpaqueQRgbOrder;
         const bool done = file_.guarded([&] { jpeg_start_decompress(&info_); }) &&
                           (orientation == 1 ? decodeRows(picture) : decodeTurned(orientation, picture)) &&
                           file_.guarded([&] { jpeg_finish_decompress(&info_); });

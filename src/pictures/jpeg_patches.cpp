@@ -2,14 +2,13 @@
 #include "pictures/jpeg_patches.h"
 
 #include "pictures/jpeg_compressor.h"
-#include "pictures/jpeg_decoder.h"
 #include "pictures/jpeg_file.h"
+#include "pictures/picture_memory.h"
 #include "pictures/picture_rows.h"
 
 #include <QBuffer>
 
 #include <algorithm>
-#include <limits>
 
 namespace zelto {
 namespace {
@@ -61,29 +60,67 @@ void copyParameters(jpeg_decompress_struct& source, const Turn& turn, const Jpeg
     }
 }
 
-QImage pixelsOf(JpegBlocks& blocks, const JpegGeometry& geometry, jpeg_decompress_struct& source,
-                const Turn& turn) {
+namespace {
+
+// A file that has the frame and the quantisation tables of a part, and of its coefficients only zeros. Empty where
+// libjpeg fails.
+QByteArray frameOf(const JpegGeometry& geometry, jpeg_decompress_struct& source, const Turn& turn) {
+    JpegBlocks zeros(geometry, 1);
+    zeros.finishReading();
+    jpeg_scan_info scan{};  // the mean of each block alone
+    for (int i = 0; i < source.num_components; ++i) scan.component_index[scan.comps_in_scan++] = i;
     JpegCompressor compressor;
     const bool done = compressor.guarded([&](jpeg_compress_struct& codec) {
         copyParameters(source, turn, geometry, codec);
-        jpeg_write_coefficients(&codec, blocks.give(codec));
+        codec.scan_info = &scan;
+        codec.num_scans = 1;
+        jpeg_write_coefficients(&codec, zeros.give(codec));
         jpeg_finish_compress(&codec);
     });
-    if (!done) return {};
-    QByteArray file = compressor.takeFile();
-    QBuffer buffer(&file);
+    return done ? compressor.takeFile() : QByteArray();
+}
+
+}  // namespace
+
+QImage pixelsOf(JpegBlocks& blocks, const JpegGeometry& geometry, jpeg_decompress_struct& source,
+                const Turn& turn) {
+    QByteArray frame = frameOf(geometry, source, turn);
+    QBuffer buffer(&frame);
     buffer.open(QIODevice::ReadOnly);
-    std::optional<Picture> picture = decodeJpeg(buffer);
-    return picture ? std::move(picture->image) : QImage();
+    JpegFile file(buffer);
+    if (!file.readHeader()) return {};
+    jpeg_decompress_struct& info = file.info();
+    info.out_color_space = OpaqueQRgbOrder;
+    info.buffered_image = TRUE;
+    info.do_block_smoothing = FALSE;
+    blocks.show(info);
+    QImage pixels = newPicture(geometry.size, QImage::Format_RGB32);
+    uchar* const bits = pixels.bits();
+    const qsizetype stride = pixels.bytesPerLine();
+    const bool done = file.guarded([&] {
+        jpeg_start_decompress(&info);
+        while (jpeg_consume_input(&info) != JPEG_REACHED_EOI) {
+        }
+        jpeg_start_output(&info, info.input_scan_number);
+        while (info.output_scanline < info.output_height) {
+            JSAMPROW row = bits + stride * info.output_scanline;
+            jpeg_read_scanlines(&info, &row, 1);
+        }
+    });
+    return done ? pixels : QImage();
 }
 
 std::unique_ptr<JpegBlocks> blocksOf(const QImage& pixels, const JpegGeometry& geometry,
                                      jpeg_decompress_struct& source, const Turn& turn) {
+    auto blocks = std::make_unique<JpegBlocks>(geometry, geometry.units.height());
     JpegCompressor compressor;
+    // A file of several scans has all its coefficients before the first scan is written. It is never finished.
     const bool done = compressor.guarded([&](jpeg_compress_struct& codec) {
         copyParameters(source, turn, geometry, codec);
         codec.input_components = 4;
         codec.in_color_space = QRgbOrder;
+        jpeg_simple_progression(&codec);
+        blocks->receive(codec);
         jpeg_start_compress(&codec, TRUE);
         while (codec.next_scanline < codec.image_height) {
             const auto* row =
@@ -92,17 +129,8 @@ std::unique_ptr<JpegBlocks> blocksOf(const QImage& pixels, const JpegGeometry& g
             JSAMPROW rows[] = {const_cast<JSAMPROW>(row)};  // NOLINT
             jpeg_write_scanlines(&codec, rows, 1);
         }
-        jpeg_finish_compress(&codec);
     });
-    if (!done) return nullptr;
-    QByteArray file = compressor.takeFile();
-    QBuffer buffer(&file);
-    buffer.open(QIODevice::ReadOnly);
-    auto blocks = std::make_unique<JpegBlocks>(geometry, geometry.units.height());
-    JpegFile encoded(buffer);
-    if (!encoded.readHeader()) return nullptr;
-    blocks->receive(encoded.info());
-    return encoded.readCoefficients(std::numeric_limits<JDIMENSION>::max()) ? std::move(blocks) : nullptr;
+    return done ? std::move(blocks) : nullptr;
 }
 
 std::vector<JpegBand> bandsOf(const std::vector<QRect>& areas, const JpegGeometry& geometry, int mostRows) {

@@ -11,10 +11,17 @@
 #include <jerror.h>
 // clang-format on
 
+#include <QtGlobal>
+
 #include <array>
 #include <csetjmp>
 
 namespace zelto {
+
+// How libjpeg calls the memory of a QRgb: to read colours from, and to write opaque ones to.
+inline constexpr J_COLOR_SPACE QRgbOrder = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRX : JCS_EXT_XRGB;
+inline constexpr J_COLOR_SPACE OpaqueQRgbOrder =
+    Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRA : JCS_EXT_ARGB;
 
 struct JpegErrors {
     jpeg_error_mgr manager{};
