@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How far a JPEG photo has come from another one: compare-photos FIRST SECOND [TOP]. Prints, for what lies below the
-// first TOP rows of pixels, the PSNR of all three colours in dB ("inf" for the same pixels), the mean SSIM of luma over
-// windows of 8 x 8 pixels, and the share of blocks with the same coefficients, 0 where size or sampling differ.
+// How far a JPEG photo has come from another one: compare-photos FIRST SECOND WANTED. Prints the PSNR of all three colours
+// in dB and the mean SSIM of luma over windows of 8 x 8 pixels between SECOND and the picture WANTED, and the share of
+// blocks that have the same coefficients in FIRST and SECOND, 0 where size or sampling differ.
 #include "pictures/picture_reader.h"
 #include "support/stored_jpeg.h"
 
@@ -15,14 +15,14 @@ namespace {
 
 using namespace zelto;
 
-double psnr(const QImage& first, const QImage& second, int top) {
+double psnr(const QImage& first, const QImage& second) {
     double sum = 0.0;
-    for (int y = top; y < first.height(); ++y) {
+    for (int y = 0; y < first.height(); ++y) {
         const uchar* one = first.constScanLine(y);
         const uchar* other = second.constScanLine(y);
         for (int i = 0; i < first.width() * 4; ++i) sum += (one[i] - other[i]) * (one[i] - other[i]);
     }
-    const double samples = 3.0 * first.width() * (first.height() - top);
+    const double samples = 3.0 * first.width() * first.height();
     return 10.0 * std::log10(255.0 * 255.0 * samples / sum);
 }
 
@@ -50,16 +50,16 @@ double ssimOf(const QImage& first, const QImage& second, int left, int top) {
     return (2 * x * y + C1) * (2 * xy + C2) / ((x * x + y * y + C1) * (xx + yy + C2));
 }
 
-double ssim(const QImage& first, const QImage& second, int top) {
+double ssim(const QImage& first, const QImage& second) {
     double sum = 0.0;
     qint64 count = 0;
-    for (int y = top; y + 8 <= first.height(); y += 4) {
+    for (int y = 0; y + 8 <= first.height(); y += 4) {
         for (int x = 0; x + 8 <= first.width(); x += 4, ++count) sum += ssimOf(first, second, x, y);
     }
     return sum / static_cast<double>(count);
 }
 
-double sameBlocks(const StoredJpeg& first, const StoredJpeg& second, int top) {
+double sameBlocks(const StoredJpeg& first, const StoredJpeg& second) {
     if (first.size != second.size || first.components.size() != second.components.size()) return 0.0;
     qint64 same = 0;
     qint64 count = 0;
@@ -67,7 +67,7 @@ double sameBlocks(const StoredJpeg& first, const StoredJpeg& second, int top) {
         const StoredJpeg::Component& one = first.components[i];
         const StoredJpeg::Component& other = second.components[i];
         if (one.blocks != other.blocks) return 0.0;
-        for (int y = (top + one.pixels.height() - 1) / one.pixels.height(); y < one.blocks.height(); ++y) {
+        for (int y = 0; y < one.blocks.height(); ++y) {
             for (int x = 0; x < one.blocks.width(); ++x, ++count)
                 same += one.table == other.table && one.at(x, y) == other.at(x, y) ? 1 : 0;
         }
@@ -83,17 +83,16 @@ QByteArray contents(const char* path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 3) return EXIT_FAILURE;
-    const int top = argc > 3 ? std::atoi(argv[3]) : 0;
+    if (argc != 4) return EXIT_FAILURE;
     const QByteArray first = contents(argv[1]);
     const QByteArray second = contents(argv[2]);
-    const Result<Picture> one = decodePicture(first);
-    const Result<Picture> other = decodePicture(second);
-    if (!one || !other || one->image.size() != other->image.size()) {
+    const Result<Picture> shown = decodePicture(second);
+    const Result<Picture> wanted = decodePicture(contents(argv[3]));
+    if (!shown || !wanted || shown->image.size() != wanted->image.size()) {
         std::fprintf(stderr, "compare-photos: these are no two photos of one size\n");
         return EXIT_FAILURE;
     }
-    std::printf("%.2f %.5f %.4f\n", psnr(one->image, other->image, top), ssim(one->image, other->image, top),
-                sameBlocks(storedJpeg(first), storedJpeg(second), top));
+    std::printf("%.2f %.5f %.4f\n", psnr(wanted->image, shown->image), ssim(wanted->image, shown->image),
+                sameBlocks(storedJpeg(first), storedJpeg(second)));
     return EXIT_SUCCESS;
 }

@@ -29,6 +29,11 @@ class JpegCompressor {
 
     // The file, once jpeg_finish_compress() has been called.
     QByteArray takeFile() { return std::move(destination_.bytes); }
+    // What there is of a file that has been begun.
+    QByteArray takeBeginning() {
+        endOutput(&codec_);
+        return takeFile();
+    }
     // What libjpeg said of the step that failed.
     QString message() const { return QString::fromLatin1(errors_.message.data()); }
 

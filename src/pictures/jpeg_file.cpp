@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace zelto {
 namespace {
@@ -137,6 +138,15 @@ qint64 JpegFile::blocks() const {
 void JpegFile::limitScans() {
     progress_.scans = std::min<qint64>(
         MaximumScans, (QuickBlockVisits + BlockVisitsPerByte * fileBytes_) / std::max(blocks(), qint64{1}));
+}
+
+QByteArray JpegFile::takeRest() {
+    const auto buffered = static_cast<qsizetype>(source_.base.bytes_in_buffer);
+    QByteArray rest(buffered + static_cast<qsizetype>(fileBytes_ - source_.device->pos()), Qt::Uninitialized);
+    std::memcpy(rest.data(), source_.base.next_input_byte, source_.base.bytes_in_buffer);
+    const qint64 got = readBytes(*source_.device, rest.data() + buffered, rest.size() - buffered);
+    rest.truncate(buffered + static_cast<qsizetype>(std::max(got, qint64{0})));
+    return rest;
 }
 
 bool JpegFile::readCoefficients(JDIMENSION unitRows) {

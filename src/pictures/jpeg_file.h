@@ -55,6 +55,9 @@ class JpegFile {
     // all; for any other, or where there are no more rows, to the end of the file. False for a damaged file.
     bool readCoefficients(JDIMENSION unitRows);
 
+    // What follows what has been read so far. Nothing else can be read afterwards.
+    QByteArray takeRest();
+
     jpeg_decompress_struct& info() { return info_; }
 
     template <class Step>

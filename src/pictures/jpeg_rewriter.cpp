@@ -6,6 +6,7 @@
 #include "pictures/jpeg_file.h"
 #include "pictures/jpeg_huffman.h"
 #include "pictures/jpeg_patches.h"
+#include "pictures/jpeg_scan.h"
 #include "pictures/picture_file.h"
 #include "pictures/picture_kind.h"
 #include "pictures/resolution.h"
@@ -26,7 +27,7 @@ namespace zelto {
 namespace {
 
 // Drawn at a time: enough for most marks to be drawn once, few enough for a full-width band to be small beside a photo.
-constexpr int BandPixels = 512;
+constexpr int BandPixels = 128;
 constexpr JDIMENSION AllRows = std::numeric_limits<JDIMENSION>::max();
 
 tl::unexpected<Error> unsuited(const QString& why) {
@@ -99,6 +100,10 @@ class JpegRewriter::Work {
 
     int rowsKept() const;
     void setUp(jpeg_compress_struct& codec);
+    void write(jpeg_compress_struct& codec, JpegBlocks& blocks);
+    QByteArray encoded();
+    QByteArray header();
+    QByteArray copied();
     bool prepare(int unitRow);
     bool fill(int rows);
     bool mark(const JpegBand& band);
@@ -120,6 +125,7 @@ class JpegRewriter::Work {
     std::shared_ptr<const ColorTransform> fromSrgb_;  // null for a photo that is sRGB itself
     // The coefficients come and go row by row, unless the file has them in several scans or they have to be turned.
     bool isWhole_ = false;
+    bool isCopied_ = false;  // bit by bit, where nothing changes
 
     const DrawMarks* draw_ = nullptr;
     std::vector<JpegBand> bands_;
@@ -131,7 +137,9 @@ class JpegRewriter::Work {
     // The last row of the band before, as it was: what lies beside a pixel takes part in its decoding.
     std::unique_ptr<JpegBlocks> originals_;
     int originalsRow_ = -1;
-    std::exception_ptr exception_;  // of `draw` or of memory, on its way around libjpeg
+    std::unique_ptr<JpegScan> scan_;  // where it is copied
+    std::vector<bool> needed_;        // rows of units whose coefficients that takes
+    std::exception_ptr exception_;    // of `draw` or of memory, on its way around libjpeg
 };
 
 Result<void> JpegRewriter::Work::begin() {
@@ -148,7 +156,8 @@ Result<void> JpegRewriter::Work::begin() {
     if (const auto trouble = turningTrouble(stored_, turn_)) return unsuited(*trouble);
 
     isWhole_ = jpeg_has_multiple_scans(&file_.info()) != 0;
-    const qint64 memory = JpegBlocks::bytesFor(geometry_, rowsKept()) +
+    isCopied_ = turn_.isNone() && JpegScan::suits(info, geometry_);
+    const qint64 memory = JpegBlocks::bytesFor(geometry_, rowsKept()) + (isCopied_ ? device_->size() : 0) +
                           (turn_.isNone() ? 0 : JpegBlocks::bytesFor(stored_, stored_.units.height()));
     if (const Result<void> allowed = checkNeeds({geometry_.size, memory, 0}, device_->size()); !allowed)
         return tl::unexpected(allowed.error());
@@ -203,32 +212,69 @@ void JpegRewriter::Work::setUp(jpeg_compress_struct& codec) {
 Result<QByteArray> JpegRewriter::Work::rewrite(const std::vector<QRect>& areas, const DrawMarks& draw) {
     draw_ = &draw;
     bands_ = bandsOf(areas, geometry_, std::max(1, BandPixels / geometry_.unit.height()));
-    file_.limitScans();
     blocks_ = std::make_unique<JpegBlocks>(geometry_, rowsKept());
     originals_ = std::make_unique<JpegBlocks>(geometry_, 1);
+    QByteArray file = isCopied_ ? copied() : encoded();
+    if (exception_) std::rethrow_exception(exception_);
+    if (file.isEmpty()) return unreadable();
+    return file;
+}
+
+// By way of all coefficients; empty for a damaged file.
+QByteArray JpegRewriter::Work::encoded() {
+    file_.limitScans();
     if (!turn_.isNone()) storedBlocks_ = std::make_unique<JpegBlocks>(stored_, stored_.units.height());
     JpegBlocks& read = storedBlocks_ ? *storedBlocks_ : *blocks_;
     read.receive(file_.info());
     if (isWhole_ || storedBlocks_) {
-        if (!file_.readCoefficients(AllRows)) return unreadable();
+        if (!file_.readCoefficients(AllRows)) return {};
         read.finishReading();
         if (!storedBlocks_) filled_ = geometry_.units.height();
     }
     blocks_->prepare = [this](int unitRow) { return prepare(unitRow); };
-
     JpegCompressor compressor;
-    const bool done = compressor.guarded([&](jpeg_compress_struct& codec) {
-        setUp(codec);
-        jpeg_write_coefficients(&codec, blocks_->give(codec));
-        if (!profile_.isEmpty()) {
-            jpeg_write_icc_profile(&codec, reinterpret_cast<const JOCTET*>(profile_.constData()),
-                                   static_cast<unsigned>(profile_.size()));
-        }
-        jpeg_finish_compress(&codec);
-    });
-    if (exception_) std::rethrow_exception(exception_);
-    if (!done) return unreadable();
-    return compressor.takeFile();
+    const bool done = compressor.guarded([&](jpeg_compress_struct& codec) { write(codec, *blocks_); });
+    return done ? compressor.takeFile() : QByteArray();
+}
+
+void JpegRewriter::Work::write(jpeg_compress_struct& codec, JpegBlocks& blocks) {
+    setUp(codec);
+    jpeg_write_coefficients(&codec, blocks.give(codec));
+    if (!profile_.isEmpty()) {
+        jpeg_write_icc_profile(&codec, reinterpret_cast<const JOCTET*>(profile_.constData()),
+                               static_cast<unsigned>(profile_.size()));
+    }
+    jpeg_finish_compress(&codec);
+}
+
+// The new file up to its scan: libjpeg is stopped when it asks for the first coefficients.
+QByteArray JpegRewriter::Work::header() {
+    JpegBlocks none(geometry_);
+    bool isThere = false;
+    none.prepare = [&](int) {
+        isThere = true;
+        return false;
+    };
+    JpegCompressor compressor;
+    compressor.guarded([&](jpeg_compress_struct& codec) { write(codec, none); });
+    return isThere ? compressor.takeBeginning() : QByteArray();
+}
+
+// Bit by bit; empty for a damaged file.
+QByteArray JpegRewriter::Work::copied() {
+    QByteArray file = header();
+    if (file.isEmpty()) return {};
+    const int rows = geometry_.units.height();
+    needed_.resize(static_cast<std::size_t>(rows));
+    for (const JpegBand& band : bands_) {
+        for (int row = std::max(band.first - 1, 0); row < std::min(band.end + 1, rows); ++row)
+            needed_[static_cast<std::size_t>(row)] = true;
+    }
+    scan_ = std::make_unique<JpegScan>(file_.info(), geometry_, file_.takeRest());
+    for (int row = 0; row < rows; ++row) {
+        if (!prepare(row) || !scan_->writeRow(*blocks_)) return {};
+    }
+    return file.append(scan_->takeBits());
 }
 
 // Called from within libjpeg, which no exception may pass through.
@@ -249,6 +295,13 @@ bool JpegRewriter::Work::prepare(int unitRow) try {
 // Has the first `rows` rows of units read, or turned.
 bool JpegRewriter::Work::fill(int rows) {
     if (filled_ >= rows) return true;
+    if (scan_) {
+        for (; filled_ < rows; ++filled_) {
+            if (!scan_->readRow(needed_[static_cast<std::size_t>(filled_)] ? blocks_.get() : nullptr))
+                return false;
+        }
+        return true;
+    }
     if (!storedBlocks_) {
         filled_ = rows;
         return file_.readCoefficients(rows == geometry_.units.height() ? AllRows
@@ -338,8 +391,9 @@ bool JpegRewriter::Work::replace(const Patch& patch, const QImage& drawn) {
             JBLOCKROW target = blocks_->row(i, patch.units.top() * down + y) + patch.units.left() * across;
             for (int x = 0; x < blocks.width(); ++x) {
                 const QRect pixels(QPoint(x * covers.width(), y * covers.height()), covers);
-                if (differs(patch.pixels, drawn, pixels))
-                    std::memcpy(target + x, encoded->row(i, y) + x, sizeof(JBLOCK));
+                if (!differs(patch.pixels, drawn, pixels)) continue;
+                std::memcpy(target + x, encoded->row(i, y) + x, sizeof(JBLOCK));
+                if (scan_) scan_->change(patch.units.top() + y / down, patch.units.left() + x / across);
             }
         }
     }
