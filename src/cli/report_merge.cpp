@@ -25,22 +25,22 @@ struct ShardReport {
     QJsonArray photos;
 };
 
-tl::unexpected<Error> wrong(const QString& what) {
+tl::unexpected<Error> wrongReport(const QString& what) {
     return fail(ErrorCode::InvalidValue, what);
 }
 
 Result<ShardReport> readReport(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return wrong(QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()));
+        return wrongReport(QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()));
     const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
     const QString place = report["shard"_L1].toString();
     if (report["version"_L1].toInt() != 1 || place.isEmpty())
-        return wrong(QStringLiteral("“%1” is no report of a shard").arg(path));
+        return wrongReport(QStringLiteral("“%1” is no report of a shard").arg(path));
     const Result<Shard> shard = parseShard(place, [](const char*) { return QString(); });
-    if (!shard) return wrong(QStringLiteral("“%1” is no report of a shard: “%2”").arg(path, place));
+    if (!shard) return wrongReport(QStringLiteral("“%1” is no report of a shard: “%2”").arg(path, place));
     if (const QString error = report["error"_L1].toString(); !error.isEmpty())
-        return wrong(QStringLiteral("shard %1 could not be run (“%2”): %3").arg(place, path, error));
+        return wrongReport(QStringLiteral("shard %1 could not be run (“%2”): %3").arg(place, path, error));
     return ShardReport{path, *shard, report["total"_L1].toInteger(), report["summary"_L1].toObject(),
                        report["photos"_L1].toArray()};
 }
@@ -52,24 +52,24 @@ Result<void> place(const ShardReport& report, QMap<qint64, QJsonValue>& photos) 
     for (const QJsonValue& photo : report.photos) {
         const qint64 index = photo["index"_L1].toInteger(-1);
         if (index < 0 || index >= report.total || !report.shard.contains(index)) {
-            return wrong(
+            return wrongReport(
                 QStringLiteral("“%1” tells of the photo with the index %2, which shard %3 does not have")
                     .arg(report.file)
                     .arg(index)
                     .arg(shardText(report.shard)));
         }
         if (photos.contains(index))
-            return wrong(QStringLiteral("“%1” tells of the photo with the index %2 twice")
-                             .arg(report.file)
-                             .arg(index));
+            return wrongReport(QStringLiteral("“%1” tells of the photo with the index %2 twice")
+                                   .arg(report.file)
+                                   .arg(index));
         photos.insert(index, photo);
     }
     if (report.photos.size() == expected) return {};
-    return wrong(QStringLiteral("“%1” tells of %2 photos, but shard %3 has %4")
-                     .arg(report.file)
-                     .arg(report.photos.size())
-                     .arg(shardText(report.shard))
-                     .arg(expected));
+    return wrongReport(QStringLiteral("“%1” tells of %2 photos, but shard %3 has %4")
+                           .arg(report.file)
+                           .arg(report.photos.size())
+                           .arg(shardText(report.shard))
+                           .arg(expected));
 }
 
 // All photos of the list by their index.
@@ -79,7 +79,7 @@ Result<QMap<qint64, QJsonValue>> wholeList(const std::vector<ShardReport>& repor
     QMap<qint64, QJsonValue> photos;
     for (const ShardReport& report : reports) {
         if (report.shard.count != first.shard.count || report.total != first.total) {
-            return wrong(
+            return wrongReport(
                 QStringLiteral("“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of "
                                "one list")
                     .arg(report.file, shardText(report.shard))
@@ -88,8 +88,8 @@ Result<QMap<qint64, QJsonValue>> wholeList(const std::vector<ShardReport>& repor
                     .arg(first.total));
         }
         if (files.contains(report.shard.index)) {
-            return wrong(QStringLiteral("shard %1 is there twice: “%2” and “%3”")
-                             .arg(shardText(report.shard), files[report.shard.index], report.file));
+            return wrongReport(QStringLiteral("shard %1 is there twice: “%2” and “%3”")
+                                   .arg(shardText(report.shard), files[report.shard.index], report.file));
         }
         files.insert(report.shard.index, report.file);
         if (const Result<void> placed = place(report, photos); !placed) return tl::unexpected(placed.error());
@@ -98,8 +98,8 @@ Result<QMap<qint64, QJsonValue>> wholeList(const std::vector<ShardReport>& repor
     for (qint64 i = 0; i < first.shard.count; ++i)
         if (!files.contains(i)) missing.append(shardText({i, first.shard.count}));
     if (missing.isEmpty()) return photos;
-    return wrong(QStringLiteral("the reports of these shards are missing: %1")
-                     .arg(missing.join(QStringLiteral(", "))));
+    return wrongReport(QStringLiteral("the reports of these shards are missing: %1")
+                           .arg(missing.join(QStringLiteral(", "))));
 }
 
 }  // namespace

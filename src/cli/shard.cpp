@@ -15,14 +15,15 @@ std::optional<qint64> wholeNumber(const QString& text) {
     return ok ? std::optional(number) : std::nullopt;
 }
 
-tl::unexpected<Error> wrong(const QString& what) {
+tl::unexpected<Error> wrongShard(const QString& what) {
     return fail(ErrorCode::InvalidValue, what);
 }
 
 // `given` is what a user finds the numbers in.
 Result<Shard> checkedShard(std::optional<qint64> index, std::optional<qint64> count, const QString& given) {
     if (!index || !count || *index < 0 || *index >= *count) {
-        return wrong(QStringLiteral("takes I/N with I from 0 to N - 1, such as 0/4, not “%1”").arg(given));
+        return wrongShard(
+            QStringLiteral("takes I/N with I from 0 to N - 1, such as 0/4, not “%1”").arg(given));
     }
     return Shard{*index, *count};
 }
@@ -37,7 +38,7 @@ Result<Shard> slurmShard(const Environment& environment) {
     const auto smallest = wholeNumber(environment("SLURM_ARRAY_TASK_MIN"));
     const auto count = wholeNumber(environment("SLURM_ARRAY_TASK_COUNT"));
     if (!id || !smallest || !count) {
-        return wrong(
+        return wrongShard(
             QStringLiteral("auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N"));
     }
     // An array such as 0-30:2 counts in steps.
@@ -61,8 +62,9 @@ Result<Shard> parseShard(const QString& text, const Environment& environment) {
     if (text.startsWith(Auto + QLatin1Char('/'))) {
         const QString index = environment("JOB_COMPLETION_INDEX");
         if (index.isEmpty()) {
-            return wrong(QStringLiteral("%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it")
-                             .arg(text));
+            return wrongShard(
+                QStringLiteral("%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it")
+                    .arg(text));
         }
         return checkedShard(wholeNumber(index), wholeNumber(text.section(QLatin1Char('/'), 1)),
                             QStringLiteral("JOB_COMPLETION_INDEX %1 for %2").arg(index, text));

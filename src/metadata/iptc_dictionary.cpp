@@ -14,13 +14,13 @@ namespace {
 
 // A data set of the application record whose name here is not exiv2's; "" leaves it out. exiv2 knows which sets may be
 // repeated.
-struct Exception {
+struct OtherKey {
     std::uint16_t number;
     const char* key;
 };
 
 // By number.
-constexpr Exception Exceptions[] = {
+constexpr OtherKey OtherKeys[] = {
     {0, ""},  // RecordVersion
     {3, "ObjectTypeReference"},
     {4, "ObjectAttributeReference"},
@@ -53,8 +53,8 @@ constexpr Exception Exceptions[] = {
 
 // Empty for a data set that is left out, as all are that exiv2 knows no name of and would print the number.
 QString keyOf(std::uint16_t number) {
-    const auto found = std::ranges::lower_bound(Exceptions, number, {}, &Exception::number);
-    if (found != std::end(Exceptions) && found->number == number) return QString::fromLatin1(found->key);
+    const auto found = std::ranges::lower_bound(OtherKeys, number, {}, &OtherKey::number);
+    if (found != std::end(OtherKeys) && found->number == number) return QString::fromLatin1(found->key);
     const QString name =
         QString::fromStdString(Exiv2::IptcDataSets::dataSetName(number, Exiv2::IptcDataSets::application2));
     return name.startsWith(QLatin1String("0x")) ? QString() : name;

@@ -25,7 +25,7 @@ QByteArray joined(std::initializer_list<QByteArrayView> parts) {
 constexpr std::array<quint16, 17> LayoutTags = {256, 257, 258, 259, 262, 266, 277, 278, 284,
                                                 317, 320, 322, 323, 324, 325, 338, 339};
 // Pixel scale, tie points, transform, and the three of the GeoTIFF directory.
-constexpr std::array<quint16, 7> PositionTags = {
+constexpr std::array<quint16, 7> PositionEntries = {
     tiff_tag::GpsDirectory, 33550, 33922, 34264, 34735, 34736, 34737};
 
 // All of the head that is not metadata.
@@ -88,7 +88,7 @@ bool isSameTiffPicture(QByteArrayView one, QByteArrayView other) {
 bool hasPositionTag(QByteArrayView tiff) {
     const std::vector<TiffEntry> entries = tiffEntries(tiff);
     return std::any_of(entries.begin(), entries.end(), [](const TiffEntry& entry) {
-        return std::find(PositionTags.begin(), PositionTags.end(), entry.tag) != PositionTags.end();
+        return std::find(PositionEntries.begin(), PositionEntries.end(), entry.tag) != PositionEntries.end();
     });
 }
 

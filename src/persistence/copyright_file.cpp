@@ -11,7 +11,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using zelto::toText;
 
-constexpr auto RootName = "Copyright"_L1;
+constexpr auto CopyrightRoot = "Copyright"_L1;
 // A switch that only the text "False" turns off, so that the "0" this program writes reads back as switched on.
 template <class Bool>
 struct OnUnlessFalse {
@@ -56,7 +56,7 @@ Result<QString> copyrightFilePath() {
 }
 
 Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QString& path) {
-    return writeWholeFile(path, writeXml(RootName, [&metadata](QXmlStreamWriter& writer) {
+    return writeWholeFile(path, writeXml(CopyrightRoot, [&metadata](QXmlStreamWriter& writer) {
                               FieldWriter fields(writer);
                               copyrightFields(fields, metadata);
                           }));
@@ -64,7 +64,7 @@ Result<void> SaveCopyRightMetadata(const CopyRightMetaData& metadata, const QStr
 
 Result<void> LoadMetadata(CopyRightMetaData& metadata, const QString& path) {
     const Result<XmlElement> root = readXmlFile(path).and_then(
-        [&path](const QByteArray& document) { return readXml(document, RootName, path); });
+        [&path](const QByteArray& document) { return readXml(document, CopyrightRoot, path); });
     if (!root) {
         if (root.error().code == ErrorCode::NotFound) return {};
         return tl::unexpected(root.error());

@@ -14,7 +14,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr auto RootName = "OutputSettings"_L1;
+constexpr auto OutputRoot = "OutputSettings"_L1;
 
 // More pixels or per cent than any picture can have; products with it must not overflow.
 constexpr qint64 MaximumSize = 1'000'000'000;
@@ -201,7 +201,7 @@ OutputSettings startingOutputSettings() {
 Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path) {
     OutputSettings written = settings;
     setFieldsFromOptions(written);
-    return writeWholeFile(path, writeXml(RootName, [&written](QXmlStreamWriter& writer) {
+    return writeWholeFile(path, writeXml(OutputRoot, [&written](QXmlStreamWriter& writer) {
                               FieldWriter fields(writer);
                               settingsFields(fields, std::as_const(written));
                           }));
@@ -209,7 +209,7 @@ Result<void> saveOutputSettings(const OutputSettings& settings, const QString& p
 
 Result<OutputSettings> loadOutputSettings(const QString& path, OutputSettings initial) {
     const Result<XmlElement> root = readXmlFile(path).and_then(
-        [&path](const QByteArray& document) { return readXml(document, RootName, path); });
+        [&path](const QByteArray& document) { return readXml(document, OutputRoot, path); });
     if (!root) {
         if (root.error().code == ErrorCode::NotFound) return initial;
         return tl::unexpected(root.error());

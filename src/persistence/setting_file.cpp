@@ -230,7 +230,7 @@ void effectsFields(Io& io, E& e) {
     });
 }
 
-constexpr auto RootName = "WatermarkList"_L1;
+constexpr auto SettingRoot = "WatermarkList"_L1;
 constexpr auto WatermarkName = "Watermark"_L1;
 constexpr auto EffectsName = "Effects"_L1;
 constexpr auto SelectedFilterName = "SelectedFilter"_L1;
@@ -260,7 +260,7 @@ std::optional<Watermark> readWatermark(const XmlElement& element) {
 }  // namespace
 
 QByteArray writeSettingDocument(const WatermarkStack& stack) {
-    return writeXml(RootName, [&stack](QXmlStreamWriter& writer) {
+    return writeXml(SettingRoot, [&stack](QXmlStreamWriter& writer) {
         for (const Watermark& w : stack.Watermarks) writeWatermark(writer, w);
         FieldWriter fields(writer);
         if (stack.Effects) {
@@ -278,7 +278,7 @@ QByteArray writeSettingDocument(const WatermarkStack& stack) {
 }
 
 Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QString& name) {
-    const Result<XmlElement> root = readXml(document, RootName, name);
+    const Result<XmlElement> root = readXml(document, SettingRoot, name);
     if (!root) return tl::unexpected(root.error());
     WatermarkStack stack;
     for (const XmlElement& element : root->children) {

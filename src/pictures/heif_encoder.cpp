@@ -12,8 +12,6 @@
 namespace zelto {
 namespace {
 
-constexpr int WholeChromaQuality = 90;
-
 // What each codec is told beside the quality: of the speeds that it has, one that a batch can bear.
 struct Codec {
     heif_compression_format format;

@@ -10,7 +10,6 @@
 namespace zelto {
 namespace {
 
-constexpr int WholeChromaQuality = 90;
 constexpr int RowsAtOnce = 16;  // one row of blocks with halved chroma
 
 void setUp(jpeg_compress_struct& codec, const QImage& picture, const EncodeOptions& options) {

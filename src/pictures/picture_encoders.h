@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The encoder of each file format, one per file. encodePicture() chooses among them after it has checked what
-// they all rely on: a picture of pixels, RGB32 or premultiplied ARGB32, within the format's limits. They read
-// it row by row, so that no second whole picture is ever made but where a library asks for one. Errors: ErrorCode::CannotWrite with the
+// they all rely on: a picture of pixels, RGB32 or premultiplied ARGB32, within the format's limits. They read it row by
+// row and make no second whole picture, except where a library asks for one. Errors: ErrorCode::CannotWrite with the
 // library's own words. Any thread.
 #pragma once
 
@@ -13,6 +13,9 @@
 #include <new>
 
 namespace zelto {
+
+// The quality from which JPEG, AVIF and HEIC keep chroma at full size; below, it is halved on both axes.
+constexpr int WholeChromaQuality = 90;
 
 Result<QByteArray> encodeJpeg(const QImage& picture, const EncodeOptions& options);
 // The colours alone, as if the picture were opaque, for a format that keeps its transparency elsewhere.

@@ -77,6 +77,7 @@ namespace photo_side {
 inline constexpr QLatin1String Width("Width");
 inline constexpr QLatin1String Height("Height");
 inline constexpr QLatin1String LongerSide("Longer Side");
+inline constexpr QLatin1String All[] = {Width, Height, LongerSide};
 }  // namespace photo_side
 
 // The encoded bytes of a logo's file. Two copies of the same bytes are recognised by their address, since a stack

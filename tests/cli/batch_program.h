@@ -44,6 +44,11 @@ class BatchProgram : public ::testing::Test {
     QJsonObject report(const QStringList& arguments, int exitStatus,
                        const ProgramEnvironment& environment = {}) const;
 
+    // "a b" as two of them.
+    static QStringList words(const char* line) {
+        return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+
     static QString program() { return QStringLiteral(ZELTO_BATCH_PROGRAM); }
 
   private:

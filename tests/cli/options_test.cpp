@@ -8,10 +8,6 @@ namespace {
 
 using Options = BatchProgram;
 
-QStringList words(const char* line) {
-    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 TEST_F(Options, AValueThatMakesNoSenseIsNamed) {
     const QString photo = makePhoto(u"a.png"_s);
     const std::pair<const char*, const char*> rows[] = {

@@ -15,10 +15,6 @@ namespace {
 
 using Outputs = BatchProgram;
 
-QStringList words(const char* line) {
-    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 TEST_F(Outputs, EveryFormatHoldsTheMarkedPhoto) {
     const QStringList photos = {makePhoto(u"a.JPG"_s), makePhoto(u"b.png"_s), makePhoto(u"c.tif"_s),
                                 makePhoto(u"d.bmp"_s)};

@@ -10,14 +10,14 @@
 namespace zelto {
 namespace {
 
-constexpr QSize canvas(400, 300);
+constexpr QSize canvasSize(400, 300);
 
 TextFont fontOf(double size) {
     return {.family = QStringLiteral("DejaVu Sans"), .pointSize = size};
 }
 
 QImage drawn(const QString& text, const TextAttributes& attributes, const QRectF& box) {
-    QImage picture(canvas, QImage::Format_RGB32);
+    QImage picture(canvasSize, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     drawText(painter, text, attributes, Qt::black, box, QRectF(picture.rect()));

@@ -37,7 +37,7 @@ Watermark tiled(bool horizontal, bool vertical, std::int64_t right, std::int64_t
 }
 
 // A pixel by its place right of and above the lower-left corner.
-QColor at(const QImage& picture, int x, int y) {
+QColor colourAt(const QImage& picture, int x, int y) {
     return picture.pixelColor(x, picture.height() - 1 - y);
 }
 
@@ -53,7 +53,7 @@ TEST(Tiling, PutsSpacingRightOfAndAboveEveryTileInsideThePaddings) {
             for (int x = 0; x < 400; ++x) {
                 const QPoint tile((x - 11) % (40 + gap.x()), (y + 5) % (20 + gap.y()));
                 const bool shown = x >= 11 && x < 383 && y < 297 && tile.x() < 40 && tile.y() < 20;
-                ASSERT_EQ(at(picture, x, y),
+                ASSERT_EQ(colourAt(picture, x, y),
                           shown ? sign().pixelColor(tile.x(), 19 - tile.y()) : QColor(Qt::white))
                     << gap.x() << " at " << x << ' ' << y;
             }
@@ -83,7 +83,7 @@ TEST(Tiling, TurnsClockwiseTiledAndSingle) {
         EXPECT_TRUE(row.ink.contains(inkBox(single)) &&
                     inkBox(single).contains(row.ink.adjusted(slack, slack, -slack, -slack)))
             << row.degrees;
-        EXPECT_EQ(at(single, row.green.x(), row.green.y()), QColor(Qt::green)) << row.degrees;
+        EXPECT_EQ(colourAt(single, row.green.x(), row.green.y()), QColor(Qt::green)) << row.degrees;
         record.HorizontalTiling = record.VerticalTiling = true;
         record.HorizontalSpacing = 4;
         const QImage tiles = composed(record, plainPhoto({200, 100}));

@@ -32,8 +32,8 @@ std::optional<FolderChoice> chooseFolder(QWidget* parent) {
 }
 
 // One dialog serves all runs of a window: it shows again what it last showed.
-std::optional<OutputOptions> outputOptions(QWidget* parent, ImageListController& photos,
-                                           WatermarkController& watermarks, bool metadataPresent) {
+std::optional<OutputOptions> askOutputOptions(QWidget* parent, ImageListController& photos,
+                                              WatermarkController& watermarks, bool metadataPresent) {
     auto* dialog = parent->findChild<OutputOptionsController*>(QString(), Qt::FindDirectChildrenOnly);
     if (dialog == nullptr) dialog = new OutputOptionsController(photos, watermarks, parent);
     dialog->setOptions(std::nullopt);
@@ -91,7 +91,7 @@ DialogSet standardDialogs() {
     DialogSet dialogs;
     dialogs.choosePhotos = choosePhotos;
     dialogs.chooseFolder = chooseFolder;
-    dialogs.outputOptions = outputOptions;
+    dialogs.outputOptions = askOutputOptions;
     dialogs.saveSettings = saveSettings;
     dialogs.openSettings = openSettings;
     dialogs.importSettings = [](QWidget* parent) { importExport(CopyMode::Import, parent); };

@@ -50,8 +50,6 @@ class EffectsEditor : public ValuePage<std::optional<PhotoEffects>> {
     QLayout* makeThicknesses(QWidget* middle);
     QWidget* makeShadow();
     QLayout* makeSides(QWidget* box);
-    template <class Control>
-    Control* named(const char* name, Control* control);
     // Usable only while the photo has a shadow.
     void addShadowRow(QFormLayout& form, const QString& label, QWidget* control);
 
@@ -89,12 +87,6 @@ void EffectsEditor::edit(const Edit& edit) {
     PhotoEffects changed = value().value_or(PhotoEffects());
     edit(changed);
     put(changed);
-}
-
-template <class Control>
-Control* EffectsEditor::named(const char* name, Control* control) {
-    control->setObjectName(QLatin1String(name));
-    return control;
 }
 
 QWidget* EffectsEditor::makeBorder() {

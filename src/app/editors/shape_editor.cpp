@@ -39,7 +39,7 @@ constexpr std::array Kinds = {
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Line"), shape_type::Line},
 };
 // By `Watermark::GradeintType`.
-constexpr std::array Directions = {
+constexpr std::array GradientDirections = {
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Left to right"), gradient_type::LeftToRight},
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Top to bottom"), gradient_type::TopToBottom},
     Choice{QT_TRANSLATE_NOOP("zelto::ShapeEditor", "Lower right to upper left"),
@@ -227,7 +227,8 @@ QComboBox* ShapeEditor::makeDirections(QWidget* box) {
     auto* list = new QComboBox(box);
     list->setObjectName(QStringLiteral("GradeintType"));
     list->setAccessibleName(tr("Direction of the gradient"));
-    for (const Choice& choice : Directions) list->addItem(tr(choice.title), QVariant::fromValue(choice.code));
+    for (const Choice& choice : GradientDirections)
+        list->addItem(tr(choice.title), QVariant::fromValue(choice.code));
     // Records that name no direction go from left to right.
     const auto direction = [list](const Watermark& record) {
         const QVariant code = QVariant::fromValue(record.GradeintType);

@@ -13,7 +13,7 @@ constexpr std::int32_t Centre = 5;
 constexpr std::int32_t BottomLeft = 7;
 constexpr std::int32_t BottomCentre = 8;
 constexpr std::int32_t BottomRight = 9;
-constexpr float Margin = 0.025F;  // of the photo's shorter side
+constexpr float MarginShare = 0.025F;  // of the photo's shorter side
 
 QString tr(const char* text) {
     return QCoreApplication::translate("ReadyMadeStacks", text);
@@ -81,7 +81,7 @@ WatermarkStack cornerLogo() {
     logo.ResizeWidth = 0.2F;
     logo.Transparency = 0.85F;
     logo.Position = BottomRight;
-    setPaddings(logo, Margin);
+    setPaddings(logo, MarginShare);
     return {{logo}, {}, 0, false, {}};
 }
 
@@ -99,11 +99,11 @@ WatermarkStack captionBar() {
     bar.Transparency = 0.55F;
     bar.Position = BottomCentre;
     Watermark name = text(QStringLiteral("<<IMGNAME>>"), photo_side::Height, 5, BottomLeft);
-    name.PaddingLeftShare = Margin;
+    name.PaddingLeftShare = MarginShare;
     name.PaddingBottomShare = 0.02F;
     Watermark date =
         text(QStringLiteral("<<EXIF:DateTimeOriginal[D MM Y]>>"), photo_side::Height, 5, BottomRight);
-    date.PaddingRightShare = Margin;
+    date.PaddingRightShare = MarginShare;
     date.PaddingBottomShare = 0.02F;
     return {{bar, name, date}, {}, 0, false, {}};
 }
@@ -114,7 +114,7 @@ WatermarkStack proof() {
     code.ResizeWidth = 0.14F;
     code.Transparency = 1.0F;
     code.Position = BottomRight;
-    setPaddings(code, Margin);
+    setPaddings(code, MarginShare);
     return {{diagonal(tr("PROOF"), 0.35F), code}, {}, 0, false, {}};
 }
 

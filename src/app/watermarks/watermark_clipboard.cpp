@@ -10,10 +10,6 @@
 namespace zelto {
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("WatermarkClipboard", text);
-}
-
 // What a setting's document in a mail or an editor looks like.
 bool looksLikeSetting(const QString& text) {
     constexpr qsizetype Head = 200;
@@ -39,10 +35,12 @@ bool holdsWatermarks(const QMimeData& data) {
 Result<std::vector<Watermark>> watermarksOf(const QMimeData& data) {
     const QByteArray document =
         data.hasFormat(WatermarksMimeType) ? data.data(WatermarksMimeType) : data.text().toUtf8();
-    Result<WatermarkStack> stack = readSettingDocument(document, tr("The clipboard"));
+    Result<WatermarkStack> stack =
+        readSettingDocument(document, QCoreApplication::translate("WatermarkClipboard", "The clipboard"));
     if (!stack) return tl::unexpected(stack.error());
     if (stack->Watermarks.empty())
-        return fail(ErrorCode::InvalidFile, tr("There are no watermarks to paste."));
+        return fail(ErrorCode::InvalidFile,
+                    QCoreApplication::translate("WatermarkClipboard", "There are no watermarks to paste."));
     return std::move(stack->Watermarks);
 }
 

@@ -12,8 +12,6 @@
 namespace zelto {
 namespace {
 
-#define TEXT(text) QT_TRANSLATE_NOOP("zelto::PhotoStrip", text)
-
 QToolButton* makeButton(const QString& name, QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
@@ -39,15 +37,15 @@ struct PhotoStrip::Part {
 PhotoStrip::PhotoStrip(WatermarkController& watermarks, WindowActions& actions, QWidget* parent)
     : QWidget(parent), watermarks_(watermarks) {
     static constexpr Part Parts[] = {
-        {"Filter", TEXT("Filter"), TEXT("the filter"), Act::AddFilter,
+        {"Filter", QT_TR_NOOP("Filter"), QT_TR_NOOP("the filter"), Act::AddFilter,
          [](const StackState& state) { return filterOf(state.Stack) != 0; },
          [](const StackState& state) { return state.Stack.SelectedFilter != 0; },
          &WatermarkController::setFilterEnabled, [](WatermarkController& all) { all.removeFilter(); }},
-        {"Effects", TEXT("Border"), TEXT("border and shadow"), Act::AddEffects,
+        {"Effects", QT_TR_NOOP("Border"), QT_TR_NOOP("border and shadow"), Act::AddEffects,
          [](const StackState& state) { return effectsOf(state.Stack).has_value(); },
          [](const StackState& state) { return state.Stack.Effects.has_value(); },
          &WatermarkController::setEffectsEnabled, [](WatermarkController& all) { all.removeEffects(); }},
-        {"Copyright", TEXT("Copyright"), TEXT("the copyright data"), Act::AddCopyright,
+        {"Copyright", QT_TR_NOOP("Copyright"), QT_TR_NOOP("the copyright data"), Act::AddCopyright,
          [](const StackState& state) { return state.Metadata.has_value(); },
          [](const StackState& state) { return state.Metadata && state.Metadata->Enabled; },
          &WatermarkController::setMetadataEnabled, [](WatermarkController& all) { all.removeMetadata(); }},

@@ -13,7 +13,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr QSize PhotoSize(420, 280);
+constexpr QSize WrittenSize(420, 280);
 
 TEST_F(RunWindow, ThePreviewAtActualSizeIsTheWrittenPicture) {
     const auto framed = [](bool shadow, bool onBorder) {
@@ -50,7 +50,7 @@ TEST_F(RunWindow, ThePreviewAtActualSizeIsTheWrittenPicture) {
         {"watermarks on the border", framed(false, true)},
         {"watermarks on the border of a photo with a shadow", framed(true, true)},
     };
-    addPhotos(u"g"_s, PhotoSize);
+    addPhotos(u"g"_s, WrittenSize);
     PreviewView& view = window->previewView();
     view.ActualSize();
     for (const Row& row : rows) {

@@ -11,7 +11,7 @@
 namespace zelto {
 namespace {
 
-constexpr QSize PhotoSize(643, 481);
+constexpr QSize ComposedSize(643, 481);
 
 TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
     WatermarkStack framed = everyKind();
@@ -23,7 +23,7 @@ TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
     onBorder.Effects->ApplyWatermarkOnBorder = true;
     onBorder.SelectedFilter = 12;
     for (const WatermarkStack& stack : {everyKind(), framed, onBorder}) {
-        const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
+        const PhotoScene scene = sceneOf(stack, drawnScene(ComposedSize));
         const QImage written = MakeWatermarkImage(scene, stack);
         const QRect all = written.rect();
         for (const QRect& part : {all, QRect(0, 0, 200, 150), QRect(101, 67, 333, 222),
@@ -38,7 +38,7 @@ TEST(ComposeRegion, AtActualSizeItIsThatPartOfTheWrittenPicture) {
 
 TEST(ComposeRegion, ReducedItIsTheWrittenPictureReduced) {
     const WatermarkStack stack = everyKind();
-    const PhotoScene scene = sceneOf(stack, drawnSceneWithAlpha(PhotoSize));
+    const PhotoScene scene = sceneOf(stack, drawnSceneWithAlpha(ComposedSize));
     const QImage written = MakeWatermarkImage(scene, stack);
     for (const int times : {1, 2, 3}) {
         const QImage reduced = halvedPicture(written, written.rect(), times);
@@ -53,9 +53,9 @@ TEST(ComposeRegion, PiecesOfAnyScaleFitTogether) {
     // One step of 255 either way: smooth scaling counts in fractions from where a piece begins.
     constexpr int Tolerance = 1;
     const WatermarkStack stack = everyKind();
-    const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
+    const PhotoScene scene = sceneOf(stack, drawnScene(ComposedSize));
     for (const double scale : {0.31, 0.77, 1.3, 3.0}) {
-        const QSize size = (QSizeF(PhotoSize) * scale).toSize();
+        const QSize size = (QSizeF(ComposedSize) * scale).toSize();
         const QImage whole = composeRegion(scene, stack, {scale, QRect(QPoint(0, 0), size)});
         const QRect part(size.width() / 3, size.height() / 4, size.width() / 2, size.height() / 2);
         EXPECT_LE(largestDifference(composeRegion(scene, stack, {scale, part}), whole.copy(part)), Tolerance)
@@ -96,7 +96,7 @@ TEST(LayerReach, HoldsEveryPixelALayerChanges) {
     for (std::size_t i = 0; i + 1 < all.Watermarks.size(); ++i) {
         WatermarkStack stack;
         stack.Watermarks.push_back(all.Watermarks[i]);
-        const PhotoScene scene = sceneOf(stack, drawnScene(PhotoSize));
+        const PhotoScene scene = sceneOf(stack, drawnScene(ComposedSize));
         const QImage written = MakeWatermarkImage(scene, stack);
         const QRect reach = layerReach(scene, 0);
         EXPECT_FALSE(reach.isEmpty());

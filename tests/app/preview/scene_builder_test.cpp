@@ -15,7 +15,7 @@
 namespace zelto {
 namespace {
 
-constexpr QSize PhotoSize(640, 420);
+constexpr QSize BuiltSize(640, 420);
 
 // Puts what it is sent together, as the canvas does.
 class SceneBuilderTest : public ::testing::Test {
@@ -37,7 +37,7 @@ class SceneBuilderTest : public ::testing::Test {
                          [this](const QString& path) { failed.append(path); });
         for (int i = 0; i < 3; ++i) {
             paths.append(folder.filePath(QStringLiteral("%1.jpg").arg(i)));
-            QImage picture = drawnScene(PhotoSize);
+            QImage picture = drawnScene(BuiltSize);
             picture.setPixel(0, 0, qRgb(i, 0, 0));
             picture.save(paths.last(), "PNG");
         }
@@ -151,7 +151,7 @@ TEST_F(SceneBuilderTest, WhatIsNotSeenIsNotComposedUntilItIs) {
     builder.setView(view);
     builder.showPhoto(request(0));
     ASSERT_TRUE(settle());
-    EXPECT_LT(whole.region.rect.width(), 4 * PhotoSize.width());
+    EXPECT_LT(whole.region.rect.width(), 4 * BuiltSize.width());
     stack.Watermarks[1].Text = QStringLiteral("far away");
     const int before = patches;
     builder.updateLayers(request(0), {1});

@@ -17,7 +17,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-Watermark text(const QString& content) {
+Watermark startingText(const QString& content) {
     Watermark watermark = WatermarkController::startingWatermark(watermark_type::Text);
     watermark.Text = content;
     return watermark;
@@ -30,7 +30,7 @@ class WatermarkControllerTest : public ::testing::Test {
         for (const EditorKind kind : {EditorKind::Image, EditorKind::Text, EditorKind::Shape,
                                       EditorKind::QrCode, EditorKind::Filter, EditorKind::Copyright}) {
             editors[kind] = {{}, [kind](const EditorCall& call) {
-                                 if (kind == EditorKind::Text) call.put(text(QStringLiteral("new")));
+                                 if (kind == EditorKind::Text) call.put(startingText(QStringLiteral("new")));
                              }};
         }
         opener = std::make_unique<WatermarkEditors>(watermarks, photos, std::move(editors), nullptr);
@@ -77,7 +77,7 @@ TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
     Watermark logo(watermark_type::Image);
     logo.ImagePath = QStringLiteral("/logos/mine.png");
     add(logo);
-    add(text(QStringLiteral("two\nlines")));
+    add(startingText(QStringLiteral("two\nlines")));
     for (const std::int32_t shape : {1, 2, 3, 4, 9}) {
         Watermark watermark(watermark_type::Shape);
         watermark.ShapeType = shape;
@@ -94,7 +94,7 @@ TEST_F(WatermarkControllerTest, RowsAreLabelledByTheirKind) {
 }
 
 TEST_F(WatermarkControllerTest, ChecksSwitchTheFilterTheCopyrightAndTheWatermarks) {
-    add(text(QStringLiteral("a")));
+    add(startingText(QStringLiteral("a")));
     watermarks.AddFilter(3);
     CopyRightMetaData copyright;
     copyright.Enabled = true;
@@ -112,8 +112,8 @@ TEST_F(WatermarkControllerTest, ChecksSwitchTheFilterTheCopyrightAndTheWatermark
 }
 
 TEST_F(WatermarkControllerTest, RemovingARowTakesAwayWhatItShows) {
-    add(text(QStringLiteral("a")));
-    add(text(QStringLiteral("b")));
+    add(startingText(QStringLiteral("a")));
+    add(startingText(QStringLiteral("b")));
     watermarks.AddFilter(3);
     watermarks.SetMetadata(CopyRightMetaData());
     watermarks.RemoveWatermark(2);
@@ -131,7 +131,7 @@ TEST_F(WatermarkControllerTest, RemovingARowTakesAwayWhatItShows) {
 }
 
 TEST_F(WatermarkControllerTest, RemoveAllKeepsOnlyTheFrame) {
-    add(text(QStringLiteral("a")));
+    add(startingText(QStringLiteral("a")));
     watermarks.AddFilter(3);
     watermarks.SetMetadata(CopyRightMetaData());
     watermarks.AddEffects(PhotoEffects());
@@ -147,7 +147,7 @@ TEST_F(WatermarkControllerTest, ARowStaysSelectedWhateverHappensAroundIt) {
     QListView list;  // a view has a say in what is selected
     list.setModel(&watermarks.model());
     list.setSelectionModel(&watermarks.selection());
-    for (const char* each : {"a", "b", "c", "d"}) add(text(QLatin1String(each)));
+    for (const char* each : {"a", "b", "c", "d"}) add(startingText(QLatin1String(each)));
     watermarks.selectWatermark(1);
     const std::function<void()> changes[] = {
         [this] { watermarks.AddFilter(3); },       [this] { watermarks.SetMetadata(CopyRightMetaData()); },
@@ -164,19 +164,20 @@ TEST_F(WatermarkControllerTest, ARowStaysSelectedWhateverHappensAroundIt) {
         watermarks.RemoveSelectedWatermarks();
         EXPECT_EQ(selected(), QLatin1String(next));
     }
-    add(text(QStringLiteral("e")));
+    add(startingText(QStringLiteral("e")));
     watermarks.selectWatermark(-1);
     EXPECT_EQ(watermarks.selectedRow(), -1);
     watermarks.RemoveSelectedWatermarks();
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+e"))) << "what is not selected is not removed";
     watermarks.selectWatermark(0);
-    watermarks.replaceStack({{text(QStringLiteral("f")), text(QStringLiteral("g"))}, {}, 0, false}, {}, {});
+    watermarks.replaceStack(
+        {{startingText(QStringLiteral("f")), startingText(QStringLiteral("g"))}, {}, 0, false}, {}, {});
     EXPECT_EQ(selected(), QStringLiteral("f"));
     EXPECT_EQ(rows(), QStringList({QStringLiteral("+f"), QStringLiteral("+g")}));
 }
 
 TEST_F(WatermarkControllerTest, MovingExchangesNeighboursAndKeepsTheSelection) {
-    for (const char* each : {"a", "b", "c"}) add(text(QLatin1String(each)));
+    for (const char* each : {"a", "b", "c"}) add(startingText(QLatin1String(each)));
     watermarks.AddFilter(1);
     const auto order = [this] { return rows().mid(1).join(QString()).remove(QLatin1Char('+')); };
     select(1);
@@ -199,7 +200,7 @@ TEST_F(WatermarkControllerTest, MovingExchangesNeighboursAndKeepsTheSelection) {
 }
 
 TEST_F(WatermarkControllerTest, SeveralRowsAreMovedCopiedAndRemovedInOneStepEach) {
-    for (const char* each : {"a", "b", "c", "d"}) add(text(QLatin1String(each)));
+    for (const char* each : {"a", "b", "c", "d"}) add(startingText(QLatin1String(each)));
     watermarks.AddFilter(1);
     history().clear();
     const auto order = [this] { return rows().mid(1).join(QString()).remove(QLatin1Char('+')); };
@@ -274,9 +275,9 @@ TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {
 }
 
 TEST_F(WatermarkControllerTest, SomethingNewAndWhatIsDoneToItIsOneStepAndCanBeTakenAway) {
-    add(text(QStringLiteral("a")));
+    add(startingText(QStringLiteral("a")));
     opener->OpenTextWatermarkSettings();
-    watermarks.UpdateWatermark(text(QStringLiteral("Hi")), visitStep());
+    watermarks.UpdateWatermark(startingText(QStringLiteral("Hi")), visitStep());
     EXPECT_TRUE(opener->isNew());
     opener->takeAway();
     EXPECT_EQ(rows(), QStringList(QStringLiteral("+a")));
@@ -286,14 +287,14 @@ TEST_F(WatermarkControllerTest, SomethingNewAndWhatIsDoneToItIsOneStepAndCanBeTa
 
     opener->WatermarkListDoubleClicked(1);
     EXPECT_FALSE(opener->isNew());
-    watermarks.UpdateWatermark(text(QStringLiteral("Hi!")), visitStep());
+    watermarks.UpdateWatermark(startingText(QStringLiteral("Hi!")), visitStep());
     EXPECT_EQ(history().count(), 3) << "another visit is another step";
     EXPECT_EQ(history().undoText(), QStringLiteral("Edit Text"));
 }
 
 TEST_F(WatermarkControllerTest, WhatIsEditedIsWhatIsSelected) {
     const auto edited = [this] { return opener->subject() ? opener->subject()->watermark : -2; };
-    for (const char* each : {"a", "b", "c"}) add(text(QLatin1String(each)));
+    for (const char* each : {"a", "b", "c"}) add(startingText(QLatin1String(each)));
     select(2);
     EXPECT_EQ(edited(), 2);
     watermarks.RemoveWatermark(0);
@@ -312,13 +313,13 @@ TEST_F(WatermarkControllerTest, WhatIsEditedIsWhatIsSelected) {
 }
 
 TEST_F(WatermarkControllerTest, AnEditedTextThatBecomesEmptyIsRemovedAndAnAbsentOneIsNot) {
-    add(text(QStringLiteral("a")));
+    add(startingText(QStringLiteral("a")));
     document.setCurrentWatermark(0);
-    watermarks.ReflectWatermark(text(QLatin1String("")));
+    watermarks.ReflectWatermark(startingText(QLatin1String("")));
     EXPECT_TRUE(rows().isEmpty());
-    add(text(QString()));
+    add(startingText(QString()));
     EXPECT_EQ(rows().size(), 1);
-    add(text(QLatin1String("")));
+    add(startingText(QLatin1String("")));
     EXPECT_EQ(rows().size(), 1) << "a new one that is empty is not added";
 }
 

@@ -27,6 +27,8 @@ inline constexpr NumberKind Length{0, 100'000, 0, QLatin1String(" px")};
 inline constexpr NumberKind Size{1, 100'000, 0, QLatin1String(" px")};
 inline constexpr NumberKind Degrees{-360, 360, 0, QLatin1String("\xB0")};
 inline constexpr NumberKind Percent{0.1, 1'000, 1, QLatin1String(" %")};  // of a photo's side
+inline constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"),
+                                          0.5};  // of a mark, in steps of a half
 }  // namespace number_kind
 
 class NumberField : public QDoubleSpinBox {

@@ -10,19 +10,19 @@
 namespace zelto {
 namespace {
 
-struct Preset {
+struct UsualTurn {
     const char* title;
     int degrees;
 };
 constexpr std::array Presets = {
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Straight"), 0},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Slightly rising"), -15},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Rising diagonally"), -45},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Upward"), -90},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Slightly falling"), 15},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Falling diagonally"), 45},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Downward"), 90},
-    Preset{QT_TRANSLATE_NOOP("zelto::RotationControl", "Upside down"), 180},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Straight"), 0},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Slightly rising"), -15},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Rising diagonally"), -45},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Upward"), -90},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Slightly falling"), 15},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Falling diagonally"), 45},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Downward"), 90},
+    UsualTurn{QT_TRANSLATE_NOOP("zelto::RotationControl", "Upside down"), 180},
 };
 
 // The same turn, 0 to 359 degrees.
@@ -51,7 +51,7 @@ RotationControl::RotationControl(QWidget* parent)
     field_->setAccessibleName(tr("Rotation in degrees"));
     presets_->setAccessibleName(tr("Usual rotations"));
     presets_->setPlaceholderText(tr("Custom"));
-    for (const Preset& preset : Presets) presets_->addItem(tr(preset.title), preset.degrees);
+    for (const UsualTurn& preset : Presets) presets_->addItem(tr(preset.title), preset.degrees);
     setFocusProxy(field_);
 
     auto* row = new QHBoxLayout(this);

@@ -46,4 +46,11 @@ class ValuePage : public EditorPage {
 // Adds a row whose label is the buddy and the accessible name of its control.
 void addRow(QFormLayout& form, const QString& label, QWidget* control);
 
+// `control`, under the name that tests and remembered states know it by.
+template <class Control>
+Control* named(const char* name, Control* control) {
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
 }  // namespace zelto

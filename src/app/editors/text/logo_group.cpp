@@ -4,6 +4,7 @@
 #include "app/common/in_background.h"
 #include "app/common/messages.h"
 #include "app/editors/controls/color_well.h"
+#include "app/editors/controls/value_page.h"
 #include "pictures/picture_names.h"
 #include "pictures/picture_reader.h"
 #include "platform/preferences.h"
@@ -26,9 +27,7 @@
 namespace zelto {
 namespace {
 
-constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
-constexpr double StartPercent = 25.0;
-constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
+constexpr double LogoStartPercent = 25.0;
 
 Result<Logo> readLogo(const QString& path) {
     const Result<QSize> size = readPictureSize(path);
@@ -42,12 +41,6 @@ QString startFolder(const QString& current) {
     const QFileInfo file(current);
     if (file.exists()) return file.path();
     return storedPreference(preference::LastLogoDirectory).value_or(QDir::homePath());
-}
-
-template <class Control>
-Control* named(const char* name, Control* control) {
-    control->setObjectName(QLatin1String(name));
-    return control;
 }
 
 }  // namespace
@@ -79,7 +72,7 @@ void startLogoSize(Watermark& logo, QSizeF photo) {
     logo.Resize = true;
     logo.ResizeFormat = logo_resize::Proportional;
     logo.ImageProportionalResize = QString(photo_side::Width);
-    PropSizeDidChange(logo, StartPercent);
+    PropSizeDidChange(logo, LogoStartPercent);
 }
 
 // Controls are made in the order the eye and the Tab key go through them.
@@ -146,11 +139,11 @@ QWidget* LogoGroup::makeResize() {
     auto* box = named("Resize", new QGroupBox(tr("Resize"), this));
     box->setCheckable(true);
     auto* proportional = named("Proportional", new QRadioButton(tr("Proportional"), box));
-    percent_ = makeSize(PercentOfSide, "PropSize", tr("Size in per cent"));
-    percent_->load(StartPercent);
+    percent_ = makeSize(number_kind::PercentOfSide, "PropSize", tr("Size in per cent"));
+    percent_->load(LogoStartPercent);
     auto* side = named("ImageProportionalResize", new QComboBox(box));
     side->setAccessibleName(tr("Side of the photo the size follows"));
-    for (const QLatin1String title : Sides) side->addItem(title, QString(title));
+    for (const QLatin1String title : photo_side::All) side->addItem(title, QString(title));
     auto* absolute = named("Absolute", new QRadioButton(tr("Absolute"), box));
     width_ = makeSize(number_kind::Length, "AbsWidth", tr("Width"));
     width_->setPrefix(tr("W "));

@@ -15,10 +15,8 @@
 namespace zelto {
 namespace {
 
-constexpr NumberKind PercentOfSide{1, 1'000, 1, QLatin1String(" %"), 0.5};
 constexpr NumberKind Pixels{1, 10'000, 0, QLatin1String(" px")};
 constexpr int UsualSizes[] = {12, 18, 24, 36, 48, 72, 96, 144, 200, 300, 400};
-constexpr QLatin1String Sides[] = {photo_side::Width, photo_side::Height, photo_side::LongerSide};
 
 struct StyleRow {
     const char* letter;
@@ -51,12 +49,6 @@ constexpr AlignmentRow Alignments[] = {
     {QLatin1String("align-right"), QT_TRANSLATE_NOOP("zelto::TextStyleGroup", "Align right"),
      text_alignment::Right},
 };
-
-template <class Control>
-Control* named(const char* name, Control* control) {
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
 
 QHBoxLayout* rowOf(QWidget* widget) {
     auto* row = new QHBoxLayout(widget);
@@ -102,7 +94,7 @@ QWidget* TextStyleGroup::makeSize() {
     size->setAccessibleName(tr("Size"));
     auto* side = named("FontRelativeSize", new QComboBox(widget));
     side->setAccessibleName(tr("Side of the photo the size follows"));
-    for (const QLatin1String title : Sides) side->addItem(title, QString(title));
+    for (const QLatin1String title : photo_side::All) side->addItem(title, QString(title));
     auto* usual = named("UsualSizes", new QComboBox(widget));
     usual->setAccessibleName(tr("Usual sizes"));
     usual->setPlaceholderText(tr("Custom"));
@@ -119,8 +111,9 @@ QWidget* TextStyleGroup::makeSize() {
         record.IsRelative = isRelative.toBool();
         if (!record.IsRelative) record.FontSizeFraction.reset();
     });
-    binder_.follow(
-        [size](const Watermark& record) { size->setKind(record.IsRelative ? PercentOfSide : Pixels); });
+    binder_.follow([size](const Watermark& record) {
+        size->setKind(record.IsRelative ? number_kind::PercentOfSide : Pixels);
+    });
     binder_.bind(size, fontSizeOf, setFontSize);
     binder_.bind(usual, &Watermark::FontSize);
     binder_.bind(
