@@ -2,7 +2,7 @@
 # The libraries the project stands on; scripts/packages.txt names the Debian packages that hold them.
 include_guard()
 find_package(PkgConfig REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Svg Widgets Network DBus Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Svg Widgets Network DBus Test LinguistTools)
 find_package(JPEG REQUIRED)
 find_package(GIF REQUIRED)
 find_package(PNG REQUIRED)

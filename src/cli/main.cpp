@@ -3,6 +3,7 @@
 #include "cli/batch_work.h"
 #include "cli/command_line.h"
 #include "cli/report_merge.h"
+#include "platform/languages.h"
 #include "platform/machine_limits.h"
 #include "platform/process_setup.h"
 
@@ -36,8 +37,11 @@ bool printResult(const QByteArray& text) {
 void prepareEnvironment() {
     std::setlocale(LC_ALL, "");
     if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
-        // Dates are still written in the language asked for, which need not be installed.
-        if (const QByteArray all = qgetenv("LC_ALL"); !all.isEmpty()) qputenv("LC_TIME", all);
+        // Dates and messages are still written in the language asked for, which need not be installed.
+        if (const QByteArray all = qgetenv("LC_ALL"); !all.isEmpty()) {
+            qputenv("LC_TIME", all);
+            qputenv("LC_MESSAGES", all);
+        }
         qunsetenv("LC_ALL");
         qputenv("LC_CTYPE", "C.UTF-8");
     }
@@ -162,6 +166,7 @@ int run(int argc, char** argv) {
     // The arguments are ours; Qt is to find nothing for itself among them.
     int argumentsForQt = 1;
     const QGuiApplication application(argumentsForQt, argv);
+    speakUsersLanguage();
     BatchReport report = work(*line, console);
     report.shard = line->shard;
     const int status = show(report, *line, console);

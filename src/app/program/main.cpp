@@ -4,6 +4,7 @@
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/program/app_delegate.h"
+#include "platform/languages.h"
 #include "platform/process_setup.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 int main(int argc, char** argv) {
     zelto::prepareProcess();
     QApplication application(argc, argv);
+    zelto::speakUsersLanguage();
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
     QApplication::setWindowIcon(zelto::applicationIcon());
