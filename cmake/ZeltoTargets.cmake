@@ -73,3 +73,22 @@ function(zelto_add_tests name)
   gtest_discover_tests(zelto_${name}_tests TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 300)
 endfunction()
+
+# zelto_add_manual(PROGRAM): the manual page of a program and its completions, made by the program itself at build time, in
+# share/ of the build folder as they are installed below a prefix's share/.
+function(zelto_add_manual program)
+  set(share "${CMAKE_BINARY_DIR}/share")
+  set(outputs)
+  foreach(product man:man/man1/${program}.1 bash:bash-completion/completions/${program}
+                  zsh:zsh/site-functions/_${program} fish:fish/vendor_completions.d/${program}.fish)
+    string(REGEX MATCH "^[a-z]+" kind ${product})
+    string(REGEX REPLACE "^[a-z]+:" "" path ${product})
+    get_filename_component(folder "${share}/${path}" DIRECTORY)
+    add_custom_command(OUTPUT "${share}/${path}"
+      COMMAND ${CMAKE_COMMAND} -E make_directory "${folder}"
+      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 $<TARGET_FILE:${program}> --generate ${kind} > "${share}/${path}"
+      DEPENDS ${program} VERBATIM)
+    list(APPEND outputs "${share}/${path}")
+  endforeach()
+  add_custom_target(${program}-manual ALL DEPENDS ${outputs})
+endfunction()

@@ -3,12 +3,12 @@
 
 #include "batch/image_list.h"
 #include "batch/output_name.h"
+#include "cli/saved_settings.h"
 #include "persistence/copyright_file.h"
-#include "persistence/output_settings_file.h"
 #include "persistence/setting_file.h"
-#include "persistence/settings_library.h"
-#include "platform/application_folders.h"
 #include "platform/dates.h"
+#include "platform/file_reference.h"
+#include "platform/words.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,50 +23,31 @@ QString absolutePath(const QString& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-bool looksLikeAPath(const QString& setting) {
-    return setting.contains(QLatin1Char('/')) || setting.endsWith(SettingFileExtension, Qt::CaseInsensitive);
-}
-
-Result<QString> settingPath(const QString& setting) {
-    if (looksLikeAPath(setting) && QFileInfo(setting).isFile()) return setting;
-    const Result<QString> folder = applicationFolder(SettingsFolder);
-    QStringList names;
-    if (folder) {
-        const SettingsLibrary library(*folder);
-        if (library.contains(setting)) return library.path(setting);
-        names = library.names().value_or(QStringList());
-    }
-    if (QFileInfo(setting).isFile()) return setting;
-    const QString known = names.isEmpty() ? QStringLiteral("none is saved yet")
-                                          : QStringLiteral("saved are: ") + names.join(QStringLiteral(", "));
-    return fail(ErrorCode::NotFound,
-                QStringLiteral("there is no setting and no file “%1” (%2)").arg(setting, known), setting);
-}
-
 Result<std::shared_ptr<const WatermarkStack>> loadStack(const QString& setting) {
     return settingPath(setting).and_then(LoadWatermarkSetting).map([](WatermarkStack stack) {
         return std::shared_ptr<const WatermarkStack>(std::make_shared<WatermarkStack>(std::move(stack)));
     });
 }
 
-Result<OutputOptions> startingOptions(const CommandLine& line) {
+Result<OutputSettings> startingSettings(const CommandLine& line) {
     OutputSettings settings = startingOutputSettings();
     if (line.optionsFile.isEmpty()) {
         // What the dialog ticks for its user has options of its own here.
         settings.options.AspectRatio = settings.options.DontEnlargeSmallImage = false;
-        return settings.options;
+        return settings;
     }
     if (!QFileInfo(line.optionsFile).isFile()) {
-        return fail(ErrorCode::NotFound,
-                    QStringLiteral("there is no options file “%1”").arg(line.optionsFile), line.optionsFile);
+        return fail(ErrorCode::NotFound, Words::tr("there is no options file “%1”").arg(line.optionsFile),
+                    line.optionsFile);
     }
-    return loadOutputSettings(line.optionsFile, settings).map([](const OutputSettings& read) {
-        return read.options;
-    });
+    return loadOutputSettings(line.optionsFile, settings);
 }
 
 void override(OutputOptions& options, const CommandLine& line) {
-    if (!line.output.isEmpty()) options.OutputPath = line.output;
+    if (!line.output.isEmpty()) {
+        options.OutputPath = absolutePath(line.output);
+        options.OutputFolderData = fileReference(options.OutputPath);
+    }
     if (line.format) options.OutputFormat = *line.format;
     if (line.quality) options.JPEGQuality = *line.quality;
     if (line.metadata) options.ExifDataToInclude = *line.metadata;
@@ -87,10 +68,10 @@ void override(OutputOptions& options, const CommandLine& line) {
     options.KeepDirectoryStructure = options.KeepDirectoryStructure || line.keepStructure;
 }
 
-Result<OutputOptions> outputOptions(const CommandLine& line) {
-    Result<OutputOptions> options = startingOptions(line);
+Result<OutputOptions> checkedOptions(const CommandLine& line) {
+    Result<OutputOptions> options =
+        outputSettings(line).map([](const OutputSettings& settings) { return settings.options; });
     if (!options) return options;
-    override(*options, line);
     if (options->OutputPath.isEmpty()) {
         return fail(
             ErrorCode::InvalidValue,
@@ -165,12 +146,19 @@ Result<void> refuseToReplaceOriginals(const BatchRequest& request) {
 
 }  // namespace
 
+Result<OutputSettings> outputSettings(const CommandLine& line) {
+    return startingSettings(line).map([&](OutputSettings settings) {
+        override(settings.options, line);
+        return settings;
+    });
+}
+
 Result<BatchPlan> planBatch(const CommandLine& line) {
     BatchPlan plan;
     auto stack = loadStack(line.setting);
     if (!stack) return tl::unexpected(std::move(stack.error()));
     plan.stack = std::move(*stack);
-    auto options = outputOptions(line);
+    auto options = checkedOptions(line);
     if (!options) return tl::unexpected(std::move(options.error()));
     plan.request.options = std::move(*options);
     auto copyright = copyrightData(line, *plan.stack);
@@ -185,7 +173,8 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
         const bool isOurs = line.shard.contains(row);
         plan.request.photos.push_back({image.ImagePath, isOurs, !isOurs});
     }
-    plan.request.names = line.names;
+    plan.request.names = {line.sameName.value_or(NameRule::Replace),
+                          line.existing.value_or(NameRule::Replace)};
     plan.request.locale = userDateLocale();
     plan.request.strict = line.strict;
     plan.request.plan =

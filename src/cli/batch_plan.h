@@ -6,6 +6,7 @@
 #include "batch/batch_request.h"
 #include "batch/folder_scan.h"
 #include "cli/command_line.h"
+#include "persistence/output_settings_file.h"
 #include "platform/result.h"
 #include "records/copyright_metadata.h"
 #include "records/watermark_stack.h"
@@ -22,6 +23,9 @@ struct BatchPlan {
     std::optional<CopyRightMetaData> copyright;  // to be written into the outputs
     std::vector<ScanProblem> problems;           // with the folders, to be told before the run
 };
+
+// What the line says of the outputs: its options file, and its other options laid over that. Error: that of the file.
+Result<OutputSettings> outputSettings(const CommandLine& line);
 
 // Error: what cannot be used and what to do about it.
 Result<BatchPlan> planBatch(const CommandLine& line);

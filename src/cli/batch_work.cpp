@@ -129,7 +129,7 @@ void ReportingObserver::runEnded(const RunReport& report) {
 
 BatchReport runBatch(const BatchPlan& plan, const CommandLine& line, Console& console) {
     BatchReport report = plannedReport(plan.request);
-    ReportingObserver observer(plan.request, report, console, line.continueAfterFailures);
+    ReportingObserver observer(plan.request, report, console, line.continueAfterFailures.value_or(false));
     BatchRun run(observer);
     observer.answerThrough(run);
     const InterruptWatch watch([&] { run.CancelProcessingAction(); });

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The options of zelto-batch: reading them, and the help that tells of them. Both come from one table. Nothing is
-// looked up on disk here.
+// The command line of zelto-batch: what it asks for, and the manual that tells of it. Both come from the table in
+// batch_options.h. Nothing is looked up on disk here.
 #pragma once
 
 #include "batch/folder_scan.h"
 #include "batch/output_plan.h"
 #include "cli/shard.h"
+#include "options/option_table.h"
 #include "platform/result.h"
 #include "records/output_options.h"
 
@@ -22,9 +23,24 @@ struct ResizeChoice {
     std::int64_t height = 0;
 };
 
+// What is done; all but Run print something and write no photo.
+enum class Task {
+    Run,
+    Help,
+    Version,
+    ListSettings,
+    ListFonts,
+    PrintSetting,
+    PrintOptions,
+    Doctor,
+    MergeReports,  // `inputs` are reports, and nothing else counts
+    Generate
+};
+
 struct CommandLine {
-    bool help = false;
-    bool version = false;
+    Task task = Task::Run;
+    QString taskArgument;  // the setting to print, or what to generate
+    bool watch = false;
 
     QStringList inputs;  // photos and folders, as given
     QString setting;     // a name or a path
@@ -48,12 +64,12 @@ struct CommandLine {
     ScanFormats extensions;
     std::optional<int> jobs;
     Shard shard;
-    bool continueAfterFailures = false;
-    NameRules names;
+    std::optional<bool> continueAfterFailures;
+    std::optional<NameRule> sameName;
+    std::optional<NameRule> existing;
     bool strict = false;
     bool overwriteOriginals = false;
     bool dryRun = false;
-    bool mergeReports = false;  // `inputs` are reports, and nothing else counts
 
     bool json = false;
     bool quiet = false;
@@ -67,7 +83,8 @@ Result<CommandLine> parseCommandLine(const QStringList& arguments);
 // Whether a report in JSON is asked for, even by a command line that cannot be used.
 bool asksForJson(const QStringList& arguments);
 
-QString helpText();
+// What is told of all options.
+const ProgramManual& batchManual();
 
 // The program's version and those of the picture libraries that this build has.
 QString versionText();

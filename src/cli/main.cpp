@@ -2,7 +2,9 @@
 // zelto-batch: one batch from the command line.
 #include "cli/batch_work.h"
 #include "cli/command_line.h"
+#include "cli/inquiries.h"
 #include "cli/report_merge.h"
+#include "options/manual_texts.h"
 #include "platform/languages.h"
 #include "platform/machine_limits.h"
 #include "platform/process_setup.h"
@@ -105,6 +107,31 @@ int merge(const CommandLine& line, Console& console) {
                                      : std::max(merged->exitStatus, exit_status::SomeFailed);
 }
 
+// What can be told without looking at anything.
+std::optional<QByteArray> textAskedFor(const CommandLine& line) {
+    switch (line.task) {
+        case Task::Help:
+            return helpText(batchManual()).toUtf8();
+        case Task::Version:
+            return versionText().toUtf8();
+        case Task::Generate:
+            return generatedText(batchManual(), line.taskArgument);
+        default:
+            return std::nullopt;
+    }
+}
+
+int tell(const CommandLine& line, Console& console) {
+    const Result<Answer> answer = answerTo(line);
+    if (!answer) {
+        console.problem(answer.error().message);
+        return exit_status::CannotBeUsed;
+    }
+    if (!answer->note.isEmpty()) console.note(answer->note);
+    return printResult(answer->text) ? answer->exitStatus
+                                     : std::max(answer->exitStatus, exit_status::SomeFailed);
+}
+
 int usageError(const Error& error, bool json) {
     Console console({});
     console.problem(error.message);
@@ -150,15 +177,20 @@ int run(int argc, char** argv) {
     prepareEnvironment();
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
-    const Result<CommandLine> line = parseCommandLine(arguments);
-    if (!line) return usageError(line.error(), asksForJson(arguments));
-    if (line->help || line->version) {
-        const QString text = line->help ? helpText() : versionText();
-        return printResult(text.toUtf8()) ? exit_status::Success : exit_status::SomeFailed;
+    Result<CommandLine> line;
+    {
+        // What is wrong with a line is told in the user's language before anything larger is begun.
+        int noArguments = 1;
+        const QCoreApplication speaker(noArguments, argv);
+        speakUsersLanguage();
+        line = parseCommandLine(arguments);
+        if (!line) return usageError(line.error(), asksForJson(arguments));
+        if (const std::optional<QByteArray> text = textAskedFor(*line))
+            return printResult(*text) ? exit_status::Success : exit_status::SomeFailed;
     }
 
     Console console({line->quiet, line->color, line->progress});
-    if (line->mergeReports) return merge(*line, console);
+    if (line->task == Task::MergeReports) return merge(*line, console);
     if (const Result<void> enough = checkMemoryToStart(); !enough)
         return show(unusable(enough.error()), *line, console);
     messageConsole = &console;
@@ -167,6 +199,7 @@ int run(int argc, char** argv) {
     int argumentsForQt = 1;
     const QGuiApplication application(argumentsForQt, argv);
     speakUsersLanguage();
+    if (line->task != Task::Run) return tell(*line, console);
     BatchReport report = work(*line, console);
     report.shard = line->shard;
     const int status = show(report, *line, console);

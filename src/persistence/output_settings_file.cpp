@@ -198,13 +198,17 @@ OutputSettings startingOutputSettings() {
     return settings;
 }
 
-Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path) {
+QByteArray writeOutputSettingsDocument(const OutputSettings& settings) {
     OutputSettings written = settings;
     setFieldsFromOptions(written);
-    return writeWholeFile(path, writeXml(OutputRoot, [&written](QXmlStreamWriter& writer) {
-                              FieldWriter fields(writer);
-                              settingsFields(fields, std::as_const(written));
-                          }));
+    return writeXml(OutputRoot, [&written](QXmlStreamWriter& writer) {
+        FieldWriter fields(writer);
+        settingsFields(fields, std::as_const(written));
+    });
+}
+
+Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path) {
+    return writeWholeFile(path, writeOutputSettingsDocument(settings));
 }
 
 Result<OutputSettings> loadOutputSettings(const QString& path, OutputSettings initial) {

@@ -30,6 +30,9 @@ struct OutputSettings {
 // small photos not enlarged once resizing is switched on.
 OutputSettings startingOutputSettings();
 
+// The file's document, in UTF-8.
+QByteArray writeOutputSettingsDocument(const OutputSettings& settings);
+
 Result<void> saveOutputSettings(const OutputSettings& settings, const QString& path);
 
 // The settings of the file at `path` laid over `initial`; `initial` itself when there is no such file. Error:

@@ -6,8 +6,16 @@
 
 namespace zelto {
 
+namespace {
+
+QString directoryPath(QStandardPaths::StandardLocation kind, const QString& relativePath) {
+    return QDir::cleanPath(QStandardPaths::writableLocation(kind) + u'/' + relativePath);
+}
+
+}  // namespace
+
 Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, const QString& relativePath) {
-    const QString path = QDir::cleanPath(QStandardPaths::writableLocation(kind) + u'/' + relativePath);
+    const QString path = directoryPath(kind, relativePath);
     if (!QDir().mkpath(path)) {
         return fail(ErrorCode::CannotWrite, QStringLiteral("The folder “%1” cannot be made.").arg(path),
                     path);
@@ -17,6 +25,10 @@ Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, con
 
 Result<QString> applicationFolder(QLatin1String relativePath) {
     return findOrCreateDirectory(QStandardPaths::GenericDataLocation, relativePath);
+}
+
+QString applicationFolderPath(QLatin1String relativePath) {
+    return directoryPath(QStandardPaths::GenericDataLocation, relativePath) + u'/';
 }
 
 QString resourceFolder() {

@@ -19,6 +19,8 @@ Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, con
 
 // The same below the user's application-support folder.
 Result<QString> applicationFolder(QLatin1String relativePath);
+// Its path alone, for those who only look: nothing is made.
+QString applicationFolderPath(QLatin1String relativePath);
 
 // The folder of what ships beside the programs, "../share/zelto" seen from theirs; without "/" at its end.
 QString resourceFolder();

@@ -12,6 +12,10 @@ TEST_F(Options, AValueThatMakesNoSenseIsNamed) {
     const QString photo = makePhoto(u"a.png"_s);
     const std::pair<const char*, const char*> rows[] = {
         {"--bogus", "bogus"},
+        {"--metdata all", "did you mean “--metadata”"},
+        {"--format jepg", "did you mean “jpg”"},
+        {"--list-fonts --help-me", "--help-me"},
+        {"--list-fonts --list-settings", "together"},
         {"--quality 101", "--quality"},
         {"-q -1", "--quality"},
         {"--format exe", "--format"},
@@ -74,7 +78,7 @@ TEST_F(Options, WhatIsMissingOrCannotBeReadIsNamed) {
 TEST_F(Options, HelpAndVersionNeedNothing) {
     const ProgramRun help = runBare({u"--help"_s});
     EXPECT_EQ(help.exitStatus, 0);
-    EXPECT_LT(help.output.indexOf("Examples"), help.output.indexOf("Options:")) << "examples first";
+    EXPECT_LT(help.output.indexOf("Examples"), help.output.indexOf("--setting NAME")) << "examples first";
     for (const char* option : {"--setting", "--shard", "--on-repeated-failure", "Exit status"})
         EXPECT_TRUE(help.output.contains(option)) << option;
     EXPECT_TRUE(runBare({u"--version"_s}).output.startsWith("zelto-batch " ZELTO_VERSION "\nWith libheif "));
@@ -92,6 +96,20 @@ TEST_F(Options, ASettingIsFoundByItsNameOrItsPath) {
         << "a run saves no setting of its own";
     const ProgramRun unknown = run({u"-s"_s, u"mark"_s, photo}, {{u"XDG_DATA_HOME"_s, home}});
     EXPECT_TRUE(unknown.errors.contains("My mark")) << "the names there are help";
+    EXPECT_EQ(runBare({u"--list-settings"_s}, {{u"XDG_DATA_HOME"_s, home}}).output, "My mark\n");
+    EXPECT_EQ(runBare({u"--list-settings"_s}, {{u"XDG_DATA_HOME"_s, path(u"none"_s)}}).output, "");
+    EXPECT_FALSE(QFile::exists(path(u"none"_s))) << "who only asks makes no folders";
+}
+
+TEST_F(Options, OptionsThatArePrintedComeBackFromTheirFile) {
+    const QString photo = makePhoto(u"a.png"_s);
+    const QByteArray printed = runBare({u"--print-options"_s, u"-f"_s, u"jpg"_s, u"--longest-side"_s, u"32"_s,
+                                        u"-o"_s, path(u"made"_s)})
+                                   .output;
+    const ProgramRun result =
+        runBare({u"-s"_s, path(u"mark.zcs"_s), u"--options"_s, makeFile(u"kept.xml"_s, printed), photo});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors.toStdString();
+    EXPECT_EQ(QImage(path(u"made/a.jpg"_s)).width(), 32);
 }
 
 }  // namespace

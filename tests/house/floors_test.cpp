@@ -16,11 +16,12 @@ using namespace Qt::StringLiterals;
 
 // Per room, the rooms it may include from beside itself. A name stands for all rooms inside it, too.
 QMap<QString, QStringList> rooms() {
-    const QString engine = u"records platform pictures metadata macros persistence render batch "_s;
+    const QString engine = u"records platform options pictures metadata macros persistence render batch "_s;
     const QString app = u"app/common app/photos app/watermarks app/preview app/window "_s;
     const std::pair<QString, QString> rows[] = {
         {u"records"_s, {}},
         {u"platform"_s, {}},
+        {u"options"_s, u"platform"_s},
         {u"pictures"_s, u"platform"_s},
         {u"metadata"_s, u"records platform pictures"_s},
         {u"macros"_s, u"records platform pictures metadata"_s},

@@ -1,42 +1,97 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The window program: zelto [--setting NAME_OR_FILE] [PHOTO_OR_FOLDER...]
+// The window program: zelto [options] [PHOTO_OR_FOLDER...]
 #include "app/common/icons.h"
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/program/app_delegate.h"
+#include "app/program/window_manual.h"
+#include "options/arguments.h"
+#include "options/manual_texts.h"
 #include "platform/languages.h"
 #include "platform/process_setup.h"
+#include "platform/words.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+
+namespace zelto {
+namespace {
+
+constexpr int CannotBeUsed = 2;
+
+struct WindowLine {
+    StartRequest request;
+    QByteArray text;  // to be printed instead of a window
+    int exitStatus = EXIT_SUCCESS;
+};
+
+WindowLine readLine(const QStringList& arguments) {
+    WindowLine line;
+    const Result<GivenArguments> given = readArguments(windowManual(), arguments);
+    if (!given) {
+        const QString hint = Words::tr("try 'zelto --help'");
+        line.text = QStringLiteral("zelto: %1\nzelto: %2\n").arg(given.error().message, hint).toLocal8Bit();
+        line.exitStatus = CannotBeUsed;
+        return line;
+    }
+    line.request.photos = given->others;
+    for (const GivenOption& option : given->options) {
+        if (option.name == QLatin1String("setting")) line.request.setting = option.value;
+        if (option.name == QLatin1String("help")) line.text = helpText(windowManual()).toUtf8();
+        if (option.name == QLatin1String("version")) line.text = "zelto " ZELTO_VERSION "\n";
+        if (option.name == QLatin1String("generate")) {
+            line.text = generatedText(windowManual(), option.value);
+            if (line.text.isEmpty()) {
+                line.text = QByteArray("zelto: --generate: ") + GeneratedKinds + "\n";
+                line.exitStatus = CannotBeUsed;
+            }
+        }
+    }
+    return line;
+}
+
+// Whether the arguments ask for a text, which needs no display.
+bool asksForText(int argc, char** argv) {
+    return std::any_of(argv + 1, argv + argc, [](const char* argument) {
+        const QByteArray text(argument);
+        return text == "-h" || text == "--help" || text == "-v" || text == "--version" ||
+               text.startsWith("--generate");
+    });
+}
+
+int print(const WindowLine& line) {
+    std::FILE* const where = line.exitStatus == EXIT_SUCCESS ? stdout : stderr;
+    std::fwrite(line.text.constData(), 1, static_cast<std::size_t>(line.text.size()), where);
+    return line.exitStatus;
+}
+
+int run(int argc, char** argv) {
+    if (asksForText(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        speakUsersLanguage();
+        const WindowLine line = readLine(QCoreApplication::arguments().mid(1));
+        if (!line.text.isEmpty()) return print(line);
+    }
+    // Takes what is Qt's own out of the arguments.
+    QApplication application(argc, argv);
+    speakUsersLanguage();
+    QApplication::setApplicationName(QStringLiteral("Zelto"));
+    QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
+    QApplication::setWindowIcon(applicationIcon());
+    const WindowLine line = readLine(QCoreApplication::arguments().mid(1));
+    if (!line.text.isEmpty()) return print(line);
+    AppDelegate delegate(standardDialogs(), standardEditors());
+    delegate.start(line.request);
+    return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace zelto
 
 int main(int argc, char** argv) {
     zelto::prepareProcess();
-    QApplication application(argc, argv);
-    zelto::speakUsersLanguage();
-    QApplication::setApplicationName(QStringLiteral("Zelto"));
-    QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
-    QApplication::setWindowIcon(zelto::applicationIcon());
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QApplication::translate("main", "Watermarks for batches of photos."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption setting(
-        {QStringLiteral("s"), QStringLiteral("setting")},
-        QApplication::translate("main", "Start with a saved setting or a setting file."),
-        QStringLiteral("name or file"));
-    parser.addOption(setting);
-    parser.addPositionalArgument(
-        QStringLiteral("photos"),
-        QApplication::translate("main", "Photos, or folders of photos, to begin with."),
-        QStringLiteral("[photos...]"));
-    parser.process(application);
-
-    zelto::StartRequest request;
-    if (parser.isSet(setting)) request.setting = parser.value(setting);
-    request.photos = parser.positionalArguments();
-    zelto::AppDelegate delegate(zelto::standardDialogs(), zelto::standardEditors());
-    delegate.start(request);
-    return QApplication::exec();
+    return zelto::run(argc, argv);
 }
