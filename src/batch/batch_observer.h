@@ -5,6 +5,7 @@
 #pragma once
 
 #include "batch/jpeg_way.h"
+#include "platform/result.h"
 #include "records/photo_warning.h"
 
 #include <QLatin1String>
@@ -41,6 +42,7 @@ struct PhotoOutcome {
     QString error;   // for the user; empty for a success
     QString reason;  // what lies behind `error`, for a log; may be empty
     std::vector<PhotoWarning> warnings;
+    ErrorCode code = ErrorCode::Unsupported;  // what kind of failure it was
     std::optional<JpegWay> jpeg{};  // of a JPEG that was written, where untouched blocks were to be kept
 
     bool succeeded() const { return error.isEmpty(); }

@@ -17,8 +17,8 @@ RunDestinations runDestinations(const BatchRequest& request) {
 PhotoTask photoTask(const BatchRequest& request, const RunDestinations& destinations,
                     const PlannedOutput& output, std::size_t row, const QDateTime& now) {
     const QString& source = request.photos.at(row).path;
-    const auto place = static_cast<qint64>(row);
-    return {place, static_cast<qint64>(request.photos.size()), source,
+    const qint64 place = request.firstRow + static_cast<qint64>(row);
+    return {place, request.firstRow + static_cast<qint64>(request.photos.size()), source,
             outputPath({source, place, now.date(), output.number, output.name}, request.options,
                        destinations.folders),
             now};

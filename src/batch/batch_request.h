@@ -4,6 +4,7 @@
 #pragma once
 
 #include "batch/destination_map.h"
+#include "batch/earlier_outputs.h"
 #include "batch/look_ahead.h"
 #include "batch/output_plan.h"
 #include "batch/photo_processor.h"
@@ -31,11 +32,13 @@ struct BatchPhoto {
 // It never changes while a run lasts.
 struct BatchRequest {
     std::vector<BatchPhoto> photos;
+    qint64 firstRow = 0;  // the row of the first of them, where others went before in runs of their own
     OutputOptions options;
     FolderDestinations folders;  // the source folders of the list, for a kept structure
     NameRules names;
-    QLocale locale;                          // of the dates in names
-    bool strict = false;                     // a photo with a warning fails instead of being written
+    std::shared_ptr<const EarlierOutputs> earlier;  // of those runs; null where there are none
+    QLocale locale;                                 // of the dates in names
+    bool strict = false;                            // a photo with a warning fails instead of being written
     std::shared_ptr<const OutputPlan> plan;  // planOutputs() of all this; a run that has none makes it first
     LookAheadLimits limits = LookAheadLimits::forThisMachine();
     // Called on the run's thread, where set: to keep the stack as "Last Watermark" whenever a worker starts, and the

@@ -149,7 +149,7 @@ Result<void> BatchRun::Worker::commit(const PhotoTask& task, PreparedPhoto photo
 
 // Writes one photo and records how that went.
 void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
-    observer_.photoStarted(static_cast<qint64>(row));
+    observer_.photoStarted(request_.firstRow + static_cast<qint64>(row));
     std::optional<LookAhead::Ready> ready = ahead.take();
     const PhotoTask& task = ready->task;
     PhotoOutcome outcome{task.row, task.source, {}, {}, {}, {}, {}};
@@ -183,18 +183,20 @@ void BatchRun::Worker::UpdateImage(std::size_t row, LookAhead& ahead) {
         const Error& error = written.error();
         outcome.error = isForUsers(error) ? error.message : QString(WatermarkingFailedMessage);
         outcome.reason = error.message;
+        outcome.code = error.code;
     }
     recordOutcome(outcome);
 }
 
 // A photo whose output is not to be written, by the rules for names.
 void BatchRun::Worker::refuse(std::size_t row) {
-    const auto place = static_cast<qint64>(row);
+    const qint64 place = request_.firstRow + static_cast<qint64>(row);
     observer_.photoStarted(place);
     recordOutcome({place, request_.photos[row].path, {}, {}, planned(row).reason, {}, {}});
 }
 
 bool BatchRun::Worker::replacesAnEarlierOutput(std::size_t row) const {
+    if (planned(row).replacesEarlier) return true;
     const std::optional<std::size_t> first = planned(row).sharesNameOf;
     return first && (request_.photos[*first].isElsewhere || job_.writtenNames.contains(*first));
 }

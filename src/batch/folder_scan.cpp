@@ -90,9 +90,7 @@ class Scan {
     void tellTrouble(const Entry& entry, const QString& photo) {
         const std::string bytes = entry.path.string();
         if (QString::fromStdString(bytes).toStdString() != bytes) {
-            scan_.problems.push_back(
-                {photo,
-                 QStringLiteral("the name is not UTF-8 text, so the photo cannot be opened; rename it")});
+            scan_.problems.push_back(nameIsNoText(photo));
         }
         std::error_code error;
         if (entry.type == std::filesystem::file_type::symlink && !std::filesystem::exists(entry.path, error))
@@ -121,6 +119,10 @@ bool isScannedName(const QString& fileName, const QString& extensionList) {
     const QString extension = pathExtension(fileName);
     return isScannedExtension(extension) &&
            extensionList.contains(QLatin1Char('.') + extension, Qt::CaseInsensitive);
+}
+
+ScanProblem nameIsNoText(const QString& path) {
+    return {path, QStringLiteral("the name is not UTF-8 text, so the photo cannot be opened; rename it")};
 }
 
 Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,

@@ -50,6 +50,9 @@ struct FolderScan {
     std::vector<ScanProblem> problems;
 };
 
+// The problem with a photo whose name the system has in bytes that are no text.
+ScanProblem nameIsNoText(const QString& path);
+
 // Symbolic links to folders are not followed. A scan that is not to go on returns what it has found. Error:
 // ErrorCode::NotFound where the folder itself cannot be listed.
 Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,

@@ -44,7 +44,8 @@ class Planner {
     }
 
     void takeName(std::size_t row) {
-        const NamedPhoto photo{request_.photos[row].path, static_cast<qint64>(row), now_.date()};
+        const NamedPhoto photo{request_.photos[row].path, request_.firstRow + static_cast<qint64>(row),
+                               now_.date()};
         const QString& pattern = request_.options.RenameFormat;
         plan_.outputs[row].name = nameFromPhoto(
             photo, request_.options, renameContext(pattern, photo.path, photo.row, now_, request_.locale));
@@ -61,10 +62,16 @@ class Planner {
         const auto first = firstWith_.constFind(name(row));
         if (first == firstWith_.cend()) {
             firstWith_.insert(name(row), row);
+            const QString earlier = earlierPhoto(name(row));
+            if (earlier.isEmpty()) {
+                meetExisting(row);
+            } else if (earlier != request_.photos[row].path) {
+                shareWithEarlier(row);
+            }
         } else {
             share(row, *first);
+            if (output.fate == PlannedOutput::Fate::Write && !output.sharesNameOf) meetExisting(row);
         }
-        if (output.fate == PlannedOutput::Fate::Write && !output.sharesNameOf) meetExisting(row);
         if (output.fate != PlannedOutput::Fate::Write || !request_.photos[row].checked) return;
         ++plan_.photos;
         const FileIdentity written = output.number == 0 ? unruled_[row] : fileIdentity(path(row));
@@ -87,10 +94,34 @@ class Planner {
                 break;
             case NameRule::Skip:
             case NameRule::Fail:
-                refuse(output, request_.names.sameName,
-                       QStringLiteral("an earlier photo of the run has the output “%1”").arg(path(row)));
+                refuse(output, request_.names.sameName, sharedName(row));
                 break;
         }
+    }
+
+    QString earlierPhoto(const QByteArray& place) const {
+        return request_.earlier ? request_.earlier->photoAt(place) : QString();
+    }
+
+    // What stands there is the run's own, so the rule for names it shares holds.
+    void shareWithEarlier(std::size_t row) {
+        PlannedOutput& output = plan_.outputs[row];
+        switch (request_.names.sameName) {
+            case NameRule::Replace:
+                output.replacesEarlier = true;
+                break;
+            case NameRule::Number:
+                number(row);
+                break;
+            case NameRule::Skip:
+            case NameRule::Fail:
+                refuse(output, request_.names.sameName, sharedName(row));
+                break;
+        }
+    }
+
+    QString sharedName(std::size_t row) const {
+        return QStringLiteral("an earlier photo of the run has the output “%1”").arg(path(row));
     }
 
     void meetExisting(std::size_t row) {
@@ -118,18 +149,21 @@ class Planner {
             (skips ? QStringLiteral("Left out: %1.") : QStringLiteral("Not written: %1.")).arg(reason);
     }
 
-    // Takes the first number that is free. No number below the last one tried for a name ever becomes free.
+    // Takes the first number that is free, or that this very photo had before. No number below the last one tried for a name ever becomes free.
     void number(std::size_t row) {
         const bool avoidsFiles = request_.names.existing == NameRule::Number;
         qint64& number = numbers_[name(row)];
         QByteArray numbered;
-        QString candidate;
-        do {
+        bool isFree = false;
+        while (!isFree) {
             plan_.outputs[row].number = ++number;
-            candidate = path(row);
+            const QString candidate = path(row);
             numbered = fileIdentity(candidate).place;
-        } while (wanted_.contains(numbered) || given_.contains(numbered) ||
-                 (avoidsFiles && isTaken(candidate)));
+            const QString earlier = earlierPhoto(numbered);
+            const bool isOwn = earlier == request_.photos[row].path;
+            const bool isOthers = !isOwn && (!earlier.isEmpty() || (avoidsFiles && isTaken(candidate)));
+            isFree = !isOthers && !wanted_.contains(numbered) && !given_.contains(numbered);
+        }
         given_.insert(numbered);
     }
 

@@ -37,7 +37,8 @@ struct PlannedOutput {
     QString name;       // where it is taken from the photo; without the number
     qint64 number = 0;  // at the end of the name; 0 for none
     std::optional<std::size_t>
-        sharesNameOf;  // the first photo with the same output, if that is an earlier one
+        sharesNameOf;              // the first photo with the same output, if that is an earlier one
+    bool replacesEarlier = false;  // that of another photo, from a run before this one
 };
 
 struct OutputPlan {

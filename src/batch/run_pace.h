@@ -16,6 +16,8 @@ class RunPace {
     // From `now` on, so many photos are to be done.
     void begin(qint64 photos, Clock::time_point now = Clock::now());
     void advance() { ++done_; }
+    // So many more have come.
+    void expect(qint64 photos) { total_ += photos; }
 
     qint64 done() const { return done_; }
     qint64 total() const { return total_; }

@@ -203,7 +203,10 @@ const std::vector<BatchOptionGroup>& batchOptions() {
            text<&CommandLine::optionsFile>},
           {{nullptr, "dry-run", Switch, nullptr, nullptr,
             TEXT("print what would be written, and write nothing")},
-           turn<&CommandLine::dryRun>}}},
+           turn<&CommandLine::dryRun>},
+          {{nullptr, "watch", Switch, nullptr, nullptr,
+            TEXT("go on until interrupted: photos that arrive in the named folders are written at once")},
+           turn<&CommandLine::watch>}}},
         {TEXT("Format and size"),
          {{{"f", "format", Word, "FORMAT", "same jpg png tiff bmp gif pdf webp avif jxl heic",
             TEXT("same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)")},
@@ -300,11 +303,19 @@ const std::vector<BatchOptionGroup>& batchOptions() {
           {{nullptr, "list-fonts", Switch, nullptr, nullptr, TEXT("the fonts that texts can be set in")},
            beginTask<Task::ListFonts>},
 
+          {{nullptr, "print-setting", OptionValue::Setting, "NAME_OR_FILE", nullptr,
+            TEXT("what a setting holds, layer by layer, in words")},
+           beginTask<Task::PrintSetting>},
           {{nullptr, "print-options", Switch, nullptr, nullptr,
             TEXT("an options file that says what the other options on the line say, to be kept for "
                  "--options")},
            beginTask<Task::PrintOptions>},
 
+          {{nullptr, "doctor", Switch, nullptr, nullptr,
+            TEXT("whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; "
+                 "exit "
+                 "status 1 when something is missing")},
+           beginTask<Task::Doctor>},
           {{nullptr, "merge-reports", Switch, nullptr, nullptr,
             TEXT("the arguments are JSON reports of the shards of one list: print one report, and exit as "
                  "one run "

@@ -4,6 +4,7 @@
 #include "batch/image_list.h"
 #include "batch/output_name.h"
 #include "cli/saved_settings.h"
+#include "cli/watch.h"
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
 #include "platform/dates.h"
@@ -164,6 +165,15 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
     auto copyright = copyrightData(line, *plan.stack);
     if (!copyright) return tl::unexpected(std::move(copyright.error()));
     plan.copyright = std::move(*copyright);
+    plan.request.names = {line.sameName.value_or(NameRule::Replace),
+                          line.existing.value_or(NameRule::Replace)};
+    plan.request.locale = userDateLocale();
+    plan.request.strict = line.strict;
+    if (line.jobs) plan.request.limits.jobs = *line.jobs;
+    if (line.watch) {
+        // Its photos arrive later.
+        return checkWatch(line, plan.request.options).map([&] { return std::move(plan); });
+    }
     const Result<ImageList> list = photoList(line, plan.problems);
     if (!list) return tl::unexpected(list.error());
 
@@ -173,13 +183,8 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
         const bool isOurs = line.shard.contains(row);
         plan.request.photos.push_back({image.ImagePath, isOurs, !isOurs});
     }
-    plan.request.names = {line.sameName.value_or(NameRule::Replace),
-                          line.existing.value_or(NameRule::Replace)};
-    plan.request.locale = userDateLocale();
-    plan.request.strict = line.strict;
     plan.request.plan =
         std::make_shared<const OutputPlan>(planOutputs(plan.request, QDateTime::currentDateTime()));
-    if (line.jobs) plan.request.limits.jobs = *line.jobs;
     plan.request.limits.jobs = static_cast<int>(std::min<std::size_t>(
         static_cast<std::size_t>(plan.request.limits.jobs), plan.request.photos.size()));
     if (!line.overwriteOriginals) {

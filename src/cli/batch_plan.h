@@ -27,7 +27,7 @@ struct BatchPlan {
 // What the line says of the outputs: its options file, and its other options laid over that. Error: that of the file.
 Result<OutputSettings> outputSettings(const CommandLine& line);
 
-// Error: what cannot be used and what to do about it.
+// For a watch, without photos. Error: what cannot be used and what to do about it.
 Result<BatchPlan> planBatch(const CommandLine& line);
 
 // Makes the output folder. Error: ErrorCode::CannotWrite.

@@ -59,13 +59,22 @@ QJsonObject photoObject(const PhotoReport& photo) {
 }  // namespace
 
 qint64 BatchReport::count(PhotoReport::Status status) const {
-    return std::count_if(photos.begin(), photos.end(),
-                         [&](const PhotoReport& photo) { return photo.status == status; });
+    const qint64 listed = std::count_if(photos.begin(), photos.end(),
+                                        [&](const PhotoReport& photo) { return photo.status == status; });
+    switch (status) {
+        case PhotoReport::Status::Written:
+            return listed + passed.written;
+        case PhotoReport::Status::Failed:
+            return listed + passed.failed;
+        case PhotoReport::Status::NotRun:
+            break;
+    }
+    return listed + passed.notRun;
 }
 
 qint64 BatchReport::warned() const {
-    return std::count_if(photos.begin(), photos.end(),
-                         [](const PhotoReport& photo) { return !photo.warnings.empty(); });
+    return passed.warned + std::count_if(photos.begin(), photos.end(),
+                                         [](const PhotoReport& photo) { return !photo.warnings.empty(); });
 }
 
 int BatchReport::exitStatus() const {
@@ -98,7 +107,9 @@ PhotoReport& photoAt(BatchReport& report, qint64 row) {
                              [](const PhotoReport& photo, qint64 wanted) { return photo.index < wanted; });
 }
 
-QByteArray toJson(const BatchReport& report) {
+namespace {
+
+QJsonDocument document(const BatchReport& report) {
     QJsonArray photos;
     for (const PhotoReport& photo : report.photos) photos.append(photoObject(photo));
     const QJsonObject summary = {{"written"_L1, report.count(PhotoReport::Status::Written)},
@@ -108,15 +119,32 @@ QByteArray toJson(const BatchReport& report) {
                                  {"interrupted"_L1, report.interrupted},
                                  {"warned"_L1, report.warned()},
                                  {"message"_L1, report.message}};
-    return printableJson(
-        QJsonDocument({{"version"_L1, 1},
-                       {"shard"_L1, shardText(report.shard)},
-                       {"total"_L1, report.total},
-                       {"photos"_L1, photos},
-                       {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
-                       {"summary"_L1, summary},
-                       {"error"_L1, report.error}})
-            .toJson());
+    return QJsonDocument(
+        {{"version"_L1, 1},
+         {"shard"_L1, shardText(report.shard)},
+         {"total"_L1, report.total},
+         {"photos"_L1, photos},
+         {"combinedPdf"_L1, report.combinedPdf.isEmpty() ? QJsonValue() : report.combinedPdf},
+         {"summary"_L1, summary},
+         {"error"_L1, report.error}});
+}
+
+QByteArray inOneLine(const QJsonDocument& json) {
+    return printableJson(json.toJson(QJsonDocument::Compact)) + '\n';
+}
+
+}  // namespace
+
+QByteArray toJson(const BatchReport& report) {
+    return printableJson(document(report).toJson());
+}
+
+QByteArray toJsonLine(const BatchReport& report) {
+    return inOneLine(document(report));
+}
+
+QByteArray toJsonLine(const PhotoReport& photo) {
+    return inOneLine(QJsonDocument(photoObject(photo)));
 }
 
 QString toText(const BatchReport& report) {

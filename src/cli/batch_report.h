@@ -35,11 +35,19 @@ struct PhotoReport {
     std::optional<JpegWay> jpeg;  // see PhotoOutcome
 };
 
+struct ReportCounts {
+    qint64 written = 0;
+    qint64 failed = 0;
+    qint64 notRun = 0;
+    qint64 warned = 0;
+};
+
 struct BatchReport {
     Shard shard;                      // of the list that the run works on
     qint64 total = 0;                 // photos of the whole list
     std::vector<PhotoReport> photos;  // those the run is asked to write, by index
     QString combinedPdf;              // its path; empty where none was written
+    ReportCounts passed;              // of photos that are not among `photos` any more
     bool stopped = false;             // by repeated failures
     bool interrupted = false;
     QString message;
@@ -59,6 +67,10 @@ PhotoReport& photoAt(BatchReport& report, qint64 row);
 
 // One JSON document, with a line break at its end.
 QByteArray toJson(const BatchReport& report);
+
+// The same in one line, and one of `photos` likewise.
+QByteArray toJsonLine(const BatchReport& report);
+QByteArray toJsonLine(const PhotoReport& photo);
 
 // The message, the counts, and the path of the combined PDF.
 QString toText(const BatchReport& report);

@@ -66,17 +66,20 @@ ProgramManual makeManual() {
                       TEXT("what a whole tree of folders would become, without writing anything")},
                      {"zelto-batch -s Proof -o out -f pdf --combine-pdf photos",
                       TEXT("one PDF, a page a photo")},
+                     {"zelto-batch -s Holiday -o out --watch inbox",
+                      TEXT("every photo that is put into the folder “inbox”, until Ctrl+C")},
                      {"zelto-batch -s Holiday -o /shared/out --shard 2/8 --json /shared/photos",
                       TEXT("the third of eight parts of one batch, each on a machine of its own")}},
         .groups = {},
         .sections =
             {{TEXT("Exit status"),
               TEXT("0: all photos were written; warnings do not change it.\n"
-                   "1: some photos failed, or repeated failures stopped the run.\n"
+                   "1: some photos failed, or repeated failures stopped the run; with --doctor: something is "
+                   "missing.\n"
                    "2: the command line or a named file cannot be used, and nothing was written.\n"
                    "130: interrupted. The photo in hand is finished first, and a second interrupt ends the "
                    "program "
-                   "at once. No file is ever left half-written.")},
+                   "at once. This is how --watch ends, too. No file is ever left half-written.")},
              {TEXT("Environment"),
               TEXT("NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar "
                    "where "

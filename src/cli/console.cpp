@@ -45,6 +45,11 @@ void Console::begin(qint64 total) {
     if (bar_) drawBar();
 }
 
+void Console::expect(qint64 photos) {
+    const std::lock_guard lock(mutex_);
+    pace_.expect(photos);
+}
+
 void Console::advance(const QString& line) {
     const std::lock_guard lock(mutex_);
     pace_.advance();

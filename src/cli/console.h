@@ -26,6 +26,8 @@ class Console {
 
     // Starts the count that rate and time left are told from.
     void begin(qint64 total);
+    // So many more photos have come to be done.
+    void expect(qint64 photos);
     // One more photo is done. `line`, unless it is empty, is shown where there is no bar.
     void advance(const QString& line);
     void problem(const QString& text);

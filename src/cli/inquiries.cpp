@@ -2,8 +2,12 @@
 #include "cli/inquiries.h"
 
 #include "cli/batch_plan.h"
+#include "cli/batch_report.h"
+#include "cli/doctor.h"
 #include "cli/printable.h"
 #include "cli/saved_settings.h"
+#include "cli/setting_text.h"
+#include "persistence/setting_file.h"
 #include "platform/words.h"
 
 #include <QFontDatabase>
@@ -36,6 +40,17 @@ Result<Answer> printOptions(const CommandLine& line) {
     });
 }
 
+Result<Answer> printSetting(const QString& nameOrFile) {
+    return settingPath(nameOrFile).and_then(LoadWatermarkSetting).map([&](const WatermarkStack& stack) {
+        return Answer{settingText(stack, nameOrFile).toUtf8(), {}};
+    });
+}
+
+Answer examine(const CommandLine& line) {
+    const Findings findings = examineMachine(line.output);
+    return {findings.text.toUtf8(), {}, findings.isAllThere ? exit_status::Success : exit_status::SomeFailed};
+}
+
 }  // namespace
 
 Result<Answer> answerTo(const CommandLine& line) {
@@ -44,8 +59,12 @@ Result<Answer> answerTo(const CommandLine& line) {
             return listSettings();
         case Task::ListFonts:
             return listFonts();
+        case Task::PrintSetting:
+            return printSetting(line.taskArgument);
         case Task::PrintOptions:
             return printOptions(line);
+        case Task::Doctor:
+            return examine(line);
         default:
             return Answer();
     }

@@ -4,6 +4,7 @@
 #include "cli/command_line.h"
 #include "cli/inquiries.h"
 #include "cli/report_merge.h"
+#include "cli/watch.h"
 #include "options/manual_texts.h"
 #include "platform/languages.h"
 #include "platform/machine_limits.h"
@@ -22,6 +23,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <functional>
 #include <new>
 #include <optional>
 
@@ -78,14 +80,18 @@ BatchReport work(const CommandLine& line, Console& console) {
     if (line.dryRun) return dryRun(*plan, console);
     if (const Result<void> started = startDrawingThreads(); !started) return unusable(started.error());
     if (const Result<void> made = makeOutputFolder(*plan); !made) return unusable(made.error());
-    return runBatch(*plan, line, console);
+    if (!line.watch) return runBatch(*plan, line, console);
+    std::function<void(const PhotoReport&)> printPhoto;
+    // Whoever has closed the pipe keeps no photo from being written.
+    if (line.json) printPhoto = [](const PhotoReport& photo) { printResult(toJsonLine(photo)); };
+    return watchFolders(*plan, line, console, printPhoto);
 }
 
 int show(const BatchReport& report, const CommandLine& line, Console& console) {
     if (!report.error.isEmpty()) console.problem(report.error);
     bool printed = true;
     if (line.json) {
-        printed = printResult(toJson(report));
+        printed = printResult(line.watch ? toJsonLine(report) : toJson(report));
     } else if (line.dryRun) {
         printed = printResult(dryRunText(report).toUtf8());
     } else if (!line.quiet && report.error.isEmpty()) {
@@ -189,7 +195,7 @@ int run(int argc, char** argv) {
             return printResult(*text) ? exit_status::Success : exit_status::SomeFailed;
     }
 
-    Console console({line->quiet, line->color, line->progress});
+    Console console({line->quiet, line->color, line->progress && !line->watch});
     if (line->task == Task::MergeReports) return merge(*line, console);
     if (const Result<void> enough = checkMemoryToStart(); !enough)
         return show(unusable(enough.error()), *line, console);

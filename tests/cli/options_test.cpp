@@ -33,6 +33,10 @@ TEST_F(Options, AValueThatMakesNoSenseIsNamed) {
         {"--shard auto/2", "JOB_COMPLETION_INDEX"},
         {"--combine-pdf", "--format pdf"},
         {"--combine-pdf --format pdf --shard 0/2", "--shard"},
+        {"--watch", "--watch takes folders"},
+        {"--watch --shard 0/2", "--shard"},
+        {"--watch --rename [#]", "--existing"},
+        {"--watch --format pdf --combine-pdf", "--combine-pdf"},
         {"--on-repeated-failure ask", "--on-repeated-failure"},
     };
     for (const auto& [arguments, complaint] : rows) {
@@ -59,6 +63,8 @@ TEST_F(Options, WhatIsMissingOrCannotBeReadIsNamed) {
         {"-s @mark.zcs -o @out @none.jpg", "none.jpg"},
         {"-s @mark.zcs -o @out @empty", "no photo"},
         {"-s @mark.zcs -o @in/a.png @in/a.png", "a.png"},
+        {"-s @mark.zcs -o @in --watch @in", "again and again"},
+        {"-s @mark.zcs -o @. --keep-structure --watch @in", "--keep-structure"},
         {"-s @mark.zcs -o @in/a.png/x @in/a.png", "cannot be made"},
         {"-s @mark.zcs -o @out --options @broken.zcs @in/a.png", "broken.zcs"},
         {"-s @mark.zcs -o @out --options @out @in/a.png", "out"},
@@ -99,6 +105,16 @@ TEST_F(Options, ASettingIsFoundByItsNameOrItsPath) {
     EXPECT_EQ(runBare({u"--list-settings"_s}, {{u"XDG_DATA_HOME"_s, home}}).output, "My mark\n");
     EXPECT_EQ(runBare({u"--list-settings"_s}, {{u"XDG_DATA_HOME"_s, path(u"none"_s)}}).output, "");
     EXPECT_FALSE(QFile::exists(path(u"none"_s))) << "who only asks makes no folders";
+}
+
+TEST_F(Options, ASettingAndTheMachineAreToldInWords) {
+    const QByteArray setting = runBare({u"--print-setting"_s, path(u"mark.zcs"_s)}).output;
+    for (const char* fact : {"1. Rectangle", "10 pixels", "#ff0000", "bottom right"})
+        EXPECT_TRUE(setting.contains(fact)) << fact << " in " << setting.toStdString();
+    EXPECT_EQ(runBare({u"--doctor"_s}).exitStatus, 0);
+    const ProgramRun ill = runBare({u"--doctor"_s}, {{u"ZELTO_EXIFTOOL"_s, path(u"none"_s)}});
+    EXPECT_EQ(ill.exitStatus, 1);
+    EXPECT_TRUE(ill.output.contains("libimage-exiftool-perl")) << ill.output.toStdString();
 }
 
 TEST_F(Options, OptionsThatArePrintedComeBackFromTheirFile) {
