@@ -55,7 +55,9 @@ void speakLanguage(const QString& language) {
     install(QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
             QStringLiteral("/qtbase_%1.qm").arg(language));
     install(translationFile(language));
-    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    // A program that only prints has no layout, and none of the object that keeps its direction.
+    if (qobject_cast<QGuiApplication*>(qApp) != nullptr)
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }
 
 void speakUsersLanguage() {
