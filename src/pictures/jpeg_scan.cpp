@@ -14,7 +14,7 @@
 namespace zelto {
 namespace {
 
-constexpr int LongestCode = 16;
+constexpr int LongestCodeRead = 16;
 constexpr int MostMeanBits = 11;
 constexpr int MostBits = 10;
 constexpr std::size_t ZeroRun = 0xF0;
@@ -47,7 +47,7 @@ bool isSame(const JHUFF_TBL& one, const JHUFF_TBL& other) {
 // Whether its codes are codes: none is a number that its length has no room for.
 bool isTree(const JHUFF_TBL& table) {
     int code = 0;
-    for (int length = 1; length <= LongestCode; ++length) {
+    for (int length = 1; length <= LongestCodeRead; ++length) {
         code = (code + table.bits[length]) * 2;
         if (code > 2 << length) return false;
     }
@@ -95,7 +95,7 @@ JpegScan::Codes::Symbol JpegScan::Codes::meaningOf(std::size_t symbol, int lengt
 JpegScan::Codes::Codes(const JHUFF_TBL& table, bool isForMeans) {
     int next = 0;
     int first = 0;
-    for (int bits = 1; bits <= LongestCode; ++bits) {
+    for (int bits = 1; bits <= LongestCodeRead; ++bits) {
         firstSymbol[static_cast<std::size_t>(bits)] = next - first;
         for (int i = 0; i < table.bits[bits]; ++i, ++next) {
             const std::size_t symbol = table.huffval[next];
@@ -117,7 +117,7 @@ JpegScan::Codes::Codes(const JHUFF_TBL& table, bool isForMeans) {
 inline JpegScan::Codes::Symbol JpegScan::Codes::at(std::uint64_t window) const {
     const Symbol& known = quick[window >> (64 - QuickBits)];
     if (known.length != 0) return known;
-    for (std::size_t bits = QuickBits + 1; bits <= LongestCode; ++bits) {
+    for (std::size_t bits = QuickBits + 1; bits <= LongestCodeRead; ++bits) {
         const int found = static_cast<int>(window >> (64 - bits));
         if (found < behind[bits]) return symbols[static_cast<std::size_t>(firstSymbol[bits] + found)];
     }
