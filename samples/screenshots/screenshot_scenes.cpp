@@ -2,6 +2,7 @@
 #include "samples/screenshots/screenshot_scenes.h"
 
 #include <QApplication>
+#include <QPlainTextEdit>
 
 namespace zelto::samples {
 namespace {
@@ -83,9 +84,76 @@ bool isRunning(Stage& stage) {
     return stage.isAtRest() && stage.window().processing().ProcessingIndicator()->value() == PhotosOfTheRun;
 }
 
+bool hasContacts(Stage& stage) {
+    return stage.window().pages().contacts().isSettled();
+}
+
 bool hasDialog(Stage& /*stage*/) {
     const QWidget* dialog = QApplication::activeModalWidget();
     return dialog != nullptr && dialog->isVisible();
+}
+
+// ---- what the guide shows, step by step
+
+void setTypedText(Stage& stage) {
+    stage.addPhotos();
+    stage.selectPhoto(QStringLiteral("mountains.jpg"));
+    stage.window().editors().OpenTextWatermarkSettings();
+    auto* text = stage.window().inspector().page()->findChild<QPlainTextEdit*>(QStringLiteral("Text"));
+    text->setPlainText(QStringLiteral("© Ann Example"));
+}
+
+void setContacts(Stage& stage) {
+    setWindow(stage);
+    stage.window().pages().showContacts(true);
+}
+
+void setMacros(Stage& stage) {
+    stage.window().resize(1280, 1000);
+    setWindow(stage);
+    stage.openEditor(2);
+    stage.unfold(QStringLiteral("Macros"));
+}
+
+void setQrCode(Stage& stage) {
+    stage.window().resize(1280, 1000);
+    setWindow(stage);
+    stage.openEditor(3);
+}
+
+void setNames(Stage& stage) {
+    setWindow(stage);
+    stage.openOutputOptions([](OutputOptions& options) {
+        options.KeepDirectoryStructure = true;
+        options.Rename = true;
+        options.RenameFormat = QStringLiteral("<<EXIF:DateTimeOriginal[Y-M-D]>>_[O]_[###]");
+    });
+}
+
+void setProofs(Stage& stage) {
+    stage.addPhotos();
+    stage.window().watermarks().addReadyMade(3);
+    stage.openOutputOptions([](OutputOptions& options) {
+        options.OutputFormat = QStringLiteral("pdf");
+        options.CombineToSinglePDF = true;
+        options.ResizeImage = true;
+        options.ResizeType = resize_type::LongerSide;
+        options.LongestsideSize = 1600;
+    });
+}
+
+void addGuide(std::vector<ScreenshotScene>& scenes) {
+    const auto add = [&scenes](const char* name, Shot shot, void (*set)(Stage&), bool (*isSet)(Stage&)) {
+        scenes.push_back({std::string("guide/") + name, Look::Light, 1.0, shot, set, isSet});
+    };
+    add("window", Shot::Window, setWindow, isAtRest);
+    add("first-text", Shot::Window, setTypedText, isAtRest);
+    add("first-options", Shot::Dialog, setOutputOptions, hasDialog);
+    add("contacts", Shot::Window, setContacts, hasContacts);
+    add("macros", Shot::Window, setMacros, isAtRest);
+    add("qr-code", Shot::Window, setQrCode, isAtRest);
+    add("names", Shot::Dialog, setNames, hasDialog);
+    add("proofs", Shot::Dialog, setProofs, hasDialog);
 }
 
 // Every page in both palettes, at both sizes of a pixel.
@@ -119,6 +187,7 @@ std::vector<ScreenshotScene> makeScenes() {
         {"output-options", Look::Light, 1.0, Shot::Dialog, setOutputOptions, hasDialog},
     };
     addEditors(scenes);
+    addGuide(scenes);
     return scenes;
 }
 

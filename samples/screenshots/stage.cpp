@@ -2,7 +2,10 @@
 #include "samples/screenshots/stage.h"
 
 #include "app/dialogs/standard_dialogs.h"
+#include "app/editors/controls/fold_group.h"
 #include "app/editors/standard_editors.h"
+#include "persistence/output_settings_file.h"
+#include "platform/application_folders.h"
 #include "platform/path_parts.h"
 #include "platform/preferences.h"
 
@@ -214,8 +217,16 @@ void Stage::doubleClickPhoto(const QString& name) {
     window_->photos().ImageListDoubleClicked(rowOf(name));
 }
 
-void Stage::openOutputOptions() {
+void Stage::openOutputOptions(const std::function<void(OutputOptions&)>& change) {
     const QString shownOutput = ShownFolder.filePath(QStringLiteral("Watermarked"));
+    OutputSettings settings = startingOutputSettings();
+    settings.options.OutputPath = shownOutput;
+    settings.options.OutputFolderData = shownOutput.toUtf8();
+    change(settings.options);
+    const auto kept = applicationFolder(ZeltoFolder).and_then([&](const QString& folder) {
+        return saveOutputSettings(settings, folder + OutputSettingsFileName);
+    });
+    if (!kept) qFatal("the options cannot be kept");
     setPreference(preference::LastOutDirectory, shownOutput);
     setPreference(preference::LastOutDirectoryData, shownOutput.toUtf8());
     QDir().mkpath(shownOutput);
@@ -247,6 +258,11 @@ QImage Stage::picture() const {
         paintLifted(painter, grabbed(*each), place);
     }
     return picture;
+}
+
+void Stage::unfold(const QString& group) {
+    if (auto* found = window_->inspector().findChild<FoldGroup*>(group + QStringLiteral("Group")))
+        found->setFolded(false);
 }
 
 QImage Stage::inspectorPicture() {

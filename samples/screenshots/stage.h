@@ -38,8 +38,8 @@ class Stage {
     // Starts a run and answers its summary.
     void finishRun();
     void doubleClickPhoto(const QString& name);
-    // Opens the dialog that a run begins with, and waits for it.
-    void openOutputOptions();
+    // Opens the dialog that a run begins with, filled in as `change` would have it, and waits for it.
+    void openOutputOptions(const std::function<void(OutputOptions&)>& change = [](OutputOptions&) {});
     // Opens the editor of a row of the watermark list.
     void openEditor(int row) { window_->editors().WatermarkListDoubleClicked(row); }
 
@@ -50,8 +50,9 @@ class Stage {
 
     // What a user sees: the window, with its dialogs upon it.
     QImage picture() const;
-    // The inspector alone, as long as its page.
+    // The inspector alone, as long as its page, with some groups unfolded.
     QImage inspectorPicture();
+    void unfold(const QString& group);
     // The dialog alone that was opened last.
     static QImage dialogPicture();
 

@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <utility>
@@ -23,7 +24,11 @@ constexpr std::chrono::seconds TimeAfterInterrupt{2};
 
 QString exiftoolProgram() {
     const QString named = qEnvironmentVariable("ZELTO_EXIFTOOL");
-    return named.isEmpty() ? resourceFolder() + QStringLiteral("/Exif/exiftool") : named;
+    if (!named.isEmpty()) return named;
+    const QString shipped = resourceFolder() + QStringLiteral("/Exif/exiftool");
+    if (QFileInfo(shipped).isExecutable()) return shipped;
+    const QString installed = QStandardPaths::findExecutable(QStringLiteral("exiftool"));
+    return installed.isEmpty() ? shipped : installed;
 }
 
 ExiftoolPool::ExiftoolPool(int processes, QString program)

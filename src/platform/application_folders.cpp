@@ -32,7 +32,7 @@ QString applicationFolderPath(QLatin1String relativePath) {
 }
 
 QString resourceFolder() {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zelto"));
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" ZELTO_RESOURCES));
 }
 
 }  // namespace zelto

@@ -22,7 +22,8 @@ Result<QString> applicationFolder(QLatin1String relativePath);
 // Its path alone, for those who only look: nothing is made.
 QString applicationFolderPath(QLatin1String relativePath);
 
-// The folder of what ships beside the programs, "../share/zelto" seen from theirs; without "/" at its end.
+// The folder of what ships beside the programs, found from theirs ("../share/zelto", unless built otherwise), so that it
+// is the right one in a build folder, when installed, and wherever an installed tree is moved. Without "/" at its end.
 QString resourceFolder();
 
 }  // namespace zelto

@@ -3,6 +3,7 @@
 
 #include "app/dialogs/existing_settings_window_controller.h"
 #include "app/dialogs/folder_window_controller.h"
+#include "app/dialogs/guide_window.h"
 #include "app/dialogs/import_export_window_controller.h"
 #include "app/dialogs/output_options_controller.h"
 #include "app/dialogs/save_settings_dialog.h"
@@ -96,6 +97,7 @@ DialogSet standardDialogs() {
     dialogs.openSettings = openSettings;
     dialogs.importSettings = [](QWidget* parent) { importExport(CopyMode::Import, parent); };
     dialogs.exportSettings = [](QWidget* parent) { importExport(CopyMode::Export, parent); };
+    dialogs.guide = openGuide;
     dialogs.tips = showTips;
     dialogs.versionCheck = CheckLatestVersion;
     return dialogs;

@@ -44,6 +44,7 @@ struct DialogSet {
     std::function<void(QWidget* parent)> importSettings;
     std::function<void(QWidget* parent)> exportSettings;
 
+    std::function<void(QWidget* parent)> guide;
     std::function<void(QWidget* parent, MyGlobalInstance& shared)> tips;
     std::function<void(QWidget* parent)> versionCheck;
 };

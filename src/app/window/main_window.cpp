@@ -231,6 +231,7 @@ void MainWindow::connectDialogs() {
         actions_->connectTo(Act::AddFolder, [this] { controller_->OpenAddFolderWindow(); });
     }
     if (dialogs.outputOptions) actions_->connectTo(Act::Start, [this] { controller_->StartWatermarking(); });
+    if (dialogs.guide) actions_->connectTo(Act::Guide, [this, &dialogs] { dialogs.guide(this); });
     if (dialogs.tips) actions_->connectTo(Act::Tips, [this] { controller_->ShowTips(); });
     if (dialogs.versionCheck) {
         actions_->connectTo(Act::VersionCheck, [this] { controller_->CheckLatestVersion(); });

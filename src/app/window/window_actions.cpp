@@ -105,7 +105,8 @@ const std::array Rows_ = {
     ActionRow{Act::Before, ViewMenu, TEXT("Show Without &Marks (Hold F8)"), "before", "", Photos | Idle,
               true},
     ActionRow{Act::FullScreen, ViewMenu, TEXT("F&ull Screen"), "full-screen", "F11", Photos | Idle},
-    ActionRow{Act::Tips, HelpMenu, TEXT("&Tips"), "tips", "F1", Nothing},
+    ActionRow{Act::Guide, HelpMenu, TEXT("&Guide"), "information", "F1", Nothing},
+    ActionRow{Act::Tips, HelpMenu, TEXT("&Tips"), "tips", "", Nothing},
     ActionRow{Act::VersionCheck, HelpMenu, TEXT("&Check for a New Version"), "", "", Nothing, true},
     ActionRow{Act::About, HelpMenu, TEXT("&About Zelto"), "", "", Nothing},
 };

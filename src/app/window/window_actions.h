@@ -65,6 +65,7 @@ enum class Act {
     Contacts,
     Before,
     FullScreen,
+    Guide,
     Tips,
     VersionCheck,
     About,
