@@ -15,14 +15,15 @@
 #include <utility>
 
 namespace zelto {
-namespace {
 
-Q_LOGGING_CATEGORY(settingsLog, "zelto.settings")
-
-bool hasSettingExtension(const QString& fileName) {
+bool isSettingFileName(const QString& fileName) {
     return fileName.size() > SettingFileExtension.size() &&
            fileName.endsWith(SettingFileExtension, Qt::CaseInsensitive);
 }
+
+namespace {
+
+Q_LOGGING_CATEGORY(settingsLog, "zelto.settings")
 
 QString settingName(const QString& fileName) {
     return fileName.chopped(SettingFileExtension.size());
@@ -36,7 +37,7 @@ Result<QStringList> settingFiles(const QString& folder) {
                     folder);
     }
     QStringList files = directory.entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    files.removeIf([](const QString& file) { return !hasSettingExtension(file); });
+    files.removeIf([](const QString& file) { return !isSettingFileName(file); });
     return files;
 }
 
@@ -44,7 +45,7 @@ Result<QStringList> settingFiles(const QString& folder) {
 QStringList takenNames(const QString& folder) {
     QStringList taken =
         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    taken.removeIf([](const QString& file) { return !hasSettingExtension(file); });
+    taken.removeIf([](const QString& file) { return !isSettingFileName(file); });
     for (QString& name : taken) name = settingName(name);
     return taken;
 }

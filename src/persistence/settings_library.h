@@ -16,6 +16,9 @@ struct WatermarkStack;
 // The setting every run keeps its stack under.
 inline constexpr QLatin1String LastWatermarkSetting("Last Watermark");
 
+// Whether a file of that name, or path, is a setting file.
+bool isSettingFileName(const QString& fileName);
+
 class SettingsLibrary {
   public:
     // `folder` is the path of an existing folder, with or without "/" at its end.

@@ -5,9 +5,9 @@
 #include "persistence/settings_library.h"
 #include "platform/preferences.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QScreen>
 #include <QStatusBar>
@@ -33,7 +33,11 @@ QByteArray tipsDocument() {
 AppDelegate::AppDelegate(DialogSet dialogs, EditorSet editors)
     : dialogs_(std::move(dialogs)),
       window_(std::make_unique<MainWindow>(shared_, dialogs_, std::move(editors))),
-      run_(*window_, shared_) {}
+      run_(*window_, shared_) {
+    constexpr int LookMilliseconds = 200;
+    untilFree_.setInterval(LookMilliseconds);
+    untilFree_.callOnTimeout([this] { openWaiting(); });
+}
 
 void AppDelegate::start(const StartRequest& request) {
     const Result<void> folder = shared_.findSettingDirectory();
@@ -44,8 +48,43 @@ void AppDelegate::start(const StartRequest& request) {
     shared_.ReadTips(tipsDocument());
     if (storedPreference(preference::ShowTips).value_or(false)) showTip();
     flushPreferences();
-    loadSetting(request);
-    if (!request.photos.isEmpty()) window_->controller().importPaths(request.photos);
+    const QStringList photos = loadFirst(request);
+    if (!photos.isEmpty()) window_->controller().importPaths(photos);
+    isStarted_ = true;
+    openWaiting();
+}
+
+void AppDelegate::open(const StartRequest& request) {
+    // Where the desktop looks for its leave when a window asks to come to the front.
+    if (!request.activation.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", request.activation);
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->activateWindow();
+    waiting_.push_back(request);
+    openWaiting();
+}
+
+bool AppDelegate::isFree() const {
+    return isStarted_ && window_->actions()[Act::AddPhotos]->isEnabled() &&
+           QApplication::activeModalWidget() == nullptr;
+}
+
+void AppDelegate::openWaiting() {
+    while (!waiting_.empty() && isFree()) {
+        const StartRequest request = std::move(waiting_.front());
+        waiting_.erase(waiting_.begin());
+        if (request.setting) loadNamed(*request.setting);
+        const QStringList photos = window_->controller().loadSettings(request.photos);
+        if (!photos.isEmpty()) window_->controller().importPaths(photos);
+    }
+    if (waiting_.empty()) {
+        untilFree_.stop();
+    } else if (!untilFree_.isActive()) {
+        untilFree_.start();
+        window_->statusBar()->showMessage(
+            MainWindow::tr("What was opened from outside comes in as soon as the window is free."),
+            StatusMilliseconds);
+    }
 }
 
 void AppDelegate::showWindow() {
@@ -70,18 +109,14 @@ void AppDelegate::showTip() {
     }
 }
 
-void AppDelegate::loadSetting(const StartRequest& request) {
+QStringList AppDelegate::loadFirst(const StartRequest& request) {
     window_->watermarks().resetCurrentWatermarkIndex();
     const QString autoload = storedPreference(preference::AutoLoadSetting).value_or(QString());
+    const QStringList photos = window_->controller().loadSettings(request.photos);
     if (request.setting) {
-        const QString path = settingPath(*request.setting);
-        if (path.isEmpty()) {
-            showAlert(
-                window_.get(), LoadErrorTitle,
-                MainWindow::tr("There is no saved setting and no setting file “%1”.").arg(*request.setting));
-        } else {
-            load(path);
-        }
+        loadNamed(*request.setting);
+    } else if (photos.size() < request.photos.size()) {
+        // A setting file was among them.
     } else if (const QString path = savedSettingPath(autoload); !path.isEmpty()) {
         load(path);
     } else if (const auto told = window_->keeper().bringBack()) {
@@ -89,6 +124,14 @@ void AppDelegate::loadSetting(const StartRequest& request) {
     }
     // There is nothing to go back to before the first thing the user does.
     window_->document().history().clear();
+    return photos;
+}
+
+void AppDelegate::loadNamed(const QString& nameOrFile) {
+    const QString path = settingPath(nameOrFile);
+    if (!path.isEmpty()) return load(path);
+    showAlert(window_.get(), LoadErrorTitle,
+              MainWindow::tr("There is no saved setting and no setting file “%1”.").arg(nameOrFile));
 }
 
 void AppDelegate::load(const QString& path) {

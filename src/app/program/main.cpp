@@ -4,6 +4,7 @@
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/program/app_delegate.h"
+#include "app/program/one_window.h"
 #include "app/program/window_manual.h"
 #include "options/arguments.h"
 #include "options/manual_texts.h"
@@ -24,7 +25,8 @@ constexpr int CannotBeUsed = 2;
 
 struct WindowLine {
     StartRequest request;
-    QByteArray text;  // to be printed instead of a window
+    bool wantsOwnWindow = false;  // even if there is one already
+    QByteArray text;              // to be printed instead of a window
     int exitStatus = EXIT_SUCCESS;
 };
 
@@ -40,6 +42,7 @@ WindowLine readLine(const QStringList& arguments) {
     line.request.photos = given->others;
     for (const GivenOption& option : given->options) {
         if (option.name == QLatin1String("setting")) line.request.setting = option.value;
+        if (option.name == QLatin1String("new-window")) line.wantsOwnWindow = true;
         if (option.name == QLatin1String("help")) line.text = helpText(windowManual()).toUtf8();
         if (option.name == QLatin1String("version")) line.text = "zelto " ZELTO_VERSION "\n";
         if (option.name == QLatin1String("generate")) {
@@ -81,9 +84,14 @@ int run(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
     QApplication::setWindowIcon(applicationIcon());
+    QApplication::setDesktopFileName(QStringLiteral("org.zelto.Zelto"));
     const WindowLine line = readLine(QCoreApplication::arguments().mid(1));
     if (!line.text.isEmpty()) return print(line);
+    OneWindow window;
+    if (!line.wantsOwnWindow && window.handOver(forAnotherProcess(line.request))) return EXIT_SUCCESS;
     AppDelegate delegate(standardDialogs(), standardEditors());
+    QObject::connect(&window, &OneWindow::asked,
+                     [&delegate](const StartRequest& asked) { delegate.open(asked); });
     delegate.start(line.request);
     return QApplication::exec();
 }

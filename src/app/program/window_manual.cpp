@@ -19,6 +19,9 @@ const ProgramManual& windowManual() {
             {{TEXT("Options"),
               {{"s", "setting", OptionValue::Setting, "NAME_OR_FILE", nullptr,
                 TEXT("start with a saved setting, or with the setting file of this path")},
+               {nullptr, "new-window", OptionValue::None, nullptr, nullptr,
+                TEXT("open a window of its own; otherwise the window that is open already takes the photos, "
+                     "folders and setting")},
                {nullptr, "generate", OptionValue::Word, "WHAT", GeneratedKinds,
                 TEXT("print the manual page (man), the completion for bash, zsh or fish, or all options in "
                      "markdown")},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/main_view.h"
 
+#include "persistence/settings_library.h"
 #include "pictures/picture_names.h"
 
 #include <QFileInfo>
@@ -31,8 +32,9 @@ class DropFrame : public QWidget {
     }
 };
 
-bool isPhotoOrFolder(const QUrl& url) {
-    return url.isLocalFile() && (isPictureName(url.toLocalFile()) || QFileInfo(url.toLocalFile()).isDir());
+bool canBeTaken(const QUrl& url) {
+    const QString path = url.toLocalFile();
+    return url.isLocalFile() && (isPictureName(path) || isSettingFileName(path) || QFileInfo(path).isDir());
 }
 
 }  // namespace
@@ -41,7 +43,7 @@ MainView::MainView(QWidget* parent) : QWidget(parent), frame_(new DropFrame(this
 
 bool MainView::isWelcome(const QMimeData& files) {
     const QList<QUrl> urls = files.urls();
-    return std::any_of(urls.begin(), urls.end(), isPhotoOrFolder);
+    return std::any_of(urls.begin(), urls.end(), canBeTaken);
 }
 
 bool MainView::draggingEntered(const QMimeData& dragged) {
@@ -57,7 +59,7 @@ bool MainView::performDragOperation(const QMimeData& dragged) {
     setReceivingDrag(false);
     QStringList paths;
     for (const QUrl& url : dragged.urls()) {
-        if (isPhotoOrFolder(url)) paths.append(url.toLocalFile());
+        if (canBeTaken(url)) paths.append(url.toLocalFile());
     }
     if (paths.isEmpty()) return false;
     add_(paths);

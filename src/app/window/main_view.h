@@ -18,7 +18,7 @@ class MainView : public QWidget {
   public:
     explicit MainView(QWidget* parent = nullptr);
 
-    // Takes the dropped files: photos, by their names, and folders.
+    // Takes the dropped files: photos and setting files, by their names, and folders.
     void setDelegate(std::function<void(const QStringList& paths)> add) { add_ = std::move(add); }
 
     // Whether there is anything among the files of a drag, or of the clipboard, that can be taken.

@@ -7,6 +7,7 @@
 #include "app/watermarks/watermark_controller.h"
 #include "app/window/full_screen_view.h"
 #include "batch/folder_scan.h"
+#include "persistence/settings_library.h"
 #include "platform/preferences.h"
 
 #include <QFileInfo>
@@ -82,13 +83,26 @@ void ZeltoController::import(FolderImport::Scan scan) {
 }
 
 void ZeltoController::bringFiles(const QStringList& paths) {
-    const bool hasFolders =
-        std::any_of(paths.begin(), paths.end(), [](const QString& path) { return QFileInfo(path).isDir(); });
+    const QStringList photos = loadSettings(paths);
+    const bool hasFolders = std::any_of(photos.begin(), photos.end(),
+                                        [](const QString& path) { return QFileInfo(path).isDir(); });
     if (hasFolders) {
-        importPaths(paths, true);
-    } else {
-        photos_.bring(paths);
+        importPaths(photos, true);
+    } else if (!photos.isEmpty()) {
+        photos_.bring(photos);
     }
+}
+
+QStringList ZeltoController::loadSettings(const QStringList& paths) {
+    QStringList others;
+    for (const QString& path : paths) {
+        if (!isSettingFileName(path) || QFileInfo(path).isDir()) {
+            others.append(path);
+        } else if (const Result<void> loaded = watermarks_.LoadWatermarkSetting(path); !loaded) {
+            showAlert(window_, QStringLiteral("Setting Load Error"), loaded.error().message);
+        }
+    }
+    return others;
 }
 
 void ZeltoController::sortByName() {

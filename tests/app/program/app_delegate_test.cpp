@@ -3,6 +3,7 @@
 
 #include "app/dialogs/standard_dialogs.h"
 #include "app/hands.h"
+#include "app/program/one_window.h"
 #include "persistence/setting_file.h"
 #include "platform/application_folders.h"
 #include "platform/preferences.h"
@@ -13,6 +14,8 @@
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QTest>
+
+#include <future>
 
 namespace zelto {
 namespace {
@@ -113,6 +116,9 @@ TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
     }
     start({QStringLiteral("Mine"), {}});
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by name")));
+    start({.photos = {file}});
+    EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
+    EXPECT_FALSE(delegate->window().document().history().canUndo());
     start({file, {folder.path(), QStringLiteral("/elsewhere/c.bmp")}});
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
     EXPECT_TRUE(QTest::qWaitFor([this] { return delegate->window().photos().count() == 3; }));
@@ -121,6 +127,30 @@ TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
     EXPECT_THAT(photos,
                 ElementsAre(folder.filePath(QStringLiteral("a.png")),
                             folder.filePath(QStringLiteral("b.jpg")), QStringLiteral("/elsewhere/c.bmp")));
+}
+
+TEST_F(StartUp, ALaterStartHandsItsFilesToTheWindowOnceNoDialogIsInTheWay) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("other.ZCS"));
+    ASSERT_TRUE(SaveWatermarkSettings(stackOf(QStringLiteral("by path")), file).has_value());
+    OneWindow first;
+    ASSERT_FALSE(first.handOver({})) << "there is no window yet";
+    start();
+    QObject::connect(&first, &OneWindow::asked, [this](const StartRequest& asked) { delegate->open(asked); });
+    QDialog dialog(&delegate->window());
+    dialog.setModal(true);
+    dialog.show();
+    const auto second = std::async(std::launch::async, [&] {
+        return OneWindow().handOver({.photos = {file, QStringLiteral("/elsewhere/c.bmp")}});
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !delegate->window().statusBar()->currentMessage().isEmpty(); }));
+    EXPECT_TRUE(texts().isEmpty());
+    dialog.close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return delegate->window().photos().count() == 1; }));
+    EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
+    delegate->window().document().history().undo();
+    delegate->window().document().history().undo();
+    EXPECT_TRUE(texts().isEmpty()) << "it can be undone";
 }
 
 TEST_F(StartUp, WhatWasOnScreenIsBackAtTheNextStart) {
