@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The guide is installed as one folder: its pages and pictures refer to nothing outside it, and its contents name every
-// page.
+// The guide is installed as one folder: its pages refer to nothing outside it.
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -23,19 +22,18 @@ QSet<QString> references(const QString& page) {
     return found;
 }
 
-TEST(Guide, ReferencesLeadToFilesOfItsOwnFolderAndItsContentsNameEveryPage) {
+TEST(Guide, WhereverItsContentsLeadIsAFileOfItsOwnFolder) {
     const QDir guide(QStringLiteral(ZELTO_SOURCE_DIR "/docs/guide"));
-    const QSet<QString> contents = references(guide.filePath(u"index.md"_s));
-    for (const QString& page : guide.entryList({u"*.md"_s}, QDir::Files)) {
-        EXPECT_TRUE(page == u"index.md" || contents.contains(page))
-            << qPrintable(page) << " is not in index.md";
-        for (const QString& reference : references(guide.filePath(page))) {
+    QStringList pages(u"index.md"_s);
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        for (const QString& reference : references(guide.filePath(pages[i]))) {
             if (reference.startsWith(u"https://"_s)) continue;
             EXPECT_TRUE(!reference.contains(u".."_s) && QFile::exists(guide.filePath(reference)))
-                << qPrintable(page) << " refers to " << qPrintable(reference);
+                << qPrintable(pages[i]) << " refers to " << qPrintable(reference);
+            if (reference.endsWith(u".md"_s) && !pages.contains(reference)) pages.append(reference);
         }
     }
-    EXPECT_GE(contents.size(), 7);
+    EXPECT_GT(pages.size(), 7);
 }
 
 }  // namespace
