@@ -50,6 +50,13 @@ bool hasWholeSampling(const jpeg_decompress_struct& file) {
     });
 }
 
+// A quantisation step of 0 makes nothing of what it multiplies, and libjpeg would divide by it.
+bool hasPlainSteps(const jpeg_decompress_struct& file) {
+    return std::ranges::all_of(file.quant_tbl_ptrs, [](const JQUANT_TBL* table) {
+        return table == nullptr || std::ranges::find(table->quantval, 0) == std::end(table->quantval);
+    });
+}
+
 // Where a side that is reversed does not end with a whole sampling unit, what only fills up the last one would come to
 // lie inside the photo. With a single component a block is a unit.
 std::optional<QString> turningTrouble(const JpegGeometry& stored, const Turn& turn) {
@@ -149,6 +156,7 @@ Result<void> JpegRewriter::Work::begin() {
     const jpeg_decompress_struct& info = file_.info();
     if (!hasPlainColors(info))
         return unsuited(QStringLiteral("Its colours are stored in another way than as YCbCr or grey."));
+    if (!hasPlainSteps(info)) return unreadable();
     if (!hasWholeSampling(info)) return unsuited(QStringLiteral("Its colours are sampled in broken steps."));
     turn_ = turnOf(file_.exif().orientation);
     stored_ = JpegGeometry::of(info);
