@@ -2,6 +2,7 @@
 // Orientation in every format that can record one.
 #include "pictures/upright.h"
 
+#include "pictures/picture_libraries.h"
 #include "pictures/picture_reader.h"
 #include "support/exiftool.h"
 #include "support/ink.h"
@@ -29,6 +30,7 @@ TEST(Upright, EveryOrientationOfEveryFormatIsTurned) {
     const QTemporaryDir folder;
     QStringList paths;
     for (const QString& name : {u"a.jpg"_s, u"a.png"_s, u"a.tif"_s, u"a.webp"_s}) {
+        if (name == u"a.webp"_s && webpLibrary() == nullptr) continue;
         paths += folder.filePath(name);
         ASSERT_TRUE(scene.save(paths.back(), nullptr, 100));
     }
