@@ -94,8 +94,9 @@ void paintCell(QPainter& painter, const QRectF& frame, int cell, bool isTakenBel
     for (int i = 0; i < 9; ++i) {
         const bool isOwn = i + 1 == cell;
         const double radius = isOwn ? 3.0 : 1.5;
+        const QPoint place(i % 3 - 1, i / 3 + 1);
         painter.setBrush(isOwn ? palette.color(QPalette::HighlightedText) : faint);
-        painter.drawEllipse(QPointF((i % 3 - 1) * Step, (i / 3 + 1) * Step), radius, radius);
+        painter.drawEllipse(QPointF(place) * Step, radius, radius);
     }
     painter.restore();
 }

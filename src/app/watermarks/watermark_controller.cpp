@@ -361,6 +361,7 @@ void WatermarkController::MoveWatermarks(const std::vector<int>& indices, int be
 
 std::vector<Watermark> WatermarkController::copiesOf(const std::vector<int>& indices) const {
     std::vector<Watermark> copies;
+    copies.reserve(indices.size());
     for (const int index : indices) copies.push_back(GetWatermarkAtRow(index));
     return copies;
 }
