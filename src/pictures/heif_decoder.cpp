@@ -2,6 +2,7 @@
 #include "pictures/heif_decoder.h"
 
 #include "pictures/coded_colors.h"
+#include "pictures/coded_size.h"
 #include "pictures/decoding_time.h"
 #include "pictures/device_bytes.h"
 #include "pictures/exif_facts.h"
@@ -36,11 +37,14 @@ class HeifFile {
         return {heif_image_handle_get_width(handle_.get()), heif_image_handle_get_height(handle_.get())};
     }
 
-    qint64 memory() const {
+    // Nothing for a file that makes no sense.
+    std::optional<qint64> memory() const {
+        const std::optional<qint64> coded = largestCodedPicture(bytes_);
+        if (!coded) return std::nullopt;
         // Bytes a pixel: the codec's planes, the library's, what it makes of them, and the picture.
         constexpr qint64 Narrow = 16;
         constexpr qint64 Wide = 32;
-        return bytes_.size() + pixelCount(size()) * (isWide() ? Wide : Narrow);
+        return bytes_.size() + std::max(pixelCount(size()), *coded) * (isWide() ? Wide : Narrow);
     }
 
     PictureFacts facts() const {
@@ -166,7 +170,9 @@ class HeifFile {
 std::optional<PictureNeeds> heifNeeds(QIODevice& device) {
     const HeifFile file(device);
     if (!file.isOpen()) return std::nullopt;
-    return needsOf(file.size(), 1, file.memory());
+    const std::optional<qint64> memory = file.memory();
+    if (!memory) return std::nullopt;
+    return needsOf(file.size(), 1, *memory);
 }
 
 std::optional<Picture> decodeHeif(QIODevice& device) {
