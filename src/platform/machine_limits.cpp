@@ -72,16 +72,15 @@ qint64 availableMemory() {
     return std::min({machine, limit.value_or(machine), addressLimit().value_or(machine)});
 }
 
-Result<void> checkMemoryToStart() {
-    // What fontconfig and the threads of a run take before the first photo, found with limits of the address space.
-    constexpr std::size_t Needed = std::size_t{128} << 20;
+Result<void> checkMemoryToStart(qint64 needed) {
+    const auto bytes = static_cast<std::size_t>(needed);
     // The allocator sets 64 MB aside for each thread.
     if (addressLimit()) ::mallopt(M_ARENA_MAX, 1);
     void* const memory =
-        ::mmap(nullptr, Needed, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED)  // NOLINT(performance-no-int-to-ptr): the system's own constant
         return fail(ErrorCode::OutOfMemory, QStringLiteral("there is not enough memory to start"));
-    ::munmap(memory, Needed);
+    ::munmap(memory, bytes);
     return {};
 }
 

@@ -9,6 +9,7 @@
 #include "options/arguments.h"
 #include "options/manual_texts.h"
 #include "platform/languages.h"
+#include "platform/machine_limits.h"
 #include "platform/process_setup.h"
 #include "platform/words.h"
 
@@ -16,7 +17,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <new>
 #include <optional>
+#include <system_error>
 
 namespace zelto {
 namespace {
@@ -71,6 +74,12 @@ int print(const WindowLine& line) {
     return line.exitStatus;
 }
 
+// For the terminal or the desktop's log: where memory or threads are refused, no window can be counted on.
+int cannotStart(const QString& why) {
+    printError("zelto: " + why.toLocal8Bit() + '\n');
+    return CannotBeUsed;
+}
+
 int run(int argc, char** argv) {
     if (asksForText(argc, argv)) {
         const QCoreApplication application(argc, argv);
@@ -78,6 +87,9 @@ int run(int argc, char** argv) {
         const WindowLine line = readLine(QCoreApplication::arguments().mid(1));
         if (!line.text.isEmpty()) return print(line);
     }
+    constexpr qint64 NeededBytes = qint64{320} << 20;  // found with `ulimit -v`
+    if (const Result<void> enough = checkMemoryToStart(NeededBytes); !enough)
+        return cannotStart(enough.error().message);
     // Takes what is Qt's own out of the arguments.
     QApplication application(argc, argv);
     speakUsersLanguage();
@@ -89,6 +101,8 @@ int run(int argc, char** argv) {
     if (!line.text.isEmpty()) return print(line);
     OneWindow window;
     if (!line.wantsOwnWindow && window.handOver(forAnotherProcess(line.request))) return EXIT_SUCCESS;
+    if (const Result<void> started = startDrawingThreads(); !started)
+        return cannotStart(started.error().message);
     AppDelegate delegate(standardDialogs(), standardEditors());
     QObject::connect(&window, &OneWindow::asked,
                      [&delegate](const StartRequest& asked) { delegate.open(asked); });
@@ -96,10 +110,20 @@ int run(int argc, char** argv) {
     return QApplication::exec();
 }
 
+int runOrSayWhyNot(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::system_error&) {
+        return cannotStart(Words::tr("the system does not let it start enough threads"));
+    } catch (const std::bad_alloc&) {
+        return cannotStart(Words::tr("there is not enough memory"));
+    }
+}
+
 }  // namespace
 }  // namespace zelto
 
 int main(int argc, char** argv) {
     zelto::prepareProcess();
-    return zelto::run(argc, argv);
+    return zelto::runOrSayWhyNot(argc, argv);
 }

@@ -144,6 +144,8 @@ TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     EXPECT_FALSE(isEnabled(Act::AddPhotos));
     EXPECT_TRUE(window->photoList().isReadOnly());
     QTest::keyClick(&window->photoList(), Qt::Key_Space);
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_EQ(window->photos().count(), 4);
     EXPECT_TRUE(window->photos().images()[0].ApplyWatermark) << "the list is only to be looked at";
     QPushButton* pause = window->processing().PauseOrResumeProcessing();
     EXPECT_EQ(pause->text(), u"Pause"_s);
