@@ -114,9 +114,9 @@ int runOrSayWhyNot(int argc, char** argv) {
     try {
         return run(argc, argv);
     } catch (const std::system_error&) {
-        return cannotStart(Words::tr("the system does not let it start enough threads"));
+        return cannotStart(Words::tr("no thread can be started"));
     } catch (const std::bad_alloc&) {
-        return cannotStart(Words::tr("there is not enough memory"));
+        return cannotStart(Words::tr("there is not enough memory to start"));
     }
 }
 
