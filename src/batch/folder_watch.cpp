@@ -188,6 +188,9 @@ void FolderWatch::look(Clock::time_point now) {
 void FolderWatch::take(const char* bytes, Clock::time_point now) {
     const auto& event = *reinterpret_cast<const inotify_event*>(bytes);
     if ((event.mask & IN_Q_OVERFLOW) != 0) {
+        // That a photo was closed may be among what is lost.
+        for (Pending& pending : pending_)
+            pending.due = std::min<Clock::time_point>(pending.due, now + QuietWhenListed);
         listAll(now);
         return;
     }
@@ -226,6 +229,7 @@ void FolderWatch::noteFile(const QString& path, std::uint32_t what, Clock::time_
     const bool isWhole = (what & (IN_CLOSE_WRITE | IN_MOVED_TO)) != 0 || file.isSymLink() ||
                          ((what & IN_CREATE) != 0 &&
                           ::stat(QFile::encodeName(path).constData(), &entry) == 0 && entry.st_nlink > 1);
+    pending_[path].tries = 0;
     expect(path, now + (isWhole ? Clock::duration(Quiet) : Clock::duration(QuietWhileOpen)));
 }
 
