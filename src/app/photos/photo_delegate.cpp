@@ -88,14 +88,14 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     painter->setPen(color);
     // Names and sizes read from left to right wherever they stand.
     painter->setLayoutDirection(Qt::LeftToRight);
-    const auto drawLine = [&](const QRect& place, const QString& text) {
+    const auto drawLine = [&](const QRect& place, const QString& text, Qt::TextElideMode shortened) {
         painter->drawText(place, QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter,
-                          option.fontMetrics.elidedText(text, Qt::ElideMiddle, place.width()));
+                          option.fontMetrics.elidedText(text, shortened, place.width()));
     };
-    drawLine(at.name, lastPathComponent(path));
+    drawLine(at.name, lastPathComponent(path), Qt::ElideMiddle);
     color.setAlphaF(0.7F);
     painter->setPen(color);
-    drawLine(at.details, details(path, index.data(PhotoListModel::FolderRole).toString()));
+    drawLine(at.details, details(path, index.data(PhotoListModel::FolderRole).toString()), Qt::ElideRight);
     if (option.state.testFlag(QStyle::State_HasFocus))
         paintFocus(*painter, option.rect, isSelected, option.palette);
 
@@ -112,12 +112,13 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     }
 }
 
-// "6000 × 4000", what else is to be known, and the folder where that tells photos apart.
+// What is special about it, "6000 × 4000", and the folder where that tells photos apart: what matters most comes first, as
+// the list may be too narrow for all of it.
 QString PhotoDelegate::details(const QString& path, const QString& folder) const {
     QStringList parts;
+    if (thumbnails_.isRawPreview(path)) parts.append(tr("preview of a raw file"));
     const QSize size = thumbnails_.photoSize(path);
     if (size.isValid()) parts.append(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
-    if (thumbnails_.isRawPreview(path)) parts.append(tr("preview of a raw file"));
     if (!folder.isEmpty()) parts.append(folder);
     return parts.join(QStringLiteral(" · "));
 }
