@@ -2,7 +2,6 @@
 #include "batch/rename_pattern.h"
 
 #include "macros/photo_macros.h"
-#include "pictures/picture_reader.h"
 #include "platform/path_parts.h"
 
 #include <array>
@@ -97,16 +96,8 @@ bool asksPhotos(const QString& pattern) {
 
 MacroContext renameContext(const QString& pattern, const QString& path, qint64 row, const QDateTime& now,
                            const QLocale& locale) {
-    // Only the resolution is not in what the headers tell at once.
-    if (pattern.contains("<<PHOTODPI"_L1)) return photoMacroContext(path, row, now, locale);
-    MacroContext context;
-    context.photoPath = path;
-    context.row = row;
-    context.now = now;
-    context.locale = locale;
-    context.properties = std::make_shared<LazyImageProperties>(path);
-    if (pattern.contains("<<PHOTO"_L1)) context.pixelSize = readPictureSize(path).value_or(QSize());
-    return context;
+    const bool asksHeaders = pattern.contains("<<PHOTO"_L1);
+    return (asksHeaders ? photoMacroContext : unreadMacroContext)(path, row, now, locale);
 }
 
 // Macro by macro: what one prints is never read as part of another.

@@ -2,6 +2,7 @@
 #include "macros/photo_macros.h"
 
 #include "macros/macro_list.h"
+#include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
 #include "platform/dates.h"
 
@@ -9,15 +10,21 @@
 
 namespace zelto {
 
-MacroContext photoMacroContext(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
+MacroContext unreadMacroContext(const QString& path, qint64 row, const QDateTime& now,
+                                const QLocale& locale) {
     MacroContext context;
     context.photoPath = path;
     context.row = row;
     context.now = now;
     context.locale = locale;
     context.properties = std::make_shared<LazyImageProperties>(path);
-    if (const Result<Picture> photo = readPicture(path)) {
-        context.pixelSize = photo->image.size();
+    return context;
+}
+
+MacroContext photoMacroContext(const QString& path, qint64 row, const QDateTime& now, const QLocale& locale) {
+    MacroContext context = unreadMacroContext(path, row, now, locale);
+    if (const Result<PictureNeeds> photo = readPictureNeeds(path)) {
+        context.pixelSize = photo->size;
         context.dpiX = photo->dpiX;
         context.dpiY = photo->dpiY;
     }

@@ -172,7 +172,7 @@ std::optional<PictureNeeds> heifNeeds(QIODevice& device) {
     if (!file.isOpen()) return std::nullopt;
     const std::optional<qint64> memory = file.memory();
     if (!memory) return std::nullopt;
-    return needsOf(file.size(), 1, *memory);
+    return needsOf(file.size(), file.facts(), *memory);
 }
 
 std::optional<Picture> decodeHeif(QIODevice& device) {

@@ -97,7 +97,11 @@ std::optional<PictureNeeds> jpegNeeds(QIODevice& device) {
     JpegFile file(device);
     if (!file.readHeader()) return std::nullopt;
     // Turned while it is decoded.
-    return PictureNeeds{uprightSize(file.storedSize(), file.exif().orientation), file.memoryToDecode(), 0};
+    const int orientation = file.exif().orientation;
+    PictureNeeds needs{uprightSize(file.storedSize(), orientation), file.memoryToDecode()};
+    const auto [dpiX, dpiY] = file.resolution();
+    setResolution(needs, dpiX, dpiY, orientation);
+    return needs;
 }
 
 std::optional<Picture> decodeJpeg(QIODevice& device, QSize bound) {

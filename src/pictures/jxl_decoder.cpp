@@ -37,10 +37,21 @@ class JxlFile {
                                      static_cast<std::size_t>(bytes_.size())) == JXL_DEC_SUCCESS;
     }
 
-    bool readHeader() {
-        return opened_ && JxlDecoderProcessInput(decoder_.get()) == JXL_DEC_BASIC_INFO &&
-               JxlDecoderGetBasicInfo(decoder_.get(), &info_) == JXL_DEC_SUCCESS &&
-               info_.xsize <= LargestSide && info_.ysize <= LargestSide;
+    // Goes on to the Exif block, over what is coded. False for a damaged file.
+    bool readHeader(PictureFacts& facts) {
+        bool hasInfo = false;
+        for (;;) {
+            const JxlDecoderStatus status = opened_ ? JxlDecoderProcessInput(decoder_.get()) : JXL_DEC_ERROR;
+            endExif(facts);
+            if (status == JXL_DEC_BASIC_INFO) {
+                hasInfo = JxlDecoderGetBasicInfo(decoder_.get(), &info_) == JXL_DEC_SUCCESS &&
+                          info_.xsize <= LargestSide && info_.ysize <= LargestSide;
+            } else if (status == JXL_DEC_BOX) {
+                beginExif();
+            } else if (status != JXL_DEC_BOX_NEED_MORE_OUTPUT || !time_.isLeft()) {
+                return hasInfo;
+            }
+        }
     }
 
     QSize size() const { return {static_cast<int>(info_.xsize), static_cast<int>(info_.ysize)}; }
@@ -156,9 +167,10 @@ class JxlFile {
 }  // namespace
 
 std::optional<PictureNeeds> jxlNeeds(QIODevice& device) {
-    JxlFile file(device, JXL_DEC_BASIC_INFO);
-    if (!file.readHeader()) return std::nullopt;
-    return needsOf(file.size(), 1, file.memory());
+    JxlFile file(device, JXL_DEC_BASIC_INFO | JXL_DEC_BOX);
+    PictureFacts facts;
+    if (!file.readHeader(facts)) return std::nullopt;
+    return needsOf(file.size(), facts, file.memory());
 }
 
 std::optional<Picture> decodeJxl(QIODevice& device) {

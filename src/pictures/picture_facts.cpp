@@ -2,8 +2,6 @@
 #include "pictures/picture_facts.h"
 
 #include "pictures/color_profile.h"
-#include "pictures/resolution.h"
-#include "pictures/upright.h"
 
 #include <QColorSpace>
 #include <QtEndian>
@@ -27,16 +25,12 @@ std::optional<PictureFacts> readBmpFacts(QIODevice& device) {
     return facts;
 }
 
-PictureNeeds needsOf(QSize stored, int orientation, qint64 memory) {
+PictureNeeds needsOf(QSize stored, const PictureFacts& facts, qint64 memory) {
     constexpr qint64 BytesToTurn = 8;  // a pixel, here and there
-    const qint64 turned = orientation == 1 ? 0 : pixelCount(stored) * BytesToTurn;
-    return {uprightSize(stored, orientation), std::max(memory, turned), 0};
-}
-
-void setResolution(Picture& picture, double storedDpiX, double storedDpiY, int orientation) {
-    picture.dpiX = intendedDpi(storedDpiX);
-    picture.dpiY = intendedDpi(storedDpiY);
-    if (swapsAxes(orientation)) std::swap(picture.dpiX, picture.dpiY);
+    const qint64 turned = facts.orientation == 1 ? 0 : pixelCount(stored) * BytesToTurn;
+    PictureNeeds needs{uprightSize(stored, facts.orientation), std::max(memory, turned)};
+    setResolution(needs, facts.dpiX, facts.dpiY, facts.orientation);
+    return needs;
 }
 
 std::optional<Picture> finishedSrgbPicture(QImage stored, const PictureFacts& facts) {

@@ -5,11 +5,14 @@
 
 #include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
+#include "pictures/resolution.h"
+#include "pictures/upright.h"
 
 #include <QByteArray>
 #include <QIODevice>
 
 #include <optional>
+#include <utility>
 
 namespace zelto {
 
@@ -25,10 +28,15 @@ struct PictureFacts {
 std::optional<PictureFacts> readBmpFacts(QIODevice& device);
 
 // What a picture of `stored` pixels that takes `memory` bytes to decode needs in all, being turned included.
-PictureNeeds needsOf(QSize stored, int orientation, qint64 memory);
+PictureNeeds needsOf(QSize stored, const PictureFacts& facts, qint64 memory);
 
-// Records the resolution, swapped where the picture lies on its side.
-void setResolution(Picture& picture, double storedDpiX, double storedDpiY, int orientation);
+// Records the resolution of a Picture or of PictureNeeds, swapped where the picture lies on its side.
+template <class Of>
+void setResolution(Of& of, double storedDpiX, double storedDpiY, int orientation) {
+    of.dpiX = intendedDpi(storedDpiX);
+    of.dpiY = intendedDpi(storedDpiY);
+    if (swapsAxes(orientation)) std::swap(of.dpiX, of.dpiY);
+}
 
 // The picture that `facts` make of stored pixels: sRGB, upright, premultiplied. Nothing of a null picture.
 std::optional<Picture> finishedPicture(QImage stored, const PictureFacts& facts);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What reading a picture will cost, told from the file's headers before anything is decoded, and what it may cost. A
+// What a file's headers tell of its picture before anything is decoded: size, resolution, and what reading it will cost.
+// And what it may cost. A
 // file of a few hundred bytes can promise a picture of gigabytes; such a file is refused, while large photos are
 // limited by the machine alone.
 #pragma once
@@ -15,6 +16,8 @@ struct PictureNeeds {
     qint64 memory = 0;  // bytes at the worst moment of reading, the buffers of libraries included
     qint64 decoded =
         0;  // bytes that come out of the decompressor where they are not all kept: a measure of time
+    double dpiX = 72.0;  // of the upright picture; 72 where the file records none
+    double dpiY = 72.0;
 };
 
 inline qint64 pixelCount(QSize size) {

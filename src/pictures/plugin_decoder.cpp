@@ -112,7 +112,7 @@ std::optional<PictureNeeds> needsByPlugin(QIODevice& device, PictureKind kind) {
     PluginFile file(device, kind);
     const std::optional<PictureFacts> facts = file.readFacts();
     if (!facts) return std::nullopt;
-    PictureNeeds needs = needsOf(file.storedSize(), facts->orientation, file.memory());
+    PictureNeeds needs = needsOf(file.storedSize(), *facts, file.memory());
     if (kind == PictureKind::Tiff) addTiffChunks(device, needs);
     return needs;
 }

@@ -232,7 +232,7 @@ class PngFile {
 std::optional<PictureNeeds> pngNeeds(QIODevice& device) {
     PngFile file(device);
     if (!file.readHeader()) return std::nullopt;
-    return needsOf(file.storedSize(), file.facts().orientation, file.memory());
+    return needsOf(file.storedSize(), file.facts(), file.memory());
 }
 
 std::optional<Picture> decodePng(QIODevice& device) {

@@ -86,13 +86,14 @@ std::optional<PictureNeeds> rawPreviewNeeds(QIODevice& device) {
     std::optional<Preview> preview = previewOf(device);
     if (!preview) return std::nullopt;
     if (preview->jpeg.isEmpty())
-        return needsOf(preview->pixels.size(), preview->orientation,
+        return needsOf(preview->pixels.size(), {.orientation = preview->orientation},
                        device.size() + preview->pixels.sizeInBytes() * 3);
     QBuffer jpeg(&preview->jpeg);
     jpeg.open(QIODevice::ReadOnly);
     const std::optional<PictureNeeds> needs = jpegNeeds(jpeg);
     if (!needs) return std::nullopt;
-    return needsOf(needs->size, preview->orientation, needs->memory + device.size() + preview->jpeg.size());
+    return needsOf(needs->size, {preview->orientation, needs->dpiX, needs->dpiY},
+                   needs->memory + device.size() + preview->jpeg.size());
 }
 
 std::optional<Picture> decodeRawPreview(QIODevice& device) {

@@ -114,7 +114,7 @@ class WebpFile {
 std::optional<PictureNeeds> webpNeeds(QIODevice& device) {
     const WebpFile file(device);
     if (!file.isOpen()) return std::nullopt;
-    return needsOf(file.storedSize(), file.facts().orientation, file.memory());
+    return needsOf(file.storedSize(), file.facts(), file.memory());
 }
 
 std::optional<Picture> decodeWebp(QIODevice& device) {

@@ -2,6 +2,7 @@
 // HEIC, AVIF, WebP, JPEG XL and raw previews, as other programs write and read them: heif-enc and heif-convert, avifenc
 // and avifdec, cwebp and dwebp, cjxl and djxl, exiftool.
 #include "pictures/picture_libraries.h"
+#include "pictures/picture_needs.h"
 #include "pictures/picture_reader.h"
 #include "pictures/picture_writer.h"
 #include "platform/whole_file.h"
@@ -159,6 +160,8 @@ TEST_F(MoreFormats, TurnsAlphaAndResolutionOfOtherProgramsArriveAsTheyAreMeant) 
         EXPECT_EQ(picture.image.hasAlphaChannel(), row.wanted.hasAlphaChannel()) << row.file;
         EXPECT_LE(largestDifference(picture.image, row.wanted), row.tolerance) << row.file;
         EXPECT_NEAR(picture.dpiX, row.wanted.hasAlphaChannel() ? 72.0 : 300.0, 0.01) << row.file;
+        const Result<PictureNeeds> needs = readPictureNeeds(path(QLatin1String(row.file)));
+        EXPECT_TRUE(needs && needs->dpiX == picture.dpiX && needs->size == picture.image.size()) << row.file;
     }
 }
 
