@@ -2,6 +2,8 @@
 #include "render/hand_edits.h"
 
 #include "render/font_size.h"
+#include "render/lengths.h"
+#include "render/placement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -88,6 +90,28 @@ QSizeF resizeBy(Watermark& record, QSizeF factors, QSizeF reference) {
 void turnTo(Watermark& record, std::int64_t degrees) {
     const std::int64_t turn = ((degrees % 360) + 360) % 360;
     record.Rotation = turn > 180 ? turn - 360 : turn;
+}
+
+void stepAside(Watermark& record, QSizeF reference) {
+    constexpr float Share = 0.025F;
+    constexpr std::int64_t PixelsWithoutPhoto = 30;
+    const std::int64_t pixels =
+        reference.isEmpty()
+            ? PixelsWithoutPhoto
+            : std::llround(relativeLength(Share, std::min(reference.width(), reference.height())));
+    if (record.Position == CustomPosition) {
+        record.CustomPositionLeft += pixels;
+        record.CustomPositionTop += pixels;
+        return;
+    }
+    const auto widen = [&record, pixels](const length_field::WatermarkLength& padding) {
+        record.*padding.Pixels += pixels;
+        if (record.*padding.Share) *(record.*padding.Share) += Share;
+    };
+    const std::optional<Place> place = presetPlace(record.Position);
+    if (!place) return;
+    widen(place->horizontal == Anchor::Far ? length_field::PaddingRight : length_field::PaddingLeft);
+    widen(place->vertical == Anchor::Near ? length_field::PaddingBottom : length_field::PaddingTop);
 }
 
 }  // namespace zelto

@@ -23,4 +23,8 @@ QSizeF resizeBy(Watermark& record, QSizeF factors, QSizeF reference);
 // Turns the mark to whole `degrees` clockwise, any number; the record gets it as -179 to 180.
 void turnTo(Watermark& record, std::int64_t degrees);
 
+// Moves a copy a fortieth of the shorter side towards the middle, so that it does not lie on its original; it keeps its
+// anchor. `reference` may be empty: then a length in pixels grows by what suits a photo of two megapixels.
+void stepAside(Watermark& record, QSizeF reference);
+
 }  // namespace zelto

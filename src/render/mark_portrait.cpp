@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/mark_portrait.h"
 
+#include "records/length_field.h"
 #include "render/composition.h"
 #include "render/layer_builder.h"
 
@@ -50,13 +51,8 @@ void fitShape(Watermark& shape) {
 }
 
 // The record as it is drawn for its portrait.
-Watermark posed(Watermark record, const QString& text) {
-    record.Transparency = 1.0F;
-    record.HorizontalTiling = record.VerticalTiling = false;
-    record.Position = 1;
-    record.PaddingLeft = record.PaddingTop = record.PaddingRight = record.PaddingBottom = 0;
-    record.PaddingLeftShare.reset();
-    record.PaddingTopShare.reset();
+Watermark posed(const Watermark& shown, const QString& text) {
+    Watermark record = likenessOf(shown);
     switch (record.Type) {
         case watermark_type::Text:
             record.Text = firstLetters(text);
@@ -86,7 +82,6 @@ Watermark posed(Watermark record, const QString& text) {
 QImage drawn(const Watermark& record, LogoCache& logos) {
     WatermarkStack stack;
     stack.Watermarks.push_back(record);
-    stack.Watermarks.front().IsEnabled = true;
     BuiltLayer layer = GetWatermarkViewfromWatermark(
         record, {.reference = {DrawnSide, DrawnSide}, .macros = {}, .logos = &logos});
     if (!layer.view || layer.view->frame.isEmpty()) return {};
@@ -129,6 +124,24 @@ QColor groundFor(const QImage& mark) {
 }
 
 }  // namespace
+
+Watermark likenessOf(Watermark record) {
+    record.IsEnabled = true;
+    record.LabelName.clear();
+    record.Transparency = 1.0F;
+    record.HorizontalTiling = record.VerticalTiling = false;
+    record.Position = 1;
+    record.CustomPositionLeft = record.CustomPositionTop = 0;
+    const auto clear = [&record](const auto& lengths) {
+        for (const length_field::WatermarkLength& length : lengths) {
+            record.*length.Pixels = 0;
+            (record.*length.Share).reset();
+        }
+    };
+    clear(length_field::Paddings);
+    clear(length_field::Spacings);
+    return record;
+}
 
 QImage markPortrait(const Watermark& record, const QString& text, int side, LogoCache& logos) try {
     QImage mark = drawn(posed(record, text), logos);

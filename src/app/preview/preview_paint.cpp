@@ -56,20 +56,32 @@ QPainterPath dimensionLine(const QLineF& line, double ratio) {
     return path;
 }
 
-// A text in a small box around `centre`.
-void paintTag(QPainter& painter, QPointF centre, const QString& text, const QPalette& palette,
-              const QFont& font, double ratio) {
+struct LabelLook {
+    QPalette::ColorRole ground;
+    QPalette::ColorRole text;
+    QSizeF margins;  // beside the text and above it
+};
+constexpr LabelLook Tag{QPalette::Highlight, QPalette::HighlightedText, {6.0, 2.0}};
+constexpr LabelLook Sign{QPalette::ToolTipBase, QPalette::ToolTipText, {12.0, 6.0}};
+
+QSizeF labelSize(const QString& text, const QFont& font, const LabelLook& look) {
+    return QFontMetricsF(font).boundingRect(text).size() + 2.0 * look.margins;
+}
+
+// A text on a rounded ground around `centre`. Lengths of a label are device-independent, the painter's are not.
+void paintLabel(QPainter& painter, QPointF centre, const QString& text, const LabelLook& look,
+                const QPalette& palette, const QFont& font, double ratio) {
     painter.save();
     painter.translate(centre);
     painter.scale(ratio, ratio);
-    painter.setFont(font);
-    QRectF box = painter.fontMetrics().boundingRect(text);
-    box.adjust(-6.0, -2.0, 6.0, 2.0);
+    QRectF box(QPointF(), labelSize(text, font, look));
     box.moveCenter(QPointF());
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette.color(QPalette::Highlight));
+    painter.setBrush(palette.color(look.ground));
     painter.drawRoundedRect(box, 4.0, 4.0);
-    painter.setPen(palette.color(QPalette::HighlightedText));
+    painter.setFont(font);
+    painter.setPen(palette.color(look.text));
     painter.drawText(box, Qt::AlignCenter, text);
     painter.restore();
 }
@@ -169,7 +181,7 @@ void paintGuides(QPainter& painter, const PlaceGuides& guides, const QRectF& fra
     for (const PlaceGuides::Distance& distance : guides.distances) {
         isTakenBelow = isTakenBelow || distance.line.y1() > frame.bottom();
         paintLine(painter, pen, dimensionLine(distance.line, ratio));
-        paintTag(painter, distance.line.center(), distance.label, palette, font, ratio);
+        paintLabel(painter, distance.line.center(), distance.label, Tag, palette, font, ratio);
     }
     if (guides.cell > 0) paintCell(painter, frame, guides.cell, isTakenBelow, palette, ratio);
     painter.restore();
@@ -197,19 +209,9 @@ QCursor turnCursor() {
 
 void paintSign(QPainter& painter, QSize viewport, const QString& sign, const QPalette& palette,
                const QFont& font, double ratio) {
-    constexpr int Top = 12;
-    painter.save();
-    painter.scale(ratio, ratio);
-    painter.setFont(font);
-    QRectF place = QRectF(QFontMetrics(font).boundingRect(sign)).adjusted(-12, -6, 12, 6);
-    place.moveTo((viewport.width() / ratio - place.width()) / 2.0, Top);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette.color(QPalette::ToolTipBase));
-    painter.drawRoundedRect(place, 4.0, 4.0);
-    painter.setPen(palette.color(QPalette::ToolTipText));
-    painter.drawText(place, Qt::AlignCenter, sign);
-    painter.restore();
+    constexpr double Top = 12.0;
+    const QPointF centre(viewport.width() / 2.0, (Top + labelSize(sign, font, Sign).height() / 2.0) * ratio);
+    paintLabel(painter, centre, sign, Sign, palette, font, ratio);
 }
 
 void paintCentredMessage(QPainter& painter, QSize viewport, const QString& message, const QPalette& palette,

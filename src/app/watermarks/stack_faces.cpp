@@ -19,7 +19,7 @@ class StackFaces::Painter {
         std::vector<Drawn> drawn;
         std::vector<MarkFace> faces;
         for (const Watermark& record : job.stack->Watermarks) {
-            drawn.push_back({likeness(record), faceOf(record, job.photo)});
+            drawn.push_back({likenessOf(record), faceOf(record, job.photo)});
             faces.push_back(drawn.back().face);
         }
         drawn_ = std::move(drawn);
@@ -38,30 +38,12 @@ class StackFaces::Painter {
         MarkFace face;
     };
 
-    // The record without what its portrait does not show, so that a drag or a click on the eye draws nothing anew.
-    static Watermark likeness(Watermark record) {
-        const Watermark plain(record.Type);
-        record.Transparency = plain.Transparency;
-        record.Position = plain.Position;
-        record.CustomPositionLeft = record.CustomPositionTop = 0;
-        record.PaddingLeft = record.PaddingTop = record.PaddingRight = record.PaddingBottom = 0;
-        record.HorizontalSpacing = record.VerticalSpacing = 0;
-        for (auto share : {&Watermark::PaddingLeftShare, &Watermark::PaddingTopShare,
-                           &Watermark::PaddingRightShare, &Watermark::PaddingBottomShare,
-                           &Watermark::HorizontalSpacingShare, &Watermark::VerticalSpacingShare}) {
-            (record.*share).reset();
-        }
-        record.IsEnabled = plain.IsEnabled;
-        record.LabelName.clear();
-        return record;
-    }
-
     MarkFace faceOf(const Watermark& record, const std::optional<MacroContext>& photo) {
         const bool hasText = record.Type == watermark_type::Text || record.Type == watermark_type::QrCode;
         const QString text = !hasText ? QString()
                              : photo  ? ParseMacros(record.Text, *photo).text
                                       : record.Text;
-        const Watermark wanted = likeness(record);
+        const Watermark wanted = likenessOf(record);
         for (const Drawn& each : drawn_) {
             if (each.face.text == text && each.record == wanted) return each.face;
         }

@@ -6,6 +6,7 @@
 #include "persistence/copyright_file.h"
 #include "persistence/setting_file.h"
 #include "persistence/settings_library.h"
+#include "render/hand_edits.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -71,19 +72,21 @@ void switchMetadata(StackState& state, bool on) {
 WatermarkController::WatermarkController(WatermarkDocument& document, QObject* parent)
     : QObject(parent),
       document_(document),
-      model_(document, {.checked = [this](int row, bool on) { setRowsEnabled({row}, on); },
-                        .renamed = [this](int index, const QString& name) { renameWatermark(index, name); },
-                        .moved = [this](const std::vector<int>& indices,
-                                        int before) { MoveWatermarks(indices, before); },
-                        .dropped =
-                            [this](const QMimeData& data, int before) {
-                                const Result<std::vector<Watermark>> read = watermarksOf(data);
-                                if (read) insertWatermarks(*read, before, tr("Drop Watermarks"));
-                                return read.has_value();
-                            }}),
+      model_(
+          document,
+          {.checked = [this](int row, bool on) { setRowsEnabled({row}, on); },
+           .renamed = [this](int index, const QString& name) { renameWatermark(index, name); },
+           .moved = [this](const std::vector<int>& indices, int before) { MoveWatermarks(indices, before); },
+           .dropped =
+               [this](const QMimeData& data, int before) {
+                   const Result<std::vector<Watermark>> read = watermarksOf(data);
+                   if (read) insertWatermarks(besideOriginals(*read, {}), before, tr("Drop Watermarks"));
+                   return read.has_value();
+               }}),
       selection_(&model_) {
     connect(&model_, &QAbstractItemModel::rowsRemoved, this,
             [this](const QModelIndex&, int first) { keepARowSelected(first); });
+    connect(&document_, &WatermarkDocument::steppedThrough, this, &WatermarkController::selectWhatIsBack);
 }
 
 const Watermark& WatermarkController::GetWatermarkAtRow(int index) const {
@@ -139,6 +142,24 @@ void WatermarkController::keepARowSelected(int removedFrom) {
     if (selection_.hasSelection() || !selection_.currentIndex().isValid()) return;
     const int row = std::min(removedFrom, model_.rowCount() - 1);
     selection_.setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
+}
+
+// Undo and Redo show what they have changed. What has only been moved keeps its selection by itself.
+void WatermarkController::selectWhatIsBack(const StackState& before) {
+    const StackChange change = changeBetween(before, document_.state());
+    std::vector<int> changed = changedWatermarks(before, document_.state());
+    if (changed.empty()) {
+        const std::vector<int> selected = selectedWatermarks();
+        const bool isSeen = std::find_first_of(selected.begin(), selected.end(), change.records.begin(),
+                                               change.records.end()) != selected.end();
+        if (!isSeen) changed = change.records;
+    }
+    if (!changed.empty()) selectWatermarks(changed);
+    for (int row = 0; row < model_.rowOf(0) && changed.empty(); ++row) {
+        const bool isFilter = model_.kindOf(row) == WatermarkListModel::RowKind::Filter;
+        if (isFilter ? change.filter : change.metadata)
+            selection_.setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
+    }
 }
 
 Watermark WatermarkController::startingWatermark(std::int32_t type) {
@@ -366,9 +387,24 @@ std::vector<Watermark> WatermarkController::copiesOf(const std::vector<int>& ind
     return copies;
 }
 
-void WatermarkController::duplicateSelected() {
+// Whatever would lie exactly on a watermark there is could not be seen.
+std::vector<Watermark> WatermarkController::besideOriginals(std::vector<Watermark> copies,
+                                                            QSizeF area) const {
+    const std::vector<Watermark>& originals = document_.watermarks();
+    for (Watermark& copy : copies) {
+        while (std::find(originals.begin(), originals.end(), copy) != originals.end()) {
+            const Watermark there = copy;
+            stepAside(copy, area);
+            if (copy == there) break;
+        }
+    }
+    return copies;
+}
+
+void WatermarkController::duplicateSelected(QSizeF area) {
     const std::vector<Watermark> copies = copiesOf(selectedWatermarks());
-    if (!copies.empty()) insertWatermarks(copies, insertionPlace(), tr("Duplicate Watermark"));
+    if (copies.empty()) return;
+    insertWatermarks(besideOriginals(copies, area), insertionPlace(), tr("Duplicate Watermark"));
 }
 
 void WatermarkController::renameWatermark(int index, const QString& name) {
@@ -411,9 +447,9 @@ void WatermarkController::cutSelected() {
     });
 }
 
-Result<void> WatermarkController::paste(const QMimeData& data) {
-    return watermarksOf(data).map([this](const std::vector<Watermark>& watermarks) {
-        insertWatermarks(watermarks, insertionPlace(), tr("Paste Watermark"));
+Result<void> WatermarkController::paste(const QMimeData& data, QSizeF area) {
+    return watermarksOf(data).map([this, area](const std::vector<Watermark>& watermarks) {
+        insertWatermarks(besideOriginals(watermarks, area), insertionPlace(), tr("Paste Watermark"));
     });
 }
 

@@ -10,6 +10,7 @@
 
 #include <QItemSelectionModel>
 #include <QObject>
+#include <QSizeF>
 #include <QString>
 
 #include <optional>
@@ -98,8 +99,9 @@ class WatermarkController : public QObject {
     void MoveWatermarkDown() { moveSelected(1); }
     // Takes watermarks out of the list and puts them, in their order, before the one that is at `before` now.
     void MoveWatermarks(const std::vector<int>& indices, int before);
-    // Copies the selected watermarks to the place behind the last of them.
-    void duplicateSelected();
+    // Copies the selected watermarks to the place behind the last of them. `area` is what watermarks may take of the photo
+    // on show, in its pixels, empty without one: a copy does not lie on its original there.
+    void duplicateSelected(QSizeF area);
     // The user's own name for a watermark; an empty one lets the list name it again.
     void renameWatermark(int index, const QString& name);
     // Toggles the eye of a row.
@@ -116,8 +118,8 @@ class WatermarkController : public QObject {
     int insertionPlace() const;
     void copySelected() const;
     void cutSelected();
-    // Error: as watermarksOf.
-    Result<void> paste(const QMimeData& data);
+    // `area` as for duplicateSelected. Error: as watermarksOf.
+    Result<void> paste(const QMimeData& data, QSizeF area);
 
     // ---- the whole stack
 
@@ -147,6 +149,8 @@ class WatermarkController : public QObject {
     void keepARowSelected(int removedFrom);
     void moveSelected(int by);
     std::vector<Watermark> copiesOf(const std::vector<int>& indices) const;
+    std::vector<Watermark> besideOriginals(std::vector<Watermark> copies, QSizeF area) const;
+    void selectWhatIsBack(const StackState& before);
 
     WatermarkDocument& document_;
     WatermarkListModel model_;

@@ -18,7 +18,7 @@ constexpr int WarningSide = 18;
 constexpr double SecondLineSize = 0.85;  // of the font's
 constexpr double OffOpacity = 0.5;
 
-// The parts of a row, from left to right.
+// The parts of a row, in the direction of reading.
 struct RowPlaces {
     QRect eye;
     QRect portrait;
@@ -26,7 +26,7 @@ struct RowPlaces {
     QRect sign;
 };
 
-RowPlaces placesIn(const QRect& row, bool hasSign) {
+RowPlaces placesIn(const QRect& row, bool hasSign, Qt::LayoutDirection direction) {
     RowPlaces at;
     const auto middle = [&row](int left, int side) {
         return QRect(left, row.top() + (row.height() - side) / 2, side, side);
@@ -37,6 +37,8 @@ RowPlaces placesIn(const QRect& row, bool hasSign) {
     const int left = at.portrait.right() + 1 + Margin;
     const int right = hasSign ? at.sign.left() - Margin : row.right() - Margin;
     at.text = QRect(left, row.top(), right - left, row.height());
+    for (QRect* part : {&at.eye, &at.portrait, &at.text, &at.sign})
+        *part = QStyle::visualRect(direction, row, *part);
     return at;
 }
 
@@ -62,12 +64,13 @@ QSize WatermarkDelegate::sizeHint(const QStyleOptionViewItem& option, const QMod
     return {120, std::max(RowHeight, lines + Margin / 2)};
 }
 
-QRect WatermarkDelegate::eyeRect(const QRect& row) {
-    return placesIn(row, false).eye;
+QRect WatermarkDelegate::eyeRect(const QRect& row, Qt::LayoutDirection direction) {
+    return placesIn(row, false, direction).eye;
 }
 
-bool WatermarkDelegate::isOnEye(const QRect& row, QPoint point) {
-    return eyeRect(row).adjusted(-Margin, -Margin, Margin / 2, Margin).contains(point);
+bool WatermarkDelegate::isOnEye(const QRect& row, Qt::LayoutDirection direction, QPoint point) {
+    constexpr int Around = 6;
+    return eyeRect(row, direction).adjusted(-Around, -Around, Around, Around).contains(point);
 }
 
 void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
@@ -80,7 +83,7 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
     const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool warns = !index.data(WatermarkListModel::WarningRole).toString().isEmpty();
-    const RowPlaces at = placesIn(option.rect, warns);
+    const RowPlaces at = placesIn(option.rect, warns, option.direction);
     const QIcon::Mode mode = !option.state.testFlag(QStyle::State_Enabled) ? QIcon::Disabled
                              : isSelected                                  ? QIcon::Selected
                                                                            : QIcon::Normal;
@@ -117,7 +120,8 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
         color.setAlphaF(0.65F);
         painter->setPen(color);
         painter->setFont(small);
-        painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+        // What a record holds, such as a path, reads from left to right everywhere.
+        painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextForceLeftToRight,
                           smallMetrics.elidedText(label, Qt::ElideMiddle, line.width()));
     }
     painter->restore();
@@ -133,7 +137,7 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
 
 void WatermarkDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                              const QModelIndex& /*index*/) const {
-    QRect place = placesIn(option.rect, false).text;
+    QRect place = placesIn(option.rect, false, option.direction).text;
     const int height = std::min(place.height() - 2, editor->sizeHint().height());
     place.setTop(place.top() + (place.height() - height) / 2);
     place.setHeight(height);
@@ -147,7 +151,8 @@ bool WatermarkDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                           type == QEvent::MouseButtonDblClick;
     if (!isButton) return false;
     const auto* mouse = static_cast<QMouseEvent*>(event);
-    if (mouse->button() != Qt::LeftButton || !isOnEye(option.rect, mouse->pos())) return false;
+    if (mouse->button() != Qt::LeftButton || !isOnEye(option.rect, option.direction, mouse->pos()))
+        return false;
     if (type != QEvent::MouseButtonRelease) return true;
     const bool isOn = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
     return model->setData(index, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);

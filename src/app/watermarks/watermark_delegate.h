@@ -26,8 +26,8 @@ class WatermarkDelegate : public QStyledItemDelegate {
                               const QModelIndex& index) const override;
 
     // The eye of a row that is painted into `row`, and whether a click at `point` is meant for it.
-    static QRect eyeRect(const QRect& row);
-    static bool isOnEye(const QRect& row, QPoint point);
+    static QRect eyeRect(const QRect& row, Qt::LayoutDirection direction = Qt::LeftToRight);
+    static bool isOnEye(const QRect& row, Qt::LayoutDirection direction, QPoint point);
 
   private:
     QIcon warningIcon_;

@@ -3,6 +3,9 @@
 
 #include "app/common/change_value.h"
 
+#include <QScopedValueRollback>
+
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
@@ -30,6 +33,21 @@ StackChange changeBetween(const StackState& before, const StackState& after) {
     return change;
 }
 
+std::vector<int> changedWatermarks(const StackState& before, const StackState& after) {
+    std::vector<Watermark> old = before.Stack.Watermarks;
+    const std::vector<Watermark>& now = after.Stack.Watermarks;
+    std::vector<int> changed;
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        const auto same = std::find(old.begin(), old.end(), now[i]);
+        if (same == old.end()) {
+            changed.push_back(static_cast<int>(i));
+        } else {
+            old.erase(same);
+        }
+    }
+    return changed;
+}
+
 WatermarkDocument::WatermarkDocument(QObject* parent) : QObject(parent) {
     history_.setUndoLimit(HistoryLimit);
 }
@@ -42,10 +60,20 @@ std::shared_ptr<const WatermarkStack> WatermarkDocument::snapshot() const {
 bool WatermarkDocument::change(const QString& name, const Mutate& mutate, const QString& mergeKey) {
     StackState next = state_;
     mutate(next);
+    return push(name, std::move(next), mergeKey, false);
+}
+
+bool WatermarkDocument::push(const QString& name, StackState next, const QString& mergeKey,
+                             bool isOtherStack) {
     next.Stack.Metadata = next.Metadata && next.Metadata->Enabled;
     if (next == state_) return false;
-    history_.push(new ChangeValue<StackState>(
-        name, [this](const StackState& state) { apply(state); }, state_, std::move(next), mergeKey));
+    const auto take = [this, isOtherStack](const StackState& state) {
+        const StackState before = state_;
+        apply(state);
+        if (!isPushing_ && !isOtherStack) Q_EMIT steppedThrough(before);
+    };
+    const QScopedValueRollback pushing(isPushing_, true);
+    history_.push(new ChangeValue<StackState>(name, take, state_, std::move(next), mergeKey));
     return true;
 }
 
@@ -63,7 +91,7 @@ void WatermarkDocument::load(const QString& name, const StackState& state, const
     history_.beginMacro(name);
     history_.push(new ChangeValue<QString>(
         name, [this](const QString& path) { setSetting(path); }, setting_, setting));
-    change(name, [&state](StackState& now) { now = state; });
+    push(name, state, {}, true);
     history_.endMacro();
 }
 

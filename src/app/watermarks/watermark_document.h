@@ -40,6 +40,9 @@ struct StackChange {
 
 StackChange changeBetween(const StackState& before, const StackState& after);
 
+// The watermarks of `after`, ascending, that are not in `before`, neither there nor at another place.
+std::vector<int> changedWatermarks(const StackState& before, const StackState& after);
+
 class WatermarkDocument : public QObject {
     Q_OBJECT
 
@@ -81,15 +84,19 @@ class WatermarkDocument : public QObject {
 
   Q_SIGNALS:
     void changed(const zelto::StackChange& change);
+    // After changed(): the history went back, or forth again, by a step that was not the loading of another stack.
+    void steppedThrough(const zelto::StackState& before);
     void settingChanged();
 
   private:
+    bool push(const QString& name, StackState next, const QString& mergeKey, bool isOtherStack);
     void apply(const StackState& state);
     void announce(const StackChange& change);
 
     StackState state_;
     QString setting_;
     int currentWatermark_ = NoWatermark;
+    bool isPushing_ = false;  // a step is being done for the first time
     mutable std::shared_ptr<const WatermarkStack> snapshot_;
     QUndoStack history_;
 };

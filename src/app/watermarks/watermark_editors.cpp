@@ -40,6 +40,16 @@ WatermarkEditors::WatermarkEditors(WatermarkController& watermarks, const ImageL
         // What had no row may have one now.
         if (subject_ && watermarks_.selectedRow() < 0) selectRow(rowOf(subject_->kind));
     });
+    // Nor has a border, which Undo brings back.
+    connect(&watermarks_.document(), &WatermarkDocument::steppedThrough, this,
+            [this](const StackState& before) {
+                StackChange effects;
+                effects.effects = true;
+                const bool isAll = changeBetween(before, watermarks_.document().state()) == effects;
+                if (!isAll || !watermarks_.GetEffect() || !canOpen(EditorKind::Effects)) return;
+                watermarks_.selectWatermark(WatermarkDocument::NoWatermark);
+                set(Subject{EditorKind::Effects});
+            });
     connect(&watermarks_.document().history(), &QUndoStack::indexChanged, this, [this] {
         if (lastStep() != added_) added_ = nullptr;
     });

@@ -42,7 +42,7 @@ void WatermarkListView::keyPressEvent(QKeyEvent* event) {
 
 void WatermarkListView::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex row = indexAt(event->pos());
-    const bool isOnEye = WatermarkDelegate::isOnEye(visualRect(row), event->pos());
+    const bool isOnEye = WatermarkDelegate::isOnEye(visualRect(row), layoutDirection(), event->pos());
     QListView::mouseDoubleClickEvent(event);
     if (row.isValid() && !isOnEye && event->button() == Qt::LeftButton) Q_EMIT opened(row.row());
 }

@@ -29,13 +29,18 @@ QString tr(const char* text) {
     return WatermarkController::tr(text);
 }
 
+// What watermarks may take of the photo on show; empty without one.
+QSizeF areaOf(const PreviewView& preview) {
+    return preview.shown() ? QSizeF(preview.shown()->scene.referenceRect.size()) : QSizeF();
+}
+
 // ---- the clipboard
 
 void paste(const StackParts& parts) {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     if (data == nullptr) return;
     if (holdsWatermarks(*data)) {
-        const Result<void> pasted = parts.watermarks.paste(*data);
+        const Result<void> pasted = parts.watermarks.paste(*data, areaOf(parts.preview));
         if (!pasted) showAlert(&parts.window, tr("Paste Error"), pasted.error().message);
     } else if (!parts.addPhotos(*data)) {
         parts.tell(tr("There are neither watermarks nor photos on the clipboard."));
@@ -124,10 +129,11 @@ void connectStack(const StackParts& parts) {
     on(Act::RemoveWatermark, &WatermarkController::RemoveSelectedWatermarks);
     on(Act::RemoveAllWatermarks, &WatermarkController::RemoveAllWatermarks);
     on(Act::ToggleWatermark, &WatermarkController::toggleSelected);
-    on(Act::DuplicateWatermark, &WatermarkController::duplicateSelected);
     on(Act::Copy, &WatermarkController::copySelected);
     on(Act::Cut, &WatermarkController::cutSelected);
     actions.connectTo(Act::Paste, [parts] { paste(parts); });
+    actions.connectTo(Act::DuplicateWatermark,
+                      [parts] { parts.watermarks.duplicateSelected(areaOf(parts.preview)); });
     actions.connectTo(Act::RenameWatermark, [&list = parts.panel.list()] { list.renameSelected(); });
     actions.connectTo(Act::ChooseStack, [parts] { chooseStack(parts); });
     actions.connectTo(Act::LoadAtStart,

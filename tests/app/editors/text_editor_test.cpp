@@ -99,6 +99,7 @@ TEST_F(TextEditorTest, ANewTextLooksLikeTheLastOne) {
     EXPECT_EQ(record(2).Position, 3);
     for (auto field : {&Watermark::PaddingTop, &Watermark::PaddingBottom}) expected.*field = record(2).*field;
     expected.Position = 3;
+    std::swap(expected.PaddingTopShare, expected.PaddingBottomShare);
     EXPECT_EQ(record(2), expected);
 }
 

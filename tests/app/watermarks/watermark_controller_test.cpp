@@ -150,9 +150,16 @@ TEST_F(WatermarkControllerTest, ARowStaysSelectedWhateverHappensAroundIt) {
     for (const char* each : {"a", "b", "c", "d"}) add(startingText(QLatin1String(each)));
     watermarks.selectWatermark(1);
     const std::function<void()> changes[] = {
-        [this] { watermarks.AddFilter(3); },       [this] { watermarks.SetMetadata(CopyRightMetaData()); },
-        [this] { watermarks.RemoveWatermark(2); }, [this] { history().undo(); },
-        [this] { watermarks.RemoveWatermark(0); }, [this] { watermarks.RemoveWatermark(4); },
+        [this] { watermarks.AddFilter(3); },
+        [this] { watermarks.SetMetadata(CopyRightMetaData()); },
+        [this] { watermarks.RemoveWatermark(2); },
+        [this] {
+            history().undo();
+            EXPECT_EQ(selected(), QStringLiteral("a")) << "what Undo brings back is shown";
+            watermarks.selectWatermark(1);
+        },
+        [this] { watermarks.RemoveWatermark(0); },
+        [this] { watermarks.RemoveWatermark(4); },
     };
     for (const auto& change : changes) {
         change();
@@ -209,6 +216,15 @@ TEST_F(WatermarkControllerTest, SeveralRowsAreMovedCopiedAndRemovedInOneStepEach
         const std::unique_ptr<QMimeData> data(model.mimeData(watermarks.selection().selectedIndexes()));
         model.dropMimeData(data.get(), action, beforeRow, 0, {});
     };
+    const auto liesOnAnother = [this](int index) {
+        const auto& all = document.watermarks();
+        return std::count(all.begin(), all.end(), all.at(static_cast<std::size_t>(index))) > 1;
+    };
+    const auto showsOneOf = [this](const std::vector<int>& expected) {
+        const std::vector<int> selected = watermarks.selectedWatermarks();
+        return std::find_first_of(selected.begin(), selected.end(), expected.begin(), expected.end()) !=
+               selected.end();
+    };
     struct Row {
         const char* what;
         std::vector<int> selected;
@@ -226,14 +242,14 @@ TEST_F(WatermarkControllerTest, SeveralRowsAreMovedCopiedAndRemovedInOneStepEach
         {"dragged to the end", {0}, [&] { drag(Qt::MoveAction, -1); }, "bcda", {3}},
         {"dragged over the filter", {2}, [&] { drag(Qt::MoveAction, 0); }, "cabd", {0}},
         {"copied by a drag", {0}, [&] { drag(Qt::CopyAction, 3); }, "abacd", {2}},
-        {"duplicated", {0, 2}, [&] { watermarks.duplicateSelected(); }, "abcacd", {3, 4}},
+        {"duplicated", {0, 2}, [&] { watermarks.duplicateSelected({}); }, "abcacd", {3, 4}},
         {"cut", {1, 2}, [&] { watermarks.cutSelected(); }, "ad", {1}},
         {"pasted what was cut",
          {3},
-         [&] { watermarks.paste(*QGuiApplication::clipboard()->mimeData()); },
+         [&] { watermarks.paste(*QGuiApplication::clipboard()->mimeData(), {}); },
          "abcdbc",
          {4, 5}},
-        {"pasted from elsewhere", {0}, [&] { watermarks.paste(foreign); }, "axbcd", {1}},
+        {"pasted from elsewhere", {0}, [&] { watermarks.paste(foreign, {}); }, "axbcd", {1}},
         {"removed", {0, 3}, [&] { watermarks.RemoveSelectedWatermarks(); }, "bc", {0}},
         {"renamed",
          {1},
@@ -248,11 +264,15 @@ TEST_F(WatermarkControllerTest, SeveralRowsAreMovedCopiedAndRemovedInOneStepEach
         EXPECT_EQ(order().toStdString(), row.order) << row.what;
         EXPECT_EQ(watermarks.selectedWatermarks(), row.selectedThen) << row.what;
         EXPECT_EQ(history().index(), 1) << row.what;
+        for (const int i : row.selectedThen) EXPECT_FALSE(liesOnAnother(i)) << row.what;
+        const bool added = document.count() > 4;
+        if (!added) watermarks.selectWatermark(WatermarkDocument::NoWatermark);
         history().undo();
         EXPECT_EQ(order(), QStringLiteral("abcd")) << row.what;
+        EXPECT_TRUE(added || showsOneOf(row.selected)) << row.what << " and shown again";
     }
     foreign.setText(QStringLiteral("<WatermarkList/>"));
-    EXPECT_FALSE(watermarks.paste(foreign));
+    EXPECT_FALSE(watermarks.paste(foreign, {}));
 }
 
 TEST_F(WatermarkControllerTest, ARowOpensTheEditorOfItsKindOnItsRecord) {

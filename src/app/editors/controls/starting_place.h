@@ -9,7 +9,7 @@
 namespace zelto {
 
 // Puts a new record into a corner, or at another of the nine places, where no watermark of the stack stands yet, with
-// a margin of a fortieth of the shorter side of the photo.
+// a margin of a fortieth of the shorter side of every photo.
 void placeWhereSeen(Watermark& record, const EditorCall& call);
 
 }  // namespace zelto
