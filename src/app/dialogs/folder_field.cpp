@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/folder_field.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -21,6 +24,7 @@ FolderField::FolderField(const QString& chooserTitle, QWidget* parent)
     folders->setRootPath(QString());
     completer->setModel(folders);
     edit_->setCompleter(completer);
+    completer->popup()->installEventFilter(this);
     edit_->setLayoutDirection(Qt::LeftToRight);  // paths are the same everywhere
     edit_->setAccessibleName(tr("Folder"));
     setFocusProxy(edit_);
@@ -52,6 +56,18 @@ void FolderField::browse() {
     if (folder.isEmpty()) return;
     setPath(folder);
     Q_EMIT chosen(folder);
+}
+
+// Enter takes the folder that is chosen among the completions; with none, it means what it means in the field.
+bool FolderField::eventFilter(QObject* watched, QEvent* event) {
+    QAbstractItemView* popup = edit_->completer()->popup();
+    const bool isKey = watched == popup && event->type() == QEvent::KeyPress;
+    if (!isKey || popup->currentIndex().isValid()) return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Tab) return false;
+    popup->hide();
+    QCoreApplication::sendEvent(edit_, event);
+    return true;
 }
 
 }  // namespace zelto

@@ -31,6 +31,9 @@ class FolderField : public QWidget {
     // The chooser has put `path` into the field.
     void chosen(const QString& path);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     QString chooserTitle_;
     QLineEdit* edit_;

@@ -21,6 +21,8 @@
 
 #include <QDate>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -106,6 +108,10 @@ void OutputOptionsController::StartWatermarking() {
     OutputOptions options = shownSettings().options;
     // A box that the format hides must not decide about the folders.
     options.CombineToSinglePDF = output_->combines();
+    if (!options.OutputPath.isEmpty() && !QFileInfo::exists(options.OutputPath)) {
+        offerToCreate(options.OutputPath);
+        return;
+    }
     if (const auto problem = outputOptionsProblem(options)) {
         showAlert(this, problem->title, problem->text);
         OutputOptions unresized = options;
@@ -118,6 +124,26 @@ void OutputOptionsController::StartWatermarking() {
     rememberFolder(options.OutputPath);
     options_ = options;
     accept();
+}
+
+void OutputOptionsController::offerToCreate(const QString& folder) {
+    openMessageSheet(this,
+                     {QMessageBox::Question,
+                      tr("Create the Folder?"),
+                      tr("There is no folder “%1” yet.").arg(folder),
+                      {tr("&Create Folder"), tr("Cancel")},
+                      0,
+                      1},
+                     [this, folder](int answer) {
+                         output_->folder().setFocus();
+                         if (answer != 0) return;
+                         if (QDir().mkpath(folder)) {
+                             StartWatermarking();
+                         } else {
+                             showAlert(this, tr("Folder Not Created"),
+                                       tr("“%1” cannot be created.").arg(folder));
+                         }
+                     });
 }
 
 void OutputOptionsController::SetasDefault() {

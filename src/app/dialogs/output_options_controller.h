@@ -47,6 +47,7 @@ class OutputOptionsController : public QDialog {
     OutputSettings shownSettings() const;
     void display(const OutputSettings& settings);
     void follow();
+    void offerToCreate(const QString& folder);
     QString exampleName(const OutputOptions& options);
     void rememberFolder(const QString& folder) const;
 

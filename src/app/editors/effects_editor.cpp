@@ -47,7 +47,7 @@ class EffectsEditor : public ValuePage<std::optional<PhotoEffects>> {
   private:
     void edit(const Edit& edit);
     QWidget* makeBorder();
-    QLayout* makeThicknesses(QWidget* middle);
+    QLayout* makeThicknesses(QWidget* box);
     QWidget* makeShadow();
     QLayout* makeSides(QWidget* box);
     // Usable only while the photo has a shadow.
@@ -92,18 +92,17 @@ void EffectsEditor::edit(const Edit& edit) {
 QWidget* EffectsEditor::makeBorder() {
     auto* box = new QWidget(this);
     auto* same = named("SameBorder", new QCheckBox(tr("Same width on all sides"), box));
-    auto* color = named("BorderColor", new ColorWell(tr("Border colour"), box));
+    auto* unit = named("BorderUnit", new LengthUnit(tr("Unit of the border"), box));
+    QLayout* thicknesses = makeThicknesses(box);
     auto* over = named("ApplyWatermarkOnBorder", new QCheckBox(tr("Watermarks may cover the border"), box));
     binder_.bind(same, &PhotoEffects::SameBorder, setSameBorder);
-    binder_.bind(color, &PhotoEffects::BorderColor);
     binder_.bind(over, &PhotoEffects::ApplyWatermarkOnBorder);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
-    auto* unit = named("BorderUnit", new LengthUnit(tr("Unit of the border"), box));
     bindUnit(binder_, unit, length_field::Thicknesses);
     column->addWidget(same);
     column->addWidget(unit);
-    column->addLayout(makeThicknesses(color));
+    column->addLayout(thicknesses);
     column->addWidget(over);
     return box;
 }
@@ -118,7 +117,8 @@ constexpr Place AtLeft{1, 0};
 constexpr Place AtRight{1, 2};
 constexpr Place AtBottom{2, 1};
 
-QLayout* EffectsEditor::makeThicknesses(QWidget* middle) {
+// With the colour in the middle. Controls are made in the order the Tab key goes through them.
+QLayout* EffectsEditor::makeThicknesses(QWidget* box) {
     struct SideRow {
         const char* name;
         QString label;
@@ -133,7 +133,12 @@ QLayout* EffectsEditor::makeThicknesses(QWidget* middle) {
     };
     auto* grid = new QGridLayout;
     for (const SideRow& side : sides) {
-        auto* field = named(side.name, new LengthBox(Thickness, side.label, middle->parentWidget()));
+        if (side.thickness.Pixels == &PhotoEffects::RightThickness) {
+            auto* color = named("BorderColor", new ColorWell(tr("Border colour"), box));
+            binder_.bind(color, &PhotoEffects::BorderColor);
+            grid->addWidget(color, 1, 1, Qt::AlignCenter);
+        }
+        auto* field = named(side.name, new LengthBox(Thickness, side.label, box));
         field->setToolTip(side.label);
         grid->addWidget(field, side.place.row, side.place.column);
         bindLength(binder_, field, side.thickness,
@@ -144,7 +149,6 @@ QLayout* EffectsEditor::makeThicknesses(QWidget* middle) {
         if (side.thickness.Pixels == &PhotoEffects::TopThickness) continue;
         binder_.follow([field](const PhotoEffects& effects) { field->setEnabled(!effects.SameBorder); });
     }
-    grid->addWidget(middle, 1, 1, Qt::AlignCenter);
     return grid;
 }
 

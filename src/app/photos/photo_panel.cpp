@@ -60,6 +60,9 @@ PhotoPanel::PhotoPanel(ImageListController& photos, const QList<QAction*>& sorti
     rows->addLayout(heading);
     rows->addLayout(field);
     rows->addWidget(list_);
+    setTabOrder(filter_, sort);
+    setTabOrder(sort, find_);
+    setTabOrder(find_, list_);
 }
 
 void PhotoPanel::find() {

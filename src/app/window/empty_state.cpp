@@ -16,6 +16,7 @@ namespace {
 // A button that does what an action does and can be done when that can.
 QPushButton* makeButton(QAction* action, QWidget* parent) {
     auto* button = new QPushButton(action->icon(), QString(action->text()).remove(QLatin1Char('&')), parent);
+    button->setAutoDefault(true);  // Enter presses it, as Space does
     QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
     const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
     QObject::connect(action, &QAction::changed, button, follow);
@@ -53,7 +54,9 @@ EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder,
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(makeButton(addPhotos, this));
+    QPushButton* add = makeButton(addPhotos, this);
+    setFocusProxy(add);
+    buttons->addWidget(add);
     buttons->addWidget(makeButton(addFolder, this));
     buttons->addStretch();
 

@@ -17,6 +17,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <utility>
+
 namespace zelto {
 namespace {
 
@@ -30,27 +33,42 @@ bool hasOwnHistory(const QObject& field, bool redo) {
     return line != nullptr && (redo ? line->isRedoAvailable() : line->isUndoAvailable());
 }
 
-// Scrolls up and down only: it is never narrower than its page.
+// Scrolls up and down only, since it is never narrower than its page; but in a small window it may be.
 class PageArea : public QScrollArea {
   public:
     PageArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
         setWidgetResizable(true);
         setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setFocusPolicy(Qt::NoFocus);
         setWidget(page);
     }
 
     QSize minimumSizeHint() const override {
         constexpr int Height = 60;
-        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), Height};
+        constexpr int NarrowPage = 300;
+        const int page = widget()->minimumSizeHint().width();
+        return {std::min(page, isSmall() ? NarrowPage : page) + verticalScrollBar()->sizeHint().width(),
+                Height};
     }
 
   protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QScrollArea::resizeEvent(event);
+        if (std::exchange(wasSmall_, isSmall()) != isSmall()) updateGeometry();
+    }
+
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
         return QScrollArea::eventFilter(watched, event);
     }
+
+  private:
+    bool isSmall() const {
+        constexpr int SmallWindow = 720;
+        return window()->width() < SmallWindow;
+    }
+
+    bool wasSmall_ = false;
 };
 
 }  // namespace
@@ -127,6 +145,8 @@ EditorPage* Inspector::pageOf(EditorKind kind) {
 
 void Inspector::showSubject() {
     const std::optional<WatermarkEditors::Subject>& subject = editors_.subject();
+    const bool hadFocus =
+        page_ != nullptr && window()->focusWidget() != nullptr && isAncestorOf(window()->focusWidget());
     if (page_ != nullptr) page_->end();
     page_ = subject ? pageOf(subject->kind) : nullptr;
     if (page_ != nullptr) {
@@ -135,6 +155,7 @@ void Inspector::showSubject() {
         stack_->setCurrentWidget(page_->parentWidget()->parentWidget());
     } else {
         stack_->setCurrentIndex(0);
+        if (hadFocus) Q_EMIT left();
     }
     title_->setText(page_ != nullptr ? page_->windowTitle() : tr("Nothing selected"));
     showState();

@@ -32,7 +32,7 @@ class Inspector : public QWidget {
     void comeForward();
 
   Q_SIGNALS:
-    // Escape was pressed in a field: the keyboard is to go back to the list.
+    // Escape was pressed in a field, or the page went that had the keyboard: it is to go back to the list.
     void left();
 
   protected:

@@ -73,18 +73,18 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
       controller_(new ZeltoController(photos_, watermarks_, *preview_, shared, std::move(dialogs), this)),
       keeper_(new StackKeeper(watermarks_, shared, this)),
       mainView_(new MainView(this)),
+      start_(new QPushButton(this)),
+      result_(new ResultBar(this)),
+      processing_(new ProcessingBar(this)),
       photoPanel_(
           new PhotoPanel(photos_, {(*actions_)[Act::SortByName], (*actions_)[Act::SortByDate]}, this)),
       watermarkPanel_(new WatermarkPanel(watermarks_, editors_, *actions_, *keeper_, this)),
       inspector_(new Inspector(watermarks_, photos_, editors_, this)),
       faces_(
           new StackFaces(watermarks_, qRound(WatermarkDelegate::PortraitSide * devicePixelRatioF()), this)),
-      result_(new ResultBar(this)),
-      processing_(new ProcessingBar(this)),
       columns_(new QSplitter(this)),
       stackColumn_(new QSplitter(Qt::Vertical, this)),
       middle_(new QStackedWidget(this)),
-      start_(new QPushButton(this)),
       photoCount_(new QLabel(this)),
       zoom_(new QLabel(this)),
       undo_(document_.history().createUndoAction(this, tr("&Undo"))),
@@ -139,6 +139,7 @@ MainWindow::MainWindow(MyGlobalInstance& shared, DialogSet dialogs, EditorSet ed
     connect(keeper_, &StackKeeper::changed, this, &MainWindow::EnableDisableWatermarkControls);
     EnableDisableWatermarkControls();
     showStatus();
+    welcome_->setFocus();
 }
 
 MainWindow::~MainWindow() {
@@ -290,6 +291,7 @@ void MainWindow::layOut() {
     // It may be larger than a small screen has room for.
     auto* beginning = new QScrollArea(middle_);
     beginning->setFrameShape(QFrame::NoFrame);
+    beginning->setFocusPolicy(Qt::NoFocus);
     beginning->setWidgetResizable(true);
     beginning->setWidget(welcome_);
     middle_->addWidget(beginning);
@@ -313,7 +315,7 @@ void MainWindow::layOut() {
     columns_->setStretchFactor(1, 1);
     columns_->setChildrenCollapsible(false);
     columns_->setHandleWidth(1);
-    columns_->setSizes({260, 680, 340});
+    columns_->setSizes({260, 656, 364});
 
     auto* rows = new QVBoxLayout(mainView_);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -324,7 +326,6 @@ void MainWindow::layOut() {
     setCentralWidget(mainView_);
     // Tab follows the columns, however late their parts were made.
     setTabOrder(&photoList(), previewView_);
-    setTabOrder(previewView_, &watermarkList());
     statusBar()->addWidget(photoCount_, 1);
     statusBar()->addPermanentWidget(zoom_);
 }
@@ -353,13 +354,26 @@ void MainWindow::EnableDisableWatermarkControls() {
     setWindowTitle(keeper_->name().isEmpty() ? QStringLiteral("Zelto")
                                              : tr("%1[*] – Zelto").arg(keeper_->name()));
     setWindowModified(keeper_->isChanged());
-    middle_->setCurrentIndex(hasPhotos || showsSample ? 1 : 0);
+    showPage(hasPhotos, showsSample);
     photoPanel_->setReadOnly(isRunning_);
     stackColumn_->setEnabled(!isRunning_);
     if (isRunning_) pages_->showContacts(false);
     previewView_->setEnabled(!isRunning_);
     undo_->setEnabled(!isRunning_ && document_.history().canUndo());
     redo_->setEnabled(!isRunning_ && document_.history().canRedo());
+}
+
+// Whoever has answered the welcome with the keyboard goes on in the list that is no longer empty.
+void MainWindow::showPage(bool hasPhotos, bool showsSample) {
+    enum Page { Welcome, Picture };
+    const Page page = hasPhotos || showsSample ? Picture : Welcome;
+    if (page == middle_->currentIndex()) return;
+    const QWidget* focus = focusWidget();
+    const bool wasHere = focus == nullptr || middle_->isAncestorOf(focus);
+    middle_->setCurrentIndex(page);
+    if (!wasHere) return;
+    QWidget* lists[] = {&photoList(), &watermarkList()};
+    (page == Welcome ? welcome_ : lists[hasPhotos ? 0 : 1])->setFocus();
 }
 
 void MainWindow::EnableControls() {

@@ -73,6 +73,7 @@ class MainWindow : public QMainWindow {
 
     // Switches controls by whether there are photos, rows and a run.
     void EnableDisableWatermarkControls();
+    void showPage(bool hasPhotos, bool showsSample);
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -102,18 +103,19 @@ class MainWindow : public QMainWindow {
     ZeltoController* controller_;
     StackKeeper* keeper_;
     MainView* mainView_;
+    // Tab comes to these before the columns, and to a page of the inspector, which is made later, after them.
+    QPushButton* start_;
+    ResultBar* result_;
+    ProcessingBar* processing_;
     PhotoPanel* photoPanel_;
     WatermarkPanel* watermarkPanel_;
     Inspector* inspector_;
     StackFaces* faces_;
-    ResultBar* result_;
-    ProcessingBar* processing_;
     QSplitter* columns_;
     QSplitter* stackColumn_;
     QStackedWidget* middle_;
     EmptyState* welcome_ = nullptr;
     QWidget* sampleBar_ = nullptr;  // above the sample photo
-    QPushButton* start_;
     QLabel* photoCount_;
     QLabel* zoom_;
     QAction* undo_;

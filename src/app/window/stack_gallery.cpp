@@ -25,6 +25,7 @@ constexpr QSize PictureSize(150, 100);
 constexpr int Columns = 2;
 constexpr int RowsAtOnce = 3;
 constexpr int NameRole = Qt::UserRole;
+constexpr int Spacing = 8;  // between ready-made stacks
 
 QIcon pictureIcon(QImage picture, double ratio) {
     picture.setDevicePixelRatio(ratio);
@@ -38,12 +39,19 @@ QIcon blankIcon(QSize size, const QPalette& palette) {
     return QIcon(blank);
 }
 
-// Draws its pictures when it is first seen.
+// Draws its pictures when it is first seen. Where there is little room they get smaller, and the names stay.
 class ReadyMadeBlock : public QWidget {
   public:
-    ReadyMadeBlock(QSize pictureSize, QWidget* parent) : QWidget(parent), size_(pictureSize) {}
+    ReadyMadeBlock(QSize pictureSize, int columns, QWidget* parent)
+        : QWidget(parent), size_(pictureSize), columns_(columns) {}
 
     void add(QToolButton* button) { buttons_.push_back(button); }
+
+    QSize sizeHint() const override { return {QWidget::sizeHint().width(), heightWith(size_.height())}; }
+    QSize minimumSizeHint() const override {
+        constexpr int LeastPicture = 24;
+        return {QWidget::minimumSizeHint().width(), heightWith(LeastPicture)};
+    }
 
   protected:
     void showEvent(QShowEvent* event) override {
@@ -51,7 +59,20 @@ class ReadyMadeBlock : public QWidget {
         if (!std::exchange(isDrawn_, true)) drawNext(0);
     }
 
+    void resizeEvent(QResizeEvent* event) override {
+        QWidget::resizeEvent(event);
+        const int room = size_.height() - (heightWith(size_.height()) - height() + rows() - 1) / rows();
+        const int pictureHeight = std::clamp(room, 1, size_.height());
+        const QSize fitted(size_.width() * pictureHeight / size_.height(), pictureHeight);
+        for (QToolButton* button : buttons_) button->setIconSize(fitted);
+    }
+
   private:
+    int rows() const { return (static_cast<int>(buttons_.size()) + columns_ - 1) / columns_; }
+    int heightWith(int pictureHeight) const {
+        constexpr int Frame = 10;  // of a button, and between picture and name
+        return rows() * (pictureHeight + fontMetrics().height() + Frame) + (rows() - 1) * Spacing;
+    }
     void drawNext(std::size_t place) {
         if (place >= buttons_.size()) return;
         const double ratio = devicePixelRatioF();
@@ -65,6 +86,7 @@ class ReadyMadeBlock : public QWidget {
     }
 
     QSize size_;
+    int columns_;
     std::vector<QToolButton*> buttons_;
     bool isDrawn_ = false;
 };
@@ -162,10 +184,10 @@ void SavedStacksPopup::drawNext(int row) {
 
 QWidget* makeReadyMadeButtons(int columns, QSize pictureSize, const std::function<void(int place)>& chosen,
                               QWidget* parent) {
-    auto* block = new ReadyMadeBlock(pictureSize, parent);
+    auto* block = new ReadyMadeBlock(pictureSize, columns, parent);
     auto* grid = new QGridLayout(block);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(8);
+    grid->setSpacing(Spacing);
     int place = 0;
     for (const ReadyMadeStack& stack : readyMadeStacks()) {
         auto* button = new QToolButton(block);
@@ -177,6 +199,7 @@ QWidget* makeReadyMadeButtons(int columns, QSize pictureSize, const std::functio
         button->setAutoRaise(true);
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIconSize(pictureSize);
+        button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
         button->setIcon(blankIcon(pictureSize, block->palette()));
         QObject::connect(button, &QToolButton::clicked, block, [chosen, place] { chosen(place); });
         grid->addWidget(button, place / columns, place % columns);

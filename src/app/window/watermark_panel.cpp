@@ -40,7 +40,7 @@ WatermarkPanel::WatermarkPanel(WatermarkController& watermarks, WatermarkEditors
           2, QSize(108, 72), [&watermarks](int place) { watermarks.addReadyMade(place); },
           list_->viewport())) {
     auto* room = new QVBoxLayout(list_->viewport());
-    room->setContentsMargins(8, 40, 8, 8);  // below the words of the empty list
+    room->setContentsMargins(8, 38, 8, 2);  // below the words of the empty list
     room->addWidget(readyMade_);
     room->addStretch(1);
     readyMade_->hide();

@@ -88,6 +88,12 @@ TEST_F(OutputOptionsDialog, StartsOnceNothingIsMissingAndRemembersTheFolder) {
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_FALSE(dialog->getOptions());
+    open();
+    path().setText(out() + u"/new/one"_s);
+    QTest::keyClick(&path(), Qt::Key_Return);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    EXPECT_TRUE(QFileInfo(out() + u"/new/one"_s).isDir()) << "a folder that is not there can be made";
+    EXPECT_TRUE(dialog->getOptions());
 }
 
 TEST_F(OutputOptionsDialog, HandsOverWhatItShows) {

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <array>
 
 namespace zelto {
@@ -68,6 +69,7 @@ PositionGrid::PositionGrid(QWidget* parent) : QWidget(parent), cells_(new QButto
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(3, 1);
     connect(cells_, &QButtonGroup::idToggled, this, [this](int tag, bool on) {
+        keepOneTabStop();
         if (on) Q_EMIT chosen(tag);
     });
 }
@@ -76,13 +78,24 @@ void PositionGrid::load(int cell) {
     if (cell == cells_->checkedId() || (cell < 1 && cells_->checkedId() < 1)) return;
     const QSignalBlocker quiet(cells_);
     binding::show(*cells_, cell);
-    if (cells_->checkedId() > 0) return;
-    // Without a marked cell each can be reached with Tab.
-    for (QAbstractButton* button : cells_->buttons()) button->setFocusPolicy(Qt::StrongFocus);
+    keepOneTabStop();
 }
 
 void PositionGrid::enableCells(const PositionControls& controls) {
     for (int tag = 1; tag <= 9; ++tag) cells_->button(tag)->setEnabled(controls.hasCell(tag));
+    keepOneTabStop();
+}
+
+// The arrow keys go from cell to cell; Tab stops at the marked one or else at the first.
+void PositionGrid::keepOneTabStop() {
+    const QList<QAbstractButton*> cells = cells_->buttons();
+    const QAbstractButton* stop = cells_->checkedButton();
+    if (stop == nullptr) {
+        const auto first =
+            std::find_if(cells.begin(), cells.end(), [](const auto* cell) { return cell->isEnabled(); });
+        if (first != cells.end()) stop = *first;
+    }
+    for (QAbstractButton* cell : cells) cell->setFocusPolicy(cell == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace zelto

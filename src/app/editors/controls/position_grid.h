@@ -27,6 +27,8 @@ class PositionGrid : public QWidget {
     void chosen(int cell);
 
   private:
+    void keepOneTabStop();
+
     QButtonGroup* cells_;
 };
 

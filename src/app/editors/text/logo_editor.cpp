@@ -25,7 +25,7 @@ LogoEditor::LogoEditor(WatermarkController& controller)
     content.setContent(file);
     addLook([this, file](QWidget* parent) { return new LogoGroup(binder(), file->sample(), parent); });
     addPlaceAndTiling();
-    setFocusProxy(file->focusProxy());
+    setFocusProxy(file->start());
 }
 
 void addLogo(const EditorCall& call) {

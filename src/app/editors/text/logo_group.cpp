@@ -77,23 +77,24 @@ void startLogoSize(Watermark& logo, QSizeF photo) {
 
 // Controls are made in the order the eye and the Tab key go through them.
 LogoFileGroup::LogoFileGroup(RecordBinder<Watermark>& binder, QWidget* parent)
-    : QWidget(parent), binder_(binder), path_(named("ImagePath", new QLineEdit(this))), sample_(nullptr) {
+    : QWidget(parent),
+      binder_(binder),
+      path_(named("ImagePath", new QLineEdit(this))),
+      choose_(named("SelectImage", new QPushButton(tr("Choose…"), this))),
+      sample_(new LogoSample(this)) {
     path_->setReadOnly(true);
     path_->setPlaceholderText(tr("No image chosen"));
     path_->setAccessibleName(tr("Image"));
-    auto* choose = named("SelectImage", new QPushButton(tr("Choose…"), this));
-    choose->setAutoDefault(false);
-    setFocusProxy(choose);
-    sample_ = new LogoSample(this);
+    choose_->setAutoDefault(false);
     sample_->setFixedHeight(fontMetrics().height() * 7);
     auto* row = new QHBoxLayout;
     row->addWidget(path_, 1);
-    row->addWidget(choose);
+    row->addWidget(choose_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(row);
     column->addWidget(sample_);
-    connect(choose, &QPushButton::clicked, this, &LogoFileGroup::SelectImageWatermark);
+    connect(choose_, &QPushButton::clicked, this, &LogoFileGroup::SelectImageWatermark);
     binder_.follow([this](const Watermark& record) {
         sample_->load(record);
         const QString path = QDir::toNativeSeparators(record.ImagePath);

@@ -34,12 +34,15 @@ class LogoFileGroup : public QWidget {
     explicit LogoFileGroup(RecordBinder<Watermark>& binder, QWidget* parent = nullptr);
 
     LogoSample& sample() { return *sample_; }
+    // The control to begin with. As a focus proxy it would have Tab pass over those before it.
+    QWidget* start() { return choose_; }
 
   private:
     void SelectImageWatermark();
 
     RecordBinder<Watermark>& binder_;
     QLineEdit* path_;
+    QPushButton* choose_;
     LogoSample* sample_;
 };
 
