@@ -30,7 +30,7 @@ ContactView::ContactView(std::function<PhotoRequest(int)> requestFor, QWidget* p
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(120, 90);
+    setMinimumSize(100, 80);
     setAccessibleName(tr("Contact view"));
     const auto cellOf = [this](int place) -> Cell* {
         const auto index = static_cast<std::size_t>(place);

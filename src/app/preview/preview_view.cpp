@@ -37,7 +37,7 @@ PreviewView::PreviewView(QWidget* parent) : QAbstractScrollArea(parent) {
     viewport()->grabGesture(Qt::PinchGesture);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Preview"));
-    setMinimumSize(120, 90);
+    setMinimumSize(100, 80);
 }
 
 void PreviewView::apply(const PreviewUpdate& update) {
