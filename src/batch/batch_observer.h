@@ -6,6 +6,7 @@
 
 #include "batch/jpeg_way.h"
 #include "platform/result.h"
+#include "platform/words.h"
 #include "records/photo_warning.h"
 
 #include <QLatin1String>
@@ -18,20 +19,23 @@
 
 namespace zelto {
 
-inline constexpr QLatin1String WatermarkingFailedMessage("Watermarking failed.");
+inline constexpr MarkedText WatermarkingFailedMessage(QT_TRANSLATE_NOOP("Words", "Watermarking failed."));
 
 // The question after three failures in a row; its buttons are "OK" and "No".
-inline constexpr QLatin1String SuccessiveFailTitle("Successive Fail");
-inline constexpr QLatin1String SuccessiveFailText(
-    "3 Photos in a row failed to save, Would you like to  continue watermarking?\n"
-    "We recommend stopping the process and run as administrator.\n"
-    "Select No to stop watermarking.");
+inline constexpr MarkedText SuccessiveFailTitle(QT_TRANSLATE_NOOP("Words", "Successive Fail"));
+inline constexpr MarkedText SuccessiveFailText(
+    QT_TRANSLATE_NOOP("Words",
+                      "3 Photos in a row failed to save, Would you like to  continue watermarking?\n"
+                      "We recommend stopping the process and run as administrator.\n"
+                      "Select No to stop watermarking."));
 
-inline constexpr QLatin1String SummaryTitle("Watermark Output");
-inline constexpr QLatin1String SuccessSummary("Watermark process completed successfully");
-inline constexpr QLatin1String FailureSummary(
-    "Watermark process completed but some Photos produced Error\n"
-    "Double Click the Image Entry to know the problem");
+inline constexpr MarkedText SummaryTitle(QT_TRANSLATE_NOOP("Words", "Watermark Output"));
+inline constexpr MarkedText SuccessSummary(QT_TRANSLATE_NOOP("Words",
+                                                             "Watermark process completed successfully"));
+inline constexpr MarkedText FailureSummary(
+    QT_TRANSLATE_NOOP("Words",
+                      "Watermark process completed but some Photos produced Error\n"
+                      "Double Click the Image Entry to know the problem"));
 
 // How one photo ended.
 struct PhotoOutcome {

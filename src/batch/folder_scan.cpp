@@ -3,6 +3,7 @@
 
 #include "pictures/picture_names.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -79,8 +80,7 @@ class Scan {
         }
         if (error) {
             const QString reason = QString::fromStdString(error.message());
-            scan_.problems.push_back(
-                {shownFolder, QStringLiteral("the folder cannot be read: %1").arg(reason)});
+            scan_.problems.push_back({shownFolder, Words::tr("the folder cannot be read: %1").arg(reason)});
         }
         std::sort(entries.begin(), entries.end(),
                   [](const Entry& a, const Entry& b) { return a.name < b.name; });
@@ -94,7 +94,7 @@ class Scan {
         }
         std::error_code error;
         if (entry.type == std::filesystem::file_type::symlink && !std::filesystem::exists(entry.path, error))
-            scan_.problems.push_back({photo, QStringLiteral("the link leads nowhere")});
+            scan_.problems.push_back({photo, Words::tr("the link leads nowhere")});
     }
 
     bool goesOn() const { return !goesOn_ || goesOn_(scan_.photos.size()); }
@@ -129,8 +129,7 @@ Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, con
                               const ScanGoesOn& goesOn) {
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isReadable() || !info.isExecutable()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("The folder “%1” cannot be read.").arg(folder),
-                    folder);
+        return fail(ErrorCode::NotFound, Words::tr("The folder “%1” cannot be read.").arg(folder), folder);
     }
     Scan scan(includeSubFolders, extensionList, goesOn);
     scan.visit(QFile::encodeName(folder).toStdString(), folder);

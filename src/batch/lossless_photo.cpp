@@ -3,6 +3,7 @@
 
 #include "batch/output_size.h"
 #include "pictures/jpeg_rewriter.h"
+#include "platform/words.h"
 #include "render/composition.h"
 #include "render/photo_effects.h"
 #include "render/photo_filters.h"
@@ -13,10 +14,10 @@ namespace {
 // Why all pixels of a photo of `size` change; null where they do not.
 QString changeOfAll(QSize size, const WatermarkStack& stack, const OutputOptions& options) {
     if (GetFilterName(stack.SelectedFilter) != GetFilterName(0))
-        return QStringLiteral("A filter changes the whole photo.");
+        return Words::tr("A filter changes the whole photo.");
     if (stack.Effects && sizeWithEffects(size, *stack.Effects) != size)
-        return QStringLiteral("A border or a shadow is put around it.");
-    if (outputSize(size, options) != size) return QStringLiteral("It is resized.");
+        return Words::tr("A border or a shadow is put around it.");
+    if (outputSize(size, options) != size) return Words::tr("It is resized.");
     return {};
 }
 

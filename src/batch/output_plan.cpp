@@ -5,6 +5,7 @@
 #include "batch/output_name.h"
 #include "platform/file_identity.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <QHash>
 #include <QSet>
@@ -137,7 +138,7 @@ class Planner {
             case NameRule::Skip:
             case NameRule::Fail:
                 refuse(plan_.outputs[row], request_.names.existing,
-                       QStringLiteral("“%1” exists already").arg(wanted));
+                       Words::tr("“%1” exists already").arg(wanted));
                 break;
         }
     }
@@ -145,8 +146,7 @@ class Planner {
     static void refuse(PlannedOutput& output, NameRule rule, const QString& reason) {
         const bool skips = rule == NameRule::Skip;
         output.fate = skips ? PlannedOutput::Fate::Skip : PlannedOutput::Fate::Fail;
-        output.reason =
-            (skips ? QStringLiteral("Left out: %1.") : QStringLiteral("Not written: %1.")).arg(reason);
+        output.reason = (skips ? Words::tr("Left out: %1.") : Words::tr("Not written: %1.")).arg(reason);
     }
 
     // Takes the first number that is free, or that this very photo had before. No number below the last one tried for a name ever becomes free.
@@ -186,7 +186,7 @@ class Planner {
 
 PhotoWarning sameNameWarning() {
     return {-1, QStringLiteral("same-name"),
-            QStringLiteral("The output takes the place of an earlier photo's of the same name.")};
+            Words::tr("The output takes the place of an earlier photo's of the same name.")};
 }
 
 OutputPlan planOutputs(const BatchRequest& request, const QDateTime& now) {

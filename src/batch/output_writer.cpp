@@ -11,6 +11,7 @@
 #include "pictures/resample.h"
 #include "platform/path_parts.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 #include "render/composition.h"
 #include "render/effect_diagnostics.h"
 #include "render/photo_effects.h"
@@ -50,7 +51,7 @@ bool isWrittenAsAnotherKind(const PhotoTask& task, const OutputOptions& options)
 
 PhotoWarning anotherKindWarning(const PhotoTask& task) {
     return {-1, QStringLiteral("format"),
-            QStringLiteral("Files of the kind “%1” are not written here: the output is a JPEG.")
+            Words::tr("Files of the kind “%1” are not written here: the output is a JPEG.")
                 .arg(pathExtension(lastPathComponent(task.source)).toLower())};
 }
 
@@ -60,7 +61,7 @@ Metadata givenOrWarned(PreparedPhoto& photo, Result<Metadata> metadata) {
     if (metadata) return *std::move(metadata);
     photo.warnings.push_back(
         {-1, QStringLiteral("metadata"),
-         QStringLiteral("The photo was written without its metadata: %1").arg(metadata.error().message)});
+         Words::tr("The photo was written without its metadata: %1").arg(metadata.error().message)});
     return {};
 }
 
@@ -127,16 +128,15 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
     const OutputOptions& options = settings_.options;
     if (!format) {
         return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("“%1” has no extension of a format that can be written.").arg(task.output),
+                    Words::tr("“%1” has no extension of a format that can be written.").arg(task.output),
                     task.output);
     }
     const QSize size = outputSize(scene->photoSize, options);
     if (size.isEmpty() || pixelCount(size) > MaximumPicturePixels) {
-        return fail(ErrorCode::InvalidValue,
-                    QStringLiteral("A size of %1 × %2 pixels cannot be written.")
-                        .arg(size.width())
-                        .arg(size.height()),
-                    task.source);
+        return fail(
+            ErrorCode::InvalidValue,
+            Words::tr("A size of %1 × %2 pixels cannot be written.").arg(size.width()).arg(size.height()),
+            task.source);
     }
 
     PreparedPhoto photo;

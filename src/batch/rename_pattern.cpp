@@ -3,6 +3,7 @@
 
 #include "macros/photo_macros.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <array>
 
@@ -25,34 +26,36 @@ struct NameParts {
 
 struct NameMacro {
     QLatin1String token;
-    const char* label;
+    MarkedText label;
     QString (*text)(const NameParts&);
 };
 
 // In the order they are filled in.
 constexpr std::array NameMacros = {
-    NameMacro{"[O]"_L1, "Original name", [](const NameParts& parts) { return parts.original; }},
-    NameMacro{"[#]"_L1, "Number", [](const NameParts& parts) { return parts.number; }},
-    NameMacro{"[##]"_L1, "Number, two digits",
+    NameMacro{"[O]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Original name")),
+              [](const NameParts& parts) { return parts.original; }},
+    NameMacro{"[#]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Number")),
+              [](const NameParts& parts) { return parts.number; }},
+    NameMacro{"[##]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Number, two digits")),
               [](const NameParts& parts) { return AdjustLength(parts.number, 2); }},
-    NameMacro{"[###]"_L1, "Number, three digits",
+    NameMacro{"[###]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Number, three digits")),
               [](const NameParts& parts) { return AdjustLength(parts.number, 3); }},
-    NameMacro{"[####]"_L1, "Number, four digits",
+    NameMacro{"[####]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Number, four digits")),
               [](const NameParts& parts) { return AdjustLength(parts.number, 4); }},
-    NameMacro{"[D]"_L1, "Date: month, day, year",
+    NameMacro{"[D]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Date: month, day, year")),
               [](const NameParts& parts) { return parts.month + parts.day + parts.year; }},
-    NameMacro{"[DD]"_L1, "Date: day, month, year",
+    NameMacro{"[DD]"_L1, MarkedText(QT_TRANSLATE_NOOP("Words", "Date: day, month, year")),
               [](const NameParts& parts) { return parts.day + parts.month + parts.year; }},
 };
 
 // Of the macros of texts, those worth a place in a menu.
-constexpr std::array<std::pair<const char*, const char*>, 6> TextMacros = {{
-    {"<<EXIF:DateTimeOriginal[Y-M-D]>>", "Date taken"},
-    {"<<EXIF:DateTimeOriginal[H-N-S]>>", "Time taken"},
-    {"<<IPTC:ObjectName>>", "Title"},
-    {"<<IPTC:City>>", "City"},
-    {"<<PHOTOWIDTH>>", "Photo width"},
-    {"<<PHOTOHEIGHT>>", "Photo height"},
+constexpr std::array<std::pair<const char*, MarkedText>, 6> TextMacros = {{
+    {"<<EXIF:DateTimeOriginal[Y-M-D]>>", MarkedText(QT_TRANSLATE_NOOP("Words", "Date taken"))},
+    {"<<EXIF:DateTimeOriginal[H-N-S]>>", MarkedText(QT_TRANSLATE_NOOP("Words", "Time taken"))},
+    {"<<IPTC:ObjectName>>", MarkedText(QT_TRANSLATE_NOOP("Words", "Title"))},
+    {"<<IPTC:City>>", MarkedText(QT_TRANSLATE_NOOP("Words", "City"))},
+    {"<<PHOTOWIDTH>>", MarkedText(QT_TRANSLATE_NOOP("Words", "Photo width"))},
+    {"<<PHOTOHEIGHT>>", MarkedText(QT_TRANSLATE_NOOP("Words", "Photo height"))},
 }};
 
 QString filledBrackets(QString text, const NameParts& parts) {
@@ -84,9 +87,8 @@ QString asValue(const QString& printed) {
 
 QList<Macro> renameMacros() {
     QList<Macro> macros;
-    for (const NameMacro& macro : NameMacros) macros.append({macro.token, QString::fromLatin1(macro.label)});
-    for (const auto& [token, label] : TextMacros)
-        macros.append({QString::fromLatin1(token), QString::fromLatin1(label)});
+    for (const NameMacro& macro : NameMacros) macros.append({macro.token, macro.label});
+    for (const auto& [token, label] : TextMacros) macros.append({QString::fromLatin1(token), label});
     return macros;
 }
 

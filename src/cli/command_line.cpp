@@ -8,7 +8,6 @@
 
 #include <array>
 
-#define TEXT(text) QT_TRANSLATE_NOOP("zelto::Words", text)
 
 namespace zelto {
 namespace {
@@ -55,33 +54,33 @@ Complaint contradiction(const CommandLine& line) {
 ProgramManual makeManual() {
     ProgramManual manual{
         .program = "zelto-batch",
-        .summary = TEXT("stamps the watermarks of a saved setting onto photos"),
+        .summary = QT_TRANSLATE_NOOP("Words", "stamps the watermarks of a saved setting onto photos"),
         .arguments = "PHOTO_OR_FOLDER...",
         .examples = {{"zelto-batch --setting Holiday --output out photos",
-                      TEXT("the photos of a folder, with the saved setting “Holiday”")},
+                      QT_TRANSLATE_NOOP("Words", "the photos of a folder, with the saved setting “Holiday”")},
                      {"zelto-batch -s logo.zcs -o web -f jpg --longest-side 1600 --keep-aspect --rename "
                       "'[O]_web' *.tif",
-                      TEXT("smaller JPEG copies under new names, with a setting file")},
+                      QT_TRANSLATE_NOOP("Words", "smaller JPEG copies under new names, with a setting file")},
                      {"zelto-batch -s Holiday -o out -r --keep-structure --dry-run ~/Pictures",
-                      TEXT("what a whole tree of folders would become, without writing anything")},
+                      QT_TRANSLATE_NOOP("Words", "what a whole tree of folders would become, without writing anything")},
                      {"zelto-batch -s Proof -o out -f pdf --combine-pdf photos",
-                      TEXT("one PDF, a page a photo")},
+                      QT_TRANSLATE_NOOP("Words", "one PDF, a page a photo")},
                      {"zelto-batch -s Holiday -o out --watch inbox",
-                      TEXT("every photo that is put into the folder “inbox”, until Ctrl+C")},
+                      QT_TRANSLATE_NOOP("Words", "every photo that is put into the folder “inbox”, until Ctrl+C")},
                      {"zelto-batch -s Holiday -o /shared/out --shard 2/8 --json /shared/photos",
-                      TEXT("the third of eight parts of one batch, each on a machine of its own")}},
+                      QT_TRANSLATE_NOOP("Words", "the third of eight parts of one batch, each on a machine of its own")}},
         .groups = {},
         .sections =
-            {{TEXT("Exit status"),
-              TEXT("0: all photos were written; warnings do not change it.\n"
+            {{QT_TRANSLATE_NOOP("Words", "Exit status"),
+              QT_TRANSLATE_NOOP("Words", "0: all photos were written; warnings do not change it.\n"
                    "1: some photos failed, or repeated failures stopped the run; with --doctor: something is "
                    "missing.\n"
                    "2: the command line or a named file cannot be used, and nothing was written.\n"
                    "130: interrupted. The photo in hand is finished first, and a second interrupt ends the "
                    "program "
                    "at once. This is how --watch ends, too. No file is ever left half-written.")},
-             {TEXT("Environment"),
-              TEXT("NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar "
+             {QT_TRANSLATE_NOOP("Words", "Environment"),
+              QT_TRANSLATE_NOOP("Words", "NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar "
                    "where "
                    "the second is “dumb” or missing, or where standard error is no terminal.\n"
                    "ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard auto "
@@ -89,7 +88,7 @@ ProgramManual makeManual() {
                    "XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.\n"
                    "TMPDIR: where temporary files go, instead of /tmp.\n"
                    "ZELTO_EXIFTOOL: another exiftool program than the one that is found.")},
-             {TEXT("Files"), TEXT("~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.\n"
+             {QT_TRANSLATE_NOOP("Words", "Files"), QT_TRANSLATE_NOOP("Words", "~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.\n"
                                   "~/.local/share/Zelto/Copyright.xml: your copyright data.\n"
                                   "A run changes none of them.")}},
         .seeAlso = "zelto"};

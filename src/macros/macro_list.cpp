@@ -2,6 +2,7 @@
 #include "macros/macro_list.h"
 
 #include "metadata/windows1252.h"
+#include "platform/words.h"
 
 #include <algorithm>
 #include <iterator>
@@ -10,24 +11,35 @@ namespace zelto {
 namespace {
 
 struct FixedRow {
-    QLatin1String text;
+    MarkedText text;
     QLatin1String name;
     MacroAction action;
 };
 
 constexpr FixedRow FixedRows[] = {
-    {QLatin1String("Auto Number"), QLatin1String(""), MacroAction::OpenAutoNumber},
-    {QLatin1String("Today's Date"), QLatin1String("<<TODAYDATE>>"), MacroAction::OpenDateFormat},
-    {QLatin1String("Image Name (Without Extension)"), QLatin1String("<<IMGNAME>>"), MacroAction::InsertToken},
-    {QLatin1String("Image Name (With Extension)"), QLatin1String("<<IMGNAMEEXT>>"), MacroAction::InsertToken},
-    {QLatin1String("Folder Name"), QLatin1String("<<FOLDER>>"), MacroAction::InsertToken},
-    {QLatin1String("Full Image Path"), QLatin1String("<<FULLPATH>>"), MacroAction::InsertToken},
-    {QLatin1String("Creation Date"), QLatin1String("<<CREATEDATE>>"), MacroAction::OpenDateFormat},
-    {QLatin1String("Modification Date"), QLatin1String("<<MODDATE>>"), MacroAction::OpenDateFormat},
-    {QLatin1String("Photo Width"), QLatin1String("<<PHOTOWIDTH>>"), MacroAction::InsertToken},
-    {QLatin1String("Photo Height"), QLatin1String("<<PHOTOHEIGHT>>"), MacroAction::InsertToken},
-    {QLatin1String("Photo DPI Width"), QLatin1String("<<PHOTODPIX>>"), MacroAction::InsertToken},
-    {QLatin1String("Photo DPI Height"), QLatin1String("<<PHOTODPIY>>"), MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Auto Number")), QLatin1String(""), MacroAction::OpenAutoNumber},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Today's Date")), QLatin1String("<<TODAYDATE>>"),
+     MacroAction::OpenDateFormat},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Image Name (Without Extension)")), QLatin1String("<<IMGNAME>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Image Name (With Extension)")), QLatin1String("<<IMGNAMEEXT>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Folder Name")), QLatin1String("<<FOLDER>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Full Image Path")), QLatin1String("<<FULLPATH>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Creation Date")), QLatin1String("<<CREATEDATE>>"),
+     MacroAction::OpenDateFormat},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Modification Date")), QLatin1String("<<MODDATE>>"),
+     MacroAction::OpenDateFormat},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Photo Width")), QLatin1String("<<PHOTOWIDTH>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Photo Height")), QLatin1String("<<PHOTOHEIGHT>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Photo DPI Width")), QLatin1String("<<PHOTODPIX>>"),
+     MacroAction::InsertToken},
+    {MarkedText(QT_TRANSLATE_NOOP("Words", "Photo DPI Height")), QLatin1String("<<PHOTODPIY>>"),
+     MacroAction::InsertToken},
 };
 
 constexpr QLatin1String DateKeys[] = {

@@ -2,6 +2,7 @@
 #include "metadata/exiftool_pool.h"
 
 #include "platform/application_folders.h"
+#include "platform/words.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -55,8 +56,8 @@ void ExiftoolPool::giveBack(std::unique_ptr<ExiftoolProcess> process) {
     freed_.notify_one();
 }
 
-tl::unexpected<Error> ExiftoolPool::failed(const QString& what) const {
-    return fail(ErrorCode::ProgramFailed, QStringLiteral("“%1” %2.").arg(program_, what), program_);
+tl::unexpected<Error> ExiftoolPool::failed(const QString& why) const {
+    return fail(ErrorCode::ProgramFailed, why.arg(program_), program_);
 }
 
 void ExiftoolPool::warmUp() {
@@ -79,12 +80,12 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
             qCWarning(exiftoolLog, "exiftool is missing (“%s”): outputs are written without metadata.",
                       qUtf8Printable(program_));
         });
-        return failed(QStringLiteral("is missing"));
+        return failed(Words::tr("“%1” is missing."));
     }
     if (timeOuts_ >= MostTimeOuts)
-        return failed(QStringLiteral("was given up after it had not answered twice"));
+        return failed(Words::tr("“%1” was given up after it had not answered twice."));
     if (deadline(Clock::now() + timeout) <= Clock::now())
-        return failed(QStringLiteral("was not given the time"));
+        return failed(Words::tr("“%1” was not given the time."));
     const int number = [this] {
         const std::lock_guard lock(mutex_);
         return ++lastNumber_;
@@ -93,7 +94,7 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
     if (!command) return tl::unexpected(command.error());
 
     auto process = take();
-    Result<QString> result = failed(QStringLiteral("ended while it was needed"));
+    Result<QString> result = failed(Words::tr("“%1” ended while it was needed."));
     for (int attempt = 0; attempt < 2; ++attempt) {
         if (!process) {
             Result<std::unique_ptr<ExiftoolProcess>> started = ExiftoolProcess::start(program_);
@@ -113,7 +114,7 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
         process.reset();
         if (answer.error() == ExiftoolProcess::Failure::TimedOut) {
             if (interrupted_.load() == Clock::duration()) ++timeOuts_;
-            result = failed(QStringLiteral("did not answer in time"));
+            result = failed(Words::tr("“%1” did not answer in time."));
             break;
         }
     }

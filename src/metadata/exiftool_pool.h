@@ -49,7 +49,7 @@ class ExiftoolPool {
     std::unique_ptr<ExiftoolProcess> take();
     Clock::time_point deadline(Clock::time_point asked) const;
     void giveBack(std::unique_ptr<ExiftoolProcess> process);
-    tl::unexpected<Error> failed(const QString& what) const;
+    tl::unexpected<Error> failed(const QString& why) const;
 
     const QString program_;
     std::once_flag missingIsLogged_;

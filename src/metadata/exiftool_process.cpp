@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "metadata/exiftool_process.h"
 
+#include "platform/words.h"
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -118,8 +120,7 @@ Result<QByteArray> exiftoolCommand(const QStringList& arguments, int number) {
         } else if (isPlainLine(argument)) {
             lines += argument;
         } else {
-            return fail(ErrorCode::InvalidValue,
-                        QStringLiteral("exiftool cannot be told “%1”.").arg(argument));
+            return fail(ErrorCode::InvalidValue, Words::tr("exiftool cannot be told “%1”.").arg(argument));
         }
     }
     lines += QStringLiteral("-execute%1\n").arg(number);
@@ -129,8 +130,7 @@ Result<QByteArray> exiftoolCommand(const QStringList& arguments, int number) {
 Result<std::unique_ptr<ExiftoolProcess>> ExiftoolProcess::start(const QString& program) {
     const auto failed = [&program](int code) {
         return fail(ErrorCode::ProgramFailed,
-                    QStringLiteral("“%1” cannot be started: %2").arg(program, qt_error_string(code)),
-                    program);
+                    Words::tr("“%1” cannot be started: %2").arg(program, qt_error_string(code)), program);
     };
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return failed(errno);

@@ -9,6 +9,7 @@
 #include "pictures/picture_kind.h"
 #include "platform/kept_file.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 #include "records/output_options.h"
 
 #include <QFile>
@@ -65,7 +66,7 @@ class StandInFile {
         if (missesSource(*answer) || (!answer->contains(QLatin1String("1 image files updated")) &&
                                       !answer->contains(QLatin1String("1 image files unchanged")))) {
             return fail(ErrorCode::ProgramFailed,
-                        QStringLiteral("exiftool did not write the metadata: %1").arg(excerpt(*answer)));
+                        Words::tr("exiftool did not write the metadata: %1").arg(excerpt(*answer)));
         }
         return readWholeFile(path_);
     }
@@ -101,11 +102,10 @@ MetadataFaults faultsOf(const QByteArray& filled, const MetadataRequest& request
 // What neither the list nor the second command may have left in the file.
 Result<QByteArray> withoutSecrets(QByteArray filled, const MetadataRequest& request) {
     if (request.exifDataToInclude == exif_data::ExcludeGeolocation && holdsPosition(filled))
-        return fail(ErrorCode::ProgramFailed,
-                    QStringLiteral("exiftool did not remove the photo's position."));
+        return fail(ErrorCode::ProgramFailed, Words::tr("exiftool did not remove the photo's position."));
     if (holdsPictureAsText(metadataOf(filled)))
         return fail(ErrorCode::ProgramFailed,
-                    QStringLiteral("exiftool did not remove a picture from the photo's metadata."));
+                    Words::tr("exiftool did not remove a picture from the photo's metadata."));
     return filled;
 }
 
@@ -186,7 +186,7 @@ Result<MetadataBlocks> MetadataTransfer::blocksFor(const QImage& picture, Metada
         .and_then([](const QByteArray& file) -> Result<MetadataBlocks> {
             if (!webpChunks(file))
                 return fail(ErrorCode::ProgramFailed,
-                            QStringLiteral("exiftool left a file that is not the one it was given."));
+                            Words::tr("exiftool left a file that is not the one it was given."));
             return MetadataBlocks{exifOfWebp(file).toByteArray(), xmpOfWebp(file).toByteArray()};
         });
 }

@@ -4,6 +4,7 @@
 #include "metadata/jpeg_segments.h"
 #include "metadata/tiff_entries.h"
 #include "metadata/webp_chunks.h"
+#include "platform/words.h"
 
 #include <algorithm>
 #include <array>
@@ -113,7 +114,7 @@ QByteArray standIn(const QByteArray& output) {
 
 Result<QByteArray> withMetadataOf(const QByteArray& filled, const QByteArray& output) {
     const auto unusable = fail(ErrorCode::ProgramFailed,
-                               QStringLiteral("exiftool left a file that is not the picture it was given."));
+                               Words::tr("exiftool left a file that is not the picture it was given."));
     const std::optional<JpegParts> parts = jpegParts(output);
     if (!parts) return isSameTiffPicture(output, filled) ? Result<QByteArray>(filled) : unusable;
     const std::optional<JpegParts> filledParts = jpegParts(filled);

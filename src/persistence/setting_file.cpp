@@ -3,6 +3,7 @@
 
 #include "persistence/xml_fields.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 
 #include <QRegularExpression>
 
@@ -284,7 +285,9 @@ Result<WatermarkStack> readSettingDocument(const QByteArray& document, const QSt
     for (const XmlElement& element : root->children) {
         if (element.name == WatermarkName) {
             std::optional<Watermark> w = readWatermark(element);
-            if (!w) return failAtLine(name, element.line, u"a watermark's type is missing or no number"_s);
+            if (!w)
+                return failAtLine(name, element.line,
+                                  Words::tr("a watermark's type is missing or no number"));
             stack.Watermarks.push_back(*std::move(w));
         } else if (element.name == EffectsName) {
             FieldReader fields(element);
@@ -314,7 +317,8 @@ Result<void> writeSettingFile(const WatermarkStack& stack, const QString& path) 
     const QByteArray document = writeSettingDocument(stack);
     if (document.size() > MaximumXmlSize) {
         return fail(ErrorCode::CannotWrite,
-                    u"“%1” was not written: the logos are too large for a setting file."_s.arg(path), path);
+                    Words::tr("“%1” was not written: the logos are too large for a setting file.").arg(path),
+                    path);
     }
     return writeWholeFile(path, document);
 }

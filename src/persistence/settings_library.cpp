@@ -4,6 +4,7 @@
 #include "persistence/setting_file.h"
 #include "persistence/xml_document.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,8 +34,7 @@ QString settingName(const QString& fileName) {
 Result<QStringList> settingFiles(const QString& folder) {
     const QDir directory(folder);
     if (!directory.exists() || !directory.isReadable()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("The folder “%1” cannot be read.").arg(folder),
-                    folder);
+        return fail(ErrorCode::NotFound, Words::tr("The folder “%1” cannot be read.").arg(folder), folder);
     }
     QStringList files = directory.entryList(QDir::Files | QDir::Hidden, QDir::Name);
     files.removeIf([](const QString& file) { return !isSettingFileName(file); });
@@ -62,7 +62,7 @@ Result<qsizetype> copySettings(const QString& source, const QString& target) {
     if (const auto targetFiles = settingFiles(target); !targetFiles)
         return tl::unexpected(targetFiles.error());
     if (QFileInfo(source).canonicalFilePath() == QFileInfo(target).canonicalFilePath()) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("The settings are already in “%1”.").arg(target),
+        return fail(ErrorCode::InvalidValue, Words::tr("The settings are already in “%1”.").arg(target),
                     target);
     }
     QStringList taken = takenNames(target);
@@ -104,7 +104,7 @@ Result<QStringList> SettingsLibrary::names() const {
 Result<QString> SettingsLibrary::path(const QString& name) const {
     const auto isForbidden = [](QChar c) { return c == u'/' || c == u'\\' || c.isNull(); };
     if (name.isEmpty() || std::any_of(name.cbegin(), name.cend(), isForbidden)) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("A setting cannot be named “%1”.").arg(name));
+        return fail(ErrorCode::InvalidValue, Words::tr("A setting cannot be named “%1”.").arg(name));
     }
     const QDir directory(folder_);
     const QString usual = directory.filePath(name + SettingFileExtension);
@@ -125,11 +125,11 @@ Result<void> SettingsLibrary::remove(const QString& name) const {
     if (!found) return tl::unexpected(found.error());
     QFile file(*found);
     if (!QFileInfo(*found).isFile()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no setting “%1”.").arg(name), *found);
+        return fail(ErrorCode::NotFound, Words::tr("There is no setting “%1”.").arg(name), *found);
     }
     if (!file.remove()) {
         return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("The setting “%1” cannot be deleted: %2").arg(name, file.errorString()),
+                    Words::tr("The setting “%1” cannot be deleted: %2").arg(name, file.errorString()),
                     *found);
     }
     return {};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/xml_document.h"
 
+#include "platform/words.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
@@ -107,8 +109,8 @@ class TreeBuilder {
 
   private:
     QString open(const QXmlStreamReader& reader) {
-        if (++elements_ > MaximumElements) return QStringLiteral("the file holds too many elements");
-        if (open_.size() >= MaximumDepth) return QStringLiteral("the elements are nested too deeply");
+        if (++elements_ > MaximumElements) return Words::tr("the file holds too many elements");
+        if (open_.size() >= MaximumDepth) return Words::tr("the elements are nested too deeply");
         const QXmlStreamAttributes attributes = reader.attributes();
         open_.push_back({{reader.name().toString(),
                           typeAttribute(attributes),
@@ -159,9 +161,9 @@ struct Refusal {
 };
 
 Refusal refusal(const QByteArray& document) {
-    if (document.size() > MaximumXmlSize) return {QStringLiteral("the file is too large")};
+    if (document.size() > MaximumXmlSize) return {Words::tr("the file is too large")};
     const qsizetype zero = document.indexOf('\0');
-    if (zero >= 0) return {QStringLiteral("the file is not UTF-8 text"), zero};
+    if (zero >= 0) return {Words::tr("the file is not UTF-8 text"), zero};
     struct Section {
         QByteArrayView start, end;
     };
@@ -176,11 +178,11 @@ Refusal refusal(const QByteArray& document) {
         if (section != Sections.end()) {
             end = document.indexOf(section->end, at + section->start.size());
         } else if (rest.startsWith("<!")) {
-            return {QStringLiteral("a document type declaration is not accepted"), at};
+            return {Words::tr("a document type declaration is not accepted"), at};
         } else {
             end = endOfTag(document, at);
             if ((end < 0 ? document.size() : end) - at > MaximumTagSize) {
-                return {QStringLiteral("a tag is too long"), at};
+                return {Words::tr("a tag is too long"), at};
             }
         }
         if (end < 0) break;  // cut short, which the parser words better
@@ -232,27 +234,27 @@ Result<XmlElement> readXml(const QByteArray& document, QLatin1String root, const
     XmlElement element = tree.takeRoot();
     if (element.name.compare(root, Qt::CaseInsensitive) != 0) {
         return failAtLine(fileName, element.line,
-                          QStringLiteral("the file's root is “%1” instead of “%2”").arg(element.name, root));
+                          Words::tr("the file's root is “%1” instead of “%2”").arg(element.name, root));
     }
     return element;
 }
 
 Result<QByteArray> readXmlFile(const QString& path) {
     if (!QFileInfo(path).isFile()) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file “%1”.").arg(path), path);
+        return fail(ErrorCode::NotFound, Words::tr("There is no file “%1”.").arg(path), path);
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return fail(ErrorCode::InvalidFile,
-                    QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()), path);
+                    Words::tr("“%1” cannot be read: %2").arg(path, file.errorString()), path);
     }
-    if (file.size() > MaximumXmlSize) return failAtLine(path, 1, QStringLiteral("the file is too large"));
+    if (file.size() > MaximumXmlSize) return failAtLine(path, 1, Words::tr("the file is too large"));
     return file.readAll();
 }
 
 tl::unexpected<Error> failAtLine(const QString& fileName, qint64 line, const QString& what) {
     return fail(ErrorCode::InvalidFile,
-                QStringLiteral("%1, line %2: %3").arg(fileName, QString::number(line), what), fileName);
+                Words::tr("%1, line %2: %3").arg(fileName, QString::number(line), what), fileName);
 }
 
 bool toBool(const QString& text, bool fallback) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
+#include "platform/words.h"
 
 #include <gif_lib.h>
 #include <libimagequant.h>
@@ -106,10 +107,10 @@ bool writeGif(GifFileType* gif, PaletteImage& image, int width, int height) {
 
 Result<QByteArray> encodeGif(const QImage& picture, const EncodeOptions&) {
     const auto failed = [](const QString& reason) {
-        return fail(ErrorCode::CannotWrite, QStringLiteral("The GIF encoder failed: %1").arg(reason));
+        return fail(ErrorCode::CannotWrite, Words::tr("The GIF encoder failed: %1").arg(reason));
     };
     std::optional<PaletteImage> image = withPalette(picture);
-    if (!image) return failed(QStringLiteral("no palette could be made"));
+    if (!image) return failed(Words::tr("no palette could be made"));
     QByteArray bytes;
     int error = 0;
     GifFileType* const gif = EGifOpen(&bytes, write, &error);

@@ -3,6 +3,7 @@
 #include "pictures/heif_decoder.h"
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
+#include "platform/words.h"
 
 namespace zelto {
 
@@ -27,11 +28,11 @@ bool canEncodeHeic() {
 }
 
 Result<QByteArray> encodeAvif(const QImage&, const EncodeOptions&) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("This Zelto was built without an AVIF encoder."));
+    return fail(ErrorCode::CannotWrite, Words::tr("This Zelto was built without an AVIF encoder."));
 }
 
 Result<QByteArray> encodeHeic(const QImage&, const EncodeOptions&) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("This Zelto was built without a HEIC encoder."));
+    return fail(ErrorCode::CannotWrite, Words::tr("This Zelto was built without a HEIC encoder."));
 }
 
 }  // namespace zelto

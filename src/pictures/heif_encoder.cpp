@@ -3,6 +3,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
 #include "pictures/picture_rows.h"
+#include "platform/words.h"
 
 #include <QThread>
 
@@ -117,7 +118,7 @@ Result<QByteArray> encode(const QImage& picture, const EncodeOptions& options, c
         return encoded(picture, options, codec);
     } catch (const HeifFailure& failure) {
         return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("The %1 encoder failed: %2")
+                    Words::tr("The %1 encoder failed: %2")
                         .arg(QLatin1String(codec.name), QString::fromStdString(failure.message)));
     }
 }

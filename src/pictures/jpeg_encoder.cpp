@@ -2,6 +2,7 @@
 #include "pictures/jpeg_compressor.h"
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
+#include "platform/words.h"
 
 #include <algorithm>
 #include <utility>
@@ -70,8 +71,7 @@ Result<QByteArray> encode(const QImage& picture, const EncodeOptions& options,
     JpegCompressor compressor;
     if (compressor.guarded([&](jpeg_compress_struct& codec) { compress(codec, job); }))
         return compressor.takeFile();
-    return fail(ErrorCode::CannotWrite,
-                QStringLiteral("The JPEG encoder failed: %1").arg(compressor.message()));
+    return fail(ErrorCode::CannotWrite, Words::tr("The JPEG encoder failed: %1").arg(compressor.message()));
 }
 
 }  // namespace

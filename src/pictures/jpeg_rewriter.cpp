@@ -10,6 +10,7 @@
 #include "pictures/picture_file.h"
 #include "pictures/picture_kind.h"
 #include "pictures/resolution.h"
+#include "platform/words.h"
 
 #include <QFile>
 #include <QPainter>
@@ -35,7 +36,7 @@ tl::unexpected<Error> unsuited(const QString& why) {
 }
 
 tl::unexpected<Error> unreadable() {
-    return fail(ErrorCode::Damaged, QStringLiteral("The photo's data cannot be taken over as they are."));
+    return fail(ErrorCode::Damaged, Words::tr("The photo's data cannot be taken over as they are."));
 }
 
 bool hasPlainColors(const jpeg_decompress_struct& file) {
@@ -61,17 +62,16 @@ bool hasPlainSteps(const jpeg_decompress_struct& file) {
 // lie inside the photo. With a single component a block is a unit.
 std::optional<QString> turningTrouble(const JpegGeometry& stored, const Turn& turn) {
     const QSize unit = stored.components.size() == 1 ? QSize(DCTSIZE, DCTSIZE) : stored.unit;
-    const auto trouble = [](const char* side, int length, int step) {
-        return QStringLiteral(
-                   "It cannot be turned without loss: its stored %1, %2 pixels, is no multiple of %3.")
-            .arg(QLatin1String(side))
-            .arg(length)
-            .arg(step);
-    };
     if (turn.reversesX && stored.size.width() % unit.width() != 0)
-        return trouble("width", stored.size.width(), unit.width());
+        return Words::tr(
+                   "It cannot be turned without loss: its stored width, %1 pixels, is no multiple of %2.")
+            .arg(stored.size.width())
+            .arg(unit.width());
     if (turn.reversesY && stored.size.height() % unit.height() != 0)
-        return trouble("height", stored.size.height(), unit.height());
+        return Words::tr(
+                   "It cannot be turned without loss: its stored height, %1 pixels, is no multiple of %2.")
+            .arg(stored.size.height())
+            .arg(unit.height());
     return std::nullopt;
 }
 
@@ -151,13 +151,13 @@ class JpegRewriter::Work {
 
 Result<void> JpegRewriter::Work::begin() {
     if (pictureKindOf(device_->peek(PictureKindBytes)) != PictureKind::Jpeg)
-        return unsuited(QStringLiteral("The photo is no JPEG."));
+        return unsuited(Words::tr("The photo is no JPEG."));
     if (!file_.readHeader()) return unreadable();
     const jpeg_decompress_struct& info = file_.info();
     if (!hasPlainColors(info))
-        return unsuited(QStringLiteral("Its colours are stored in another way than as YCbCr or grey."));
+        return unsuited(Words::tr("Its colours are stored in another way than as YCbCr or grey."));
     if (!hasPlainSteps(info)) return unreadable();
-    if (!hasWholeSampling(info)) return unsuited(QStringLiteral("Its colours are sampled in broken steps."));
+    if (!hasWholeSampling(info)) return unsuited(Words::tr("Its colours are sampled in broken steps."));
     turn_ = turnOf(file_.exif().orientation);
     stored_ = JpegGeometry::of(info);
     geometry_ = stored_.turned(turn_);
@@ -174,7 +174,7 @@ Result<void> JpegRewriter::Work::begin() {
     if (ColorTransform::toSrgb(profile_, SourcePixels::Bgrx8)) {
         fromSrgb_ = ColorTransform::fromSrgb(profile_);
         if (!fromSrgb_)
-            return unsuited(QStringLiteral("Its colour profile does not say how to come to its colours."));
+            return unsuited(Words::tr("Its colour profile does not say how to come to its colours."));
     }
     std::tie(dpiX_, dpiY_) = file_.resolution();
     dpiX_ = intendedDpi(dpiX_);

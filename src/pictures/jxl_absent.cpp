@@ -3,6 +3,7 @@
 #include "pictures/jxl_decoder.h"
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
+#include "platform/words.h"
 
 namespace zelto {
 
@@ -19,7 +20,7 @@ std::optional<Picture> decodeJxl(QIODevice&) {
 }
 
 Result<QByteArray> encodeJxl(const QImage&, const EncodeOptions&) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("This Zelto was built without a JPEG XL encoder."));
+    return fail(ErrorCode::CannotWrite, Words::tr("This Zelto was built without a JPEG XL encoder."));
 }
 
 }  // namespace zelto

@@ -3,6 +3,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
 #include "pictures/picture_memory.h"
+#include "platform/words.h"
 
 #include <jxl/encode.h>
 
@@ -107,7 +108,7 @@ Result<QByteArray> encodeJxl(const QImage& picture, const EncodeOptions& options
     const JxlEncoderError error = JxlEncoderGetError(encoder.get());
     if (error == JXL_ENC_ERR_OOM) throw std::bad_alloc();
     return fail(ErrorCode::CannotWrite,
-                QStringLiteral("The JPEG XL encoder failed with error %1.").arg(static_cast<int>(error)));
+                Words::tr("The JPEG XL encoder failed with error %1.").arg(static_cast<int>(error)));
 }
 
 const char* jxlLibrary() {

@@ -5,6 +5,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 
 #include <QIODevice>
 
@@ -77,7 +78,7 @@ QByteArray deflatedAlpha(const QImage& picture) {
 
 Result<PdfPage> encodePdfPage(const QImage& picture) {
     if (picture.isNull()) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("A picture without pixels cannot be a page."));
+        return fail(ErrorCode::InvalidValue, Words::tr("A picture without pixels cannot be a page."));
     }
     Result<QByteArray> colours = encodeJpegColours(picture, PictureQuality);
     if (!colours) return tl::unexpected(std::move(colours.error()));
@@ -119,7 +120,7 @@ Result<void> PdfDocument::addPage(const PdfPage& page) {
 
 Result<void> PdfDocument::finish() {
     if (pages_.empty()) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("A PDF document needs at least one page."));
+        return fail(ErrorCode::InvalidValue, Words::tr("A PDF document needs at least one page."));
     }
     begin(PageTreeObject);
     write("<< /Type /Pages /Count " + QByteArray::number(pageCount()) + " /Kids [");
@@ -163,7 +164,7 @@ void PdfDocument::writeStream(int object, const QByteArray& dictionary, const QB
 Result<void> PdfDocument::outcome() const {
     if (!failed_) return {};
     return fail(ErrorCode::CannotWrite,
-                QStringLiteral("The PDF document cannot be written: %1").arg(out_.errorString()));
+                Words::tr("The PDF document cannot be written: %1").arg(out_.errorString()));
 }
 
 }  // namespace zelto

@@ -2,6 +2,7 @@
 #include "pictures/picture_file.h"
 
 #include "pictures/picture_reader.h"
+#include "platform/words.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,7 +16,7 @@ Result<void> openPictureFile(QFile& file) {
     const int descriptor =
         ::open(QFile::encodeName(file.fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
-        return fail(ErrorCode::NotFound, QStringLiteral("There is no file “%1”.").arg(file.fileName()));
+        return fail(ErrorCode::NotFound, Words::tr("There is no file “%1”.").arg(file.fileName()));
     }
     struct stat status {};
     if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&

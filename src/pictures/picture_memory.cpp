@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_memory.h"
 
+#include "platform/words.h"
+
 #include <sys/mman.h>
 
 #include <cstdlib>
@@ -34,7 +36,7 @@ QImage converted(QImage picture) {
 }
 
 tl::unexpected<Error> outOfMemory(const QString& path) {
-    return fail(ErrorCode::OutOfMemory, QStringLiteral("There is not enough memory for this picture."), path);
+    return fail(ErrorCode::OutOfMemory, Words::tr("There is not enough memory for this picture."), path);
 }
 
 }  // namespace zelto

@@ -3,6 +3,7 @@
 
 #include "pictures/picture_reader.h"
 #include "platform/machine_limits.h"
+#include "platform/words.h"
 
 #include <algorithm>
 
@@ -32,8 +33,8 @@ Result<void> checkMemory(qint64 memory, qint64 fileBytes) {
     if (memory <= allowed) return {};
     constexpr qint64 Megabyte = qint64{1} << 20;
     return fail(ErrorCode::Damaged,
-                QStringLiteral("This picture would take %1 MB of memory. No more than %2 MB are used "
-                               "for one from a file of this size on this machine.")
+                Words::tr("This picture would take %1 MB of memory. No more than %2 MB are used "
+                          "for one from a file of this size on this machine.")
                     .arg(memory / Megabyte)
                     .arg(allowed / Megabyte));
 }

@@ -15,6 +15,7 @@
 #include "pictures/raw_decoder.h"
 #include "pictures/tiff_decoder.h"
 #include "pictures/webp_decoder.h"
+#include "platform/words.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -73,12 +74,12 @@ Result<const Decoder*> decoderOf(QIODevice& device) {
     device.seek(0);
     if (kind == PictureKind::Drawing) {
         return fail(ErrorCode::Damaged,
-                    QStringLiteral("This is a drawing (SVG, PDF or PostScript). Zelto reads photos and other "
-                                   "pictures made of pixels: save it as PNG."));
+                    Words::tr("This is a drawing (SVG, PDF or PostScript). Zelto reads photos and other "
+                              "pictures made of pixels: save it as PNG."));
     }
     const auto* optional = std::ranges::find(OptionalKinds, kind, &OptionalKind::kind);
     if (optional != std::end(OptionalKinds) && optional->library() == nullptr) {
-        return fail(ErrorCode::Damaged, QStringLiteral("This Zelto was built without a reader of %1 files.")
+        return fail(ErrorCode::Damaged, Words::tr("This Zelto was built without a reader of %1 files.")
                                             .arg(QLatin1String(optional->name)));
     }
     const auto* found = std::ranges::find(Decoders, kind, &Decoder::kind);

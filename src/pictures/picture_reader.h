@@ -21,6 +21,7 @@
 #pragma once
 
 #include "platform/result.h"
+#include "platform/words.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -43,8 +44,8 @@ struct Picture {
 inline constexpr qint64 MaximumPicturePixels = qint64{1} << 30;
 
 // What a user is told of a picture that is broken or of no known kind.
-inline constexpr QLatin1String DamagedPictureMessage(
-    "Image may be damaged or use a file format not supported by Zelto.");
+inline constexpr MarkedText DamagedPictureMessage(
+    QT_TRANSLATE_NOOP("Words", "Image may be damaged or use a file format not supported by Zelto."));
 
 // Errors of all functions below: ErrorCode::NotFound where there is no such file; ErrorCode::Damaged with the message
 // above, or with one of its own for drawings and for pictures that need more memory than they may;

@@ -4,6 +4,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
 #include "pictures/picture_memory.h"
+#include "platform/words.h"
 
 #include <algorithm>
 #include <array>
@@ -99,11 +100,11 @@ Result<QByteArray> encodePicture(const QImage& picture, PictureFormat format, co
     const FormatEntry& entry = Formats[static_cast<std::size_t>(format)];
     const QSize size = picture.size();
     if (size.isEmpty())
-        return fail(ErrorCode::InvalidValue, QStringLiteral("A picture without pixels cannot be written."));
+        return fail(ErrorCode::InvalidValue, Words::tr("A picture without pixels cannot be written."));
     if (std::max(size.width(), size.height()) > entry.maximumSide ||
         qint64{size.width()} * size.height() > entry.maximumBytes / entry.bytesPerPixel) {
         return fail(ErrorCode::InvalidValue,
-                    QStringLiteral("A picture of %1 × %2 pixels is too large for the %3 format.")
+                    Words::tr("A picture of %1 × %2 pixels is too large for the %3 format.")
                         .arg(size.width())
                         .arg(size.height())
                         .arg(QLatin1String(entry.name)));

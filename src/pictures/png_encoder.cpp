@@ -2,6 +2,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
 #include "pictures/resolution.h"
+#include "platform/words.h"
 
 #include <png.h>
 #include <zlib.h>
@@ -76,7 +77,7 @@ Result<QByteArray> encodePng(const QImage& picture, const EncodeOptions& options
     png_destroy_write_struct(&codec, &info);
     if (!done) {
         return fail(ErrorCode::CannotWrite,
-                    QStringLiteral("The PNG encoder failed: %1").arg(QLatin1String(output.message.data())));
+                    Words::tr("The PNG encoder failed: %1").arg(QLatin1String(output.message.data())));
     }
     return output.bytes;
 }

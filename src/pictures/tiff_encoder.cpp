@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_rows.h"
+#include "platform/words.h"
 
 #include <tiffio.h>
 
@@ -136,7 +137,7 @@ Result<QByteArray> encodeTiff(const QImage& picture, const EncodeOptions& option
     }
     tiff.reset();
     if (!done)
-        return fail(ErrorCode::CannotWrite, QStringLiteral("The TIFF encoder failed: %1").arg(file.message));
+        return fail(ErrorCode::CannotWrite, Words::tr("The TIFF encoder failed: %1").arg(file.message));
     return file.bytes;
 }
 

@@ -3,6 +3,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
 #include "pictures/webp_decoder.h"
+#include "platform/words.h"
 
 namespace zelto {
 
@@ -19,7 +20,7 @@ std::optional<Picture> decodeWebp(QIODevice&) {
 }
 
 Result<QByteArray> encodeWebp(const QImage&, const EncodeOptions&) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("This Zelto was built without a WebP encoder."));
+    return fail(ErrorCode::CannotWrite, Words::tr("This Zelto was built without a WebP encoder."));
 }
 
 }  // namespace zelto

@@ -2,6 +2,7 @@
 #include "pictures/picture_encoders.h"
 #include "pictures/picture_libraries.h"
 #include "pictures/picture_memory.h"
+#include "platform/words.h"
 
 #include <webp/encode.h>
 #include <webp/mux.h>
@@ -15,7 +16,7 @@ constexpr int LossyMethod = 4;    // of 6; the ones above cost twice the time fo
 constexpr int LosslessLevel = 1;  // of 9
 
 Result<QByteArray> failed(int code) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("The WebP encoder failed with error %1.").arg(code));
+    return fail(ErrorCode::CannotWrite, Words::tr("The WebP encoder failed with error %1.").arg(code));
 }
 
 int append(const std::uint8_t* data, std::size_t size, const WebPPicture* picture) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/application_folders.h"
 
+#include "platform/words.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -17,8 +19,7 @@ QString directoryPath(QStandardPaths::StandardLocation kind, const QString& rela
 Result<QString> findOrCreateDirectory(QStandardPaths::StandardLocation kind, const QString& relativePath) {
     const QString path = directoryPath(kind, relativePath);
     if (!QDir().mkpath(path)) {
-        return fail(ErrorCode::CannotWrite, QStringLiteral("The folder “%1” cannot be made.").arg(path),
-                    path);
+        return fail(ErrorCode::CannotWrite, Words::tr("The folder “%1” cannot be made.").arg(path), path);
     }
     return path + u'/';
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/kept_file.h"
 
+#include "platform/words.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -10,7 +12,7 @@ namespace zelto {
 Result<KeptFile> KeptFile::keep(const QString& path) {
     auto file = std::make_unique<QFile>(path);
     if (!QFileInfo(path).isFile() || !file->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return fail(ErrorCode::NotFound, QStringLiteral("“%1” cannot be read.").arg(path), path);
+        return fail(ErrorCode::NotFound, Words::tr("“%1” cannot be read.").arg(path), path);
     }
     return KeptFile(std::move(file));
 }

@@ -2,6 +2,7 @@
 #include "platform/machine_limits.h"
 
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <QFile>
 
@@ -79,7 +80,7 @@ Result<void> checkMemoryToStart(qint64 needed) {
     void* const memory =
         ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED)  // NOLINT(performance-no-int-to-ptr): the system's own constant
-        return fail(ErrorCode::OutOfMemory, QStringLiteral("there is not enough memory to start"));
+        return fail(ErrorCode::OutOfMemory, Words::tr("there is not enough memory to start"));
     ::munmap(memory, bytes);
     return {};
 }

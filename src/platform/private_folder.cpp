@@ -3,6 +3,7 @@
 
 #include "platform/owned_entry.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <QDir>
 #include <QFile>
@@ -59,10 +60,9 @@ Result<PrivateFolder> PrivateFolder::make() {
         if (folder >= 0) ::close(folder);
         ::rmdir(path.constData());
     }
-    return fail(
-        ErrorCode::CannotWrite,
-        QStringLiteral("No folder can be made in “%1”: %2").arg(QDir::tempPath(), qt_error_string(error)),
-        QDir::tempPath());
+    return fail(ErrorCode::CannotWrite,
+                Words::tr("No folder can be made in “%1”: %2").arg(QDir::tempPath(), qt_error_string(error)),
+                QDir::tempPath());
 }
 
 PrivateFolder::PrivateFolder(PrivateFolder&& other) noexcept

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/process_setup.h"
 
+#include "platform/words.h"
+
 #include <QThreadPool>
 
 #include <fcntl.h>
@@ -49,7 +51,7 @@ void prepareProcess() {
 Result<void> startDrawingThreads() {
     QThreadPool& pool = *QThreadPool::globalInstance();
     const int threads = threadsAllowed(pool.maxThreadCount());
-    if (threads == 0) return fail(ErrorCode::OutOfMemory, QStringLiteral("no thread can be started"));
+    if (threads == 0) return fail(ErrorCode::OutOfMemory, Words::tr("no thread can be started"));
     pool.setMaxThreadCount(threads);
     pool.setExpiryTimeout(-1);
     std::latch all(threads);

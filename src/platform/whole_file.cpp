@@ -2,6 +2,7 @@
 #include "platform/whole_file.h"
 
 #include "platform/owned_entry.h"
+#include "platform/words.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -29,7 +30,7 @@ QString systemReason(int code) {
 }
 
 tl::unexpected<Error> cannotWrite(const QString& path, const QString& reason) {
-    return fail(ErrorCode::CannotWrite, QStringLiteral("“%1” cannot be written: %2").arg(path, reason), path);
+    return fail(ErrorCode::CannotWrite, Words::tr("“%1” cannot be written: %2").arg(path, reason), path);
 }
 
 // What a new file's mode is stripped of. Asking umask() itself would change it for the other threads meanwhile.
@@ -134,8 +135,8 @@ Result<QByteArray> readWholeFile(const QString& path) {
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) bytes = file.readAll();
     if (!file.isOpen() || file.error() != QFileDevice::NoError || bytes.size() != file.size()) {
-        return fail(ErrorCode::NotFound,
-                    QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()), path);
+        return fail(ErrorCode::NotFound, Words::tr("“%1” cannot be read: %2").arg(path, file.errorString()),
+                    path);
     }
     return bytes;
 }

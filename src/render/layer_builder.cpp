@@ -2,6 +2,7 @@
 #include "render/layer_builder.h"
 
 #include "pictures/lengths.h"
+#include "platform/words.h"
 #include "render/lengths.h"
 #include "render/logo.h"
 #include "render/opacity.h"
@@ -37,7 +38,7 @@ Content textContent(const Watermark& record, const QString& text, QSizeF referen
     } else if (const QStringList missing = missingLetters(text, font); !missing.isEmpty()) {
         content.warning = LayerWarning::missingLetters(missing);
     } else if (!(font.pointSize > 0.0)) {
-        content.warning = LayerWarning::noLayer(QStringLiteral("The font has the size 0."));
+        content.warning = LayerWarning::noLayer(Words::tr("The font has the size 0."));
     }
     return content;
 }
@@ -69,7 +70,7 @@ Content logoContent(const Watermark& record, Logo logo) {
     if (logo.loadedSize.isEmpty()) {
         content.warning = LayerWarning::logoUnreadable(record.ImagePath);
     } else if (logo.picture.isNull()) {
-        content.warning = LayerWarning::noLayer(QStringLiteral("The logo has the size 0."));
+        content.warning = LayerWarning::noLayer(Words::tr("The logo has the size 0."));
     } else {
         content.what = std::move(logo.picture);
     }
@@ -87,9 +88,9 @@ bool isTiled(const Watermark& record) {
 // Why a record has no place although there may be something to draw.
 std::optional<LayerWarning> placingWarning(const Watermark& record) {
     if (isTurnable(record)) return std::nullopt;
-    if (isTiled(record)) return LayerWarning::noLayer(QStringLiteral("Shapes and QR codes are not tiled."));
+    if (isTiled(record)) return LayerWarning::noLayer(Words::tr("Shapes and QR codes are not tiled."));
     const bool isTurnedCode = record.Type == watermark_type::QrCode && record.Rotation != 0;
-    if (isTurnedCode) return LayerWarning::noLayer(QStringLiteral("QR codes are not turned."));
+    if (isTurnedCode) return LayerWarning::noLayer(Words::tr("QR codes are not turned."));
     return std::nullopt;
 }
 
@@ -119,7 +120,7 @@ void place(WatermarkView& view, const Watermark& record, Content content, QSizeF
 std::optional<LayerWarning> visibilityWarning(const WatermarkView& view, QSizeF reference) {
     const auto* surface = std::get_if<TilingView>(&view.child);
     if (surface != nullptr && !hasTiles(*surface)) {
-        return LayerWarning::noLayer(QStringLiteral("Its paddings and spacings leave no room for a tile."));
+        return LayerWarning::noLayer(Words::tr("Its paddings and spacings leave no room for a tile."));
     }
     const QRectF area(QPointF(0.0, 0.0), reference);
     if (view.frame.contains(area)) return std::nullopt;
@@ -159,7 +160,7 @@ BuiltLayer GetWatermarkViewfromWatermark(const Watermark& record, const LayerCon
             break;
         }
         default:
-            built.warning = LayerWarning::noLayer(QStringLiteral("Its kind is unknown."));
+            built.warning = LayerWarning::noLayer(Words::tr("Its kind is unknown."));
             return built;
     }
     built.warning = std::move(content.warning);

@@ -2,6 +2,7 @@
 #include "render/photo_filters.h"
 
 #include "pictures/image_filters.h"
+#include "platform/words.h"
 
 #include <algorithm>
 #include <vector>
@@ -12,7 +13,7 @@ namespace {
 // Saved settings hold the number, so a number keeps its name and its chain for good.
 struct PhotoFilter {
     int number;
-    QLatin1String name;
+    MarkedText name;
     FilterChain chain;
 };
 
@@ -27,18 +28,28 @@ const std::vector<PhotoFilter>& photoFilters() {
     const VignetteEffect keyhole{.intensity = 0.8};
     const WhiteGradientOver haze{.innerRadius = 0.6, .outerRadius = 1.0};
     static const std::vector<PhotoFilter> filters = {
-        {1, QLatin1String("Bubblegum"), {.before = {gains(4.0, 1.0, 4.0)}}},
-        {2, QLatin1String("Delhi"), {.before = {lumina, ColorControls{1.0, 0.08, 1.08}}}},
-        {3, QLatin1String("Earth"), {.before = {gains(3.5, 3.4, 3.4), grey}, .place = keyhole}},
-        {4, QLatin1String("Evening"), {.before = {ColorControls{1.0, 0.03, 0.99}}}},
-        {5, QLatin1String("Lumina"), {.before = {lumina}}},
-        {6, QLatin1String("Matrix"), {.before = {matrix, matrix}}},
-        {7, QLatin1String("Old TV"), {.before = {gains(4.5, 4.5, 4.5), grey}, .place = keyhole}},
-        {GrayScaleFilter, QLatin1String("Paris"), {.before = {grey}}},
-        {9, QLatin1String("Rome"), {.place = haze, .after = {ColorControls{1.04, 0.0, 1.0}}}},
-        {11, QLatin1String("Vintage"), {.sepia = true, .before = {ColorControls{1.025, 0.0, 1.0}}}},
-        {12, QLatin1String("Keyhole"), {.place = keyhole}},
-        {13, QLatin1String("Haze"), {.place = haze}},
+        {1, MarkedText(QT_TRANSLATE_NOOP("Words", "Bubblegum")), {.before = {gains(4.0, 1.0, 4.0)}}},
+        {2,
+         MarkedText(QT_TRANSLATE_NOOP("Words", "Delhi")),
+         {.before = {lumina, ColorControls{1.0, 0.08, 1.08}}}},
+        {3,
+         MarkedText(QT_TRANSLATE_NOOP("Words", "Earth")),
+         {.before = {gains(3.5, 3.4, 3.4), grey}, .place = keyhole}},
+        {4, MarkedText(QT_TRANSLATE_NOOP("Words", "Evening")), {.before = {ColorControls{1.0, 0.03, 0.99}}}},
+        {5, MarkedText(QT_TRANSLATE_NOOP("Words", "Lumina")), {.before = {lumina}}},
+        {6, MarkedText(QT_TRANSLATE_NOOP("Words", "Matrix")), {.before = {matrix, matrix}}},
+        {7,
+         MarkedText(QT_TRANSLATE_NOOP("Words", "Old TV")),
+         {.before = {gains(4.5, 4.5, 4.5), grey}, .place = keyhole}},
+        {GrayScaleFilter, MarkedText(QT_TRANSLATE_NOOP("Words", "Paris")), {.before = {grey}}},
+        {9,
+         MarkedText(QT_TRANSLATE_NOOP("Words", "Rome")),
+         {.place = haze, .after = {ColorControls{1.04, 0.0, 1.0}}}},
+        {11,
+         MarkedText(QT_TRANSLATE_NOOP("Words", "Vintage")),
+         {.sepia = true, .before = {ColorControls{1.025, 0.0, 1.0}}}},
+        {12, MarkedText(QT_TRANSLATE_NOOP("Words", "Keyhole")), {.place = keyhole}},
+        {13, MarkedText(QT_TRANSLATE_NOOP("Words", "Haze")), {.place = haze}},
     };
     return filters;
 }
@@ -59,7 +70,7 @@ QImage ApplyFilter(int number, QImage picture) {
 
 QString GetFilterName(int number) {
     const PhotoFilter* const filter = findFilter(number);
-    return filter ? QString(filter->name) : QStringLiteral("None");
+    return filter ? QString(filter->name) : Words::tr("None");
 }
 
 }  // namespace zelto

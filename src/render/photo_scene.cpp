@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/photo_scene.h"
 
+#include "platform/words.h"
 #include "render/canvas.h"
 #include "render/layer_builder.h"
 #include "render/photo_effects.h"
@@ -42,7 +43,7 @@ std::optional<PhotoWarning> warningFor(std::size_t index, const Watermark& recor
     if (!warning || !record.IsEnabled) return std::nullopt;
     const auto place = static_cast<std::int64_t>(index);
     return PhotoWarning{place, warning->kind,
-                        QStringLiteral("Watermark %1: %2").arg(place + 1).arg(warning->text)};
+                        Words::tr("Watermark %1: %2").arg(place + 1).arg(warning->text)};
 }
 
 // Layers of `scene` from the record at `first` up to the one before `end`.
@@ -84,7 +85,7 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request) {
 }
 
 Error notEnoughMemory(const QString& path) {
-    return {ErrorCode::OutOfMemory, QStringLiteral("There is not enough memory for this photo."), path};
+    return {ErrorCode::OutOfMemory, Words::tr("There is not enough memory for this photo."), path};
 }
 
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo) {
@@ -105,7 +106,7 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo, Q
     }
     if (!frame(scene, stack.Effects, request.final)) {
         return fail(ErrorCode::Unsupported,
-                    QStringLiteral("Its border and shadow would make this photo too large."), request.path);
+                    Words::tr("Its border and shadow would make this photo too large."), request.path);
     }
     MakeWatermarkChanges(scene, request);
     return scene;

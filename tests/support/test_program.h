@@ -3,6 +3,7 @@
 // gone when it ends, so that no test reads or leaves anything of the user's.
 #pragma once
 
+#include "platform/languages.h"
 #include "support/testing.h"
 
 #include <QCoreApplication>
@@ -35,6 +36,7 @@ int runTestProgram(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     const Application application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Zelto"));
+    speakLanguage(QStringLiteral("en"));
     return RUN_ALL_TESTS();
 }
 

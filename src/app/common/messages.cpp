@@ -2,6 +2,7 @@
 #include "app/common/messages.h"
 
 #include "app/common/icons.h"
+#include "platform/words.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -93,7 +94,8 @@ QMessageBox* openMessageSheet(QWidget* window, const MessageSheet& message,
     box->setAttribute(Qt::WA_DeleteOnClose);
     dressMessage(*box, message.icon, message.title, message.text);
     std::vector<QAbstractButton*> buttons;
-    for (const QString& text : message.buttons) {
+    const QStringList texts = message.buttons.isEmpty() ? QStringList(Words::tr("OK")) : message.buttons;
+    for (const QString& text : texts) {
         const int place = static_cast<int>(buttons.size());
         QPushButton* button = box->addButton(text, roleOf(message, place));
         if (place == message.onEnter) box->setDefaultButton(button);

@@ -3,8 +3,8 @@
 
 #include "app/common/window_resources.h"
 #include "platform/whole_file.h"
+#include "platform/words.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -15,8 +15,7 @@ QString writtenTo(const QTemporaryDir& folder) {
     QFile built(windowResource(QStringLiteral("sample-photo.jpg")));
     if (!folder.isValid() || !built.open(QFile::ReadOnly)) return {};
     // Its name is what macros print of it.
-    const QString path =
-        folder.filePath(QCoreApplication::translate("SamplePhoto", "Sample photo") + QStringLiteral(".jpg"));
+    const QString path = folder.filePath(Words::tr("Sample photo") + QStringLiteral(".jpg"));
     return writeWholeFile(path, built.readAll()) ? path : QString();
 }
 

@@ -6,6 +6,7 @@
 #include "app/dialogs/setting_summary.h"
 #include "persistence/setting_file.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -125,7 +126,7 @@ bool ExistingSettingsWindowController::listSettings() {
     }
     nameRows();
     search(search_->text());
-    if (!names) showAlert(this, QStringLiteral("Setting Load Error"), names.error().message);
+    if (!names) showAlert(this, Words::tr("Setting Load Error"), names.error().message);
     return names.has_value();
 }
 
@@ -192,8 +193,8 @@ void ExistingSettingsWindowController::SetAutoload() {
 
 void ExistingSettingsWindowController::DeleteSetting() {
     const QString name = selectedName();
-    if (!confirm(this, QStringLiteral("Delete the Selected Setting?"),
-                 QStringLiteral("Deleted Setting cannot be restored."))) {
+    if (!confirm(this, Words::tr("Delete the Selected Setting?"),
+                 Words::tr("Deleted Setting cannot be restored."))) {
         return;
     }
     const Result<void> removed = library_.remove(name);

@@ -5,6 +5,7 @@
 #include "app/dialogs/folder_field.h"
 #include "batch/folder_scan.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -22,15 +23,19 @@ namespace zelto {
 namespace {
 
 struct FormatBox {
-    const char* text;
+    MarkedText text;
     bool ScanFormats::*ticked;
 };
 constexpr std::array FormatBoxes = {
-    FormatBox{"&JPEG", &ScanFormats::Jpeg},   FormatBox{"&PNG", &ScanFormats::Png},
-    FormatBox{"&TIFF", &ScanFormats::Tiff},   FormatBox{"&GIF", &ScanFormats::Gif},
-    FormatBox{"B&MP", &ScanFormats::Bmp},     FormatBox{"&HEIC", &ScanFormats::Heic},
-    FormatBox{"A&VIF", &ScanFormats::Avif},   FormatBox{"&WebP", &ScanFormats::Webp},
-    FormatBox{"JPEG &XL", &ScanFormats::Jxl},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&JPEG")), &ScanFormats::Jpeg},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&PNG")), &ScanFormats::Png},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&TIFF")), &ScanFormats::Tiff},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&GIF")), &ScanFormats::Gif},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "B&MP")), &ScanFormats::Bmp},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&HEIC")), &ScanFormats::Heic},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "A&VIF")), &ScanFormats::Avif},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&WebP")), &ScanFormats::Webp},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "JPEG &XL")), &ScanFormats::Jxl},
 };
 constexpr std::size_t MainFormats = 5;  // in the first row of boxes
 
@@ -50,7 +55,7 @@ FolderWindowController::FolderWindowController(QWidget* parent)
     auto* more = new QHBoxLayout;
     const ScanFormats first;
     for (const FormatBox& format : FormatBoxes) {
-        auto* box = new QCheckBox(QLatin1String(format.text), this);
+        auto* box = new QCheckBox(format.text, this);
         box->setChecked(first.*format.ticked);
         if (format.ticked == &ScanFormats::Gif) {
             box->setToolTip(tr("A folder's GIF photos are passed over; add them one by one."));
@@ -81,12 +86,12 @@ FolderWindowController::FolderWindowController(QWidget* parent)
 
 void FolderWindowController::GetinputandCloseWindow() {
     if (GetIputFoldername().isEmpty()) {
-        showAlert(this, QStringLiteral("Input Folder cannot be empty"),
-                  QStringLiteral("Please select the folder from where the Images are to be added"));
+        showAlert(this, Words::tr("Input Folder cannot be empty"),
+                  Words::tr("Please select the folder from where the Images are to be added"));
         folder_->setFocus();
     } else if (GetExtensionList().isEmpty()) {
-        showAlert(this, QStringLiteral("File Extension list cannot be empty"),
-                  QStringLiteral("Please select atleast one Extension to be included"));
+        showAlert(this, Words::tr("File Extension list cannot be empty"),
+                  Words::tr("Please select atleast one Extension to be included"));
         formats_.front()->setFocus();
     } else {
         setPreference(preference::LastAddedFolder, GetIputFoldername());

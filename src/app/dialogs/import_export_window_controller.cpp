@@ -4,6 +4,7 @@
 #include "app/common/messages.h"
 #include "app/dialogs/folder_field.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -29,26 +30,25 @@ struct CopyTexts {
 
 CopyTexts textsOf(CopyMode mode) {
     if (mode == CopyMode::Import) {
-        return {
-            QStringLiteral("Import Settings"),
-            QStringLiteral("Please browse and select the folder from where the settings are to be imported"),
-            QStringLiteral("Settings have been imported into Zelto"),
-            QStringLiteral("Import Error"),
-            QStringLiteral("Error in importing settings. Please try again later."),
-            ImportExportWindowController::tr("&Import")};
+        return {Words::tr("Import Settings"),
+                Words::tr("Please browse and select the folder from where the settings are to be imported"),
+                Words::tr("Settings have been imported into Zelto"),
+                Words::tr("Import Error"),
+                Words::tr("Error in importing settings. Please try again later."),
+                ImportExportWindowController::tr("&Import")};
     }
-    return {QStringLiteral("Export Settings"),
-            QStringLiteral("Please browse and select the folder  where the settings are to be exported"),
-            QStringLiteral("Settings have been exported"),
-            QStringLiteral("Export Error"),
-            QStringLiteral("Error in exporting settings. Please try again later."),
+    return {Words::tr("Export Settings"),
+            Words::tr("Please browse and select the folder  where the settings are to be exported"),
+            Words::tr("Settings have been exported"),
+            Words::tr("Export Error"),
+            Words::tr("Error in exporting settings. Please try again later."),
             ImportExportWindowController::tr("&Export")};
 }
 
 QString countText(qsizetype count) {
     if (count == 0) return ImportExportWindowController::tr("There are no settings to copy.");
-    return count == 1 ? ImportExportWindowController::tr("1 setting will be copied.")
-                      : ImportExportWindowController::tr("%1 settings will be copied.").arg(count);
+    return ImportExportWindowController::tr("%Ln setting(s) will be copied.", nullptr,
+                                            static_cast<int>(count));
 }
 
 }  // namespace

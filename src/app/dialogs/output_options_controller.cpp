@@ -18,6 +18,7 @@
 #include "platform/dates.h"
 #include "platform/file_reference.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QDate>
 #include <QDialogButtonBox>
@@ -149,12 +150,12 @@ void OutputOptionsController::offerToCreate(const QString& folder) {
 void OutputOptionsController::SetasDefault() {
     const Result<void> saved = defaultsPath().and_then(
         [this](const QString& path) { return saveOutputSettings(shownSettings(), path); });
-    const QString title = QStringLiteral("Output Settings");
+    const QString title = Words::tr("Output Settings");
     if (saved) {
-        showMessage(this, title, QStringLiteral("Settings have been saved"));
+        showMessage(this, title, Words::tr("Settings have been saved"));
     } else {
         qCWarning(outputOptions, "%s", qUtf8Printable(saved.error().message));
-        showAlert(this, title, QStringLiteral("Settings cannot be saved."));
+        showAlert(this, title, Words::tr("Settings cannot be saved."));
     }
 }
 

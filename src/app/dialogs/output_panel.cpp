@@ -6,6 +6,7 @@
 #include "metadata/metadata_transfer.h"
 #include "pictures/picture_writer.h"
 #include "platform/file_reference.h"
+#include "platform/words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -32,14 +33,14 @@ constexpr std::array MoreFormatTitles = {QLatin1String("webp"), QLatin1String("a
                                          QLatin1String("heic")};
 
 struct MetadataRow {
-    const char* title;
+    MarkedText title;
     std::int64_t tag;
 };
 constexpr std::array MetadataRows = {
-    MetadataRow{"Include All", exif_data::IncludeAll},
-    MetadataRow{"Copyright Only", exif_data::CopyrightOnly},
-    MetadataRow{"Exclude Geolocation", exif_data::ExcludeGeolocation},
-    MetadataRow{"Exclude All", exif_data::ExcludeAll},
+    MetadataRow{MarkedText(QT_TRANSLATE_NOOP("Words", "Include All")), exif_data::IncludeAll},
+    MetadataRow{MarkedText(QT_TRANSLATE_NOOP("Words", "Copyright Only")), exif_data::CopyrightOnly},
+    MetadataRow{MarkedText(QT_TRANSLATE_NOOP("Words", "Exclude Geolocation")), exif_data::ExcludeGeolocation},
+    MetadataRow{MarkedText(QT_TRANSLATE_NOOP("Words", "Exclude All")), exif_data::ExcludeAll},
 };
 
 // A photo keeps its format where none is chosen, and most photos are JPEG files.
@@ -89,10 +90,12 @@ OutputPanel::OutputPanel(QWidget* parent)
 }
 
 QLayout* OutputPanel::makeFormatRow() {
-    for (const QLatin1String title : FormatTitles) format_->addItem(title);
+    for (const QLatin1String title : FormatTitles)
+        format_->addItem(title == SameAsSourceFormat ? tr("Same as source image") : QString(title),
+                         QString(title));
     format_->insertSeparator(format_->count());
     for (const QLatin1String title : MoreFormatTitles) {
-        if (pictureFormatForExtension(QString(title))) format_->addItem(title);
+        if (pictureFormatForExtension(QString(title))) format_->addItem(title, QString(title));
     }
     format_->setAccessibleName(tr("Format"));
     qualityLabel_->setBuddy(quality_);
@@ -111,7 +114,7 @@ QLayout* OutputPanel::makeFormatRow() {
 
 QLayout* OutputPanel::makeMetadataColumn() {
     for (const MetadataRow& item : MetadataRows)
-        metadata_->addItem(QLatin1String(item.title), QVariant::fromValue(qint64{item.tag}));
+        metadata_->addItem(item.title, QVariant::fromValue(qint64{item.tag}));
     metadata_->setAccessibleName(tr("Metadata"));
     metadata_->setToolTip(tr("Exclude Geolocation removes every position and keeps the names of places."));
     metadata_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -129,11 +132,11 @@ QLayout* OutputPanel::makeMetadataColumn() {
 }
 
 bool OutputPanel::combines() const {
-    return combine_->isChecked() && formatOf(format_->currentText()) == PictureFormat::Pdf;
+    return combine_->isChecked() && formatOf(format_->currentData().toString()) == PictureFormat::Pdf;
 }
 
 void OutputPanel::SetOutputFormat() {
-    const PictureFormat format = formatOf(format_->currentText());
+    const PictureFormat format = formatOf(format_->currentData().toString());
     const bool ofOthers = hasQuality(format) && format != PictureFormat::Jpeg;
     quality_->setAccessibleName(ofOthers ? tr("Quality") : tr("JPEG quality"));
     qualityLabel_->setText(ofOthers ? tr("&Quality:") : tr("JPEG &quality:"));
@@ -152,7 +155,7 @@ void OutputPanel::setMetadataPresent(bool present) {
 }
 
 void OutputPanel::showMetadataNote() {
-    const bool hasNone = metadataWay(formatOf(format_->currentText())) == MetadataWay::None;
+    const bool hasNone = metadataWay(formatOf(format_->currentData().toString())) == MetadataWay::None;
     const bool lacksCopyright =
         !hasNone && !isMetadataPresent_ && metadata_->currentData().toLongLong() == exif_data::CopyrightOnly;
     noteIcon_->setVisible(lacksCopyright);
@@ -170,7 +173,7 @@ void OutputPanel::load(const OutputOptions& options) {
     folder_->setPath(options.OutputPath);
     keepStructure_->setChecked(options.KeepDirectoryStructure);
     // A format that is not offered leaves the choice as it is.
-    const int format = format_->findText(options.OutputFormat);
+    const int format = format_->findData(options.OutputFormat);
     if (format >= 0) format_->setCurrentIndex(format);
     quality_->setValue(static_cast<int>(options.JPEGQuality));
     combine_->setChecked(options.CombineToSinglePDF);
@@ -183,7 +186,7 @@ void OutputPanel::store(OutputOptions& options) const {
     options.OutputPath = folder_->path();
     options.OutputFolderData =
         options.OutputPath.isEmpty() ? QByteArray() : fileReference(options.OutputPath);
-    options.OutputFormat = format_->currentText();
+    options.OutputFormat = format_->currentData().toString();
     options.JPEGQuality = quality_->value();
     options.CombineToSinglePDF = combine_->isChecked();
     options.JpegLossless = lossless_->isChecked();

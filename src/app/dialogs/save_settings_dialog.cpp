@@ -2,6 +2,7 @@
 #include "app/dialogs/save_settings_dialog.h"
 
 #include "app/common/messages.h"
+#include "platform/words.h"
 
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -55,9 +56,8 @@ void SaveSettingsDialog::checkName() {
 void SaveSettingsDialog::GetSettingNameandClose() {
     const Result<QString> path = library_.path(name_->text());
     if (!path) return;
-    if (library_.contains(name_->text()) &&
-        !confirm(this, QStringLiteral("A Setting with the same name Exists."),
-                 QStringLiteral("Do You want to OverWrite it?"))) {
+    if (library_.contains(name_->text()) && !confirm(this, Words::tr("A Setting with the same name Exists."),
+                                                     Words::tr("Do You want to OverWrite it?"))) {
         return;
     }
     path_ = *path;

@@ -3,9 +3,9 @@
 
 #include "app/watermarks/watermark_list_model.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 #include "render/photo_filters.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 namespace zelto {
@@ -14,18 +14,14 @@ namespace {
 constexpr std::size_t NamedWatermarks = 3;
 constexpr qsizetype LongestLabel = 40;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("SettingSummary", text);
-}
-
 QString shortLabel(const Watermark& watermark) {
     QString label = watermarkLabel(watermark).simplified();
     if (watermark.Type == watermark_type::Image) {
-        label = label.isEmpty() ? tr("Image") : lastPathComponent(label);
+        label = label.isEmpty() ? Words::tr("Image") : lastPathComponent(label);
     } else if (watermark.Type == watermark_type::QrCode) {
-        label = tr("QR code");
+        label = Words::tr("QR code");
     } else if (watermark.Type == watermark_type::Text) {
-        label = tr("“%1”").arg(label);
+        label = Words::tr("“%1”").arg(label);
     }
     return label.size() > LongestLabel ? label.left(LongestLabel) + QStringLiteral("…") : label;
 }
@@ -38,7 +34,7 @@ QString watermarksText(const std::vector<Watermark>& watermarks) {
     }
     const QString named = labels.join(QStringLiteral(", "));
     const std::size_t more = watermarks.size() - static_cast<std::size_t>(labels.size());
-    return more == 0 ? named : tr("%1 and %2 more").arg(named).arg(more);
+    return more == 0 ? named : Words::tr("%1 and %Ln more", nullptr, static_cast<int>(more)).arg(named);
 }
 
 }  // namespace
@@ -46,9 +42,10 @@ QString watermarksText(const std::vector<Watermark>& watermarks) {
 QString settingSummary(const WatermarkStack& stack) {
     QStringList parts;
     if (!stack.Watermarks.empty()) parts.append(watermarksText(stack.Watermarks));
-    if (stack.SelectedFilter != 0) parts.append(tr("Filter %1").arg(GetFilterName(stack.SelectedFilter)));
-    if (stack.Effects) parts.append(tr("Border and shadow"));
-    if (stack.Metadata) parts.append(tr("Copyright"));
+    if (stack.SelectedFilter != 0)
+        parts.append(Words::tr("Filter %1").arg(GetFilterName(stack.SelectedFilter)));
+    if (stack.Effects) parts.append(Words::tr("Border and shadow"));
+    if (stack.Metadata) parts.append(Words::tr("Copyright"));
     return parts.join(QStringLiteral(" · "));
 }
 

@@ -13,6 +13,7 @@
 #include "persistence/setting_file.h"
 #include "pictures/picture_names.h"
 #include "platform/application_folders.h"
+#include "platform/words.h"
 
 #include <QFileDialog>
 
@@ -20,8 +21,8 @@ namespace zelto {
 namespace {
 
 QStringList choosePhotos(QWidget* parent, const QString& startFolder) {
-    return QFileDialog::getOpenFileNames(parent, QFileDialog::tr("Add Photos"), startFolder,
-                                         QFileDialog::tr("Photos") + QLatin1Char(' ') + chooserPattern());
+    return QFileDialog::getOpenFileNames(parent, Words::tr("Add Photos"), startFolder,
+                                         Words::tr("Photos") + QLatin1Char(' ') + chooserPattern());
 }
 
 std::optional<FolderChoice> chooseFolder(QWidget* parent) {
@@ -47,7 +48,7 @@ std::optional<OutputOptions> askOutputOptions(QWidget* parent, ImageListControll
 std::optional<SettingsLibrary> userLibrary(QWidget* parent) {
     const Result<QString> folder = applicationFolder(SettingsFolder);
     if (folder) return SettingsLibrary(*folder);
-    showAlert(parent, QStringLiteral("Setting Load Error"), folder.error().message);
+    showAlert(parent, Words::tr("Setting Load Error"), folder.error().message);
     return std::nullopt;
 }
 
@@ -75,7 +76,7 @@ void openSettings(QWidget* parent, WatermarkController& watermarks) {
         library->path(dialog.selectedName()).and_then([&watermarks](const QString& path) {
             return watermarks.LoadWatermarkSetting(path);
         });
-    if (!loaded) showAlert(parent, QStringLiteral("Setting Load Error"), loaded.error().message);
+    if (!loaded) showAlert(parent, Words::tr("Setting Load Error"), loaded.error().message);
 }
 
 void importExport(CopyMode mode, QWidget* parent) {

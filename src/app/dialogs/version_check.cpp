@@ -3,6 +3,7 @@
 
 #include "app/common/messages.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QDesktopServices>
 #include <QNetworkAccessManager>
@@ -24,28 +25,27 @@ QUrl configured(const char* variable, const Preference<QString>& preference, con
 }
 
 void tellThatNobodyAnswered(QWidget* window, const QString& reason) {
-    openMessageSheet(window, {QMessageBox::Warning, QStringLiteral("Version Check"),
-                              QMessageBox::tr("The newest version cannot be found out at the moment.") +
-                                  QLatin1Char('\n') + reason});
+    openMessageSheet(window,
+                     {QMessageBox::Warning, Words::tr("Version Check"),
+                      Words::tr("The newest version cannot be found out at the moment.\n%1").arg(reason)});
 }
 
 void tellWhatIsNewest(QWidget* window, const QString& newest, const QUrl& download) {
     if (newest == QLatin1String(ZELTO_VERSION)) {
-        openMessageSheet(window, {QMessageBox::Information, QStringLiteral("Version Check"),
-                                  QStringLiteral("You are using the latest version of Zelto")});
+        openMessageSheet(window, {QMessageBox::Information, Words::tr("Version Check"),
+                                  Words::tr("You are using the latest version of Zelto")});
         return;
     }
-    openMessageSheet(
-        window,
-        {QMessageBox::Question,
-         QStringLiteral("Zelto Update"),
-         QStringLiteral("A new version of Zelto is available. Would you like to download it now?"),
-         {QMessageBox::tr("Download"), QMessageBox::tr("Not Now")},
-         0,
-         1},
-        [download](int answer) {
-            if (answer == 0) QDesktopServices::openUrl(download);
-        });
+    openMessageSheet(window,
+                     {QMessageBox::Question,
+                      Words::tr("Zelto Update"),
+                      Words::tr("A new version of Zelto is available. Would you like to download it now?"),
+                      {Words::tr("Download"), Words::tr("Not Now")},
+                      0,
+                      1},
+                     [download](int answer) {
+                         if (answer == 0) QDesktopServices::openUrl(download);
+                     });
 }
 
 }  // namespace
@@ -62,14 +62,13 @@ VersionAddresses versionAddresses() {
 void CheckLatestVersion(QWidget* window) {
     const VersionAddresses addresses = versionAddresses();
     if (!addresses.version.isValid()) {
-        openMessageSheet(window,
-                         {QMessageBox::Information, QStringLiteral("Version Check"),
-                          QMessageBox::tr("This is version %1. No address is set to ask for a newer one.")
-                              .arg(QLatin1String(ZELTO_VERSION))});
+        openMessageSheet(window, {QMessageBox::Information, Words::tr("Version Check"),
+                                  Words::tr("This is version %1. No address is set to ask for a newer one.")
+                                      .arg(QLatin1String(ZELTO_VERSION))});
         return;
     }
-    auto* busy = new QProgressDialog(QMessageBox::tr("Asking for the newest version..."),
-                                     QMessageBox::tr("Cancel"), 0, 0, window);
+    auto* busy =
+        new QProgressDialog(Words::tr("Asking for the newest version..."), Words::tr("Cancel"), 0, 0, window);
     busy->setWindowModality(Qt::WindowModal);
     busy->setMinimumDuration(PatienceMilliseconds);
     auto* network = new QNetworkAccessManager(busy);

@@ -22,30 +22,47 @@ struct TextRow {
     const char* label;
     const char* example;
 };
-#define TEXT(text) QT_TRANSLATE_NOOP("zelto::CopyrightEditor", text)
 constexpr std::array RightsRows = {
-    TextRow{"CopyrightText", &CopyRightMetaData::CopyrightText, TEXT("Notice:"), TEXT("© Jane Doe")},
-    TextRow{"CopyrightTextStatus", &CopyRightMetaData::CopyrightTextStatus, TEXT("Status:"), ""},
-    TextRow{"CopyrightURL", &CopyRightMetaData::CopyrightURL, TEXT("Rights page:"),
-            TEXT("https://www.example.com/rights")},
-    TextRow{"RightsUsageTerms", &CopyRightMetaData::RightsUsageTerms, TEXT("Terms of use:"),
-            TEXT("All rights reserved")},
+    TextRow{"CopyrightText", &CopyRightMetaData::CopyrightText,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Notice:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "© Jane Doe")},
+    TextRow{"CopyrightTextStatus", &CopyRightMetaData::CopyrightTextStatus,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Status:"), ""},
+    TextRow{"CopyrightURL", &CopyRightMetaData::CopyrightURL,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Rights page:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "https://www.example.com/rights")},
+    TextRow{"RightsUsageTerms", &CopyRightMetaData::RightsUsageTerms,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Terms of use:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "All rights reserved")},
 };
 constexpr std::array CreatorRows = {
-    TextRow{"Creator", &CopyRightMetaData::Creator, TEXT("Name:"), TEXT("Jane Doe")},
-    TextRow{"CreatorJobTitle", &CopyRightMetaData::CreatorJobTitle, TEXT("Job title:"), TEXT("Photographer")},
-    TextRow{"CreatorAddress", &CopyRightMetaData::CreatorAddress, TEXT("Address:"), ""},
-    TextRow{"CreatorCity", &CopyRightMetaData::CreatorCity, TEXT("City:"), ""},
-    TextRow{"CreatorState", &CopyRightMetaData::CreatorState, TEXT("State or province:"), ""},
-    TextRow{"CreatorPostalCode", &CopyRightMetaData::CreatorPostalCode, TEXT("Postal code:"), ""},
-    TextRow{"CreatorCountry", &CopyRightMetaData::CreatorCountry, TEXT("Country:"), ""},
-    TextRow{"CreatorPhone", &CopyRightMetaData::CreatorPhone, TEXT("Phone:"), ""},
-    TextRow{"CreatorMail", &CopyRightMetaData::CreatorMail, TEXT("E-mail:"), TEXT("jane@example.com")},
-    TextRow{"CreatorWebsite", &CopyRightMetaData::CreatorWebsite, TEXT("Website:"),
-            TEXT("https://www.example.com")},
+    TextRow{"Creator", &CopyRightMetaData::Creator, QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Name:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Jane Doe")},
+    TextRow{"CreatorJobTitle", &CopyRightMetaData::CreatorJobTitle,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Job title:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Photographer")},
+    TextRow{"CreatorAddress", &CopyRightMetaData::CreatorAddress,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Address:"), ""},
+    TextRow{"CreatorCity", &CopyRightMetaData::CreatorCity,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "City:"), ""},
+    TextRow{"CreatorState", &CopyRightMetaData::CreatorState,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "State or province:"), ""},
+    TextRow{"CreatorPostalCode", &CopyRightMetaData::CreatorPostalCode,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Postal code:"), ""},
+    TextRow{"CreatorCountry", &CopyRightMetaData::CreatorCountry,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Country:"), ""},
+    TextRow{"CreatorPhone", &CopyRightMetaData::CreatorPhone,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Phone:"), ""},
+    TextRow{"CreatorMail", &CopyRightMetaData::CreatorMail,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "E-mail:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "jane@example.com")},
+    TextRow{"CreatorWebsite", &CopyRightMetaData::CreatorWebsite,
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Website:"),
+            QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "https://www.example.com")},
 };
-#undef TEXT
-constexpr std::array Statuses = {"Copyrighted", "Protected", "Unknown"};
+constexpr std::array Statuses = {QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Copyrighted"),
+                                 QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Protected"),
+                                 QT_TRANSLATE_NOOP("zelto::CopyrightEditor", "Unknown")};
 
 using Metadata = std::optional<CopyRightMetaData>;
 

@@ -39,12 +39,14 @@ QrJudgement::QrJudgement(const QString& text, double side, QSizeF photo,
     const double module = drawn / symbol->width;
     if (module < SmallestModule) {
         const int needed = static_cast<int>(std::ceil(SmallestModule * symbol->width / 0.9));
-        QString message = tr("Too small to be read: this text needs at least %1 pixels").arg(needed);
-        if (!photo.isEmpty()) {
+        if (photo.isEmpty()) {
+            warn(tr("Too small to be read: this text needs at least %L1 pixels.").arg(needed));
+        } else {
             const double share = std::ceil(1000.0 * needed / photo.width()) / 10.0;
-            message += tr(" (%1% of this photo's width)").arg(share);
+            warn(tr("Too small to be read: this text needs at least %L1 pixels (%L2% of this photo's width).")
+                     .arg(needed)
+                     .arg(share));
         }
-        warn(message + QLatin1Char('.'));
     } else if (!photo.isEmpty() && side > std::min(photo.width(), photo.height())) {
         warn(tr("Larger than the photo: a part of the code would be cut off."));
     } else if (background && brightness(*background) < DarkestGround) {

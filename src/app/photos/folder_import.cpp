@@ -14,15 +14,16 @@ constexpr int CountMilliseconds = 100;  // between two counts
 
 }  // namespace
 
-FolderImport::Words FolderImport::wordsForFolders() {
-    return {tr("Add Folder"), tr("Looking for photos..."), tr("1 photo found"), tr("%L1 photos found")};
+FolderImport::Texts FolderImport::textsForFolders() {
+    return {tr("Add Folder"), tr("Looking for photos..."),
+            [](int photos) { return tr("%Ln photo(s) found", nullptr, photos); }};
 }
 
-FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent, Words words)
-    : QObject(parent), words_(std::move(words)), progress_(window) {
+FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent, Texts texts)
+    : QObject(parent), texts_(std::move(texts)), progress_(window) {
     progress_.setWindowModality(Qt::WindowModal);
-    progress_.setWindowTitle(words_.title);
-    progress_.setLabelText(words_.beginning);
+    progress_.setWindowTitle(texts_.title);
+    progress_.setLabelText(texts_.beginning);
     progress_.setMinimumWidth(progress_.fontMetrics().averageCharWidth() * 60);
     progress_.setRange(0, 0);
     progress_.setAutoReset(false);
@@ -47,7 +48,7 @@ FolderImport::FolderImport(Scan scan, QWidget* window, QObject* parent, Words wo
 }
 
 void FolderImport::count(qsizetype photos) {
-    progress_.setLabelText(photos == 1 ? words_.one : words_.many.arg(photos));
+    progress_.setLabelText(texts_.counted(static_cast<int>(photos)));
 }
 
 void FolderImport::finish(const QStringList& photos, bool isComplete) {

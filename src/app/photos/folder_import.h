@@ -23,17 +23,16 @@ class FolderImport : public QObject {
     using Scan = std::function<QStringList(const GoesOn& goesOn)>;
 
     // What its message says.
-    struct Words {
+    struct Texts {
         QString title;
         QString beginning;
-        QString one;   // "1 photo found"
-        QString many;  // "%L1 photos found"
+        QString (*counted)(int photos);
     };
-    static Words wordsForFolders();
+    static Texts textsForFolders();
 
     // Begins at once and deletes itself when it is over; `window` is the parent of the message. One that is deleted
     // before is broken off.
-    FolderImport(Scan scan, QWidget* window, QObject* parent, Words words = wordsForFolders());
+    FolderImport(Scan scan, QWidget* window, QObject* parent, Texts texts = textsForFolders());
 
   Q_SIGNALS:
     // The photos, or what was read of each, in the order of the scan. A scan that is broken off or finds nothing never tells.
@@ -43,7 +42,7 @@ class FolderImport : public QObject {
     void count(qsizetype photos);
     void finish(const QStringList& photos, bool isComplete);
 
-    Words words_;
+    Texts texts_;
     QProgressDialog progress_;
     std::jthread thread_;  // ends before the message goes
 };

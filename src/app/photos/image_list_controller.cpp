@@ -2,6 +2,7 @@
 #include "app/photos/image_list_controller.h"
 
 #include "app/common/change_value.h"
+#include "platform/words.h"
 
 #include <QSet>
 #include <QUndoCommand>
@@ -127,8 +128,7 @@ void ImageListController::AddImages(const QStringList& paths) {
         photos.images.emplace_back(path);
     }
     if (!photos.images.empty()) {
-        const QString name =
-            photos.images.size() == 1 ? tr("Add Photo") : tr("Add %1 Photos").arg(photos.images.size());
+        const QString name = tr("Add %Ln Photo(s)", nullptr, static_cast<int>(photos.images.size()));
         history_.push(new SplicePhotos(
             name, SplicePhotos::Direction::In, std::move(photos),
             [this](const ImageList::Placed& placed) { insertPhotos(placed); },
@@ -159,8 +159,7 @@ void ImageListController::bring(const QStringList& paths) {
     selection_->select(rows, QItemSelectionModel::ClearAndSelect);
     const QSet<QString> all(paths.begin(), paths.end());
     if (const qsizetype known = all.size() - fresh.size(); known > 0) {
-        Q_EMIT noted(known == 1 ? tr("1 photo is in the list already")
-                                : tr("%L1 photos are in the list already").arg(known));
+        Q_EMIT noted(tr("%Ln photo(s) are in the list already", nullptr, static_cast<int>(known)));
     }
 }
 
@@ -256,7 +255,7 @@ void ImageListController::takeChecks(const std::vector<bool>& checks) {
 void ImageListController::RemoveSelectedImage() {
     std::vector<int> rows;
     for (const QModelIndex& index : selection_->selectedIndexes()) rows.push_back(index.row());
-    removeRows(rows.size() == 1 ? tr("Remove Photo") : tr("Remove %1 Photos").arg(rows.size()), rows);
+    removeRows(tr("Remove %Ln Photo(s)", nullptr, static_cast<int>(rows.size())), rows);
 }
 
 void ImageListController::RemoveImage(int row) {
@@ -371,7 +370,7 @@ void ImageListController::ImageListDoubleClicked(int row) {
     if (!warnings.isEmpty()) {
         Q_EMIT alert(tr("Watermark Warning"), warnings.join(QLatin1Char('\n')));
     } else if (!error.isEmpty()) {
-        Q_EMIT alert(QStringLiteral("Watermark Error"), error);
+        Q_EMIT alert(Words::tr("Watermark Error"), error);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "app/photos/photo_list_model.h"
 
 #include "platform/path_parts.h"
+#include "platform/words.h"
 
 #include <QRegularExpression>
 
@@ -12,17 +13,16 @@ namespace zelto {
 namespace {
 
 // By `PhotoStatus`.
-constexpr std::array StatusWords = {QT_TRANSLATE_NOOP("PhotoListModel", "not processed"),
-                                    QT_TRANSLATE_NOOP("PhotoListModel", "written"),
-                                    QT_TRANSLATE_NOOP("PhotoListModel", "failed")};
+constexpr std::array StatusWords = {QT_TRANSLATE_NOOP("Words", "not processed"),
+                                    QT_TRANSLATE_NOOP("Words", "written"),
+                                    QT_TRANSLATE_NOOP("Words", "failed")};
 
 QString spoken(const Image& photo) {
-    const char* status = StatusWords.at(static_cast<std::size_t>(photo.Status));
-    return PhotoListModel::tr("%1, %2, %3")
+    QString status = Words::tr("written with warnings");
+    if (photo.Warnings.isEmpty()) status = Words::tr(StatusWords.at(static_cast<std::size_t>(photo.Status)));
+    return Words::tr("%1, %2, %3")
         .arg(lastPathComponent(photo.ImagePath),
-             photo.ApplyWatermark ? PhotoListModel::tr("checked") : PhotoListModel::tr("not checked"),
-             photo.Warnings.isEmpty() ? PhotoListModel::tr(status)
-                                      : PhotoListModel::tr("written with warnings"));
+             photo.ApplyWatermark ? Words::tr("checked") : Words::tr("not checked"), status);
 }
 
 // Whether the rows follow each other without a gap, as one range a view can be told of.

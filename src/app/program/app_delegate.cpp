@@ -4,6 +4,7 @@
 #include "app/common/window_resources.h"
 #include "persistence/settings_library.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QApplication>
 #include <QFile>
@@ -19,7 +20,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(startUp, "zelto.start")
 
-constexpr QLatin1String LoadErrorTitle("Setting Load Error");
+constexpr MarkedText LoadErrorTitle(QT_TRANSLATE_NOOP("Words", "Setting Load Error"));
 constexpr int StatusMilliseconds = 15000;  // that a line stays in the status bar
 
 // The tips that ship with the program; none where they are missing.

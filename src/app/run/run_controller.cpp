@@ -313,9 +313,9 @@ RunResult RunController::resultOf(const RunReport& report) const {
         result.failed += photo.Status == PhotoStatus::Failed ? 1 : 0;
         result.warned += photo.Warnings.isEmpty() ? 0 : 1;
     }
-    QStringList counts = {tr("%L1 written").arg(written)};
-    if (result.failed > 0) counts.append(tr("%L1 failed").arg(result.failed));
-    if (result.warned > 0) counts.append(tr("%L1 warned").arg(result.warned));
+    QStringList counts = {tr("%Ln written", nullptr, written)};
+    if (result.failed > 0) counts.append(tr("%Ln failed", nullptr, result.failed));
+    if (result.warned > 0) counts.append(tr("%Ln warned", nullptr, result.warned));
     result.counts = counts.join(QStringLiteral(", "));
     result.message = report.message();
     if (!report.OutPutImageList.isEmpty())

@@ -3,8 +3,7 @@
 
 #include "app/common/messages.h"
 #include "platform/path_parts.h"
-
-#include <QCoreApplication>
+#include "platform/words.h"
 
 #include <array>
 
@@ -13,15 +12,11 @@ namespace {
 
 constexpr qsizetype MostNames = 5;  // that a question lists
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("zelto::RunQuestions", text);
-}
-
 QString listed(const QStringList& paths) {
     QStringList names;
     for (const QString& path : paths.mid(0, MostNames)) names.append(lastPathComponent(path));
     const qsizetype more = paths.size() - names.size();
-    if (more > 0) names.append(tr("and %1 more").arg(more));
+    if (more > 0) names.append(Words::tr("and %Ln more", nullptr, static_cast<int>(more)));
     return names.join(QLatin1Char('\n'));
 }
 
@@ -51,14 +46,14 @@ void RunQuestions::ask(const OutputPlan& outputs, const QString& folder, const A
 void RunQuestions::askAboutPhotos(const OutputPlan& outputs, const QString& folder,
                                   const Answered& answered) {
     enum Button { Replace, ChooseAnotherFolder, Cancel };
-    const qsizetype count = outputs.replacedPhotos.size();
+    const int count = static_cast<int>(outputs.replacedPhotos.size());
     question_ = openMessageSheet(
         &window_,
         {QMessageBox::Warning,
-         count == 1 ? tr("A Photo Would Be Replaced") : tr("%1 Photos Would Be Replaced").arg(count),
-         tr("Their watermarked copies would take the place of the originals, which would be lost:\n%1")
+         Words::tr("%Ln Photo(s) Would Be Replaced", nullptr, count),
+         Words::tr("Their watermarked copies would take the place of the originals, which would be lost:\n%1")
              .arg(listed(outputs.replacedPhotos)),
-         {tr("Replace"), tr("Choose Another Folder"), tr("Cancel")},
+         {Words::tr("Replace"), Words::tr("Choose Another Folder"), Words::tr("Cancel")},
          Cancel,
          Cancel},
         [this, outputs, folder, answered](int button) {
@@ -74,18 +69,17 @@ void RunQuestions::askAboutPhotos(const OutputPlan& outputs, const QString& fold
 void RunQuestions::askAboutSharedNames(const OutputPlan& outputs, const QString& folder,
                                        const Answered& answered) {
     constexpr std::array Rules = {NameRule::Number, NameRule::Replace};
-    const QString text =
-        tr("Some photos would get the same name, and each would take the place of the one before it. "
-           "“Number” puts 1, "
-           "2 and so on behind the name:\n%1");
+    const QString text = Words::tr(
+        "Some photos would get the same name, and each would take the place of the one before it. "
+        "“Number” puts 1, "
+        "2 and so on behind the name:\n%1");
     question_ =
         openMessageSheet(&window_,
                          {QMessageBox::Question,
-                          tr("%1 Photos Would Become %2")
-                              .arg(outputs.photos)
-                              .arg(outputs.files == 1 ? tr("1 File") : tr("%1 Files").arg(outputs.files)),
+                          Words::tr("%Ln Photo(s) Would Become %1", nullptr, static_cast<int>(outputs.photos))
+                              .arg(Words::tr("%Ln File(s)", nullptr, static_cast<int>(outputs.files))),
                           text.arg(listed(outputs.sharedNames)),
-                          {tr("Number"), tr("Replace"), tr("Cancel")},
+                          {Words::tr("Number"), Words::tr("Replace"), Words::tr("Cancel")},
                           0,
                           2},
                          [this, folder, answered, Rules](int button) {
@@ -98,23 +92,23 @@ void RunQuestions::askAboutSharedNames(const OutputPlan& outputs, const QString&
 void RunQuestions::askAboutExistingFiles(const QStringList& files, const QString& folder,
                                          const Answered& answered) {
     constexpr std::array Rules = {NameRule::Replace, NameRule::Number, NameRule::Skip};
-    const QString text =
-        tr("“Replace” writes over what is there, “Number” puts 1, 2 and so on behind the new names, “Skip” "
-           "leaves these "
-           "photos out:\n%1");
-    question_ = openMessageSheet(
-        &window_,
-        {QMessageBox::Question,
-         files.size() == 1 ? tr("A File Exists Already") : tr("%1 Files Exist Already").arg(files.size()),
-         text.arg(listed(files)),
-         {tr("Replace"), tr("Number"), tr("Skip"), tr("Cancel")},
-         1,
-         3},
-        [this, folder, answered, Rules](int button) {
-            if (button == 3) return answered(Answer::Cancel);
-            chosen_[folder].existing = Rules.at(static_cast<std::size_t>(button));
-            answered(Answer::PlanAgain);
-        });
+    const QString text = Words::tr(
+        "“Replace” writes over what is there, “Number” puts 1, 2 and so on behind the new names, “Skip” "
+        "leaves these "
+        "photos out:\n%1");
+    question_ =
+        openMessageSheet(&window_,
+                         {QMessageBox::Question,
+                          Words::tr("%Ln File(s) Exist Already", nullptr, static_cast<int>(files.size())),
+                          text.arg(listed(files)),
+                          {Words::tr("Replace"), Words::tr("Number"), Words::tr("Skip"), Words::tr("Cancel")},
+                          1,
+                          3},
+                         [this, folder, answered, Rules](int button) {
+                             if (button == 3) return answered(Answer::Cancel);
+                             chosen_[folder].existing = Rules.at(static_cast<std::size_t>(button));
+                             answered(Answer::PlanAgain);
+                         });
 }
 
 }  // namespace zelto

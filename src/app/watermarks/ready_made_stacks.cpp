@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/ready_made_stacks.h"
 
+#include "platform/words.h"
+
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFontInfo>
 #include <QPainter>
 
@@ -14,10 +15,6 @@ constexpr std::int32_t BottomLeft = 7;
 constexpr std::int32_t BottomCentre = 8;
 constexpr std::int32_t BottomRight = 9;
 constexpr float MarginShare = 0.025F;  // of the photo's shorter side
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("ReadyMadeStacks", text);
-}
 
 // A text whose size is a share of a side of the photo, in per cent.
 Watermark text(const QString& content, QLatin1String side, std::int64_t percent, std::int32_t position) {
@@ -63,7 +60,7 @@ QByteArray placeholderLogo() {
     font.setBold(true);
     font.setPixelSize(58);
     painter.setFont(font);
-    painter.drawText(logo.rect(), Qt::AlignCenter, tr("YOUR LOGO"));
+    painter.drawText(logo.rect(), Qt::AlignCenter, Words::tr("YOUR LOGO"));
     painter.end();
     QBuffer png;
     png.open(QIODevice::WriteOnly);
@@ -73,7 +70,7 @@ QByteArray placeholderLogo() {
 
 WatermarkStack cornerLogo() {
     Watermark logo(watermark_type::Image);
-    logo.LabelName = tr("Your logo");
+    logo.LabelName = Words::tr("Your logo");
     logo.ImageData = placeholderLogo();
     logo.Resize = true;
     logo.ResizeFormat = logo_resize::Proportional;
@@ -86,12 +83,12 @@ WatermarkStack cornerLogo() {
 }
 
 WatermarkStack tiledText() {
-    return {{diagonal(tr("SAMPLE"), 0.35F)}, {}, 0, false, {}};
+    return {{diagonal(Words::tr("SAMPLE"), 0.35F)}, {}, 0, false, {}};
 }
 
 WatermarkStack captionBar() {
     Watermark bar(watermark_type::Shape);
-    bar.LabelName = tr("Caption bar");
+    bar.LabelName = Words::tr("Caption bar");
     bar.ResizeWidthByPercent = bar.ResizeHeightByPercent = true;
     bar.ResizeWidth = 1.0F;
     bar.ResizeHeight = 0.1F;
@@ -115,17 +112,19 @@ WatermarkStack proof() {
     code.Transparency = 1.0F;
     code.Position = BottomRight;
     setPaddings(code, MarginShare);
-    return {{diagonal(tr("PROOF"), 0.35F), code}, {}, 0, false, {}};
+    return {{diagonal(Words::tr("PROOF"), 0.35F), code}, {}, 0, false, {}};
 }
 
 }  // namespace
 
 const std::vector<ReadyMadeStack>& readyMadeStacks() {
     static const std::vector<ReadyMadeStack> stacks = {
-        {tr("Corner logo"), tr("A place for your logo in the lower right corner"), cornerLogo},
-        {tr("Diagonal text"), tr("A text all over the photo"), tiledText},
-        {tr("Caption bar"), tr("The photo's name and date on a bar along the lower edge"), captionBar},
-        {tr("Proof with QR code"), tr("PROOF all over the photo, and its name as a QR code"), proof},
+        {Words::tr("Corner logo"), Words::tr("A place for your logo in the lower right corner"), cornerLogo},
+        {Words::tr("Diagonal text"), Words::tr("A text all over the photo"), tiledText},
+        {Words::tr("Caption bar"), Words::tr("The photo's name and date on a bar along the lower edge"),
+         captionBar},
+        {Words::tr("Proof with QR code"), Words::tr("PROOF all over the photo, and its name as a QR code"),
+         proof},
     };
     return stacks;
 }

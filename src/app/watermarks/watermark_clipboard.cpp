@@ -2,9 +2,9 @@
 #include "app/watermarks/watermark_clipboard.h"
 
 #include "persistence/setting_file.h"
+#include "platform/words.h"
 #include "records/watermark_stack.h"
 
-#include <QCoreApplication>
 #include <QMimeData>
 
 namespace zelto {
@@ -35,12 +35,10 @@ bool holdsWatermarks(const QMimeData& data) {
 Result<std::vector<Watermark>> watermarksOf(const QMimeData& data) {
     const QByteArray document =
         data.hasFormat(WatermarksMimeType) ? data.data(WatermarksMimeType) : data.text().toUtf8();
-    Result<WatermarkStack> stack =
-        readSettingDocument(document, QCoreApplication::translate("WatermarkClipboard", "The clipboard"));
+    Result<WatermarkStack> stack = readSettingDocument(document, Words::tr("The clipboard"));
     if (!stack) return tl::unexpected(stack.error());
     if (stack->Watermarks.empty())
-        return fail(ErrorCode::InvalidFile,
-                    QCoreApplication::translate("WatermarkClipboard", "There are no watermarks to paste."));
+        return fail(ErrorCode::InvalidFile, Words::tr("There are no watermarks to paste."));
     return std::move(stack->Watermarks);
 }
 

@@ -323,7 +323,7 @@ void WatermarkController::removeRows(std::vector<int> rows) {
         hasMetadata = hasMetadata || kind == WatermarkListModel::RowKind::Metadata;
         if (kind == WatermarkListModel::RowKind::Watermark) indices.push_back(model_.watermarkOf(row));
     }
-    const QString name = rows.size() > 1 ? tr("Remove %1 Rows").arg(rows.size())
+    const QString name = rows.size() > 1 ? tr("Remove %Ln Row(s)", nullptr, static_cast<int>(rows.size()))
                          : hasFilter     ? tr("Remove Filter")
                          : hasMetadata   ? tr("Remove Copyright")
                                          : tr("Remove Watermark");

@@ -4,6 +4,7 @@
 #include "app/common/icons.h"
 #include "app/watermarks/watermark_clipboard.h"
 #include "platform/path_parts.h"
+#include "platform/words.h"
 #include "records/resource_picture.h"
 #include "render/photo_filters.h"
 
@@ -18,11 +19,14 @@ namespace zelto {
 namespace {
 
 // By `Watermark::ShapeType`.
-constexpr std::array<const char*, 5> ShapeNames = {"", "Rectangle", "Ellipse", "Polygon", "Line"};
+constexpr std::array ShapeNames = {MarkedText(""), MarkedText(QT_TRANSLATE_NOOP("Words", "Rectangle")),
+                                   MarkedText(QT_TRANSLATE_NOOP("Words", "Ellipse")),
+                                   MarkedText(QT_TRANSLATE_NOOP("Words", "Polygon")),
+                                   MarkedText(QT_TRANSLATE_NOOP("Words", "Line"))};
 
 QString shapeName(std::int32_t shapeType) {
     const auto at = static_cast<std::size_t>(shapeType);
-    return QLatin1String(shapeType >= 0 && at < ShapeNames.size() ? ShapeNames[at] : "");
+    return shapeType >= 0 && at < ShapeNames.size() ? QString(ShapeNames[at]) : QString();
 }
 
 // Beside the watermarks themselves, a drag within a list carries their places there.
@@ -41,7 +45,7 @@ QString watermarkLabel(const Watermark& watermark) {
         case watermark_type::Image:
             return watermark.ImagePath;
         case watermark_type::Shape:
-            return QStringLiteral("Shape - ") + shapeName(watermark.ShapeType);
+            return Words::tr("Shape - %1").arg(shapeName(watermark.ShapeType));
         default:
             return QString(watermark.Text).replace(QLatin1Char('\n'), QLatin1Char(' '));
     }
@@ -155,9 +159,9 @@ const Watermark& WatermarkListModel::watermarkAt(int row) const {
 QString WatermarkListModel::label(int row) const {
     switch (kindOf(row)) {
         case RowKind::Filter:
-            return QStringLiteral("Filter - ") + GetFilterName(filterOf(shown_.Stack));
+            return Words::tr("Filter - %1").arg(GetFilterName(filterOf(shown_.Stack)));
         case RowKind::Metadata:
-            return QStringLiteral("Copyright");
+            return Words::tr("Copyright");
         case RowKind::Watermark:
             break;
     }

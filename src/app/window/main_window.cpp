@@ -57,7 +57,7 @@ void takeAccent(QPushButton& button) {
 }
 
 QString photoCount(int count) {
-    return count == 1 ? MainWindow::tr("1 photo") : MainWindow::tr("%1 photos").arg(count);
+    return MainWindow::tr("%Ln photo(s)", nullptr, count);
 }
 
 }  // namespace
@@ -401,9 +401,9 @@ void MainWindow::showStatus() {
     const auto checked = std::count_if(photos_.images().begin(), photos_.images().end(),
                                        [](const Image& photo) { return photo.ApplyWatermark; });
     const int count = photos_.count();
-    photoCount_->setText(count == 0
-                             ? tr("No photos")
-                             : photoCount(count) + QStringLiteral(" · ") + tr("%1 checked").arg(checked));
+    photoCount_->setText(count == 0 ? tr("No photos")
+                                    : photoCount(count) + QStringLiteral(" · ") +
+                                          tr("%Ln checked", nullptr, static_cast<int>(checked)));
     const auto& shown = previewView_->shown();
     const QString times = QStringLiteral(" × ");
     zoom_->setText(shown ? QString::number(shown->scene.photoSize.width()) + times +

@@ -25,8 +25,14 @@ QToolButton* makeButton(const QString& name, QWidget* parent) {
 // One thing that a photo may have.
 struct PhotoStrip::Part {
     const char* objectName;
-    const char* name;   // in the strip
-    const char* named;  // in sentences
+    const char* name;
+    struct {
+        const char* add;
+        const char* edit;
+        const char* remove;
+        const char* switchOn;
+        const char* switchOff;
+    } told;
     Act edit;
     bool (*isThere)(const StackState&);
     bool (*isOn)(const StackState&);
@@ -37,18 +43,35 @@ struct PhotoStrip::Part {
 PhotoStrip::PhotoStrip(WatermarkController& watermarks, WindowActions& actions, QWidget* parent)
     : QWidget(parent), watermarks_(watermarks) {
     static constexpr Part Parts[] = {
-        {"Filter", QT_TR_NOOP("Filter"), QT_TR_NOOP("the filter"), Act::AddFilter,
+        {"Filter",
+         QT_TR_NOOP("Filter"),
+         {QT_TR_NOOP("Add the filter"), QT_TR_NOOP("Edit the filter"), QT_TR_NOOP("Remove the filter"),
+          QT_TR_NOOP("Switch the filter on"), QT_TR_NOOP("Switch the filter off")},
+         Act::AddFilter,
          [](const StackState& state) { return filterOf(state.Stack) != 0; },
          [](const StackState& state) { return state.Stack.SelectedFilter != 0; },
-         &WatermarkController::setFilterEnabled, [](WatermarkController& all) { all.removeFilter(); }},
-        {"Effects", QT_TR_NOOP("Border"), QT_TR_NOOP("border and shadow"), Act::AddEffects,
+         &WatermarkController::setFilterEnabled,
+         [](WatermarkController& all) { all.removeFilter(); }},
+        {"Effects",
+         QT_TR_NOOP("Border"),
+         {QT_TR_NOOP("Add border and shadow"), QT_TR_NOOP("Edit border and shadow"),
+          QT_TR_NOOP("Remove border and shadow"), QT_TR_NOOP("Switch border and shadow on"),
+          QT_TR_NOOP("Switch border and shadow off")},
+         Act::AddEffects,
          [](const StackState& state) { return effectsOf(state.Stack).has_value(); },
          [](const StackState& state) { return state.Stack.Effects.has_value(); },
-         &WatermarkController::setEffectsEnabled, [](WatermarkController& all) { all.removeEffects(); }},
-        {"Copyright", QT_TR_NOOP("Copyright"), QT_TR_NOOP("the copyright data"), Act::AddCopyright,
+         &WatermarkController::setEffectsEnabled,
+         [](WatermarkController& all) { all.removeEffects(); }},
+        {"Copyright",
+         QT_TR_NOOP("Copyright"),
+         {QT_TR_NOOP("Add the copyright data"), QT_TR_NOOP("Edit the copyright data"),
+          QT_TR_NOOP("Remove the copyright data"), QT_TR_NOOP("Switch the copyright data on"),
+          QT_TR_NOOP("Switch the copyright data off")},
+         Act::AddCopyright,
          [](const StackState& state) { return state.Metadata.has_value(); },
          [](const StackState& state) { return state.Metadata && state.Metadata->Enabled; },
-         &WatermarkController::setMetadataEnabled, [](WatermarkController& all) { all.removeMetadata(); }},
+         &WatermarkController::setMetadataEnabled,
+         [](WatermarkController& all) { all.removeMetadata(); }},
     };
     setAccessibleName(tr("The photo as a whole"));
     auto* row = new QHBoxLayout(this);
@@ -61,7 +84,7 @@ PhotoStrip::PhotoStrip(WatermarkController& watermarks, WindowActions& actions, 
                   makeButton(name + QStringLiteral("Remove"), this)};
         cell.remove->setIcon(lineIcon(QLatin1String("close")));
         cell.remove->setIconSize({12, 12});
-        cell.remove->setToolTip(tr("Remove %1").arg(tr(part.named)));
+        cell.remove->setToolTip(tr(part.told.remove));
         cell.remove->setAccessibleName(cell.remove->toolTip());
         cell.edit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         const QAction* edit = actions[part.edit];
@@ -94,14 +117,13 @@ void PhotoStrip::follow() {
         cell.eye->setVisible(isThere);
         cell.remove->setVisible(isThere);
         cell.eye->setIcon(lineIcon(isOn ? QLatin1String("eye") : QLatin1String("eye-off")));
-        cell.eye->setToolTip(isOn ? tr("Switch %1 off").arg(tr(part.named))
-                                  : tr("Switch %1 on").arg(tr(part.named)));
+        cell.eye->setToolTip(tr(isOn ? part.told.switchOff : part.told.switchOn));
         cell.eye->setAccessibleName(cell.eye->toolTip());
         cell.edit->setIcon(isThere ? QIcon() : lineIcon(QLatin1String("add")));
         cell.edit->setText(tr(part.name));
-        QString what = isThere ? tr("Edit %1").arg(tr(part.named)) : tr("Add %1").arg(tr(part.named));
+        QString what = tr(isThere ? part.told.edit : part.told.add);
         if (isThere && part.edit == Act::AddFilter)
-            what += QStringLiteral(": ") + GetFilterName(filterOf(state.Stack));
+            what = tr("%1: %2").arg(what, GetFilterName(filterOf(state.Stack)));
         cell.edit->setToolTip(what);
         cell.edit->setAccessibleName(what);
     }

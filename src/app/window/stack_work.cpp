@@ -15,6 +15,7 @@
 #include "app/window/watermark_panel.h"
 #include "app/window/window_actions.h"
 #include "persistence/settings_library.h"
+#include "platform/words.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -43,7 +44,7 @@ void paste(const StackParts& parts) {
         const Result<void> pasted = parts.watermarks.paste(*data, areaOf(parts.preview));
         if (!pasted) showAlert(&parts.window, tr("Paste Error"), pasted.error().message);
     } else if (!parts.addPhotos(*data)) {
-        parts.tell(tr("There are neither watermarks nor photos on the clipboard."));
+        parts.tell(Words::tr("There are neither watermarks nor photos on the clipboard."));
     }
 }
 
@@ -53,7 +54,7 @@ void saveStack(const StackParts& parts) {
     if (!parts.keeper.save()) {
         parts.dialogs.saveSettings(&parts.window, parts.watermarks);
     } else if (!parts.keeper.isChanged()) {
-        parts.tell(tr("“%1” is saved.").arg(parts.keeper.name()));
+        parts.tell(Words::tr("“%1” is saved.").arg(parts.keeper.name()));
     }
 }
 
@@ -64,13 +65,13 @@ void chooseStack(const StackParts& parts) {
             SettingsLibrary(parts.shared.SettingDirectory).path(name).and_then([&parts](const QString& path) {
                 return parts.watermarks.LoadWatermarkSetting(path);
             });
-        if (!loaded) showAlert(&parts.window, QStringLiteral("Setting Load Error"), loaded.error().message);
+        if (!loaded) showAlert(&parts.window, Words::tr("Setting Load Error"), loaded.error().message);
     });
     popup->openBelow(parts.panel.head().name());
 }
 
 void addReadyMadeMenu(const StackParts& parts) {
-    QMenu* menu = parts.actions.addMenu()->addMenu(tr("&Ready-Made"));
+    QMenu* menu = parts.actions.addMenu()->addMenu(Words::tr("&Ready-Made"));
     int place = 0;
     for (const ReadyMadeStack& stack : readyMadeStacks()) {
         QAction* action = menu->addAction(stack.name);

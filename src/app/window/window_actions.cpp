@@ -2,6 +2,7 @@
 #include "app/window/window_actions.h"
 
 #include "app/common/icons.h"
+#include "platform/words.h"
 
 #include <QKeySequence>
 #include <QMenu>
@@ -38,79 +39,123 @@ struct ActionRow {
     bool endsGroup = false;  // a separator follows in the menu
 };
 
-#define TEXT(text) QT_TRANSLATE_NOOP("zelto::WindowActions", text)
-const char* const FileMenu = TEXT("&File");
-const char* const EditMenu = TEXT("&Edit");
-const char* const PhotosMenu = TEXT("&Photos");
-const char* const WatermarksMenu = TEXT("&Watermarks");
-const char* const AddMenu = TEXT("&Add");
-const char* const ViewMenu = TEXT("&View");
-const char* const HelpMenu = TEXT("&Help");
+const char* const FileMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&File");
+const char* const EditMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&Edit");
+const char* const PhotosMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&Photos");
+const char* const WatermarksMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&Watermarks");
+const char* const AddMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&Add");
+const char* const ViewMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&View");
+const char* const HelpMenu = QT_TRANSLATE_NOOP("zelto::WindowActions", "&Help");
 
 const std::array Rows_ = {
-    ActionRow{Act::SaveSettings, FileMenu, TEXT("&Save Setting"), "save", "Ctrl+S", Stack | Idle},
-    ActionRow{Act::SaveSettingsAs, FileMenu, TEXT("Save Setting &As..."), "", "Ctrl+Shift+S", Stack | Idle},
-    ActionRow{Act::LoadAtStart, FileMenu, TEXT("&Load at Start"), "", "", Setting | Idle, true},
-    ActionRow{Act::ChooseStack, FileMenu, TEXT("Saved Stac&ks"), "stacks", "Ctrl+Shift+L", Idle},
-    ActionRow{Act::OpenSettings, FileMenu, TEXT("Saved Se&ttings..."), "settings-list", "Ctrl+L", Idle, true},
-    ActionRow{Act::ImportSettings, FileMenu, TEXT("&Import Settings..."), "import", "", Idle},
-    ActionRow{Act::ExportSettings, FileMenu, TEXT("&Export Settings..."), "export", "", Idle, true},
-    ActionRow{Act::Start, FileMenu, TEXT("Start &Watermarking..."), "start", "Ctrl+Return", Photos | Idle},
-    ActionRow{Act::PauseRun, FileMenu, TEXT("&Pause or Resume"), "pause", "Ctrl+P", Run},
-    ActionRow{Act::CancelRun, FileMenu, TEXT("&Cancel Watermarking"), "stop", "Ctrl+.", Run, true},
-    ActionRow{Act::Quit, FileMenu, TEXT("&Quit"), "", "Ctrl+Q", Nothing},
-    ActionRow{Act::AddPhotos, PhotosMenu, TEXT("&Add Photos..."), "add-photos", "Ctrl+O", Idle},
-    ActionRow{Act::AddFolder, PhotosMenu, TEXT("Add &Folder..."), "add-folder", "Ctrl+Shift+O", Idle, true},
-    ActionRow{Act::RemovePhoto, PhotosMenu, TEXT("&Remove Photo"), "remove", "Del", Photos | Idle},
-    ActionRow{Act::RemoveAllPhotos, PhotosMenu, TEXT("Remove A&ll Photos"), "remove-all", "", Photos | Idle,
-              true},
-    ActionRow{Act::CheckAll, PhotosMenu, TEXT("&Check All"), "check-all", "Ctrl+Shift+A", Photos | Idle},
-    ActionRow{Act::UncheckAll, PhotosMenu, TEXT("&Uncheck All"), "", "", Photos | Idle},
-    ActionRow{Act::ToggleCheck, PhotosMenu, TEXT("&Toggle Check Marks"), "", "Ctrl+Shift+T", Photos | Idle,
-              true},
-    ActionRow{Act::NextPhoto, PhotosMenu, TEXT("&Next Photo"), "", "PgDown", Photos | Idle},
-    ActionRow{Act::PreviousPhoto, PhotosMenu, TEXT("&Previous Photo"), "", "PgUp", Photos | Idle},
-    ActionRow{Act::FindPhotos, PhotosMenu, TEXT("F&ind Photos"), "find", "Ctrl+F", Photos | Idle, true},
-    ActionRow{Act::SortByName, PhotosMenu, TEXT("&Sort by Name"), "", "", Photos | Idle},
-    ActionRow{Act::SortByDate, PhotosMenu, TEXT("Sort by &Date Taken"), "", "", Photos | Idle},
-    ActionRow{Act::AddText, AddMenu, TEXT("&Text..."), "text", "Ctrl+T", Idle},
-    ActionRow{Act::AddImage, AddMenu, TEXT("&Image..."), "image", "Ctrl+I", Idle},
-    ActionRow{Act::AddShape, AddMenu, TEXT("&Shape..."), "shape", "", Idle},
-    ActionRow{Act::AddQrCode, AddMenu, TEXT("&QR Code..."), "qr-code", "", Idle, true},
-    ActionRow{Act::AddFilter, AddMenu, TEXT("&Filter..."), "filter", "", Idle},
-    ActionRow{Act::AddEffects, AddMenu, TEXT("&Border and Shadow..."), "effects", "", Idle},
-    ActionRow{Act::AddCopyright, AddMenu, TEXT("&Copyright..."), "copyright", "", Idle},
-    ActionRow{Act::Cut, EditMenu, TEXT("Cu&t"), "cut", "Ctrl+X", SelectedMark | Idle},
-    ActionRow{Act::Copy, EditMenu, TEXT("&Copy"), "copy", "Ctrl+C", SelectedMark | Idle},
-    ActionRow{Act::Paste, EditMenu, TEXT("&Paste"), "paste", "Ctrl+V", Idle},
-    ActionRow{Act::DuplicateWatermark, EditMenu, TEXT("&Duplicate"), "duplicate", "Ctrl+D",
+    ActionRow{Act::SaveSettings, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Save Setting"), "save",
+              "Ctrl+S", Stack | Idle},
+    ActionRow{Act::SaveSettingsAs, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Save Setting &As..."),
+              "", "Ctrl+Shift+S", Stack | Idle},
+    ActionRow{Act::LoadAtStart, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Load at Start"), "", "",
+              Setting | Idle, true},
+    ActionRow{Act::ChooseStack, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Saved Stac&ks"),
+              "stacks", "Ctrl+Shift+L", Idle},
+    ActionRow{Act::OpenSettings, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Saved Se&ttings..."),
+              "settings-list", "Ctrl+L", Idle, true},
+    ActionRow{Act::ImportSettings, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Import Settings..."),
+              "import", "", Idle},
+    ActionRow{Act::ExportSettings, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Export Settings..."),
+              "export", "", Idle, true},
+    ActionRow{Act::Start, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Start &Watermarking..."),
+              "start", "Ctrl+Return", Photos | Idle},
+    ActionRow{Act::PauseRun, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Pause or Resume"), "pause",
+              "Ctrl+P", Run},
+    ActionRow{Act::CancelRun, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Cancel Watermarking"),
+              "stop", "Ctrl+.", Run, true},
+    ActionRow{Act::Quit, FileMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Quit"), "", "Ctrl+Q", Nothing},
+    ActionRow{Act::AddPhotos, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Add Photos..."),
+              "add-photos", "Ctrl+O", Idle},
+    ActionRow{Act::AddFolder, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Add &Folder..."),
+              "add-folder", "Ctrl+Shift+O", Idle, true},
+    ActionRow{Act::RemovePhoto, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Remove Photo"),
+              "remove", "Del", Photos | Idle},
+    ActionRow{Act::RemoveAllPhotos, PhotosMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "Remove A&ll Photos"), "remove-all", "",
+              Photos | Idle, true},
+    ActionRow{Act::CheckAll, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Check All"), "check-all",
+              "Ctrl+Shift+A", Photos | Idle},
+    ActionRow{Act::UncheckAll, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Uncheck All"), "", "",
+              Photos | Idle},
+    ActionRow{Act::ToggleCheck, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Toggle Check Marks"),
+              "", "Ctrl+Shift+T", Photos | Idle, true},
+    ActionRow{Act::NextPhoto, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Next Photo"), "",
+              "PgDown", Photos | Idle},
+    ActionRow{Act::PreviousPhoto, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Previous Photo"),
+              "", "PgUp", Photos | Idle},
+    ActionRow{Act::FindPhotos, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "F&ind Photos"), "find",
+              "Ctrl+F", Photos | Idle, true},
+    ActionRow{Act::SortByName, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Sort by Name"), "", "",
+              Photos | Idle},
+    ActionRow{Act::SortByDate, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Sort by &Date Taken"),
+              "", "", Photos | Idle},
+    ActionRow{Act::AddText, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Text..."), "text", "Ctrl+T",
+              Idle},
+    ActionRow{Act::AddImage, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Image..."), "image",
+              "Ctrl+I", Idle},
+    ActionRow{Act::AddShape, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Shape..."), "shape", "",
+              Idle},
+    ActionRow{Act::AddQrCode, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&QR Code..."), "qr-code",
+              "", Idle, true},
+    ActionRow{Act::AddFilter, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Filter..."), "filter", "",
+              Idle},
+    ActionRow{Act::AddEffects, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Border and Shadow..."),
+              "effects", "", Idle},
+    ActionRow{Act::AddCopyright, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Copyright..."),
+              "copyright", "", Idle},
+    ActionRow{Act::Cut, EditMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Cu&t"), "cut", "Ctrl+X",
               SelectedMark | Idle},
-    ActionRow{Act::EditWatermark, WatermarksMenu, TEXT("&Edit..."), "edit", "F2", SelectedRow | Idle},
-    ActionRow{Act::RenameWatermark, WatermarksMenu, TEXT("Re&name"), "rename", "Shift+F2",
+    ActionRow{Act::Copy, EditMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Copy"), "copy", "Ctrl+C",
               SelectedMark | Idle},
-    ActionRow{Act::ToggleWatermark, WatermarksMenu, TEXT("&Show or Hide"), "eye", "Space", SelectedRow | Idle,
+    ActionRow{Act::Paste, EditMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Paste"), "paste", "Ctrl+V",
+              Idle},
+    ActionRow{Act::DuplicateWatermark, EditMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Duplicate"),
+              "duplicate", "Ctrl+D", SelectedMark | Idle},
+    ActionRow{Act::EditWatermark, WatermarksMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Edit..."),
+              "edit", "F2", SelectedRow | Idle},
+    ActionRow{Act::RenameWatermark, WatermarksMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Re&name"),
+              "rename", "Shift+F2", SelectedMark | Idle},
+    ActionRow{Act::ToggleWatermark, WatermarksMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "&Show or Hide"), "eye", "Space", SelectedRow | Idle,
               true},
-    ActionRow{Act::MoveUp, WatermarksMenu, TEXT("Move &Up"), "move-up", "Alt+Up", SelectedMark | Idle},
-    ActionRow{Act::MoveDown, WatermarksMenu, TEXT("Move &Down"), "move-down", "Alt+Down", SelectedMark | Idle,
-              true},
-    ActionRow{Act::RemoveWatermark, WatermarksMenu, TEXT("&Remove Watermark"), "remove", "Del",
+    ActionRow{Act::MoveUp, WatermarksMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Move &Up"), "move-up",
+              "Alt+Up", SelectedMark | Idle},
+    ActionRow{Act::MoveDown, WatermarksMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Move &Down"),
+              "move-down", "Alt+Down", SelectedMark | Idle, true},
+    ActionRow{Act::RemoveWatermark, WatermarksMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "&Remove Watermark"), "remove", "Del",
               SelectedRow | Idle},
-    ActionRow{Act::RemoveAllWatermarks, WatermarksMenu, TEXT("Remove A&ll Watermarks"), "remove-all", "",
+    ActionRow{Act::RemoveAllWatermarks, WatermarksMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "Remove A&ll Watermarks"), "remove-all", "",
               Rows | Idle},
-    ActionRow{Act::ZoomIn, ViewMenu, TEXT("Zoom &In"), "zoom-in", "Ctrl++", Picture | Idle},
-    ActionRow{Act::ZoomOut, ViewMenu, TEXT("Zoom &Out"), "zoom-out", "Ctrl+-", Picture | Idle, true},
-    ActionRow{Act::FitToScreen, ViewMenu, TEXT("&Fit to Screen"), "zoom-fit", "Ctrl+0", Picture | Idle},
-    ActionRow{Act::ActualSize, ViewMenu, TEXT("&Actual Size"), "zoom-actual", "Ctrl+1", Picture | Idle, true},
-    ActionRow{Act::Contacts, ViewMenu, TEXT("&Contact View"), "contact", "F9", Photos | Idle},
-    ActionRow{Act::Before, ViewMenu, TEXT("Show Without &Marks (Hold F8)"), "before", "", Photos | Idle,
-              true},
-    ActionRow{Act::FullScreen, ViewMenu, TEXT("F&ull Screen"), "full-screen", "F11", Photos | Idle},
-    ActionRow{Act::Guide, HelpMenu, TEXT("&Guide"), "information", "F1", Nothing},
-    ActionRow{Act::Tips, HelpMenu, TEXT("&Tips"), "tips", "", Nothing},
-    ActionRow{Act::VersionCheck, HelpMenu, TEXT("&Check for a New Version"), "", "", Nothing, true},
-    ActionRow{Act::About, HelpMenu, TEXT("&About Zelto"), "", "", Nothing},
+    ActionRow{Act::ZoomIn, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Zoom &In"), "zoom-in",
+              "Ctrl++", Picture | Idle},
+    ActionRow{Act::ZoomOut, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Zoom &Out"), "zoom-out",
+              "Ctrl+-", Picture | Idle, true},
+    ActionRow{Act::FitToScreen, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Fit to Screen"),
+              "zoom-fit", "Ctrl+0", Picture | Idle},
+    ActionRow{Act::ActualSize, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Actual Size"),
+              "zoom-actual", "Ctrl+1", Picture | Idle, true},
+    ActionRow{Act::Contacts, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Contact View"), "contact",
+              "F9", Photos | Idle},
+    ActionRow{Act::Before, ViewMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "Show Without &Marks (Hold F8)"), "before", "",
+              Photos | Idle, true},
+    ActionRow{Act::FullScreen, ViewMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "F&ull Screen"),
+              "full-screen", "F11", Photos | Idle},
+    ActionRow{Act::Guide, HelpMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Guide"), "information", "F1",
+              Nothing},
+    ActionRow{Act::Tips, HelpMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Tips"), "tips", "", Nothing},
+    ActionRow{Act::VersionCheck, HelpMenu,
+              QT_TRANSLATE_NOOP("zelto::WindowActions", "&Check for a New Version"), "", "", Nothing, true},
+    ActionRow{Act::About, HelpMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&About Zelto"), "", "",
+              Nothing},
 };
-#undef TEXT
 
 bool isAllowed(unsigned needs, const WindowState& state) {
     const std::pair<unsigned, bool> conditions[] = {{Photos, state.hasPhotos},
@@ -139,7 +184,7 @@ WindowActions::WindowActions(QWidget* window) : QObject(window), addMenu_(new QM
         QString plain = tr(row.text);
         plain.remove(QLatin1Char('&')).remove(QStringLiteral("..."));
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        action->setToolTip(keys.isEmpty() ? plain : tr("%1 (%2)").arg(plain, keys));
+        action->setToolTip(keys.isEmpty() ? plain : Words::tr("%1 (%2)").arg(plain, keys));
         action->setEnabled(false);
         actions_[row.act] = action;
     }
@@ -147,7 +192,7 @@ WindowActions::WindowActions(QWidget* window) : QObject(window), addMenu_(new QM
     actions_[Act::About]->setMenuRole(QAction::AboutRole);
     actions_[Act::LoadAtStart]->setCheckable(true);
     actions_[Act::RemoveAllWatermarks]->setToolTip(
-        tr("Remove the watermarks, the filter and the copyright data; border and shadow stay"));
+        Words::tr("Remove the watermarks, the filter and the copyright data; border and shadow stay"));
     // Keys that mean something else elsewhere belong to the list that has the focus.
     for (const Act act :
          {Act::RemovePhoto, Act::RemoveWatermark, Act::Cut, Act::Copy, Act::ToggleWatermark}) {

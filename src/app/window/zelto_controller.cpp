@@ -122,9 +122,9 @@ void ZeltoController::sortByDateTaken() {
         return moments;
     };
     const QString name = tr("Sort by Date Taken");
-    auto* reading =
-        new FolderImport(readMoments, window_, this,
-                         {name, tr("Reading dates..."), tr("1 photo read"), tr("%L1 photos read")});
+    auto* reading = new FolderImport(
+        readMoments, window_, this,
+        {name, tr("Reading dates..."), [](int photos) { return tr("%Ln photo(s) read", nullptr, photos); }});
     connect(reading, &FolderImport::found, &photos_, [this, name, paths](const QStringList& moments) {
         if (moments.size() == photos_.count()) photos_.sortPhotos(name, orderByMoment(moments));
     });

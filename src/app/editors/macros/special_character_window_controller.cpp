@@ -179,9 +179,10 @@ void SpecialCharacterWindowController::search(const QString& words) {
 void SpecialCharacterWindowController::take(const FoundCharacters& found, quint64 number) {
     if (number != asked_) return;
     const qsizetype shown = found.characters.size();
-    show(found.characters, found.total == 0      ? tr("No character has such a name")
-                           : shown < found.total ? tr("The first %1 of %2 found").arg(shown).arg(found.total)
-                                                 : tr("%1 found").arg(shown));
+    show(found.characters, found.total == 0 ? tr("No character has such a name")
+                           : shown < found.total
+                               ? tr("The first %L1 of %L2 found").arg(shown).arg(found.total)
+                               : tr("%Ln found", nullptr, static_cast<int>(shown)));
 }
 
 void SpecialCharacterWindowController::show(const QList<char32_t>& characters, const QString& count) {
