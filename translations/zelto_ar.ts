@@ -5,1559 +5,1566 @@
     <name>Words</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>Sample photo</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة نموذجية</translation>
     </message>
     <message>
         <source>Setting Load Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في تحميل الإعداد</translation>
     </message>
     <message>
         <source>Delete the Selected Setting?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد حذف الإعداد المحدد؟</translation>
     </message>
     <message>
         <source>Deleted Setting cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن استعادة الإعداد بعد حذفه.</translation>
     </message>
     <message>
         <source>&amp;JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;JPEG</translation>
     </message>
     <message>
         <source>&amp;PNG</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PNG</translation>
     </message>
     <message>
         <source>&amp;TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;TIFF</translation>
     </message>
     <message>
         <source>&amp;GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;GIF</translation>
     </message>
     <message>
         <source>B&amp;MP</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;MP</translation>
     </message>
     <message>
         <source>&amp;HEIC</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;HEIC</translation>
     </message>
     <message>
         <source>A&amp;VIF</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;VIF</translation>
     </message>
     <message>
         <source>&amp;WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;WebP</translation>
     </message>
     <message>
         <source>JPEG &amp;XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG &amp;XL</translation>
     </message>
     <message>
         <source>Input Folder cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن ترك مجلد الإدخال فارغًا</translation>
     </message>
     <message>
         <source>Please select the folder from where the Images are to be added</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى اختيار المجلد الذي ستُضاف منه الصور</translation>
     </message>
     <message>
         <source>File Extension list cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن ترك قائمة امتدادات الملفات فارغة</translation>
     </message>
     <message>
         <source>Please select atleast one Extension to be included</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى اختيار امتداد واحد على الأقل</translation>
     </message>
     <message>
         <source>Import Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد الإعدادات</translation>
     </message>
     <message>
         <source>Please browse and select the folder from where the settings are to be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى اختيار المجلد الذي ستُستورد منه الإعدادات</translation>
     </message>
     <message>
         <source>Settings have been imported into Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>تم استيراد الإعدادات إلى Zelto</translation>
     </message>
     <message>
         <source>Import Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في الاستيراد</translation>
     </message>
     <message>
         <source>Error in importing settings. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر استيراد الإعدادات. يُرجى المحاولة لاحقًا.</translation>
     </message>
     <message>
         <source>Export Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير الإعدادات</translation>
     </message>
     <message>
         <source>Please browse and select the folder  where the settings are to be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى اختيار المجلد الذي ستُصدَّر إليه الإعدادات</translation>
     </message>
     <message>
         <source>Settings have been exported</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تصدير الإعدادات</translation>
     </message>
     <message>
         <source>Export Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في التصدير</translation>
     </message>
     <message>
         <source>Error in exporting settings. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تصدير الإعدادات. يُرجى المحاولة لاحقًا.</translation>
     </message>
     <message>
         <source>Output Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات الإخراج</translation>
     </message>
     <message>
         <source>Settings have been saved</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ الإعدادات</translation>
     </message>
     <message>
         <source>Settings cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ الإعدادات.</translation>
     </message>
     <message>
         <source>Include All</source>
-        <translation type="unfinished"></translation>
+        <translation>تضمين الكل</translation>
     </message>
     <message>
         <source>Copyright Only</source>
-        <translation type="unfinished"></translation>
+        <translation>حقوق النشر فقط</translation>
     </message>
     <message>
         <source>Exclude Geolocation</source>
-        <translation type="unfinished"></translation>
+        <translation>استبعاد الموقع الجغرافي</translation>
     </message>
     <message>
         <source>Exclude All</source>
-        <translation type="unfinished"></translation>
+        <translation>استبعاد الكل</translation>
     </message>
     <message>
         <source>A Setting with the same name Exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد إعداد بالاسم نفسه.</translation>
     </message>
     <message>
         <source>Do You want to OverWrite it?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد الكتابة فوقه؟</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة</translation>
     </message>
     <message>
         <source>QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز QR</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1</numerusform>
+            <numerusform>%1 وعنصر آخر</numerusform>
+            <numerusform>%1 وعنصران آخران</numerusform>
+            <numerusform>%1 و%Ln عناصر أخرى</numerusform>
+            <numerusform>%1 و%Ln عنصرًا آخر</numerusform>
+            <numerusform>%1 و%Ln عنصر آخر</numerusform>
         </translation>
     </message>
     <message>
         <source>Filter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشّح %1</translation>
     </message>
     <message>
         <source>Border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار والظل</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>حقوق النشر</translation>
     </message>
     <message>
         <source>Add Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة صور</translation>
     </message>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
     <message>
         <source>Version Check</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من الإصدار</translation>
     </message>
     <message>
         <source>The newest version cannot be found out at the moment.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر معرفة أحدث إصدار حاليًا.
+%1</translation>
     </message>
     <message>
         <source>You are using the latest version of Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>أنت تستخدم أحدث إصدار من Zelto</translation>
     </message>
     <message>
         <source>Zelto Update</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث Zelto</translation>
     </message>
     <message>
         <source>A new version of Zelto is available. Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر إصدار جديد من Zelto. هل تريد تنزيله الآن؟</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس الآن</translation>
     </message>
     <message>
         <source>This is version %1. No address is set to ask for a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا هو الإصدار %1. لم يُضبط عنوان للسؤال عن إصدار أحدث.</translation>
     </message>
     <message>
         <source>Asking for the newest version...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ السؤال عن أحدث إصدار...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Watermark Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في العلامة المائية</translation>
     </message>
     <message>
         <source>not processed</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُعالَج</translation>
     </message>
     <message>
         <source>written</source>
-        <translation type="unfinished"></translation>
+        <translation>كُتبت</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت</translation>
     </message>
     <message>
         <source>written with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>كُتبت مع تحذيرات</translation>
     </message>
     <message>
         <source>%1, %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2، %3</translation>
     </message>
     <message>
         <source>checked</source>
-        <translation type="unfinished"></translation>
+        <translation>محددة</translation>
     </message>
     <message>
         <source>not checked</source>
-        <translation type="unfinished"></translation>
+        <translation>غير محددة</translation>
     </message>
     <message numerus="yes">
         <source>and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ولا شيء غيرها</numerusform>
+            <numerusform>وواحدة أخرى</numerusform>
+            <numerusform>واثنتان أخريان</numerusform>
+            <numerusform>و%Ln أخرى</numerusform>
+            <numerusform>و%Ln أخرى</numerusform>
+            <numerusform>و%Ln أخرى</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Be Replaced</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن تُستبدل أي صورة</numerusform>
+            <numerusform>ستُستبدل صورة واحدة</numerusform>
+            <numerusform>ستُستبدل صورتان</numerusform>
+            <numerusform>ستُستبدل %Ln صور</numerusform>
+            <numerusform>ستُستبدل %Ln صورة</numerusform>
+            <numerusform>ستُستبدل %Ln صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>Their watermarked copies would take the place of the originals, which would be lost:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ستحل النسخ ذات العلامة المائية محل الأصول، فتضيع الأصول:
+%1</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>استبدال</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار مجلد آخر</translation>
     </message>
     <message>
         <source>Some photos would get the same name, and each would take the place of the one before it. “Number” puts 1, 2 and so on behind the name:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ستحمل بعض الصور الاسم نفسه، فتحل كل منها محل سابقتها. «ترقيم» يضيف 1 و2 وهكذا بعد الاسم:
+%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Become %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن تصبح أي صورة %1</numerusform>
+            <numerusform>ستصبح صورة واحدة %1</numerusform>
+            <numerusform>ستصبح صورتان %1</numerusform>
+            <numerusform>ستصبح %Ln صور %1</numerusform>
+            <numerusform>ستصبح %Ln صورة %1</numerusform>
+            <numerusform>ستصبح %Ln صورة %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>دون ملفات</numerusform>
+            <numerusform>ملفًا واحدًا</numerusform>
+            <numerusform>ملفين</numerusform>
+            <numerusform>%Ln ملفات</numerusform>
+            <numerusform>%Ln ملفًا</numerusform>
+            <numerusform>%Ln ملف</numerusform>
         </translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>ترقيم</translation>
     </message>
     <message>
         <source>“Replace” writes over what is there, “Number” puts 1, 2 and so on behind the new names, “Skip” leaves these photos out:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>«استبدال» يكتب فوق الموجود، و«ترقيم» يضيف 1 و2 وهكذا بعد الأسماء الجديدة، و«تخطٍّ» يترك هذه الصور:
+%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s) Exist Already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا يوجد أي ملف مسبقًا</numerusform>
+            <numerusform>يوجد ملف واحد مسبقًا</numerusform>
+            <numerusform>يوجد ملفان مسبقًا</numerusform>
+            <numerusform>توجد %Ln ملفات مسبقًا</numerusform>
+            <numerusform>يوجد %Ln ملفًا مسبقًا</numerusform>
+            <numerusform>يوجد %Ln ملف مسبقًا</numerusform>
         </translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>تخطٍّ</translation>
     </message>
     <message>
         <source>YOUR LOGO</source>
-        <translation type="unfinished"></translation>
+        <translation>شعارك هنا</translation>
     </message>
     <message>
         <source>Your logo</source>
-        <translation type="unfinished"></translation>
+        <translation>شعارك</translation>
     </message>
     <message>
         <source>SAMPLE</source>
-        <translation type="unfinished"></translation>
+        <translation>نموذج</translation>
     </message>
     <message>
         <source>Caption bar</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط العنوان</translation>
     </message>
     <message>
         <source>PROOF</source>
-        <translation type="unfinished"></translation>
+        <translation>مسودة</translation>
     </message>
     <message>
         <source>Corner logo</source>
-        <translation type="unfinished"></translation>
+        <translation>شعار في الزاوية</translation>
     </message>
     <message>
         <source>A place for your logo in the lower right corner</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع لشعارك في الزاوية السفلى اليمنى</translation>
     </message>
     <message>
         <source>Diagonal text</source>
-        <translation type="unfinished"></translation>
+        <translation>نص مائل</translation>
     </message>
     <message>
         <source>A text all over the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>نص على الصورة كلها</translation>
     </message>
     <message>
         <source>The photo&apos;s name and date on a bar along the lower edge</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الصورة وتاريخها على شريط بمحاذاة الحافة السفلى</translation>
     </message>
     <message>
         <source>Proof with QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>مسودة مع رمز QR</translation>
     </message>
     <message>
         <source>PROOF all over the photo, and its name as a QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>كلمة «مسودة» على الصورة كلها، واسمها على هيئة رمز QR</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>الحافظة</translation>
     </message>
     <message>
         <source>There are no watermarks to paste.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد علامات مائية للصقها.</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>مستطيل</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع ناقص</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>مضلّع</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>خط</translation>
     </message>
     <message>
         <source>Shape - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>شكل - %1</translation>
     </message>
     <message>
         <source>Filter - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مرشّح - %1</translation>
     </message>
     <message>
         <source>Paste Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في اللصق</translation>
     </message>
     <message>
         <source>There are neither watermarks nor photos on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد في الحافظة علامات مائية ولا صور.</translation>
     </message>
     <message>
         <source>“%1” is saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ «%1».</translation>
     </message>
     <message>
         <source>&amp;Ready-Made</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;جاهزة</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Remove the watermarks, the filter and the copyright data; border and shadow stay</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة العلامات المائية والمرشّح وبيانات حقوق النشر، مع بقاء الإطار والظل</translation>
     </message>
     <message>
         <source>Watermarking failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل وضع العلامة المائية.</translation>
     </message>
     <message>
         <source>Successive Fail</source>
-        <translation type="unfinished"></translation>
+        <translation>إخفاق متتالٍ</translation>
     </message>
     <message>
         <source>3 Photos in a row failed to save, Would you like to  continue watermarking?
 We recommend stopping the process and run as administrator.
 Select No to stop watermarking.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ 3 صور متتالية. هل تريد متابعة وضع العلامات المائية؟
+ننصح بإيقاف العملية وتشغيل البرنامج بصلاحيات المدير.
+اختر «لا» لإيقاف وضع العلامات المائية.</translation>
     </message>
     <message>
         <source>Watermark Output</source>
-        <translation type="unfinished"></translation>
+        <translation>إخراج العلامات المائية</translation>
     </message>
     <message>
         <source>Watermark process completed successfully</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتملت عملية وضع العلامات المائية بنجاح</translation>
     </message>
     <message>
         <source>Watermark process completed but some Photos produced Error
 Double Click the Image Entry to know the problem</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتملت عملية وضع العلامات المائية لكن حدثت أخطاء في بعض الصور
+انقر نقرًا مزدوجًا على مدخل الصورة لمعرفة المشكلة</translation>
     </message>
     <message>
         <source>the folder cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة المجلد: %1</translation>
     </message>
     <message>
         <source>the name is not UTF-8 text, so the photo cannot be opened; rename it</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم ليس نصًا بترميز UTF-8 فلا يمكن فتح الصورة؛ أعد تسميتها</translation>
     </message>
     <message>
         <source>the link leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>الرابط لا يؤدي إلى شيء</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة المجلد «%1».</translation>
     </message>
     <message>
         <source>A filter changes the whole photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>يغيّر المرشّح الصورة كلها.</translation>
     </message>
     <message>
         <source>A border or a shadow is put around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُضاف حولها إطار أو ظل.</translation>
     </message>
     <message>
         <source>It is resized.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتغيّر حجمها.</translation>
     </message>
     <message>
         <source>an earlier photo of the run has the output “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لصورة سابقة في هذا التشغيل الملف الناتج «%1»</translation>
     </message>
     <message>
         <source>“%1” exists already</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» موجود مسبقًا</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُركت: %1.</translation>
     </message>
     <message>
         <source>Not written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُكتب: %1.</translation>
     </message>
     <message>
         <source>The output takes the place of an earlier photo&apos;s of the same name.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحل الملف الناتج محل ملف صورة سابقة بالاسم نفسه.</translation>
     </message>
     <message>
         <source>Files of the kind “%1” are not written here: the output is a JPEG.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُكتب هنا ملفات من النوع «%1»: الملف الناتج بصيغة JPEG.</translation>
     </message>
     <message>
         <source>The photo was written without its metadata: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>كُتبت الصورة من دون بياناتها الوصفية: %1</translation>
     </message>
     <message>
         <source>“%1” has no extension of a format that can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لـ«%1» امتداد صيغة يمكن كتابتها.</translation>
     </message>
     <message>
         <source>A size of %1 × %2 pixels cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة حجم قدره %1 × %2 بكسل.</translation>
     </message>
     <message>
         <source>Original name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم الأصلي</translation>
     </message>
     <message>
         <source>Number, two digits</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم من خانتين</translation>
     </message>
     <message>
         <source>Number, three digits</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم من ثلاث خانات</translation>
     </message>
     <message>
         <source>Number, four digits</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم من أربع خانات</translation>
     </message>
     <message>
         <source>Date: month, day, year</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ: الشهر، اليوم، السنة</translation>
     </message>
     <message>
         <source>Date: day, month, year</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ: اليوم، الشهر، السنة</translation>
     </message>
     <message>
         <source>Date taken</source>
-        <translation type="unfinished"></translation>
+        <translation>تاريخ الالتقاط</translation>
     </message>
     <message>
         <source>Time taken</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت الالتقاط</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان</translation>
     </message>
     <message>
         <source>City</source>
-        <translation type="unfinished"></translation>
+        <translation>المدينة</translation>
     </message>
     <message>
         <source>Photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصورة</translation>
     </message>
     <message>
         <source>Photo height</source>
-        <translation type="unfinished"></translation>
+        <translation>ارتفاع الصورة</translation>
     </message>
     <message>
         <source>Auto Number</source>
-        <translation type="unfinished"></translation>
+        <translation>ترقيم تلقائي</translation>
     </message>
     <message>
         <source>Today&apos;s Date</source>
-        <translation type="unfinished"></translation>
+        <translation>تاريخ اليوم</translation>
     </message>
     <message>
         <source>Image Name (Without Extension)</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الصورة (بلا امتداد)</translation>
     </message>
     <message>
         <source>Image Name (With Extension)</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الصورة (مع الامتداد)</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم المجلد</translation>
     </message>
     <message>
         <source>Full Image Path</source>
-        <translation type="unfinished"></translation>
+        <translation>المسار الكامل للصورة</translation>
     </message>
     <message>
         <source>Creation Date</source>
-        <translation type="unfinished"></translation>
+        <translation>تاريخ الإنشاء</translation>
     </message>
     <message>
         <source>Modification Date</source>
-        <translation type="unfinished"></translation>
+        <translation>تاريخ التعديل</translation>
     </message>
     <message>
         <source>Photo Width</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصورة</translation>
     </message>
     <message>
         <source>Photo Height</source>
-        <translation type="unfinished"></translation>
+        <translation>ارتفاع الصورة</translation>
     </message>
     <message>
         <source>Photo DPI Width</source>
-        <translation type="unfinished"></translation>
+        <translation>الدقة الأفقية (DPI)</translation>
     </message>
     <message>
         <source>Photo DPI Height</source>
-        <translation type="unfinished"></translation>
+        <translation>الدقة الرأسية (DPI)</translation>
     </message>
     <message>
         <source>“%1” is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» غير موجود.</translation>
     </message>
     <message>
         <source>“%1” was given up after it had not answered twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُرك «%1» بعد أن لم يستجب مرتين.</translation>
     </message>
     <message>
         <source>“%1” was not given the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُمهَل «%1» الوقت الكافي.</translation>
     </message>
     <message>
         <source>“%1” ended while it was needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>انتهى «%1» وهو ما زال مطلوبًا.</translation>
     </message>
     <message>
         <source>“%1” did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يستجب «%1» في الوقت المناسب.</translation>
     </message>
     <message>
         <source>exiftool cannot be told “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تمرير «%1» إلى exiftool.</translation>
     </message>
     <message>
         <source>“%1” cannot be started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر تشغيل «%1»: %2</translation>
     </message>
     <message>
         <source>exiftool did not write the metadata: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يكتب exiftool البيانات الوصفية: %1</translation>
     </message>
     <message>
         <source>exiftool did not remove the photo&apos;s position.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُزل exiftool موقع الصورة.</translation>
     </message>
     <message>
         <source>exiftool did not remove a picture from the photo&apos;s metadata.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُزل exiftool صورة مضمّنة في البيانات الوصفية.</translation>
     </message>
     <message>
         <source>exiftool left a file that is not the one it was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترك exiftool ملفًا غير الذي أُعطي له.</translation>
     </message>
     <message>
         <source>exiftool left a file that is not the picture it was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترك exiftool ملفًا ليس الصورة التي أُعطيت له.</translation>
     </message>
     <message>
         <source>Output path cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن ترك مسار الإخراج فارغًا</translation>
     </message>
     <message>
         <source>Please select the folder for the output</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى اختيار مجلد الإخراج</translation>
     </message>
     <message>
         <source>Output path not accessible</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن الوصول إلى مسار الإخراج</translation>
     </message>
     <message>
         <source>The selected path is not accessible. Please select another path.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن الوصول إلى المسار المحدد. يُرجى اختيار مسار آخر.</translation>
     </message>
     <message>
         <source>Longer side cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن ترك الضلع الأطول فارغًا</translation>
     </message>
     <message>
         <source>Please enter the size of the longer side of the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى إدخال طول الضلع الأطول للصورة</translation>
     </message>
     <message>
         <source>a watermark&apos;s type is missing or no number</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع إحدى العلامات المائية مفقود أو ليس رقمًا</translation>
     </message>
     <message>
         <source>“%1” was not written: the logos are too large for a setting file.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُكتب «%1»: الشعارات أكبر من أن يتسع لها ملف الإعداد.</translation>
     </message>
     <message>
         <source>The settings are already in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات موجودة مسبقًا في «%1».</translation>
     </message>
     <message>
         <source>A setting cannot be named “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تسمية إعداد بالاسم «%1».</translation>
     </message>
     <message>
         <source>There is no setting “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إعداد باسم «%1».</translation>
     </message>
     <message>
         <source>The setting “%1” cannot be deleted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر حذف الإعداد «%1»: %2</translation>
     </message>
     <message>
         <source>the file holds too many elements</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتوي الملف على عناصر أكثر مما ينبغي</translation>
     </message>
     <message>
         <source>the elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>العناصر متداخلة بعمق أكبر مما ينبغي</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف كبير جدًا</translation>
     </message>
     <message>
         <source>the file is not UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف ليس نصًا بترميز UTF-8</translation>
     </message>
     <message>
         <source>a document type declaration is not accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُقبل تصريح نوع المستند</translation>
     </message>
     <message>
         <source>a tag is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد الوسوم طويل جدًا</translation>
     </message>
     <message>
         <source>the file&apos;s root is “%1” instead of “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>العنصر الجذر للملف هو «%1» بدلاً من «%2»</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف باسم «%1».</translation>
     </message>
     <message>
         <source>“%1” cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة «%1»: %2</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، السطر %2: %3</translation>
     </message>
     <message>
         <source>The GIF encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز GIF: %1</translation>
     </message>
     <message>
         <source>no palette could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر إنشاء لوحة ألوان</translation>
     </message>
     <message>
         <source>This Zelto was built without an AVIF encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُنيت هذه النسخة من Zelto بلا مرمّز AVIF.</translation>
     </message>
     <message>
         <source>This Zelto was built without a HEIC encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُنيت هذه النسخة من Zelto بلا مرمّز HEIC.</translation>
     </message>
     <message>
         <source>The %1 encoder failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز %1: %2</translation>
     </message>
     <message>
         <source>The JPEG encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز JPEG: %1</translation>
     </message>
     <message>
         <source>The photo&apos;s data cannot be taken over as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن نقل بيانات الصورة كما هي.</translation>
     </message>
     <message>
         <source>It cannot be turned without loss: its stored width, %1 pixels, is no multiple of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تدويرها بلا فقد: عرضها المخزَّن، %1 بكسل، ليس من مضاعفات %2.</translation>
     </message>
     <message>
         <source>It cannot be turned without loss: its stored height, %1 pixels, is no multiple of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تدويرها بلا فقد: ارتفاعها المخزَّن، %1 بكسل، ليس من مضاعفات %2.</translation>
     </message>
     <message>
         <source>The photo is no JPEG.</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة ليست بصيغة JPEG.</translation>
     </message>
     <message>
         <source>Its colours are stored in another way than as YCbCr or grey.</source>
-        <translation type="unfinished"></translation>
+        <translation>ألوانها مخزّنة بطريقة غير YCbCr أو الرمادي.</translation>
     </message>
     <message>
         <source>Its colours are sampled in broken steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُخذت عينات ألوانها بخطوات كسرية.</translation>
     </message>
     <message>
         <source>Its colour profile does not say how to come to its colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يبيّن ملف تعريف الألوان كيفية الوصول إلى ألوانها.</translation>
     </message>
     <message>
         <source>This Zelto was built without a JPEG XL encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُنيت هذه النسخة من Zelto بلا مرمّز JPEG XL.</translation>
     </message>
     <message>
         <source>The JPEG XL encoder failed with error %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز JPEG XL بالخطأ %1.</translation>
     </message>
     <message>
         <source>A picture without pixels cannot be a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لصورة بلا بكسلات أن تكون صفحة.</translation>
     </message>
     <message>
         <source>A PDF document needs at least one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج مستند PDF إلى صفحة واحدة على الأقل.</translation>
     </message>
     <message>
         <source>The PDF document cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر كتابة مستند PDF: %1</translation>
     </message>
     <message>
         <source>There is not enough memory for this picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة لا تكفي لهذه الصورة.</translation>
     </message>
     <message>
         <source>This picture would take %1 MB of memory. No more than %2 MB are used for one from a file of this size on this machine.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتطلب هذه الصورة %1 ميغابايت من الذاكرة. لا يُستخدم لصورة من ملف بهذا الحجم على هذا الجهاز أكثر من %2 ميغابايت.</translation>
     </message>
     <message>
         <source>This is a drawing (SVG, PDF or PostScript). Zelto reads photos and other pictures made of pixels: save it as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا رسم متجهي (SVG أو PDF أو PostScript). يقرأ Zelto الصور المؤلفة من بكسلات: احفظه بصيغة PNG.</translation>
     </message>
     <message>
         <source>This Zelto was built without a reader of %1 files.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُنيت هذه النسخة من Zelto بلا قارئ لملفات %1.</translation>
     </message>
     <message>
         <source>Image may be damaged or use a file format not supported by Zelto.</source>
-        <translation type="unfinished"></translation>
+        <translation>قد تكون الصورة تالفة أو بصيغة ملف لا يدعمها Zelto.</translation>
     </message>
     <message>
         <source>A picture without pixels cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة صورة بلا بكسلات.</translation>
     </message>
     <message>
         <source>A picture of %1 × %2 pixels is too large for the %3 format.</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة بحجم %1 × %2 بكسل أكبر مما تتيحه صيغة %3.</translation>
     </message>
     <message>
         <source>The PNG encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز PNG: %1</translation>
     </message>
     <message>
         <source>The TIFF encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز TIFF: %1</translation>
     </message>
     <message>
         <source>This Zelto was built without a WebP encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُنيت هذه النسخة من Zelto بلا مرمّز WebP.</translation>
     </message>
     <message>
         <source>The WebP encoder failed with error %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل ترميز WebP بالخطأ %1.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر إنشاء المجلد «%1».</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة «%1».</translation>
     </message>
     <message>
         <source>there is not enough memory to start</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة لا تكفي لبدء التشغيل</translation>
     </message>
     <message>
         <source>No folder can be made in “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر إنشاء مجلد في «%1»: %2</translation>
     </message>
     <message>
         <source>no thread can be started</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر تشغيل أي مسار تنفيذ</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر كتابة «%1»: %2</translation>
     </message>
     <message>
         <source>The font has the size 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم الخط 0.</translation>
     </message>
     <message>
         <source>The logo has the size 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم الشعار 0.</translation>
     </message>
     <message>
         <source>Shapes and QR codes are not tiled.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُكرَّر الأشكال ورموز QR.</translation>
     </message>
     <message>
         <source>QR codes are not turned.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُدوَّر رموز QR.</translation>
     </message>
     <message>
         <source>Its paddings and spacings leave no room for a tile.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تترك هوامشه ومسافاته مكانًا لأي تكرار.</translation>
     </message>
     <message>
         <source>Its kind is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>نوعها غير معروف.</translation>
     </message>
     <message>
         <source>The logo cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة الشعار.</translation>
     </message>
     <message>
         <source>The logo “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة الشعار «%1».</translation>
     </message>
     <message>
         <source>The text is empty once its macros are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>يصبح النص فارغًا بعد ملء وحدات الماكرو فيه.</translation>
     </message>
     <message>
         <source>No installed font has these letters: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي أي خط مثبّت على هذه الأحرف: %1</translation>
     </message>
     <message>
         <source>The text is too long for a QR code.</source>
-        <translation type="unfinished"></translation>
+        <translation>النص أطول مما يتسع له رمز QR.</translation>
     </message>
     <message>
         <source>The QR code is too small to be read: its squares are finer than a pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز QR أصغر من أن يُقرأ: مربعاته أدق من بكسل واحد.</translation>
     </message>
     <message>
         <source>It lies outside the photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>تقع خارج الصورة.</translation>
     </message>
     <message>
         <source>Less than a tenth of it lies on the photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>يقع أقل من عُشرها على الصورة.</translation>
     </message>
     <message>
         <source>The shape has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للشكل مساحة.</translation>
     </message>
     <message>
         <source>Bubblegum</source>
-        <translation type="unfinished"></translation>
+        <translation>علكة</translation>
     </message>
     <message>
         <source>Delhi</source>
-        <translation type="unfinished"></translation>
+        <translation>دلهي</translation>
     </message>
     <message>
         <source>Earth</source>
-        <translation type="unfinished"></translation>
+        <translation>أرض</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>مساء</translation>
     </message>
     <message>
         <source>Lumina</source>
-        <translation type="unfinished"></translation>
+        <translation>لومينا</translation>
     </message>
     <message>
         <source>Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>ماتريكس</translation>
     </message>
     <message>
         <source>Old TV</source>
-        <translation type="unfinished"></translation>
+        <translation>تلفاز قديم</translation>
     </message>
     <message>
         <source>Paris</source>
-        <translation type="unfinished"></translation>
+        <translation>باريس</translation>
     </message>
     <message>
         <source>Rome</source>
-        <translation type="unfinished"></translation>
+        <translation>روما</translation>
     </message>
     <message>
         <source>Vintage</source>
-        <translation type="unfinished"></translation>
+        <translation>عتيق</translation>
     </message>
     <message>
         <source>Keyhole</source>
-        <translation type="unfinished"></translation>
+        <translation>ثقب المفتاح</translation>
     </message>
     <message>
         <source>Haze</source>
-        <translation type="unfinished"></translation>
+        <translation>ضباب</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا</translation>
     </message>
     <message>
         <source>Watermark %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>العلامة المائية %1: %2</translation>
     </message>
     <message>
         <source>There is not enough memory for this photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة لا تكفي لهذه الصورة.</translation>
     </message>
     <message>
         <source>Its border and shadow would make this photo too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>سيجعل الإطار والظل هذه الصورة أكبر مما ينبغي.</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Watermarks for batches of photos.</source>
-        <translation type="unfinished"></translation>
+        <translation>علامات مائية لدفعات من الصور.</translation>
     </message>
     <message>
         <source>Start with a saved setting or a setting file.</source>
-        <translation type="unfinished"></translation>
+        <translation>البدء بإعداد محفوظ أو بملف إعداد.</translation>
     </message>
     <message>
         <source>Photos, or folders of photos, to begin with.</source>
-        <translation type="unfinished"></translation>
+        <translation>صور أو مجلدات صور للبدء بها.</translation>
     </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
     <message>
         <source>Auto Number</source>
-        <translation type="unfinished"></translation>
+        <translation>ترقيم تلقائي</translation>
     </message>
     <message>
         <source>&amp;Continue after the last number used, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المتابعة &amp;بعد آخر رقم مستخدم، %1</translation>
     </message>
     <message>
         <source>&amp;Continue after the last number used</source>
-        <translation type="unfinished"></translation>
+        <translation>المتابعة &amp;بعد آخر رقم مستخدم</translation>
     </message>
     <message>
         <source>Number of &amp;digits:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عدد الخانات:</translation>
     </message>
     <message>
         <source>&amp;Starting number:</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم ال&amp;بداية:</translation>
     </message>
     <message>
         <source>I&amp;ncrement:</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;قدار الزيادة:</translation>
     </message>
     <message>
         <source>First photos:</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور الأولى:</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دراج</translation>
     </message>
 </context>
 <context>
     <name>zelto::ColorPanel</name>
     <message>
         <source>Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>التدرّج</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة اللون</translation>
     </message>
     <message>
         <source>Opacity of the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>عتامة اللون</translation>
     </message>
     <message>
         <source>Colour in hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون بالنظام الست عشري</translation>
     </message>
     <message>
         <source>Red, green and blue in hexadecimal, and opacity if you like: #rrggbb or #rrggbbaa</source>
-        <translation type="unfinished"></translation>
+        <translation>الأحمر والأخضر والأزرق بالنظام الست عشري، والعتامة إن أردت: ‎#rrggbb أو ‎#rrggbbaa</translation>
     </message>
     <message>
         <source>Opacity in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>العتامة بالمئة</translation>
     </message>
     <message>
         <source>Pick a colour from the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>التقاط لون من الصورة</translation>
     </message>
     <message>
         <source>Pick a colour from the photo: click on it, Escape gives up</source>
-        <translation type="unfinished"></translation>
+        <translation>التقاط لون من الصورة: انقر عليها، وEscape للتراجع</translation>
     </message>
 </context>
 <context>
     <name>zelto::ColorWell</name>
     <message>
         <source>No colour</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا لون</translation>
     </message>
     <message>
         <source>%1, %2% opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، معتم بنسبة %2%</translation>
     </message>
 </context>
 <context>
     <name>zelto::ContactView</name>
     <message>
         <source>Contact view</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصور المصغّرة</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحميل...</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::CopyrightEditor</name>
     <message>
         <source>Notice:</source>
-        <translation type="unfinished"></translation>
+        <translation>الإشعار:</translation>
     </message>
     <message>
         <source>© Jane Doe</source>
-        <translation type="unfinished"></translation>
+        <translation>© سارة أحمد</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة:</translation>
     </message>
     <message>
         <source>Rights page:</source>
-        <translation type="unfinished"></translation>
+        <translation>صفحة الحقوق:</translation>
     </message>
     <message>
         <source>https://www.example.com/rights</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com/rights</translation>
     </message>
     <message>
         <source>Terms of use:</source>
-        <translation type="unfinished"></translation>
+        <translation>شروط الاستخدام:</translation>
     </message>
     <message>
         <source>All rights reserved</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الحقوق محفوظة</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم:</translation>
     </message>
     <message>
         <source>Jane Doe</source>
-        <translation type="unfinished"></translation>
+        <translation>سارة أحمد</translation>
     </message>
     <message>
         <source>Job title:</source>
-        <translation type="unfinished"></translation>
+        <translation>المسمى الوظيفي:</translation>
     </message>
     <message>
         <source>Photographer</source>
-        <translation type="unfinished"></translation>
+        <translation>مصوّرة</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation type="unfinished"></translation>
+        <translation>المدينة:</translation>
     </message>
     <message>
         <source>State or province:</source>
-        <translation type="unfinished"></translation>
+        <translation>الولاية أو المحافظة:</translation>
     </message>
     <message>
         <source>Postal code:</source>
-        <translation type="unfinished"></translation>
+        <translation>الرمز البريدي:</translation>
     </message>
     <message>
         <source>Country:</source>
-        <translation type="unfinished"></translation>
+        <translation>البلد:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>الهاتف:</translation>
     </message>
     <message>
         <source>E-mail:</source>
-        <translation type="unfinished"></translation>
+        <translation>البريد الإلكتروني:</translation>
     </message>
     <message>
         <source>jane@example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>sara@example.com</translation>
     </message>
     <message>
         <source>Website:</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع:</translation>
     </message>
     <message>
         <source>https://www.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com</translation>
     </message>
     <message>
         <source>Copyrighted</source>
-        <translation type="unfinished"></translation>
+        <translation>محفوظة الحقوق</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>محمية</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروفة</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>حقوق النشر</translation>
     </message>
     <message>
         <source>Write these data into the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة هذه البيانات في الصور</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>الحقوق</translation>
     </message>
     <message>
         <source>Creator</source>
-        <translation type="unfinished"></translation>
+        <translation>المنشئ</translation>
     </message>
     <message>
         <source>The copyright data could not be kept for the next time</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاحتفاظ ببيانات حقوق النشر للمرة القادمة</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مذكورة</translation>
     </message>
 </context>
 <context>
     <name>zelto::DateFormatWindowControlller</name>
     <message>
         <source>Date Format</source>
-        <translation type="unfinished"></translation>
+        <translation>صيغة التاريخ</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;صيغة:</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال:</translation>
     </message>
     <message>
         <source>Letters of a format</source>
-        <translation type="unfinished"></translation>
+        <translation>أحرف الصيغة</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دراج</translation>
     </message>
 </context>
 <context>
     <name>zelto::EffectsEditor</name>
     <message>
         <source>Border and Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار والظل</translation>
     </message>
     <message>
         <source>Put a border and a shadow around the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع إطار وظل حول الصور</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>الظل</translation>
     </message>
     <message>
         <source>Same width on all sides</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض نفسه في كل الجهات</translation>
     </message>
     <message>
         <source>Border colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون الإطار</translation>
     </message>
     <message>
         <source>Watermarks may cover the border</source>
-        <translation type="unfinished"></translation>
+        <translation>يمكن للعلامات المائية تغطية الإطار</translation>
     </message>
     <message>
         <source>Unit of the border</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة الإطار</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل</translation>
     </message>
     <message>
         <source>Cast a shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>إلقاء ظل</translation>
     </message>
     <message>
         <source>Unit of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة الظل</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>التمويه</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>المسافة</translation>
     </message>
     <message>
         <source>Shadow colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون الظل</translation>
     </message>
     <message>
         <source>Lengths:</source>
-        <translation type="unfinished"></translation>
+        <translation>الأطوال:</translation>
     </message>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>التمويه:</translation>
     </message>
     <message>
         <source>Distance:</source>
-        <translation type="unfinished"></translation>
+        <translation>المسافة:</translation>
     </message>
     <message>
         <source>Colour:</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون:</translation>
     </message>
     <message>
         <source>The preview leaves the shadow out while watermarks may cover the border; the written photos have it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُظهر المعاينة الظل ما دام يمكن للعلامات المائية تغطية الإطار؛ أما الصور المكتوبة ففيها الظل.</translation>
     </message>
 </context>
 <context>
     <name>zelto::EmptyState</name>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>تلميح</translation>
     </message>
     <message>
         <source>&amp;Next Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>التلميح &amp;التالي</translation>
     </message>
     <message>
         <source>Drop photos here</source>
-        <translation type="unfinished"></translation>
+        <translation>أفلت الصور هنا</translation>
     </message>
     <message>
         <source>Add the photos to be watermarked, compose your watermarks at the right, then press Start.</source>
-        <translation type="unfinished"></translation>
+        <translation>أضف الصور المراد وضع علامات مائية عليها، وألّف علاماتك في اللوحة الجانبية، ثم اضغط «بدء».</translation>
     </message>
     <message>
         <source>or begin with the watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>أو ابدأ بالعلامات المائية</translation>
     </message>
     <message>
         <source>A sample photo shows them until you add your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعرضها صورة نموذجية إلى أن تضيف صورك.</translation>
     </message>
     <message>
         <source>This is a sample photo. Drop your own anywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه صورة نموذجية. أفلت صورك في أي مكان.</translation>
     </message>
 </context>
 <context>
     <name>zelto::ExampleView</name>
     <message>
         <source>This photo cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر قراءة هذه الصورة.</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 بكسل</translation>
     </message>
     <message>
         <source>%1: no picture can have this size</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: لا يمكن أن تكون صورة بهذا الحجم</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال:</translation>
     </message>
     <message>
         <source>Example of an output</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال على ملف ناتج</translation>
     </message>
     <message>
         <source>No photo is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُحدَّد أي صورة.</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، في %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::ExistingSettingsWindowController</name>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;حميل</translation>
     </message>
     <message>
         <source>&amp;Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>ح&amp;ذف...</translation>
     </message>
     <message>
         <source>Saved Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات المحفوظة</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث</translation>
     </message>
     <message>
         <source>Saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات المحفوظة</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>%1 (autoload)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (تحميل تلقائي)</translation>
     </message>
     <message>
         <source>Loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحمَّل عند بدء Zelto</translation>
     </message>
     <message>
         <source>Remove Autoload</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء التحميل التلقائي</translation>
     </message>
     <message>
         <source>Set Autoload</source>
-        <translation type="unfinished"></translation>
+        <translation>تحميل تلقائي</translation>
     </message>
     <message>
         <source>There are no saved settings. File &gt; Save Setting saves the watermarks you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد إعدادات محفوظة. الأمر «ملف &gt; حفظ الإعداد» يحفظ العلامات المائية التي تراها.</translation>
     </message>
     <message>
         <source>Setting Delete Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في حذف الإعداد</translation>
     </message>
 </context>
 <context>
     <name>zelto::FilterWindow</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشّح</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشّحات</translation>
     </message>
 </context>
 <context>
     <name>zelto::FoldGroup</name>
     <message>
         <source>Folded</source>
-        <translation type="unfinished"></translation>
+        <translation>مطوي</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتوح</translation>
     </message>
 </context>
 <context>
     <name>zelto::FolderField</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;ستعراض...</translation>
     </message>
 </context>
 <context>
     <name>zelto::FolderImport</name>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مجلد</translation>
     </message>
     <message>
         <source>Looking for photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ البحث عن صور...</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يُعثر على صور</numerusform>
+            <numerusform>عُثر على صورة واحدة</numerusform>
+            <numerusform>عُثر على صورتين</numerusform>
+            <numerusform>عُثر على %Ln صور</numerusform>
+            <numerusform>عُثر على %Ln صورة</numerusform>
+            <numerusform>عُثر على %Ln صورة</numerusform>
         </translation>
     </message>
 </context>
@@ -1565,1398 +1572,1400 @@ Double Click the Image Entry to know the problem</source>
     <name>zelto::FolderWindowController</name>
     <message>
         <source>Folder of Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الصور</translation>
     </message>
     <message>
         <source>Include &amp;sub-folders</source>
-        <translation type="unfinished"></translation>
+        <translation>تضمين المجلدات ال&amp;فرعية</translation>
     </message>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مجلد</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;مجلد:</translation>
     </message>
     <message>
         <source>A folder&apos;s GIF photos are passed over; add them one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُتجاوز صور GIF في المجلد؛ أضفها واحدة واحدة.</translation>
     </message>
     <message>
         <source>Formats:</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغ:</translation>
     </message>
     <message>
         <source>More formats:</source>
-        <translation type="unfinished"></translation>
+        <translation>صيغ أخرى:</translation>
     </message>
     <message>
         <source>&amp;Add Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;إضافة صور</translation>
     </message>
 </context>
 <context>
     <name>zelto::FontFamilyList</name>
     <message>
         <source>Search fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في الخطوط</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط</translation>
     </message>
     <message>
         <source>“%1” is not installed here; a standard font takes its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» غير مثبّت هنا؛ يحل محله خط قياسي.</translation>
     </message>
 </context>
 <context>
     <name>zelto::FullScreenView</name>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>ملء الشاشة</translation>
     </message>
     <message>
         <source>One moment...</source>
-        <translation type="unfinished"></translation>
+        <translation>لحظة من فضلك...</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>الخروج من ملء الشاشة</translation>
     </message>
     <message>
         <source>Loading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحميل %1...</translation>
     </message>
 </context>
 <context>
     <name>zelto::ImageListController</name>
     <message numerus="yes">
         <source>Add %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>عدم إضافة صور</numerusform>
+            <numerusform>إضافة صورة</numerusform>
+            <numerusform>إضافة صورتين</numerusform>
+            <numerusform>إضافة %Ln صور</numerusform>
+            <numerusform>إضافة %Ln صورة</numerusform>
+            <numerusform>إضافة %Ln صورة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) are in the list already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا توجد صور مكررة في القائمة</numerusform>
+            <numerusform>توجد صورة واحدة في القائمة مسبقًا</numerusform>
+            <numerusform>توجد صورتان في القائمة مسبقًا</numerusform>
+            <numerusform>توجد %Ln صور في القائمة مسبقًا</numerusform>
+            <numerusform>توجد %Ln صورة في القائمة مسبقًا</numerusform>
+            <numerusform>توجد %Ln صورة في القائمة مسبقًا</numerusform>
         </translation>
     </message>
     <message>
         <source>Check All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد كل الصور</translation>
     </message>
     <message>
         <source>Uncheck All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء تحديد كل الصور</translation>
     </message>
     <message>
         <source>Toggle Check Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>عكس علامات التحديد</translation>
     </message>
     <message>
         <source>Check Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الصور</translation>
     </message>
     <message>
         <source>Uncheck Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء تحديد الصور</translation>
     </message>
     <message numerus="yes">
         <source>Remove %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>عدم إزالة صور</numerusform>
+            <numerusform>إزالة صورة</numerusform>
+            <numerusform>إزالة صورتين</numerusform>
+            <numerusform>إزالة %Ln صور</numerusform>
+            <numerusform>إزالة %Ln صورة</numerusform>
+            <numerusform>إزالة %Ln صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة الصورة</translation>
     </message>
     <message>
         <source>Remove All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة كل الصور</translation>
     </message>
     <message>
         <source>Watermark Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير بشأن العلامة المائية</translation>
     </message>
 </context>
 <context>
     <name>zelto::ImportExportWindowController</name>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;ستيراد</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تصدير</translation>
     </message>
     <message>
         <source>There are no settings to copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد إعدادات لنسخها.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln setting(s) will be copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن يُنسخ أي إعداد.</numerusform>
+            <numerusform>سيُنسخ إعداد واحد.</numerusform>
+            <numerusform>سيُنسخ إعدادان.</numerusform>
+            <numerusform>ستُنسخ %Ln إعدادات.</numerusform>
+            <numerusform>سيُنسخ %Ln إعدادًا.</numerusform>
+            <numerusform>سيُنسخ %Ln إعداد.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد مجلد كهذا.</translation>
     </message>
 </context>
 <context>
     <name>zelto::Inspector</name>
     <message>
         <source>Revert: take back everything that was changed since this was selected</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع: إلغاء كل ما تغيّر منذ التحديد</translation>
     </message>
     <message>
         <source>Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع</translation>
     </message>
     <message>
         <source>Select a watermark in the list above or on the photo, and what it looks like and where it stands can be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد علامة مائية في القائمة أعلاه أو على الصورة، ليمكنك تغيير مظهرها وموضعها من هنا.</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء محدد</translation>
     </message>
 </context>
 <context>
     <name>zelto::LengthBox</name>
     <message>
         <source>On the selected photo</source>
-        <translation type="unfinished"></translation>
+        <translation>على الصورة المحددة</translation>
     </message>
     <message>
         <source>= %L1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>= %L1 بكسل</translation>
     </message>
 </context>
 <context>
     <name>zelto::LengthUnit</name>
     <message>
         <source>in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>بالبكسل</translation>
     </message>
     <message>
         <source>in % of the shorter side</source>
-        <translation type="unfinished"></translation>
+        <translation>‏٪ من الضلع الأقصر</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoEditor</name>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>المحتوى</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoFileGroup</name>
     <message>
         <source>No image chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُختر صورة</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار…</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoGroup</name>
     <message>
         <source>Choose Image</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار صورة</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
     <message>
         <source>This image cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن استخدام هذه الصورة</translation>
     </message>
     <message>
         <source>Make transparent:</source>
-        <translation type="unfinished"></translation>
+        <translation>جعل اللون شفافًا:</translation>
     </message>
     <message>
         <source>Transparent Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون الشفاف</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>تدرّج الرمادي</translation>
     </message>
     <message>
         <source>Resize</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الحجم</translation>
     </message>
     <message>
         <source>Proportional</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبي</translation>
     </message>
     <message>
         <source>Size in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم بالمئة</translation>
     </message>
     <message>
         <source>Side of the photo the size follows</source>
-        <translation type="unfinished"></translation>
+        <translation>ضلع الصورة الذي يتبعه الحجم</translation>
     </message>
     <message>
         <source>Absolute</source>
-        <translation type="unfinished"></translation>
+        <translation>مطلق</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض</translation>
     </message>
     <message>
         <source>W </source>
-        <translation type="unfinished"></translation>
+        <translation>العرض </translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع</translation>
     </message>
     <message>
         <source>H </source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع </translation>
     </message>
     <message>
         <source>Keep aspect ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفاظ على النسبة</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoSample</name>
     <message>
         <source>Logo</source>
-        <translation type="unfinished"></translation>
+        <translation>الشعار</translation>
     </message>
     <message>
         <source>Click the colour that is to become transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر على اللون المراد جعله شفافًا</translation>
     </message>
 </context>
 <context>
     <name>zelto::MacroController</name>
     <message>
         <source>Insert Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>إدراج ماكرو</translation>
     </message>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>الماكرو</translation>
     </message>
     <message>
         <source>On this photo</source>
-        <translation type="unfinished"></translation>
+        <translation>في هذه الصورة</translation>
     </message>
     <message>
         <source>Search macros and values</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في وحدات الماكرو والقيم</translation>
     </message>
     <message>
         <source>Search macros</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في وحدات الماكرو</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدات الماكرو</translation>
     </message>
     <message>
         <source>Special Character…</source>
-        <translation type="unfinished"></translation>
+        <translation>حرف خاص…</translation>
     </message>
 </context>
 <context>
     <name>zelto::MainWindow</name>
     <message>
         <source>There is no saved setting and no setting file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إعداد محفوظ ولا ملف إعداد باسم «%1».</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صور</numerusform>
+            <numerusform>صورة واحدة</numerusform>
+            <numerusform>صورتان</numerusform>
+            <numerusform>%Ln صور</numerusform>
+            <numerusform>%Ln صورة</numerusform>
+            <numerusform>%Ln صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تراجع:</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;عادة:</translation>
     </message>
     <message>
         <source>About Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>حول Zelto</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Zelto %1&lt;/h3&gt;&lt;p&gt;Watermarks for batches of photos.&lt;/p&gt;&lt;p&gt;Free software under the GNU General Public License, version 3 or later.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Zelto %1&lt;/h3&gt;&lt;p&gt;علامات مائية لدفعات من الصور.&lt;/p&gt;&lt;p&gt;برنامج حر بموجب رخصة غنو العمومية العامة، الإصدار 3 أو أحدث.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط الأدوات</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء</translation>
     </message>
     <message>
         <source>Start Watermarking</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء وضع العلامات المائية</translation>
     </message>
     <message>
         <source>%1[*] – Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] – Zelto</translation>
     </message>
     <message>
         <source>No photos</source>
-        <translation type="unfinished"></translation>
+        <translation>لا صور</translation>
     </message>
     <message numerus="yes">
         <source>%Ln checked</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا شيء محدد</numerusform>
+            <numerusform>واحدة محددة</numerusform>
+            <numerusform>اثنتان محددتان</numerusform>
+            <numerusform>%Ln محددة</numerusform>
+            <numerusform>%Ln محددة</numerusform>
+            <numerusform>%Ln محددة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ٪</translation>
     </message>
 </context>
 <context>
     <name>zelto::NumberField</name>
     <message>
         <source>A number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد من %1 إلى %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::OutputOptionsController</name>
     <message>
         <source>Output Options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات الإخراج</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;بدء</translation>
     </message>
     <message>
         <source>Set &amp;as Default</source>
-        <translation type="unfinished"></translation>
+        <translation>تعيين ا&amp;فتراضيًا</translation>
     </message>
 </context>
 <context>
     <name>zelto::OutputPanel</name>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>الإخراج</translation>
     </message>
     <message>
         <source>Output Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الإخراج</translation>
     </message>
     <message>
         <source>&amp;Maintain the directory structure</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;حفاظ على بنية المجلدات</translation>
     </message>
     <message>
         <source>JPEG &amp;quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;جودة JPEG:</translation>
     </message>
     <message>
         <source>&amp;Combine to a single PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>الجمع في ملف PDF &amp;واحد</translation>
     </message>
     <message>
         <source>Keep &amp;untouched areas as they are (JPEG to JPEG)</source>
-        <translation type="unfinished"></translation>
+        <translation>إبقاء ال&amp;مناطق غير المتأثرة كما هي (من JPEG إلى JPEG)</translation>
     </message>
     <message>
         <source>F&amp;older:</source>
-        <translation type="unfinished"></translation>
+        <translation>الم&amp;جلد:</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;صيغة:</translation>
     </message>
     <message>
         <source>&lt;p&gt;Only the blocks that a watermark touches are encoded again, with the quality the photo has already. All else stays as it is, so that a copy of a copy is as good as the first.&lt;/p&gt;&lt;p&gt;This is done for JPEG photos that are neither resized nor filtered nor framed. Others are encoded as usual, and their rows say why.&lt;/p&gt;&lt;p&gt;Many cameras store colors at half the size. There, colored edges of marks are softer, and on a grey photo marks are grey.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;يُعاد ترميز الكتل التي تلمسها علامة مائية فقط، بالجودة التي عليها الصورة أصلاً. ويبقى كل ما عداها كما هو، فتكون نسخة النسخة بجودة الأولى.&lt;/p&gt;&lt;p&gt;يجري ذلك لصور JPEG التي لا يُغيَّر حجمها ولا يُطبَّق عليها مرشّح ولا إطار. أما غيرها فيُرمَّز كالمعتاد، ويذكر صفها السبب.&lt;/p&gt;&lt;p&gt;تخزّن كاميرات كثيرة الألوان بنصف الحجم، فتكون حواف العلامات الملونة فيها أنعم، وتكون العلامات على الصورة الرمادية رمادية.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Meta&amp;data:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;بيانات الوصفية:</translation>
     </message>
     <message>
         <source>Same as source image</source>
-        <translation type="unfinished"></translation>
+        <translation>كالصورة المصدر</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغة</translation>
     </message>
     <message>
         <source>0 is the smallest file, 100 the best picture: with WebP, JPEG XL and AVIF, without any loss</source>
-        <translation type="unfinished"></translation>
+        <translation>0 لأصغر ملف، و100 لأفضل صورة: مع WebP وJPEG XL وAVIF بلا أي فقد</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>البيانات الوصفية</translation>
     </message>
     <message>
         <source>Exclude Geolocation removes every position and keeps the names of places.</source>
-        <translation type="unfinished"></translation>
+        <translation>«استبعاد الموقع الجغرافي» يزيل كل المواقع ويُبقي أسماء الأماكن.</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>الجودة</translation>
     </message>
     <message>
         <source>JPEG quality</source>
-        <translation type="unfinished"></translation>
+        <translation>جودة JPEG</translation>
     </message>
     <message>
         <source>&amp;Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;جودة:</translation>
     </message>
     <message>
         <source>Files of this format have no metadata.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا بيانات وصفية لملفات هذه الصيغة.</translation>
     </message>
     <message>
         <source>You have set no copyright data (Add &gt; Copyright).</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُضبط بيانات حقوق النشر (إضافة &gt; حقوق النشر).</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoDelegate</name>
     <message>
         <source>preview of a raw file</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة ملف خام</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoFilterBox</name>
     <message>
         <source>All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الصور</translation>
     </message>
     <message>
         <source>Failed or with Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>الفاشلة أو ذات التحذيرات</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>الفاشلة</translation>
     </message>
     <message>
         <source>With Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>ذات التحذيرات</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض</translation>
     </message>
     <message>
         <source>The photos that the list shows</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور التي تعرضها القائمة</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoListView</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
     <message>
         <source>No photo has “%1” in its name</source>
-        <translation type="unfinished"></translation>
+        <translation>لا صورة يحتوي اسمها على «%1»</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoPanel</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
     <message>
         <source>Sort the photos: the run and its numbers follow this order</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب الصور: يتبع التشغيل وأرقامه هذا الترتيب</translation>
     </message>
     <message>
         <source>Sort Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب الصور</translation>
     </message>
     <message>
         <source>Find by name</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث بالاسم</translation>
     </message>
     <message>
         <source>Find photos by name</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن الصور بالاسم</translation>
     </message>
     <message>
         <source>Shows only photos with this in their names (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض الصور التي يحتوي اسمها على هذا النص فقط (Ctrl+F)</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoPreview</name>
     <message>
         <source>This photo cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر عرض هذه الصورة</translation>
     </message>
     <message>
         <source>Working...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ العمل...</translation>
     </message>
     <message>
         <source>Loading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحميل %1...</translation>
     </message>
     <message>
         <source>Place Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع العلامة المائية</translation>
     </message>
     <message>
         <source>Resize Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير حجم العلامة المائية</translation>
     </message>
     <message>
         <source>Turn Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير العلامة المائية</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoStrip</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشّح</translation>
     </message>
     <message>
         <source>Add the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة المرشّح</translation>
     </message>
     <message>
         <source>Edit the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير المرشّح</translation>
     </message>
     <message>
         <source>Remove the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة المرشّح</translation>
     </message>
     <message>
         <source>Switch the filter on</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المرشّح</translation>
     </message>
     <message>
         <source>Switch the filter off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف المرشّح</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار</translation>
     </message>
     <message>
         <source>Add border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة الإطار والظل</translation>
     </message>
     <message>
         <source>Edit border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير الإطار والظل</translation>
     </message>
     <message>
         <source>Remove border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة الإطار والظل</translation>
     </message>
     <message>
         <source>Switch border and shadow on</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل الإطار والظل</translation>
     </message>
     <message>
         <source>Switch border and shadow off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف الإطار والظل</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>حقوق النشر</translation>
     </message>
     <message>
         <source>Add the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة بيانات حقوق النشر</translation>
     </message>
     <message>
         <source>Edit the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير بيانات حقوق النشر</translation>
     </message>
     <message>
         <source>Remove the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة بيانات حقوق النشر</translation>
     </message>
     <message>
         <source>Switch the copyright data on</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل بيانات حقوق النشر</translation>
     </message>
     <message>
         <source>Switch the copyright data off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف بيانات حقوق النشر</translation>
     </message>
     <message>
         <source>The photo as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة ككل</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::PlaceGuides</name>
     <message>
         <source>%L1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 بكسل</translation>
     </message>
     <message>
         <source>%1 = %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2 ٪</translation>
     </message>
 </context>
 <context>
     <name>zelto::PositionGrid</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليسار</translation>
     </message>
     <message>
         <source>Top centre</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى الوسط</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليمين</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>وسط اليسار</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسط</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>وسط اليمين</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليسار</translation>
     </message>
     <message>
         <source>Bottom centre</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل الوسط</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليمين</translation>
     </message>
 </context>
 <context>
     <name>zelto::PositionGroup</name>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع جاهز</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>مخصص</translation>
     </message>
     <message>
         <source>From left:</source>
-        <translation type="unfinished"></translation>
+        <translation>من اليسار:</translation>
     </message>
     <message>
         <source>From top:</source>
-        <translation type="unfinished"></translation>
+        <translation>من الأعلى:</translation>
     </message>
     <message>
         <source>Padding</source>
-        <translation type="unfinished"></translation>
+        <translation>الهامش</translation>
     </message>
     <message>
         <source>Unit of the padding</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة الهامش</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى:</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار:</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين:</translation>
     </message>
     <message>
         <source>Repeat across</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار أفقي</translation>
     </message>
     <message>
         <source>Horizontal spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>المسافة الأفقية</translation>
     </message>
     <message>
         <source>Repeat down</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار رأسي</translation>
     </message>
     <message>
         <source>Vertical spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>المسافة الرأسية</translation>
     </message>
     <message>
         <source>Gap </source>
-        <translation type="unfinished"></translation>
+        <translation>المسافة </translation>
     </message>
     <message>
         <source>Unit of the gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة المسافات</translation>
     </message>
 </context>
 <context>
     <name>zelto::PreviewView</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>المعاينة</translation>
     </message>
 </context>
 <context>
     <name>zelto::ProcessingBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدّم</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v من %m</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 صورة/ث، بقي %2</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>استئناف</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف مؤقت</translation>
     </message>
 </context>
 <context>
     <name>zelto::QrCodeEditor</name>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز QR</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>المحتوى</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>المظهر</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Content of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>محتوى الرمز</translation>
     </message>
     <message>
         <source>https://www.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدات الماكرو</translation>
     </message>
     <message>
         <source>% of photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>‏٪ من عرض الصورة</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلفية:</translation>
     </message>
     <message>
         <source>Background of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>خلفية الرمز</translation>
     </message>
 </context>
 <context>
     <name>zelto::QrJudgement</name>
     <message>
         <source>Type what the code is to say, such as a web address.</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب ما ينبغي أن يقوله الرمز، كعنوان موقع مثلاً.</translation>
     </message>
     <message>
         <source>Too long for a QR code: the text has %1 bytes, %2 fit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Too small to be read: this text needs at least %1 pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> (%1% of this photo&apos;s width)</source>
-        <translation type="unfinished"></translation>
+        <translation>أطول مما يتسع له رمز QR: في النص %1 بايت، ويتسع الرمز لـ %2.</translation>
     </message>
     <message>
         <source>Larger than the photo: a part of the code would be cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>أكبر من الصورة: سيُقتطع جزء من الرمز.</translation>
     </message>
     <message>
         <source>The background is too dark: choose a brighter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلفية داكنة جدًا: اختر أفتح منها.</translation>
     </message>
     <message>
         <source>Without a background it can be read on bright parts of photos only.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُقرأ بلا خلفية إلا على الأجزاء الفاتحة من الصور.</translation>
     </message>
     <message>
         <source>%1 × %1 squares of %2 pixels each.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %1 مربعات، كل منها %2 بكسل.</translation>
+    </message>
+    <message>
+        <source>Too small to be read: this text needs at least %L1 pixels.</source>
+        <translation>أصغر من أن يُقرأ: يحتاج هذا النص إلى %L1 بكسل على الأقل.</translation>
+    </message>
+    <message>
+        <source>Too small to be read: this text needs at least %L1 pixels (%L2% of this photo&apos;s width).</source>
+        <translation>أصغر من أن يُقرأ: يحتاج هذا النص إلى %L1 بكسل على الأقل (%L2% من عرض هذه الصورة).</translation>
     </message>
 </context>
 <context>
     <name>zelto::RenamePanel</name>
     <message>
         <source>Re&amp;name photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة &amp;تسمية الصور</translation>
     </message>
     <message>
         <source>Name patte&amp;rn:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نمط الاسم:</translation>
     </message>
     <message>
         <source>Name pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الاسم</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دراج</translation>
     </message>
     <message>
         <source>Insert a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>إدراج ماكرو</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResizeField</name>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> ٪</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> بكسل</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResizePanel</name>
     <message>
         <source>Resi&amp;ze photos</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;غيير حجم الصور</translation>
     </message>
     <message>
         <source>Width, per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض بالمئة</translation>
     </message>
     <message>
         <source>Height, per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع بالمئة</translation>
     </message>
     <message>
         <source>Width, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض بالبكسل</translation>
     </message>
     <message>
         <source>Height, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع بالبكسل</translation>
     </message>
     <message>
         <source>Longer side, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>الضلع الأطول بالبكسل</translation>
     </message>
     <message>
         <source>&amp;Keep the proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفاظ على التنا&amp;سب</translation>
     </message>
     <message>
         <source>Do not &amp;enlarge small photos</source>
-        <translation type="unfinished"></translation>
+        <translation>عدم تكبير الصور الص&amp;غيرة</translation>
     </message>
     <message>
         <source>&amp;Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>ن&amp;سبة مئوية</translation>
     </message>
     <message>
         <source>Pi&amp;xels</source>
-        <translation type="unfinished"></translation>
+        <translation>ب&amp;كسل</translation>
     </message>
     <message>
         <source>&amp;Longer side</source>
-        <translation type="unfinished"></translation>
+        <translation>الضلع الأ&amp;طول</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResultBar</name>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عرض</translation>
     </message>
     <message>
         <source>Retr&amp;y Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة محاولة ال&amp;فاشلة</translation>
     </message>
     <message>
         <source>Show only the photos that failed or were written with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصور الفاشلة أو المكتوبة مع تحذيرات فقط</translation>
     </message>
     <message>
         <source>Run once more for the photos that failed, with the same options</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل مرة أخرى للصور الفاشلة بالخيارات نفسها</translation>
     </message>
     <message>
         <source>Close (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق (Escape)</translation>
     </message>
     <message>
         <source>Close the summary</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق الملخص</translation>
     </message>
     <message>
         <source>Result of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>نتيجة التشغيل</translation>
     </message>
 </context>
 <context>
     <name>zelto::RotationControl</name>
     <message>
         <source>Straight</source>
-        <translation type="unfinished"></translation>
+        <translation>مستقيم</translation>
     </message>
     <message>
         <source>Slightly rising</source>
-        <translation type="unfinished"></translation>
+        <translation>صاعد قليلاً</translation>
     </message>
     <message>
         <source>Rising diagonally</source>
-        <translation type="unfinished"></translation>
+        <translation>صاعد بميل</translation>
     </message>
     <message>
         <source>Upward</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى الأعلى</translation>
     </message>
     <message>
         <source>Slightly falling</source>
-        <translation type="unfinished"></translation>
+        <translation>نازل قليلاً</translation>
     </message>
     <message>
         <source>Falling diagonally</source>
-        <translation type="unfinished"></translation>
+        <translation>نازل بميل</translation>
     </message>
     <message>
         <source>Downward</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى الأسفل</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>مقلوب</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>الدوران</translation>
     </message>
     <message>
         <source>Rotation in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>الدوران بالدرجات</translation>
     </message>
     <message>
         <source>Usual rotations</source>
-        <translation type="unfinished"></translation>
+        <translation>زوايا شائعة</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>مخصص</translation>
     </message>
 </context>
 <context>
     <name>zelto::RunController</name>
     <message>
         <source>Looking at the names of the outputs...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص أسماء الملفات الناتجة...</translation>
     </message>
     <message>
         <source>Pausing</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الإيقاف المؤقت</translation>
     </message>
     <message>
         <source>Photos Are Being Watermarked</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري وضع العلامات المائية على الصور</translation>
     </message>
     <message>
         <source>%1 of %2 are done. The photo in hand will be finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتملت %1 من %2. ستُستكمل الصورة الجارية.</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف وخروج</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>متابعة التشغيل</translation>
     </message>
     <message>
         <source>Encoded as usual: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>رُمّزت كالمعتاد: %1</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 صورة/ث، بقي %2</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>متوقف مؤقتًا</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>أُوقف</translation>
     </message>
     <message numerus="yes">
         <source>%Ln written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُكتب أي صورة</numerusform>
+            <numerusform>كُتبت واحدة</numerusform>
+            <numerusform>كُتبت اثنتان</numerusform>
+            <numerusform>كُتبت %Ln</numerusform>
+            <numerusform>كُتبت %Ln</numerusform>
+            <numerusform>كُتبت %Ln</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تفشل أي صورة</numerusform>
+            <numerusform>فشلت واحدة</numerusform>
+            <numerusform>فشلت اثنتان</numerusform>
+            <numerusform>فشلت %Ln</numerusform>
+            <numerusform>فشلت %Ln</numerusform>
+            <numerusform>فشلت %Ln</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln warned</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>بلا تحذيرات</numerusform>
+            <numerusform>واحدة بتحذير</numerusform>
+            <numerusform>اثنتان بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
         </translation>
     </message>
     <message>
         <source>Open P&amp;DF</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح P&amp;DF</translation>
     </message>
     <message>
         <source>Open Fol&amp;der</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الم&amp;جلد</translation>
     </message>
 </context>
 <context>
     <name>zelto::SaveSettingsDialog</name>
     <message>
         <source>Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الإعداد</translation>
     </message>
     <message>
         <source>&amp;Name of the setting:</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;سم الإعداد:</translation>
     </message>
     <message>
         <source>Name of the setting</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الإعداد</translation>
     </message>
     <message>
         <source>Saved settings hold the watermarks, the filter and the border.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتوي الإعدادات المحفوظة على العلامات المائية والمرشّح والإطار.</translation>
     </message>
     <message>
         <source>There is a setting of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد إعداد بهذا الاسم.</translation>
     </message>
 </context>
 <context>
     <name>zelto::SavedStacksPopup</name>
     <message>
         <source>Saved stacks</source>
-        <translation type="unfinished"></translation>
+        <translation>المجموعات المحفوظة</translation>
     </message>
     <message>
         <source>%1 (at start)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (عند البدء)</translation>
     </message>
     <message>
         <source>%1
 Loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+تُحمَّل عند بدء Zelto</translation>
     </message>
     <message>
         <source>There are no saved stacks yet.
 Save keeps the one you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مجموعات محفوظة بعد.
+الحفظ يُبقي المجموعة التي تراها.</translation>
     </message>
 </context>
 <context>
     <name>zelto::ShapeEditor</name>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>مستطيل</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع ناقص</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>مضلّع</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>خط</translation>
     </message>
     <message>
         <source>Left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>من اليسار إلى اليمين</translation>
     </message>
     <message>
         <source>Top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>من الأعلى إلى الأسفل</translation>
     </message>
     <message>
         <source>Lower right to upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>من أسفل اليمين إلى أعلى اليسار</translation>
     </message>
     <message>
         <source>Upper right to lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>من أعلى اليمين إلى أسفل اليسار</translation>
     </message>
     <message>
         <source>From the centre</source>
-        <translation type="unfinished"></translation>
+        <translation>من الوسط</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>الشكل</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>المحتوى</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>المظهر</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>% of photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>‏٪ من عرض الصورة</translation>
     </message>
     <message>
         <source>% of photo height</source>
-        <translation type="unfinished"></translation>
+        <translation>‏٪ من ارتفاع الصورة</translation>
     </message>
     <message>
         <source>Sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>الأضلاع:</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع:</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>الطول:</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation type="unfinished"></translation>
+        <translation>السُّمك:</translation>
     </message>
     <message>
         <source>One colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون واحد</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>تدرّج لوني</translation>
     </message>
     <message>
         <source>First colour of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون الأول للتدرّج</translation>
     </message>
     <message>
         <source>Second colour of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون الثاني للتدرّج</translation>
     </message>
     <message>
         <source>Direction of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>اتجاه التدرّج</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية:</translation>
     </message>
     <message>
         <source>A circle looks the same however it is turned</source>
-        <translation type="unfinished"></translation>
+        <translation>تبدو الدائرة كما هي مهما دُوّرت</translation>
     </message>
 </context>
 <context>
     <name>zelto::SizeField</name>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>بكسل</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>الوحدة</translation>
     </message>
 </context>
 <context>
     <name>zelto::SpecialCharacterWindowController</name>
     <message>
         <source>Characters</source>
-        <translation type="unfinished"></translation>
+        <translation>الأحرف</translation>
     </message>
     <message>
         <source>Special Characters</source>
-        <translation type="unfinished"></translation>
+        <translation>أحرف خاصة</translation>
     </message>
     <message>
         <source>Search by name or code: “arrow”, “U+2192”</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث بالاسم (بالإنجليزية) أو الرمز: «arrow»، «U+2192»</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دراج</translation>
     </message>
     <message>
         <source>No character has such a name</source>
-        <translation type="unfinished"></translation>
+        <translation>لا حرف بهذا الاسم</translation>
     </message>
     <message>
         <source>The first %L1 of %L2 found</source>
-        <translation type="unfinished"></translation>
+        <translation>أول %L1 من أصل %L2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يُعثر على شيء</numerusform>
+            <numerusform>عُثر على واحد</numerusform>
+            <numerusform>عُثر على اثنين</numerusform>
+            <numerusform>عُثر على %Ln</numerusform>
+            <numerusform>عُثر على %Ln</numerusform>
+            <numerusform>عُثر على %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2964,730 +2973,731 @@ Save keeps the one you see.</source>
     <name>zelto::StackHead</name>
     <message>
         <source>More for this stack</source>
-        <translation type="unfinished"></translation>
+        <translation>المزيد لهذه المجموعة</translation>
     </message>
     <message>
         <source>Drawn from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>تُرسم من الأعلى إلى الأسفل</translation>
     </message>
     <message>
         <source>The last one lies on top of the others</source>
-        <translation type="unfinished"></translation>
+        <translation>تقع الأخيرة فوق غيرها</translation>
     </message>
     <message>
         <source>Unnamed stack</source>
-        <translation type="unfinished"></translation>
+        <translation>مجموعة بلا اسم</translation>
     </message>
     <message>
         <source>This stack has not been saved under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُحفظ هذه المجموعة باسم بعد</translation>
     </message>
     <message>
         <source>“%1” has been changed since it was saved</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر «%1» منذ حفظه</translation>
     </message>
     <message>
         <source>“%1” is loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحمَّل «%1» عند بدء Zelto</translation>
     </message>
     <message>
         <source>“%1” is loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» محمَّل</translation>
     </message>
     <message>
         <source>%1
 Click for the saved stacks (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+انقر لعرض المجموعات المحفوظة (%2)</translation>
     </message>
 </context>
 <context>
     <name>zelto::StackKeeper</name>
     <message>
         <source>Setting Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في حفظ الإعداد</translation>
     </message>
     <message>
         <source>“%1” Has Been Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر «%1»</translation>
     </message>
     <message>
         <source>Save the changes in the setting, or keep these watermarks for the next start without changing the setting?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد حفظ التغييرات في الإعداد، أم الاحتفاظ بهذه العلامات المائية للتشغيل القادم دون تغيير الإعداد؟</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Keep for Next Time</source>
-        <translation type="unfinished"></translation>
+        <translation>الاحتفاظ للمرة القادمة</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>There is no folder for settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد مجلد للإعدادات.</translation>
     </message>
     <message>
         <source>The Watermarks Cannot Be Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر الاحتفاظ بالعلامات المائية</translation>
     </message>
     <message>
         <source>Close Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق على أي حال</translation>
     </message>
     <message>
         <source>The watermarks of the last time cannot be brought back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذّر استعادة العلامات المائية للمرة السابقة: %1</translation>
     </message>
     <message>
         <source>“%1” is loaded again, as when Zelto was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُعيد تحميل «%1» كما كان عند إغلاق Zelto.</translation>
     </message>
     <message>
         <source>The watermarks of the last time are back.</source>
-        <translation type="unfinished"></translation>
+        <translation>عادت العلامات المائية للمرة السابقة.</translation>
     </message>
 </context>
 <context>
     <name>zelto::TextEditor</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>النص</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>المحتوى</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدات الماكرو</translation>
     </message>
     <message>
         <source>Your text</source>
-        <translation type="unfinished"></translation>
+        <translation>نصك هنا</translation>
     </message>
 </context>
 <context>
     <name>zelto::TextStyleGroup</name>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>غامق</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>مائل</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>تحته خط</translation>
     </message>
     <message>
         <source>Struck through</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوسطه خط</translation>
     </message>
     <message>
         <source>Align left</source>
-        <translation type="unfinished"></translation>
+        <translation>محاذاة إلى اليسار</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسط</translation>
     </message>
     <message>
         <source>Align right</source>
-        <translation type="unfinished"></translation>
+        <translation>محاذاة إلى اليمين</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط:</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم:</translation>
     </message>
     <message>
         <source>Style:</source>
-        <translation type="unfinished"></translation>
+        <translation>النمط:</translation>
     </message>
     <message>
         <source>Colour:</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون:</translation>
     </message>
     <message>
         <source>Effect:</source>
-        <translation type="unfinished"></translation>
+        <translation>التأثير:</translation>
     </message>
     <message>
         <source>Kind of size</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع الحجم</translation>
     </message>
     <message>
         <source>Proportional</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبي</translation>
     </message>
     <message>
         <source>Fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>ثابت</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم</translation>
     </message>
     <message>
         <source>Side of the photo the size follows</source>
-        <translation type="unfinished"></translation>
+        <translation>ضلع الصورة الذي يتبعه الحجم</translation>
     </message>
     <message>
         <source>Usual sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>أحجام شائعة</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>مخصص</translation>
     </message>
     <message>
         <source>Text Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون النص</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>الظل</translation>
     </message>
     <message>
         <source>Shadow Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون الظل</translation>
     </message>
     <message>
         <source>Embossed letters cast no shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>الأحرف البارزة لا تُلقي ظلاً</translation>
     </message>
     <message>
         <source>Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>التأثير</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>بروز</translation>
     </message>
     <message>
         <source>Transparent letters</source>
-        <translation type="unfinished"></translation>
+        <translation>أحرف شفافة</translation>
     </message>
     <message>
         <source>Only the light and dark edges of embossed letters are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>تُرسم الحواف الفاتحة والداكنة للأحرف البارزة فقط</translation>
     </message>
 </context>
 <context>
     <name>zelto::TipsDialog</name>
     <message>
         <source>Tips</source>
-        <translation type="unfinished"></translation>
+        <translation>تلميحات</translation>
     </message>
     <message>
         <source>Did you know?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تعلم؟</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>تلميح</translation>
     </message>
     <message>
         <source>&amp;Show tips at start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عرض التلميحات عند البدء</translation>
     </message>
     <message>
         <source>&amp;Next Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>التلميح &amp;التالي</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;غلاق</translation>
     </message>
 </context>
 <context>
     <name>zelto::TransparencySlider</name>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية</translation>
     </message>
     <message>
         <source>Transparency in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية بالمئة</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkController</name>
     <message>
         <source>Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الإعداد</translation>
     </message>
     <message>
         <source>There is nothing to save yet. Add a watermark or a border first.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ما يُحفظ بعد. أضف علامة مائية أو إطارًا أولاً.</translation>
     </message>
     <message>
         <source>Setting Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في حفظ الإعداد</translation>
     </message>
     <message>
         <source>Add Image</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة صورة</translation>
     </message>
     <message>
         <source>Edit Image</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير الصورة</translation>
     </message>
     <message>
         <source>Add Text</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة نص</translation>
     </message>
     <message>
         <source>Edit Text</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير النص</translation>
     </message>
     <message>
         <source>Add Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة شكل</translation>
     </message>
     <message>
         <source>Edit Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير الشكل</translation>
     </message>
     <message>
         <source>Add QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة رمز QR</translation>
     </message>
     <message>
         <source>Edit QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير رمز QR</translation>
     </message>
     <message>
         <source>Drop Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>إفلات العلامات المائية</translation>
     </message>
     <message>
         <source>Remove Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة العلامة المائية</translation>
     </message>
     <message>
         <source>Choose Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار المرشّح</translation>
     </message>
     <message>
         <source>Remove Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة المرشّح</translation>
     </message>
     <message>
         <source>Switch Filter On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المرشّح</translation>
     </message>
     <message>
         <source>Switch Filter Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف المرشّح</translation>
     </message>
     <message>
         <source>Edit Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير التأثيرات</translation>
     </message>
     <message>
         <source>Switch Border and Shadow On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل الإطار والظل</translation>
     </message>
     <message>
         <source>Switch Border and Shadow Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف الإطار والظل</translation>
     </message>
     <message>
         <source>Remove Border and Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة الإطار والظل</translation>
     </message>
     <message>
         <source>Edit Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير حقوق النشر</translation>
     </message>
     <message>
         <source>Switch Copyright On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل حقوق النشر</translation>
     </message>
     <message>
         <source>Switch Copyright Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف حقوق النشر</translation>
     </message>
     <message>
         <source>Remove Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة حقوق النشر</translation>
     </message>
     <message>
         <source>Switch Watermark On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل العلامة المائية</translation>
     </message>
     <message>
         <source>Switch Watermark Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف العلامة المائية</translation>
     </message>
     <message numerus="yes">
         <source>Remove %Ln Row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>عدم إزالة صفوف</numerusform>
+            <numerusform>إزالة صف</numerusform>
+            <numerusform>إزالة صفين</numerusform>
+            <numerusform>إزالة %Ln صفوف</numerusform>
+            <numerusform>إزالة %Ln صفًا</numerusform>
+            <numerusform>إزالة %Ln صف</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove All Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة كل العلامات المائية</translation>
     </message>
     <message>
         <source>Watermarks, filter and copyright data removed; border and shadow stay. Undo brings everything back.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيلت العلامات المائية والمرشّح وبيانات حقوق النشر، وبقي الإطار والظل. «تراجع» يعيد كل شيء.</translation>
     </message>
     <message>
         <source>Watermarks, filter and copyright data removed. Undo brings everything back.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيلت العلامات المائية والمرشّح وبيانات حقوق النشر. «تراجع» يعيد كل شيء.</translation>
     </message>
     <message>
         <source>Move Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل العلامة المائية</translation>
     </message>
     <message>
         <source>Duplicate Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار العلامة المائية</translation>
     </message>
     <message>
         <source>Rename Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة تسمية العلامة المائية</translation>
     </message>
     <message>
         <source>Cut Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>قص العلامة المائية</translation>
     </message>
     <message>
         <source>Paste Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>لصق العلامة المائية</translation>
     </message>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة %1</translation>
     </message>
     <message>
         <source>Load Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>تحميل الإعداد</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkListView</name>
     <message>
         <source>Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>العلامات المائية</translation>
     </message>
     <message>
         <source>No watermarks yet</source>
-        <translation type="unfinished"></translation>
+        <translation>لا علامات مائية بعد</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkPanel</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة</translation>
     </message>
     <message>
         <source>Add a watermark, a filter, a border or copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة علامة مائية أو مرشّح أو إطار أو بيانات حقوق نشر</translation>
     </message>
     <message>
         <source>Add Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة علامة مائية</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkWindowController</name>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>المظهر</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية:</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Tiling</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار</translation>
     </message>
 </context>
 <context>
     <name>zelto::WindowActions</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ملف</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحرير</translation>
     </message>
     <message>
         <source>&amp;Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;صور</translation>
     </message>
     <message>
         <source>&amp;Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;علامات المائية</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ضافة</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>عر&amp;ض</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;ساعدة</translation>
     </message>
     <message>
         <source>&amp;Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حفظ الإعداد</translation>
     </message>
     <message>
         <source>Save Setting &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الإعداد &amp;باسم...</translation>
     </message>
     <message>
         <source>&amp;Load at Start</source>
-        <translation type="unfinished"></translation>
+        <translation>تحميل &amp;عند البدء</translation>
     </message>
     <message>
         <source>Saved Stac&amp;ks</source>
-        <translation type="unfinished"></translation>
+        <translation>المجموعات الم&amp;حفوظة</translation>
     </message>
     <message>
         <source>Saved Se&amp;ttings...</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;إعدادات المحفوظة...</translation>
     </message>
     <message>
         <source>&amp;Import Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;ستيراد الإعدادات...</translation>
     </message>
     <message>
         <source>&amp;Export Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تصدير الإعدادات...</translation>
     </message>
     <message>
         <source>Start &amp;Watermarking...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;بدء وضع العلامات المائية...</translation>
     </message>
     <message>
         <source>&amp;Pause or Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف &amp;مؤقت أو استئناف</translation>
     </message>
     <message>
         <source>&amp;Cancel Watermarking</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء وضع العلامات المائية</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;خروج</translation>
     </message>
     <message>
         <source>&amp;Add Photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ضافة صور...</translation>
     </message>
     <message>
         <source>Add &amp;Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة &amp;مجلد...</translation>
     </message>
     <message>
         <source>&amp;Remove Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;زالة الصورة</translation>
     </message>
     <message>
         <source>Remove A&amp;ll Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة &amp;كل الصور</translation>
     </message>
     <message>
         <source>&amp;Check All</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;حديد الكل</translation>
     </message>
     <message>
         <source>&amp;Uncheck All</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء تحديد الكل</translation>
     </message>
     <message>
         <source>&amp;Toggle Check Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عكس علامات التحديد</translation>
     </message>
     <message>
         <source>&amp;Next Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة ال&amp;تالية</translation>
     </message>
     <message>
         <source>&amp;Previous Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة ال&amp;سابقة</translation>
     </message>
     <message>
         <source>F&amp;ind Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;بحث عن صور</translation>
     </message>
     <message>
         <source>&amp;Sort by Name</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب حسب الا&amp;سم</translation>
     </message>
     <message>
         <source>Sort by &amp;Date Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب حسب تاريخ الالت&amp;قاط</translation>
     </message>
     <message>
         <source>&amp;Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نص...</translation>
     </message>
     <message>
         <source>&amp;Image...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;صورة...</translation>
     </message>
     <message>
         <source>&amp;Shape...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;شكل...</translation>
     </message>
     <message>
         <source>&amp;QR Code...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;رمز QR...</translation>
     </message>
     <message>
         <source>&amp;Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;مرشّح...</translation>
     </message>
     <message>
         <source>&amp;Border and Shadow...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;إطار وظل...</translation>
     </message>
     <message>
         <source>&amp;Copyright...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حقوق النشر...</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;قص</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لصق</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;كرار</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحرير...</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة ت&amp;سمية</translation>
     </message>
     <message>
         <source>&amp;Show or Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ظهار أو إخفاء</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل لأ&amp;على</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل لأس&amp;فل</translation>
     </message>
     <message>
         <source>&amp;Remove Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;زالة العلامة المائية</translation>
     </message>
     <message>
         <source>Remove A&amp;ll Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة &amp;كل العلامات المائية</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;كبير</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صغير</translation>
     </message>
     <message>
         <source>&amp;Fit to Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;لاءمة الشاشة</translation>
     </message>
     <message>
         <source>&amp;Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;حجم الفعلي</translation>
     </message>
     <message>
         <source>&amp;Contact View</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصور ال&amp;مصغّرة</translation>
     </message>
     <message>
         <source>Show Without &amp;Marks (Hold F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض &amp;بلا علامات (استمر بضغط F8)</translation>
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>ملء ال&amp;شاشة</translation>
     </message>
     <message>
         <source>&amp;Tips</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تلميحات</translation>
     </message>
     <message>
         <source>&amp;Check for a New Version</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من إصدار &amp;جديد</translation>
     </message>
     <message>
         <source>&amp;About Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حول Zelto</translation>
     </message>
 </context>
 <context>
     <name>zelto::ZeltoController</name>
     <message>
         <source>Sort by Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الترتيب حسب الاسم</translation>
     </message>
     <message>
         <source>Sort by Date Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>الترتيب حسب تاريخ الالتقاط</translation>
     </message>
     <message>
         <source>Reading dates...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قراءة التواريخ...</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُقرأ أي صورة</numerusform>
+            <numerusform>قُرئت صورة واحدة</numerusform>
+            <numerusform>قُرئت صورتان</numerusform>
+            <numerusform>قُرئت %Ln صور</numerusform>
+            <numerusform>قُرئت %Ln صورة</numerusform>
+            <numerusform>قُرئت %Ln صورة</numerusform>
         </translation>
     </message>
 </context>

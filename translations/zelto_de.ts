@@ -5,1531 +5,1538 @@
     <name>Words</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Sample photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispielfoto</translation>
     </message>
     <message>
         <source>Setting Load Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung kann nicht geladen werden</translation>
     </message>
     <message>
         <source>Delete the Selected Setting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Einstellung löschen?</translation>
     </message>
     <message>
         <source>Deleted Setting cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine gelöschte Einstellung lässt sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>&amp;JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;JPEG</translation>
     </message>
     <message>
         <source>&amp;PNG</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PNG</translation>
     </message>
     <message>
         <source>&amp;TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;TIFF</translation>
     </message>
     <message>
         <source>&amp;GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;GIF</translation>
     </message>
     <message>
         <source>B&amp;MP</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;MP</translation>
     </message>
     <message>
         <source>&amp;HEIC</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;HEIC</translation>
     </message>
     <message>
         <source>A&amp;VIF</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;VIF</translation>
     </message>
     <message>
         <source>&amp;WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;WebP</translation>
     </message>
     <message>
         <source>JPEG &amp;XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG &amp;XL</translation>
     </message>
     <message>
         <source>Input Folder cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Quellordner angegeben</translation>
     </message>
     <message>
         <source>Please select the folder from where the Images are to be added</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte den Ordner auswählen, aus dem Bilder hinzugefügt werden sollen.</translation>
     </message>
     <message>
         <source>File Extension list cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Dateiendung ausgewählt</translation>
     </message>
     <message>
         <source>Please select atleast one Extension to be included</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte mindestens eine Dateiendung auswählen.</translation>
     </message>
     <message>
         <source>Import Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen importieren</translation>
     </message>
     <message>
         <source>Please browse and select the folder from where the settings are to be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte den Ordner auswählen, aus dem die Einstellungen importiert werden sollen.</translation>
     </message>
     <message>
         <source>Settings have been imported into Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen wurden in Zelto importiert</translation>
     </message>
     <message>
         <source>Import Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Importieren</translation>
     </message>
     <message>
         <source>Error in importing settings. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen konnten nicht importiert werden. Bitte später erneut versuchen.</translation>
     </message>
     <message>
         <source>Export Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen exportieren</translation>
     </message>
     <message>
         <source>Please browse and select the folder  where the settings are to be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte den Ordner auswählen, in den die Einstellungen exportiert werden sollen.</translation>
     </message>
     <message>
         <source>Settings have been exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen wurden exportiert</translation>
     </message>
     <message>
         <source>Export Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Exportieren</translation>
     </message>
     <message>
         <source>Error in exporting settings. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen konnten nicht exportiert werden. Bitte später erneut versuchen.</translation>
     </message>
     <message>
         <source>Output Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
         <source>Settings have been saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen wurden gespeichert</translation>
     </message>
     <message>
         <source>Settings cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen können nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Include All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle übernehmen</translation>
     </message>
     <message>
         <source>Copyright Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Copyright</translation>
     </message>
     <message>
         <source>Exclude Geolocation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Aufnahmeort</translation>
     </message>
     <message>
         <source>Exclude All</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine übernehmen</translation>
     </message>
     <message>
         <source>A Setting with the same name Exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einstellung mit diesem Namen existiert bereits.</translation>
     </message>
     <message>
         <source>Do You want to OverWrite it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %Ln weiteres</numerusform>
+            <numerusform>%1 und %Ln weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Filter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter %1</translation>
     </message>
     <message>
         <source>Border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright</translation>
     </message>
     <message>
         <source>Add Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos hinzufügen</translation>
     </message>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Version Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionsprüfung</translation>
     </message>
     <message>
         <source>The newest version cannot be found out at the moment.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neueste Version lässt sich zurzeit nicht ermitteln.
+%1</translation>
     </message>
     <message>
         <source>You are using the latest version of Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist die neueste Version von Zelto</translation>
     </message>
     <message>
         <source>Zelto Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelto-Aktualisierung</translation>
     </message>
     <message>
         <source>A new version of Zelto is available. Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Version von Zelto ist verfügbar. Jetzt herunterladen?</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>This is version %1. No address is set to ask for a newer one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist Version %1. Es ist keine Adresse eingerichtet, um nach einer neueren zu fragen.</translation>
     </message>
     <message>
         <source>Asking for the newest version...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neueste Version wird abgefragt...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Watermark Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Anbringen der Wasserzeichen</translation>
     </message>
     <message>
         <source>not processed</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bearbeitet</translation>
     </message>
     <message>
         <source>written</source>
-        <translation type="unfinished"></translation>
+        <translation>geschrieben</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlgeschlagen</translation>
     </message>
     <message>
         <source>written with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Warnungen geschrieben</translation>
     </message>
     <message>
         <source>%1, %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>checked</source>
-        <translation type="unfinished"></translation>
+        <translation>angehakt</translation>
     </message>
     <message>
         <source>not checked</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angehakt</translation>
     </message>
     <message numerus="yes">
         <source>and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %Ln weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Be Replaced</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto würde ersetzt</numerusform>
+            <numerusform>%Ln Fotos würden ersetzt</numerusform>
         </translation>
     </message>
     <message>
         <source>Their watermarked copies would take the place of the originals, which would be lost:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopien mit Wasserzeichen würden an die Stelle der Originale treten, die dann verloren wären:
+%1</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderen Ordner wählen</translation>
     </message>
     <message>
         <source>Some photos would get the same name, and each would take the place of the one before it. “Number” puts 1, 2 and so on behind the name:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Fotos bekämen denselben Namen, und jedes würde das vorige ersetzen. „Nummerieren“ hängt 1, 2 und so weiter an den Namen an:
+%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Become %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aus %Ln Foto würde %1</numerusform>
+            <numerusform>Aus %Ln Fotos würde %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummerieren</translation>
     </message>
     <message>
         <source>“Replace” writes over what is there, “Number” puts 1, 2 and so on behind the new names, “Skip” leaves these photos out:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>„Ersetzen“ überschreibt, was da ist, „Nummerieren“ hängt 1, 2 und so weiter an die neuen Namen an, „Überspringen“ lässt diese Fotos aus:
+%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s) Exist Already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei existiert bereits</numerusform>
+            <numerusform>%Ln Dateien existieren bereits</numerusform>
         </translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Überspringen</translation>
     </message>
     <message>
         <source>YOUR LOGO</source>
-        <translation type="unfinished"></translation>
+        <translation>MEIN LOGO</translation>
     </message>
     <message>
         <source>Your logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes Logo</translation>
     </message>
     <message>
         <source>SAMPLE</source>
-        <translation type="unfinished"></translation>
+        <translation>MUSTER</translation>
     </message>
     <message>
         <source>Caption bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildzeile</translation>
     </message>
     <message>
         <source>PROOF</source>
-        <translation type="unfinished"></translation>
+        <translation>ENTWURF</translation>
     </message>
     <message>
         <source>Corner logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo in der Ecke</translation>
     </message>
     <message>
         <source>A place for your logo in the lower right corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Platz für das eigene Logo in der unteren rechten Ecke</translation>
     </message>
     <message>
         <source>Diagonal text</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräger Text</translation>
     </message>
     <message>
         <source>A text all over the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Text über das ganze Foto</translation>
     </message>
     <message>
         <source>The photo&apos;s name and date on a bar along the lower edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Name und Datum des Fotos auf einem Balken am unteren Rand</translation>
     </message>
     <message>
         <source>Proof with QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurf mit QR-Code</translation>
     </message>
     <message>
         <source>PROOF all over the photo, and its name as a QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>ENTWURF über das ganze Foto und sein Name als QR-Code</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage</translation>
     </message>
     <message>
         <source>There are no watermarks to paste.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Wasserzeichen zum Einfügen.</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Vieleck</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Shape - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Form – %1</translation>
     </message>
     <message>
         <source>Filter - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter – %1</translation>
     </message>
     <message>
         <source>Paste Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen nicht möglich</translation>
     </message>
     <message>
         <source>There are neither watermarks nor photos on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Zwischenablage sind weder Wasserzeichen noch Fotos.</translation>
     </message>
     <message>
         <source>“%1” is saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Ready-Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor&amp;lagen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Remove the watermarks, the filter and the copyright data; border and shadow stay</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen, Filter und Copyright-Angaben entfernen; Rand und Schatten bleiben</translation>
     </message>
     <message>
         <source>Watermarking failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Anbringen der Wasserzeichen ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Successive Fail</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Fehler hintereinander</translation>
     </message>
     <message>
         <source>3 Photos in a row failed to save, Would you like to  continue watermarking?
 We recommend stopping the process and run as administrator.
 Select No to stop watermarking.</source>
-        <translation type="unfinished"></translation>
+        <translation>3 Fotos hintereinander konnten nicht gespeichert werden. Trotzdem fortfahren?
+Es wird empfohlen, den Vorgang abzubrechen und das Programm als Administrator auszuführen.
+Mit „Nein“ wird der Vorgang beendet.</translation>
     </message>
     <message>
         <source>Watermark Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe der Wasserzeichen</translation>
     </message>
     <message>
         <source>Watermark process completed successfully</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Wasserzeichen wurden erfolgreich angebracht</translation>
     </message>
     <message>
         <source>Watermark process completed but some Photos produced Error
 Double Click the Image Entry to know the problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorgang ist beendet, aber bei einigen Fotos traten Fehler auf
+Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
     </message>
     <message>
         <source>the folder cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>the name is not UTF-8 text, so the photo cannot be opened; rename it</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist kein UTF-8-Text, daher kann das Foto nicht geöffnet werden; bitte umbenennen</translation>
     </message>
     <message>
         <source>the link leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>die Verknüpfung führt ins Leere</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>A filter changes the whole photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Filter verändert das ganze Foto.</translation>
     </message>
     <message>
         <source>A border or a shadow is put around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto bekommt einen Rand oder Schatten.</translation>
     </message>
     <message>
         <source>It is resized.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe wird geändert.</translation>
     </message>
     <message>
         <source>an earlier photo of the run has the output “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>ein früheres Foto des Durchlaufs hat die Ausgabe „%1“</translation>
     </message>
     <message>
         <source>“%1” exists already</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ existiert bereits</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen: %1.</translation>
     </message>
     <message>
         <source>Not written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geschrieben: %1.</translation>
     </message>
     <message>
         <source>The output takes the place of an earlier photo&apos;s of the same name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe ersetzt die eines früheren Fotos mit demselben Namen.</translation>
     </message>
     <message>
         <source>Files of the kind “%1” are not written here: the output is a JPEG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien der Art „%1“ werden hier nicht geschrieben: Die Ausgabe ist ein JPEG.</translation>
     </message>
     <message>
         <source>The photo was written without its metadata: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto wurde ohne seine Metadaten geschrieben: %1</translation>
     </message>
     <message>
         <source>“%1” has no extension of a format that can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Dateiendung eines Formats, das geschrieben werden kann.</translation>
     </message>
     <message>
         <source>A size of %1 × %2 pixels cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Größe von %1 × %2 Pixeln kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>Original name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ursprünglicher Name</translation>
     </message>
     <message>
         <source>Number, two digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer, zweistellig</translation>
     </message>
     <message>
         <source>Number, three digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer, dreistellig</translation>
     </message>
     <message>
         <source>Number, four digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer, vierstellig</translation>
     </message>
     <message>
         <source>Date: month, day, year</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum: Monat, Tag, Jahr</translation>
     </message>
     <message>
         <source>Date: day, month, year</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum: Tag, Monat, Jahr</translation>
     </message>
     <message>
         <source>Date taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmedatum</translation>
     </message>
     <message>
         <source>Time taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmezeit</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>City</source>
-        <translation type="unfinished"></translation>
+        <translation>Stadt</translation>
     </message>
     <message>
         <source>Photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotobreite</translation>
     </message>
     <message>
         <source>Photo height</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotohöhe</translation>
     </message>
     <message>
         <source>Auto Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufende Nummer</translation>
     </message>
     <message>
         <source>Today&apos;s Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Heutiges Datum</translation>
     </message>
     <message>
         <source>Image Name (Without Extension)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildname (ohne Dateiendung)</translation>
     </message>
     <message>
         <source>Image Name (With Extension)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildname (mit Dateiendung)</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnername</translation>
     </message>
     <message>
         <source>Full Image Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständiger Pfad des Bildes</translation>
     </message>
     <message>
         <source>Creation Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellungsdatum</translation>
     </message>
     <message>
         <source>Modification Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsdatum</translation>
     </message>
     <message>
         <source>Photo Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotobreite</translation>
     </message>
     <message>
         <source>Photo Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotohöhe</translation>
     </message>
     <message>
         <source>Photo DPI Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung waagerecht (dpi)</translation>
     </message>
     <message>
         <source>Photo DPI Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung senkrecht (dpi)</translation>
     </message>
     <message>
         <source>“%1” is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ fehlt.</translation>
     </message>
     <message>
         <source>“%1” was given up after it had not answered twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde aufgegeben, nachdem es zweimal nicht geantwortet hatte.</translation>
     </message>
     <message>
         <source>“%1” was not given the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für „%1“ blieb keine Zeit.</translation>
     </message>
     <message>
         <source>“%1” ended while it was needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde beendet, während es gebraucht wurde.</translation>
     </message>
     <message>
         <source>“%1” did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>exiftool cannot be told “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool kann „%1“ nicht übergeben werden.</translation>
     </message>
     <message>
         <source>“%1” cannot be started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gestartet werden: %2</translation>
     </message>
     <message>
         <source>exiftool did not write the metadata: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool hat die Metadaten nicht geschrieben: %1</translation>
     </message>
     <message>
         <source>exiftool did not remove the photo&apos;s position.</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool hat den Aufnahmeort des Fotos nicht entfernt.</translation>
     </message>
     <message>
         <source>exiftool did not remove a picture from the photo&apos;s metadata.</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool hat ein Bild nicht aus den Metadaten des Fotos entfernt.</translation>
     </message>
     <message>
         <source>exiftool left a file that is not the one it was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool hat eine andere Datei hinterlassen, als ihm übergeben wurde.</translation>
     </message>
     <message>
         <source>exiftool left a file that is not the picture it was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool hat eine Datei hinterlassen, die nicht das übergebene Bild ist.</translation>
     </message>
     <message>
         <source>Output path cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Ausgabeordner angegeben</translation>
     </message>
     <message>
         <source>Please select the folder for the output</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte den Ordner für die Ausgabe auswählen.</translation>
     </message>
     <message>
         <source>Output path not accessible</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Zugriff auf den Ausgabeordner</translation>
     </message>
     <message>
         <source>The selected path is not accessible. Please select another path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den ausgewählten Pfad kann nicht zugegriffen werden. Bitte einen anderen auswählen.</translation>
     </message>
     <message>
         <source>Longer side cannot be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Länge für die längere Seite angegeben</translation>
     </message>
     <message>
         <source>Please enter the size of the longer side of the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte die Länge der längeren Seite des Fotos eingeben.</translation>
     </message>
     <message>
         <source>a watermark&apos;s type is missing or no number</source>
-        <translation type="unfinished"></translation>
+        <translation>die Art eines Wasserzeichens fehlt oder ist keine Zahl</translation>
     </message>
     <message>
         <source>“%1” was not written: the logos are too large for a setting file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht geschrieben: Die Logos sind zu groß für eine Einstellungsdatei.</translation>
     </message>
     <message>
         <source>The settings are already in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen sind bereits in „%1“.</translation>
     </message>
     <message>
         <source>A setting cannot be named “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einstellung kann nicht „%1“ heißen.</translation>
     </message>
     <message>
         <source>There is no setting “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Einstellung „%1“.</translation>
     </message>
     <message>
         <source>The setting “%1” cannot be deleted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellung „%1“ kann nicht gelöscht werden: %2</translation>
     </message>
     <message>
         <source>the file holds too many elements</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält zu viele Elemente</translation>
     </message>
     <message>
         <source>the elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>die Elemente sind zu tief verschachtelt</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist zu groß</translation>
     </message>
     <message>
         <source>the file is not UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist kein UTF-8-Text</translation>
     </message>
     <message>
         <source>a document type declaration is not accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Dokumenttyp-Deklaration wird nicht angenommen</translation>
     </message>
     <message>
         <source>a tag is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Tag ist zu lang</translation>
     </message>
     <message>
         <source>the file&apos;s root is “%1” instead of “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>das oberste Element der Datei ist „%1“ statt „%2“</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Datei „%1“.</translation>
     </message>
     <message>
         <source>“%1” cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Zeile %2: %3</translation>
     </message>
     <message>
         <source>The GIF encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als GIF ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>no palette could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>es konnte keine Palette erstellt werden</translation>
     </message>
     <message>
         <source>This Zelto was built without an AVIF encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Zelto wurde ohne AVIF-Encoder gebaut.</translation>
     </message>
     <message>
         <source>This Zelto was built without a HEIC encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Zelto wurde ohne HEIC-Encoder gebaut.</translation>
     </message>
     <message>
         <source>The %1 encoder failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als %1 ist fehlgeschlagen: %2</translation>
     </message>
     <message>
         <source>The JPEG encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als JPEG ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>The photo&apos;s data cannot be taken over as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten des Fotos lassen sich nicht unverändert übernehmen.</translation>
     </message>
     <message>
         <source>It cannot be turned without loss: its stored width, %1 pixels, is no multiple of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlustfreies Drehen ist nicht möglich: Die gespeicherte Breite von %1 Pixeln ist kein Vielfaches von %2.</translation>
     </message>
     <message>
         <source>It cannot be turned without loss: its stored height, %1 pixels, is no multiple of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlustfreies Drehen ist nicht möglich: Die gespeicherte Höhe von %1 Pixeln ist kein Vielfaches von %2.</translation>
     </message>
     <message>
         <source>The photo is no JPEG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto ist kein JPEG.</translation>
     </message>
     <message>
         <source>Its colours are stored in another way than as YCbCr or grey.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farben sind weder als YCbCr noch als Graustufen gespeichert.</translation>
     </message>
     <message>
         <source>Its colours are sampled in broken steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farben sind in gebrochenen Schritten abgetastet.</translation>
     </message>
     <message>
         <source>Its colour profile does not say how to come to its colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Farbprofil sagt nicht, wie seine Farben zu bilden sind.</translation>
     </message>
     <message>
         <source>This Zelto was built without a JPEG XL encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Zelto wurde ohne JPEG-XL-Encoder gebaut.</translation>
     </message>
     <message>
         <source>The JPEG XL encoder failed with error %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als JPEG XL ist mit Fehler %1 fehlgeschlagen.</translation>
     </message>
     <message>
         <source>A picture without pixels cannot be a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild ohne Pixel kann keine Seite sein.</translation>
     </message>
     <message>
         <source>A PDF document needs at least one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein PDF-Dokument braucht mindestens eine Seite.</translation>
     </message>
     <message>
         <source>The PDF document cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das PDF-Dokument kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>There is not enough memory for this picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Bild reicht der Arbeitsspeicher nicht.</translation>
     </message>
     <message>
         <source>This picture would take %1 MB of memory. No more than %2 MB are used for one from a file of this size on this machine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild bräuchte %1 MB Arbeitsspeicher. Für eines aus einer Datei dieser Größe werden auf diesem Rechner höchstens %2 MB verwendet.</translation>
     </message>
     <message>
         <source>This is a drawing (SVG, PDF or PostScript). Zelto reads photos and other pictures made of pixels: save it as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist eine Zeichnung (SVG, PDF oder PostScript). Zelto liest Fotos und andere Pixelbilder: bitte als PNG speichern.</translation>
     </message>
     <message>
         <source>This Zelto was built without a reader of %1 files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Zelto wurde ohne Leser für %1-Dateien gebaut.</translation>
     </message>
     <message>
         <source>Image may be damaged or use a file format not supported by Zelto.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist möglicherweise beschädigt oder hat ein Dateiformat, das Zelto nicht unterstützt.</translation>
     </message>
     <message>
         <source>A picture without pixels cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild ohne Pixel kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>A picture of %1 × %2 pixels is too large for the %3 format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild mit %1 × %2 Pixeln ist zu groß für das Format %3.</translation>
     </message>
     <message>
         <source>The PNG encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als PNG ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>The TIFF encoder failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als TIFF ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>This Zelto was built without a WebP encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Zelto wurde ohne WebP-Encoder gebaut.</translation>
     </message>
     <message>
         <source>The WebP encoder failed with error %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kodieren als WebP ist mit Fehler %1 fehlgeschlagen.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>there is not enough memory to start</source>
-        <translation type="unfinished"></translation>
+        <translation>der Arbeitsspeicher reicht nicht zum Starten</translation>
     </message>
     <message>
         <source>No folder can be made in “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann kein Ordner angelegt werden: %2</translation>
     </message>
     <message>
         <source>no thread can be started</source>
-        <translation type="unfinished"></translation>
+        <translation>es kann kein Thread gestartet werden</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>The font has the size 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schrift hat die Größe 0.</translation>
     </message>
     <message>
         <source>The logo has the size 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logo hat die Größe 0.</translation>
     </message>
     <message>
         <source>Shapes and QR codes are not tiled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formen und QR-Codes werden nicht gekachelt.</translation>
     </message>
     <message>
         <source>QR codes are not turned.</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Codes werden nicht gedreht.</translation>
     </message>
     <message>
         <source>Its paddings and spacings leave no room for a tile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine Abstände lassen keinen Platz für eine Kachel.</translation>
     </message>
     <message>
         <source>Its kind is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine Art ist unbekannt.</translation>
     </message>
     <message>
         <source>The logo cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logo kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The logo “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logo „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The text is empty once its macros are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text ist leer, sobald seine Makros ausgefüllt sind.</translation>
     </message>
     <message>
         <source>No installed font has these letters: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine installierte Schrift enthält diese Zeichen: %1</translation>
     </message>
     <message>
         <source>The text is too long for a QR code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text ist zu lang für einen QR-Code.</translation>
     </message>
     <message>
         <source>The QR code is too small to be read: its squares are finer than a pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der QR-Code ist zu klein, um gelesen zu werden: Seine Quadrate sind feiner als ein Pixel.</translation>
     </message>
     <message>
         <source>It lies outside the photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es liegt außerhalb des Fotos.</translation>
     </message>
     <message>
         <source>Less than a tenth of it lies on the photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weniger als ein Zehntel davon liegt auf dem Foto.</translation>
     </message>
     <message>
         <source>The shape has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Form hat keine Fläche.</translation>
     </message>
     <message>
         <source>Bubblegum</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaugummi</translation>
     </message>
     <message>
         <source>Delhi</source>
-        <translation type="unfinished"></translation>
+        <translation>Delhi</translation>
     </message>
     <message>
         <source>Earth</source>
-        <translation type="unfinished"></translation>
+        <translation>Erde</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Abend</translation>
     </message>
     <message>
         <source>Lumina</source>
-        <translation type="unfinished"></translation>
+        <translation>Lumina</translation>
     </message>
     <message>
         <source>Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrix</translation>
     </message>
     <message>
         <source>Old TV</source>
-        <translation type="unfinished"></translation>
+        <translation>Alter Fernseher</translation>
     </message>
     <message>
         <source>Paris</source>
-        <translation type="unfinished"></translation>
+        <translation>Paris</translation>
     </message>
     <message>
         <source>Rome</source>
-        <translation type="unfinished"></translation>
+        <translation>Rom</translation>
     </message>
     <message>
         <source>Vintage</source>
-        <translation type="unfinished"></translation>
+        <translation>Nostalgie</translation>
     </message>
     <message>
         <source>Keyhole</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüsselloch</translation>
     </message>
     <message>
         <source>Haze</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunst</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Watermark %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen %1: %2</translation>
     </message>
     <message>
         <source>There is not enough memory for this photo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Foto reicht der Arbeitsspeicher nicht.</translation>
     </message>
     <message>
         <source>Its border and shadow would make this photo too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Rand und Schatten würde dieses Foto zu groß.</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Watermarks for batches of photos.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen für viele Fotos auf einmal.</translation>
     </message>
     <message>
         <source>Start with a saved setting or a setting file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einer gespeicherten Einstellung oder einer Einstellungsdatei beginnen.</translation>
     </message>
     <message>
         <source>Photos, or folders of photos, to begin with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos oder Ordner mit Fotos für den Anfang.</translation>
     </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
     <message>
         <source>Auto Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufende Nummer</translation>
     </message>
     <message>
         <source>&amp;Continue after the last number used, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach der zuletzt verwendeten Nummer &amp;fortfahren, %1</translation>
     </message>
     <message>
         <source>&amp;Continue after the last number used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach der zuletzt verwendeten Nummer &amp;fortfahren</translation>
     </message>
     <message>
         <source>Number of &amp;digits:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der &amp;Ziffern:</translation>
     </message>
     <message>
         <source>&amp;Starting number:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Startnummer:</translation>
     </message>
     <message>
         <source>I&amp;ncrement:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;rittweite:</translation>
     </message>
     <message>
         <source>First photos:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Fotos:</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
 </context>
 <context>
     <name>zelto::ColorPanel</name>
     <message>
         <source>Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit und Sättigung</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>Opacity of the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft der Farbe</translation>
     </message>
     <message>
         <source>Colour in hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe in Hexadezimal</translation>
     </message>
     <message>
         <source>Red, green and blue in hexadecimal, and opacity if you like: #rrggbb or #rrggbbaa</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot, Grün und Blau in Hexadezimal, auf Wunsch mit Deckkraft: #rrggbb oder #rrggbbaa</translation>
     </message>
     <message>
         <source>Opacity in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft in Prozent</translation>
     </message>
     <message>
         <source>Pick a colour from the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe aus dem Foto aufnehmen</translation>
     </message>
     <message>
         <source>Pick a colour from the photo: click on it, Escape gives up</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe aus dem Foto aufnehmen: ins Foto klicken, Esc bricht ab</translation>
     </message>
 </context>
 <context>
     <name>zelto::ColorWell</name>
     <message>
         <source>No colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Farbe</translation>
     </message>
     <message>
         <source>%1, %2% opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 % deckend</translation>
     </message>
 </context>
 <context>
     <name>zelto::ContactView</name>
     <message>
         <source>Contact view</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontaktbogen</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen...</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::CopyrightEditor</name>
     <message>
         <source>Notice:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis:</translation>
     </message>
     <message>
         <source>© Jane Doe</source>
-        <translation type="unfinished"></translation>
+        <translation>© Erika Mustermann</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Rights page:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteseite:</translation>
     </message>
     <message>
         <source>https://www.example.com/rights</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com/rechte</translation>
     </message>
     <message>
         <source>Terms of use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nutzungsbedingungen:</translation>
     </message>
     <message>
         <source>All rights reserved</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Rechte vorbehalten</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Jane Doe</source>
-        <translation type="unfinished"></translation>
+        <translation>Erika Mustermann</translation>
     </message>
     <message>
         <source>Job title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Berufsbezeichnung:</translation>
     </message>
     <message>
         <source>Photographer</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotografin</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort:</translation>
     </message>
     <message>
         <source>State or province:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bundesland oder Kanton:</translation>
     </message>
     <message>
         <source>Postal code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Postleitzahl:</translation>
     </message>
     <message>
         <source>Country:</source>
-        <translation type="unfinished"></translation>
+        <translation>Land:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon:</translation>
     </message>
     <message>
         <source>E-mail:</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail:</translation>
     </message>
     <message>
         <source>jane@example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>erika@example.com</translation>
     </message>
     <message>
         <source>Website:</source>
-        <translation type="unfinished"></translation>
+        <translation>Webseite:</translation>
     </message>
     <message>
         <source>https://www.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com</translation>
     </message>
     <message>
         <source>Copyrighted</source>
-        <translation type="unfinished"></translation>
+        <translation>Urheberrechtlich geschützt</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschützt</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright</translation>
     </message>
     <message>
         <source>Write these data into the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Angaben in die Fotos schreiben</translation>
     </message>
     <message>
         <source>Rights</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte</translation>
     </message>
     <message>
         <source>Creator</source>
-        <translation type="unfinished"></translation>
+        <translation>Urheber</translation>
     </message>
     <message>
         <source>The copyright data could not be kept for the next time</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Copyright-Angaben konnten nicht für das nächste Mal aufgehoben werden</translation>
     </message>
     <message>
         <source>Not stated</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Angabe</translation>
     </message>
 </context>
 <context>
     <name>zelto::DateFormatWindowControlller</name>
     <message>
         <source>Date Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsformat</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format:</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel:</translation>
     </message>
     <message>
         <source>Letters of a format</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben eines Formats</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
 </context>
 <context>
     <name>zelto::EffectsEditor</name>
     <message>
         <source>Border and Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten</translation>
     </message>
     <message>
         <source>Put a border and a shadow around the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos mit Rand und Schatten umgeben</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten</translation>
     </message>
     <message>
         <source>Same width on all sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf allen Seiten gleich breit</translation>
     </message>
     <message>
         <source>Border colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Randfarbe</translation>
     </message>
     <message>
         <source>Watermarks may cover the border</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen dürfen den Rand überdecken</translation>
     </message>
     <message>
         <source>Unit of the border</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit des Randes</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Cast a shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten werfen</translation>
     </message>
     <message>
         <source>Unit of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit des Schattens</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnung</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>Shadow colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattenfarbe</translation>
     </message>
     <message>
         <source>Lengths:</source>
-        <translation type="unfinished"></translation>
+        <translation>Längen:</translation>
     </message>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnung:</translation>
     </message>
     <message>
         <source>Distance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand:</translation>
     </message>
     <message>
         <source>Colour:</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
     <message>
         <source>The preview leaves the shadow out while watermarks may cover the border; the written photos have it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solange Wasserzeichen den Rand überdecken dürfen, zeigt die Vorschau keinen Schatten; die geschriebenen Fotos haben ihn.</translation>
     </message>
 </context>
 <context>
     <name>zelto::EmptyState</name>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipp</translation>
     </message>
     <message>
         <source>&amp;Next Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Tipp</translation>
     </message>
     <message>
         <source>Drop photos here</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos hier ablegen</translation>
     </message>
     <message>
         <source>Add the photos to be watermarked, compose your watermarks at the right, then press Start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos hinzufügen, rechts die Wasserzeichen zusammenstellen und dann auf „Starten“ klicken.</translation>
     </message>
     <message>
         <source>or begin with the watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>oder mit den Wasserzeichen beginnen</translation>
     </message>
     <message>
         <source>A sample photo shows them until you add your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Beispielfoto zeigt sie, bis eigene Fotos da sind.</translation>
     </message>
     <message>
         <source>This is a sample photo. Drop your own anywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist ein Beispielfoto. Eigene Fotos einfach hier ablegen.</translation>
     </message>
 </context>
 <context>
     <name>zelto::ExampleView</name>
     <message>
         <source>This photo cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Foto kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 Pixel</translation>
     </message>
     <message>
         <source>%1: no picture can have this size</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diese Größe kann kein Bild haben</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel:</translation>
     </message>
     <message>
         <source>Example of an output</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel einer Ausgabe</translation>
     </message>
     <message>
         <source>No photo is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Foto ausgewählt.</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, in %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::ExistingSettingsWindowController</name>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>&amp;Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lö&amp;schen...</translation>
     </message>
     <message>
         <source>Saved Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Einstellungen</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Einstellungen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>%1 (autoload)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (beim Start)</translation>
     </message>
     <message>
         <source>Loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird beim Start von Zelto geladen</translation>
     </message>
     <message>
         <source>Remove Autoload</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr beim Start laden</translation>
     </message>
     <message>
         <source>Set Autoload</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start laden</translation>
     </message>
     <message>
         <source>There are no saved settings. File &gt; Save Setting saves the watermarks you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine gespeicherten Einstellungen. Datei &gt; Einstellung speichern speichert die sichtbaren Wasserzeichen.</translation>
     </message>
     <message>
         <source>Setting Delete Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung kann nicht gelöscht werden</translation>
     </message>
 </context>
 <context>
     <name>zelto::FilterWindow</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
 </context>
 <context>
     <name>zelto::FoldGroup</name>
     <message>
         <source>Folded</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeklappt</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeklappt</translation>
     </message>
 </context>
 <context>
     <name>zelto::FolderField</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsuchen...</translation>
     </message>
 </context>
 <context>
     <name>zelto::FolderImport</name>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Looking for photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos werden gesucht...</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto gefunden</numerusform>
+            <numerusform>%Ln Fotos gefunden</numerusform>
         </translation>
     </message>
 </context>
@@ -1537,1358 +1544,1360 @@ Double Click the Image Entry to know the problem</source>
     <name>zelto::FolderWindowController</name>
     <message>
         <source>Folder of Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Fotos</translation>
     </message>
     <message>
         <source>Include &amp;sub-folders</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unterordner einbeziehen</translation>
     </message>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner:</translation>
     </message>
     <message>
         <source>A folder&apos;s GIF photos are passed over; add them one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-Bilder eines Ordners werden übergangen; bitte einzeln hinzufügen.</translation>
     </message>
     <message>
         <source>Formats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formate:</translation>
     </message>
     <message>
         <source>More formats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Formate:</translation>
     </message>
     <message>
         <source>&amp;Add Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos hin&amp;zufügen</translation>
     </message>
 </context>
 <context>
     <name>zelto::FontFamilyList</name>
     <message>
         <source>Search fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriften suchen</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>“%1” is not installed here; a standard font takes its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist hier nicht installiert; eine Standardschrift tritt an ihre Stelle.</translation>
     </message>
 </context>
 <context>
     <name>zelto::FullScreenView</name>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>One moment...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Moment...</translation>
     </message>
     <message>
         <source>Exit Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild beenden</translation>
     </message>
     <message>
         <source>Loading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geladen...</translation>
     </message>
 </context>
 <context>
     <name>zelto::ImageListController</name>
     <message numerus="yes">
         <source>Add %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto hinzufügen</numerusform>
+            <numerusform>%Ln Fotos hinzufügen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) are in the list already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto ist schon in der Liste</numerusform>
+            <numerusform>%Ln Fotos sind schon in der Liste</numerusform>
         </translation>
     </message>
     <message>
         <source>Check All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Fotos anhaken</translation>
     </message>
     <message>
         <source>Uncheck All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Häkchen entfernen</translation>
     </message>
     <message>
         <source>Toggle Check Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Häkchen umkehren</translation>
     </message>
     <message>
         <source>Check Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos anhaken</translation>
     </message>
     <message>
         <source>Uncheck Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Häkchen der Fotos entfernen</translation>
     </message>
     <message numerus="yes">
         <source>Remove %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto entfernen</numerusform>
+            <numerusform>%Ln Fotos entfernen</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto entfernen</translation>
     </message>
     <message>
         <source>Remove All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Fotos entfernen</translation>
     </message>
     <message>
         <source>Watermark Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung zum Wasserzeichen</translation>
     </message>
 </context>
 <context>
     <name>zelto::ImportExportWindowController</name>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren</translation>
     </message>
     <message>
         <source>There are no settings to copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Einstellungen zum Kopieren.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln setting(s) will be copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Einstellung wird kopiert.</numerusform>
+            <numerusform>%Ln Einstellungen werden kopiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Ordner gibt es nicht.</translation>
     </message>
 </context>
 <context>
     <name>zelto::Inspector</name>
     <message>
         <source>Revert: take back everything that was changed since this was selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen: alles zurücknehmen, was seit dem Auswählen geändert wurde</translation>
     </message>
     <message>
         <source>Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Select a watermark in the list above or on the photo, and what it looks like and where it stands can be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wasserzeichen oben in der Liste oder auf dem Foto auswählen: Aussehen und Platz lassen sich dann hier ändern.</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ausgewählt</translation>
     </message>
 </context>
 <context>
     <name>zelto::LengthBox</name>
     <message>
         <source>On the selected photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem ausgewählten Foto</translation>
     </message>
     <message>
         <source>= %L1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>= %L1 px</translation>
     </message>
 </context>
 <context>
     <name>zelto::LengthUnit</name>
     <message>
         <source>in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>in Pixeln</translation>
     </message>
     <message>
         <source>in % of the shorter side</source>
-        <translation type="unfinished"></translation>
+        <translation>in % der kürzeren Seite</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoEditor</name>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoFileGroup</name>
     <message>
         <source>No image chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild gewählt</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen…</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoGroup</name>
     <message>
         <source>Choose Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auswählen</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>This image cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild kann nicht verwendet werden</translation>
     </message>
     <message>
         <source>Make transparent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent machen:</translation>
     </message>
     <message>
         <source>Transparent Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparente Farbe</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Resize</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>Proportional</source>
-        <translation type="unfinished"></translation>
+        <translation>Proportional</translation>
     </message>
     <message>
         <source>Size in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe in Prozent</translation>
     </message>
     <message>
         <source>Side of the photo the size follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des Fotos, nach der sich die Größe richtet</translation>
     </message>
     <message>
         <source>Absolute</source>
-        <translation type="unfinished"></translation>
+        <translation>Absolut</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>W </source>
-        <translation type="unfinished"></translation>
+        <translation>B </translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>H </source>
-        <translation type="unfinished"></translation>
+        <translation>H </translation>
     </message>
     <message>
         <source>Keep aspect ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis beibehalten</translation>
     </message>
 </context>
 <context>
     <name>zelto::LogoSample</name>
     <message>
         <source>Logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo</translation>
     </message>
     <message>
         <source>Click the colour that is to become transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Farbe klicken, die transparent werden soll</translation>
     </message>
 </context>
 <context>
     <name>zelto::MacroController</name>
     <message>
         <source>Insert Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro einfügen</translation>
     </message>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro</translation>
     </message>
     <message>
         <source>On this photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Foto</translation>
     </message>
     <message>
         <source>Search macros and values</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros und Werte suchen</translation>
     </message>
     <message>
         <source>Search macros</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros suchen</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>Special Character…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonderzeichen…</translation>
     </message>
 </context>
 <context>
     <name>zelto::MainWindow</name>
     <message>
         <source>There is no saved setting and no setting file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt weder eine gespeicherte Einstellung noch eine Einstellungsdatei „%1“.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto</numerusform>
+            <numerusform>%Ln Fotos</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig:</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen:</translation>
     </message>
     <message>
         <source>About Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Zelto</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Zelto %1&lt;/h3&gt;&lt;p&gt;Watermarks for batches of photos.&lt;/p&gt;&lt;p&gt;Free software under the GNU General Public License, version 3 or later.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Zelto %1&lt;/h3&gt;&lt;p&gt;Wasserzeichen für viele Fotos auf einmal.&lt;/p&gt;&lt;p&gt;Freie Software unter der GNU General Public License, Version 3 oder neuer.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Start Watermarking</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen anbringen</translation>
     </message>
     <message>
         <source>%1[*] – Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] – Zelto</translation>
     </message>
     <message>
         <source>No photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Fotos</translation>
     </message>
     <message numerus="yes">
         <source>%Ln checked</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln angehakt</numerusform>
+            <numerusform>%Ln angehakt</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
     <name>zelto::NumberField</name>
     <message>
         <source>A number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl von %1 bis %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::OutputOptionsController</name>
     <message>
         <source>Output Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeoptionen</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Starten</translation>
     </message>
     <message>
         <source>Set &amp;as Default</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Als Standard festlegen</translation>
     </message>
 </context>
 <context>
     <name>zelto::OutputPanel</name>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>Output Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeordner</translation>
     </message>
     <message>
         <source>&amp;Maintain the directory structure</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnerstru&amp;ktur beibehalten</translation>
     </message>
     <message>
         <source>JPEG &amp;quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-&amp;Qualität:</translation>
     </message>
     <message>
         <source>&amp;Combine to a single PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einem einzigen &amp;PDF zusammenfassen</translation>
     </message>
     <message>
         <source>Keep &amp;untouched areas as they are (JPEG to JPEG)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unberührte Bereiche unverändert lassen (JPEG zu JPEG)</translation>
     </message>
     <message>
         <source>F&amp;older:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner:</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format:</translation>
     </message>
     <message>
         <source>&lt;p&gt;Only the blocks that a watermark touches are encoded again, with the quality the photo has already. All else stays as it is, so that a copy of a copy is as good as the first.&lt;/p&gt;&lt;p&gt;This is done for JPEG photos that are neither resized nor filtered nor framed. Others are encoded as usual, and their rows say why.&lt;/p&gt;&lt;p&gt;Many cameras store colors at half the size. There, colored edges of marks are softer, and on a grey photo marks are grey.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Nur die Blöcke, die ein Wasserzeichen berührt, werden neu kodiert, mit der Qualität, die das Foto schon hat. Alles andere bleibt, wie es ist, sodass die Kopie einer Kopie so gut ist wie die erste.&lt;/p&gt;&lt;p&gt;Dies geschieht bei JPEG-Fotos, deren Größe nicht geändert wird und die weder Filter noch Rand bekommen. Andere werden wie gewohnt kodiert, und ihre Zeilen nennen den Grund.&lt;/p&gt;&lt;p&gt;Viele Kameras speichern Farben in halber Größe. Dort sind farbige Kanten von Wasserzeichen weicher, und auf einem grauen Foto sind sie grau.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Meta&amp;data:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Metadaten:</translation>
     </message>
     <message>
         <source>Same as source image</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Quellbild</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>0 is the smallest file, 100 the best picture: with WebP, JPEG XL and AVIF, without any loss</source>
-        <translation type="unfinished"></translation>
+        <translation>0 ergibt die kleinste Datei, 100 das beste Bild: bei WebP, JPEG XL und AVIF ganz ohne Verlust</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadaten</translation>
     </message>
     <message>
         <source>Exclude Geolocation removes every position and keeps the names of places.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Ohne Aufnahmeort“ entfernt alle Positionen und behält die Ortsnamen.</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität</translation>
     </message>
     <message>
         <source>JPEG quality</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-Qualität</translation>
     </message>
     <message>
         <source>&amp;Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qualität:</translation>
     </message>
     <message>
         <source>Files of this format have no metadata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien dieses Formats haben keine Metadaten.</translation>
     </message>
     <message>
         <source>You have set no copyright data (Add &gt; Copyright).</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Copyright-Angaben gesetzt (Hinzufügen &gt; Copyright).</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoDelegate</name>
     <message>
         <source>preview of a raw file</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau einer Raw-Datei</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoFilterBox</name>
     <message>
         <source>All Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Fotos</translation>
     </message>
     <message>
         <source>Failed or with Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen oder mit Warnungen</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>With Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Warnungen</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>The photos that the list shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Fotos, die die Liste zeigt</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoListView</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>No photo has “%1” in its name</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Foto hat „%1“ im Namen</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoPanel</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Sort the photos: the run and its numbers follow this order</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos sortieren: Durchlauf und Nummern folgen dieser Reihenfolge</translation>
     </message>
     <message>
         <source>Sort Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos sortieren</translation>
     </message>
     <message>
         <source>Find by name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Namen suchen</translation>
     </message>
     <message>
         <source>Find photos by name</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos nach Namen suchen</translation>
     </message>
     <message>
         <source>Shows only photos with this in their names (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur Fotos, die dies im Namen haben (Strg+F)</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoPreview</name>
     <message>
         <source>This photo cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Foto kann nicht gezeigt werden</translation>
     </message>
     <message>
         <source>Working...</source>
-        <translation type="unfinished"></translation>
+        <translation>In Arbeit...</translation>
     </message>
     <message>
         <source>Loading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geladen...</translation>
     </message>
     <message>
         <source>Place Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen platzieren</translation>
     </message>
     <message>
         <source>Resize Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Wasserzeichens ändern</translation>
     </message>
     <message>
         <source>Turn Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen drehen</translation>
     </message>
 </context>
 <context>
     <name>zelto::PhotoStrip</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Add the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter hinzufügen</translation>
     </message>
     <message>
         <source>Edit the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter bearbeiten</translation>
     </message>
     <message>
         <source>Remove the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter entfernen</translation>
     </message>
     <message>
         <source>Switch the filter on</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter einschalten</translation>
     </message>
     <message>
         <source>Switch the filter off</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter ausschalten</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand</translation>
     </message>
     <message>
         <source>Add border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten hinzufügen</translation>
     </message>
     <message>
         <source>Edit border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten bearbeiten</translation>
     </message>
     <message>
         <source>Remove border and shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten entfernen</translation>
     </message>
     <message>
         <source>Switch border and shadow on</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten einschalten</translation>
     </message>
     <message>
         <source>Switch border and shadow off</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten ausschalten</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright</translation>
     </message>
     <message>
         <source>Add the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright-Angaben hinzufügen</translation>
     </message>
     <message>
         <source>Edit the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright-Angaben bearbeiten</translation>
     </message>
     <message>
         <source>Remove the copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright-Angaben entfernen</translation>
     </message>
     <message>
         <source>Switch the copyright data on</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright-Angaben einschalten</translation>
     </message>
     <message>
         <source>Switch the copyright data off</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright-Angaben ausschalten</translation>
     </message>
     <message>
         <source>The photo as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto als Ganzes</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>zelto::PlaceGuides</name>
     <message>
         <source>%L1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 px</translation>
     </message>
     <message>
         <source>%1 = %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2 %</translation>
     </message>
 </context>
 <context>
     <name>zelto::PositionGrid</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben Mitte</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte links</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte rechts</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten Mitte</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
 </context>
 <context>
     <name>zelto::PositionGroup</name>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegeben</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene</translation>
     </message>
     <message>
         <source>From left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Von links:</translation>
     </message>
     <message>
         <source>From top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Von oben:</translation>
     </message>
     <message>
         <source>Padding</source>
-        <translation type="unfinished"></translation>
+        <translation>Randabstand</translation>
     </message>
     <message>
         <source>Unit of the padding</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit des Randabstands</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben:</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Links:</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts:</translation>
     </message>
     <message>
         <source>Repeat across</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht wiederholen</translation>
     </message>
     <message>
         <source>Horizontal spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerechter Abstand</translation>
     </message>
     <message>
         <source>Repeat down</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht wiederholen</translation>
     </message>
     <message>
         <source>Vertical spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrechter Abstand</translation>
     </message>
     <message>
         <source>Gap </source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand </translation>
     </message>
     <message>
         <source>Unit of the gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit der Abstände</translation>
     </message>
 </context>
 <context>
     <name>zelto::PreviewView</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
     <name>zelto::ProcessingBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v von %m</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fotos/s, noch %2</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten</translation>
     </message>
 </context>
 <context>
     <name>zelto::QrCodeEditor</name>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Content of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt des Codes</translation>
     </message>
     <message>
         <source>https://www.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>https://www.example.com</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>% of photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>% der Fotobreite</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund:</translation>
     </message>
     <message>
         <source>Background of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund des Codes</translation>
     </message>
 </context>
 <context>
     <name>zelto::QrJudgement</name>
     <message>
         <source>Type what the code is to say, such as a web address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeben, was der Code sagen soll, etwa eine Webadresse.</translation>
     </message>
     <message>
         <source>Too long for a QR code: the text has %1 bytes, %2 fit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Too small to be read: this text needs at least %1 pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> (%1% of this photo&apos;s width)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu lang für einen QR-Code: Der Text hat %1 Bytes, %2 passen hinein.</translation>
     </message>
     <message>
         <source>Larger than the photo: a part of the code would be cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größer als das Foto: Ein Teil des Codes würde abgeschnitten.</translation>
     </message>
     <message>
         <source>The background is too dark: choose a brighter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Hintergrund ist zu dunkel: bitte einen helleren wählen.</translation>
     </message>
     <message>
         <source>Without a background it can be read on bright parts of photos only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Hintergrund ist er nur auf hellen Stellen von Fotos lesbar.</translation>
     </message>
     <message>
         <source>%1 × %1 squares of %2 pixels each.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %1 Quadrate zu je %2 Pixeln.</translation>
+    </message>
+    <message>
+        <source>Too small to be read: this text needs at least %L1 pixels.</source>
+        <translation>Zu klein zum Lesen: Dieser Text braucht mindestens %L1 Pixel.</translation>
+    </message>
+    <message>
+        <source>Too small to be read: this text needs at least %L1 pixels (%L2% of this photo&apos;s width).</source>
+        <translation>Zu klein zum Lesen: Dieser Text braucht mindestens %L1 Pixel (%L2 % der Breite dieses Fotos).</translation>
     </message>
 </context>
 <context>
     <name>zelto::RenamePanel</name>
     <message>
         <source>Re&amp;name photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos um&amp;benennen</translation>
     </message>
     <message>
         <source>Name patte&amp;rn:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namensmuster:</translation>
     </message>
     <message>
         <source>Name pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Namensmuster</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Insert a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro einfügen</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResizeField</name>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResizePanel</name>
     <message>
         <source>Resi&amp;ze photos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größe der Fotos ändern</translation>
     </message>
     <message>
         <source>Width, per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite in Prozent</translation>
     </message>
     <message>
         <source>Height, per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe in Prozent</translation>
     </message>
     <message>
         <source>Width, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite in Pixeln</translation>
     </message>
     <message>
         <source>Height, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe in Pixeln</translation>
     </message>
     <message>
         <source>Longer side, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Längere Seite in Pixeln</translation>
     </message>
     <message>
         <source>&amp;Keep the proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten&amp;verhältnis beibehalten</translation>
     </message>
     <message>
         <source>Do not &amp;enlarge small photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Kl&amp;eine Fotos nicht vergrößern</translation>
     </message>
     <message>
         <source>&amp;Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;rozent</translation>
     </message>
     <message>
         <source>Pi&amp;xels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi&amp;xel</translation>
     </message>
     <message>
         <source>&amp;Longer side</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Längere Seite</translation>
     </message>
 </context>
 <context>
     <name>zelto::ResultBar</name>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen</translation>
     </message>
     <message>
         <source>Retr&amp;y Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlge&amp;schlagene wiederholen</translation>
     </message>
     <message>
         <source>Show only the photos that failed or were written with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Fotos zeigen, die fehlgeschlagen sind oder mit Warnungen geschrieben wurden</translation>
     </message>
     <message>
         <source>Run once more for the photos that failed, with the same options</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal für die fehlgeschlagenen Fotos ausführen, mit denselben Optionen</translation>
     </message>
     <message>
         <source>Close (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen (Esc)</translation>
     </message>
     <message>
         <source>Close the summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung schließen</translation>
     </message>
     <message>
         <source>Result of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis des Durchlaufs</translation>
     </message>
 </context>
 <context>
     <name>zelto::RotationControl</name>
     <message>
         <source>Straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade</translation>
     </message>
     <message>
         <source>Slightly rising</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht ansteigend</translation>
     </message>
     <message>
         <source>Rising diagonally</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräg ansteigend</translation>
     </message>
     <message>
         <source>Upward</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärts</translation>
     </message>
     <message>
         <source>Slightly falling</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht abfallend</translation>
     </message>
     <message>
         <source>Falling diagonally</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräg abfallend</translation>
     </message>
     <message>
         <source>Downward</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwärts</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Kopf</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Rotation in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung in Grad</translation>
     </message>
     <message>
         <source>Usual rotations</source>
-        <translation type="unfinished"></translation>
+        <translation>Übliche Drehungen</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene</translation>
     </message>
 </context>
 <context>
     <name>zelto::RunController</name>
     <message>
         <source>Looking at the names of the outputs...</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Ausgaben werden geprüft...</translation>
     </message>
     <message>
         <source>Pausing</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird angehalten</translation>
     </message>
     <message>
         <source>Photos Are Being Watermarked</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos werden gerade bearbeitet</translation>
     </message>
     <message>
         <source>%1 of %2 are done. The photo in hand will be finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 sind fertig. Das aktuelle Foto wird noch abgeschlossen.</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen und beenden</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiterlaufen lassen</translation>
     </message>
     <message>
         <source>Encoded as usual: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie gewohnt kodiert: %1</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fotos/s, noch %2</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln warned</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln mit Warnung</numerusform>
+            <numerusform>%Ln mit Warnungen</numerusform>
         </translation>
     </message>
     <message>
         <source>Open P&amp;DF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PDF öffnen</translation>
     </message>
     <message>
         <source>Open Fol&amp;der</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen</translation>
     </message>
 </context>
 <context>
     <name>zelto::SaveSettingsDialog</name>
     <message>
         <source>Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung speichern</translation>
     </message>
     <message>
         <source>&amp;Name of the setting:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name der Einstellung:</translation>
     </message>
     <message>
         <source>Name of the setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Einstellung</translation>
     </message>
     <message>
         <source>Saved settings hold the watermarks, the filter and the border.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Einstellungen enthalten die Wasserzeichen, den Filter und den Rand.</translation>
     </message>
     <message>
         <source>There is a setting of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einstellung mit diesem Namen gibt es schon.</translation>
     </message>
 </context>
 <context>
     <name>zelto::SavedStacksPopup</name>
     <message>
         <source>Saved stacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Stapel</translation>
     </message>
     <message>
         <source>%1 (at start)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (beim Start)</translation>
     </message>
     <message>
         <source>%1
 Loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Wird beim Start von Zelto geladen</translation>
     </message>
     <message>
         <source>There are no saved stacks yet.
 Save keeps the one you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keine gespeicherten Stapel.
+„Speichern“ hebt den sichtbaren auf.</translation>
     </message>
 </context>
 <context>
     <name>zelto::ShapeEditor</name>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Vieleck</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>Von links nach rechts</translation>
     </message>
     <message>
         <source>Top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Von oben nach unten</translation>
     </message>
     <message>
         <source>Lower right to upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>Von unten rechts nach oben links</translation>
     </message>
     <message>
         <source>Upper right to lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>Von oben rechts nach unten links</translation>
     </message>
     <message>
         <source>From the centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Mitte aus</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>% of photo width</source>
-        <translation type="unfinished"></translation>
+        <translation>% der Fotobreite</translation>
     </message>
     <message>
         <source>% of photo height</source>
-        <translation type="unfinished"></translation>
+        <translation>% der Fotohöhe</translation>
     </message>
     <message>
         <source>Sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten:</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe:</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge:</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicke:</translation>
     </message>
     <message>
         <source>One colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Farbe</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbverlauf</translation>
     </message>
     <message>
         <source>First colour of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe des Verlaufs</translation>
     </message>
     <message>
         <source>Second colour of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe des Verlaufs</translation>
     </message>
     <message>
         <source>Direction of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung des Verlaufs</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz:</translation>
     </message>
     <message>
         <source>A circle looks the same however it is turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Kreis sieht gedreht immer gleich aus</translation>
     </message>
 </context>
 <context>
     <name>zelto::SizeField</name>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
 </context>
 <context>
     <name>zelto::SpecialCharacterWindowController</name>
     <message>
         <source>Characters</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen</translation>
     </message>
     <message>
         <source>Special Characters</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonderzeichen</translation>
     </message>
     <message>
         <source>Search by name or code: “arrow”, “U+2192”</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach (englischem) Namen oder Code suchen: „arrow“, „U+2192“</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>No character has such a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Zeichen heißt so</translation>
     </message>
     <message>
         <source>The first %L1 of %L2 found</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten %L1 von %L2 gefundenen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln gefunden</numerusform>
+            <numerusform>%Ln gefunden</numerusform>
         </translation>
     </message>
 </context>
@@ -2896,722 +2905,723 @@ Save keeps the one you see.</source>
     <name>zelto::StackHead</name>
     <message>
         <source>More for this stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr zu diesem Stapel</translation>
     </message>
     <message>
         <source>Drawn from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Von oben nach unten gezeichnet</translation>
     </message>
     <message>
         <source>The last one lies on top of the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Das letzte liegt über den anderen</translation>
     </message>
     <message>
         <source>Unnamed stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannter Stapel</translation>
     </message>
     <message>
         <source>This stack has not been saved under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Stapel ist noch nicht unter einem Namen gespeichert</translation>
     </message>
     <message>
         <source>“%1” has been changed since it was saved</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde seit dem Speichern geändert</translation>
     </message>
     <message>
         <source>“%1” is loaded when Zelto starts</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird beim Start von Zelto geladen</translation>
     </message>
     <message>
         <source>“%1” is loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist geladen</translation>
     </message>
     <message>
         <source>%1
 Click for the saved stacks (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Klick zeigt die gespeicherten Stapel (%2)</translation>
     </message>
 </context>
 <context>
     <name>zelto::StackKeeper</name>
     <message>
         <source>Setting Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung kann nicht gespeichert werden</translation>
     </message>
     <message>
         <source>“%1” Has Been Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde geändert</translation>
     </message>
     <message>
         <source>Save the changes in the setting, or keep these watermarks for the next start without changing the setting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen in der Einstellung speichern oder diese Wasserzeichen für den nächsten Start aufheben, ohne die Einstellung zu ändern?</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Keep for Next Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Für nächstes Mal aufheben</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>There is no folder for settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Ordner für Einstellungen.</translation>
     </message>
     <message>
         <source>The Watermarks Cannot Be Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen können nicht aufgehoben werden</translation>
     </message>
     <message>
         <source>Close Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem schließen</translation>
     </message>
     <message>
         <source>The watermarks of the last time cannot be brought back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wasserzeichen vom letzten Mal lassen sich nicht zurückholen: %1</translation>
     </message>
     <message>
         <source>“%1” is loaded again, as when Zelto was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist wieder geladen, wie beim Beenden von Zelto.</translation>
     </message>
     <message>
         <source>The watermarks of the last time are back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wasserzeichen vom letzten Mal sind wieder da.</translation>
     </message>
 </context>
 <context>
     <name>zelto::TextEditor</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>Macros</source>
-        <translation type="unfinished"></translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>Your text</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Text</translation>
     </message>
 </context>
 <context>
     <name>zelto::TextStyleGroup</name>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterstrichen</translation>
     </message>
     <message>
         <source>Struck through</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgestrichen</translation>
     </message>
     <message>
         <source>Align left</source>
-        <translation type="unfinished"></translation>
+        <translation>Linksbündig</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Align right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtsbündig</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift:</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
     <message>
         <source>Style:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil:</translation>
     </message>
     <message>
         <source>Colour:</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
     <message>
         <source>Effect:</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekt:</translation>
     </message>
     <message>
         <source>Kind of size</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der Größe</translation>
     </message>
     <message>
         <source>Proportional</source>
-        <translation type="unfinished"></translation>
+        <translation>Proportional</translation>
     </message>
     <message>
         <source>Fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fest</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Side of the photo the size follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des Fotos, nach der sich die Größe richtet</translation>
     </message>
     <message>
         <source>Usual sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Übliche Größen</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene</translation>
     </message>
     <message>
         <source>Text Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten</translation>
     </message>
     <message>
         <source>Shadow Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattenfarbe</translation>
     </message>
     <message>
         <source>Embossed letters cast no shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Geprägte Buchstaben werfen keinen Schatten</translation>
     </message>
     <message>
         <source>Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekt</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Prägen</translation>
     </message>
     <message>
         <source>Transparent letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparente Buchstaben</translation>
     </message>
     <message>
         <source>Only the light and dark edges of embossed letters are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die hellen und dunklen Kanten geprägter Buchstaben werden gezeichnet</translation>
     </message>
 </context>
 <context>
     <name>zelto::TipsDialog</name>
     <message>
         <source>Tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipps</translation>
     </message>
     <message>
         <source>Did you know?</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon gewusst?</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipp</translation>
     </message>
     <message>
         <source>&amp;Show tips at start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipps beim Start &amp;zeigen</translation>
     </message>
     <message>
         <source>&amp;Next Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Tipp</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
 </context>
 <context>
     <name>zelto::TransparencySlider</name>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz</translation>
     </message>
     <message>
         <source>Transparency in per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz in Prozent</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkController</name>
     <message>
         <source>Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung speichern</translation>
     </message>
     <message>
         <source>There is nothing to save yet. Add a watermark or a border first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch nichts zu speichern. Bitte zuerst ein Wasserzeichen oder einen Rand hinzufügen.</translation>
     </message>
     <message>
         <source>Setting Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung kann nicht gespeichert werden</translation>
     </message>
     <message>
         <source>Add Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hinzufügen</translation>
     </message>
     <message>
         <source>Edit Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild bearbeiten</translation>
     </message>
     <message>
         <source>Add Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text hinzufügen</translation>
     </message>
     <message>
         <source>Edit Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text bearbeiten</translation>
     </message>
     <message>
         <source>Add Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form hinzufügen</translation>
     </message>
     <message>
         <source>Edit Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form bearbeiten</translation>
     </message>
     <message>
         <source>Add QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code hinzufügen</translation>
     </message>
     <message>
         <source>Edit QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code bearbeiten</translation>
     </message>
     <message>
         <source>Drop Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen ablegen</translation>
     </message>
     <message>
         <source>Remove Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen entfernen</translation>
     </message>
     <message>
         <source>Choose Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter wählen</translation>
     </message>
     <message>
         <source>Remove Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter entfernen</translation>
     </message>
     <message>
         <source>Switch Filter On</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter einschalten</translation>
     </message>
     <message>
         <source>Switch Filter Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter ausschalten</translation>
     </message>
     <message>
         <source>Edit Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte bearbeiten</translation>
     </message>
     <message>
         <source>Switch Border and Shadow On</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten einschalten</translation>
     </message>
     <message>
         <source>Switch Border and Shadow Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten ausschalten</translation>
     </message>
     <message>
         <source>Remove Border and Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand und Schatten entfernen</translation>
     </message>
     <message>
         <source>Edit Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright bearbeiten</translation>
     </message>
     <message>
         <source>Switch Copyright On</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright einschalten</translation>
     </message>
     <message>
         <source>Switch Copyright Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright ausschalten</translation>
     </message>
     <message>
         <source>Remove Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright entfernen</translation>
     </message>
     <message>
         <source>Switch Watermark On</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen einschalten</translation>
     </message>
     <message>
         <source>Switch Watermark Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen ausschalten</translation>
     </message>
     <message numerus="yes">
         <source>Remove %Ln Row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Zeile entfernen</numerusform>
+            <numerusform>%Ln Zeilen entfernen</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove All Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Wasserzeichen entfernen</translation>
     </message>
     <message>
         <source>Watermarks, filter and copyright data removed; border and shadow stay. Undo brings everything back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen, Filter und Copyright-Angaben entfernt; Rand und Schatten bleiben. „Rückgängig“ holt alles zurück.</translation>
     </message>
     <message>
         <source>Watermarks, filter and copyright data removed. Undo brings everything back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen, Filter und Copyright-Angaben entfernt. „Rückgängig“ holt alles zurück.</translation>
     </message>
     <message>
         <source>Move Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen verschieben</translation>
     </message>
     <message>
         <source>Duplicate Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen duplizieren</translation>
     </message>
     <message>
         <source>Rename Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen umbenennen</translation>
     </message>
     <message>
         <source>Cut Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen ausschneiden</translation>
     </message>
     <message>
         <source>Paste Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen einfügen</translation>
     </message>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hinzufügen</translation>
     </message>
     <message>
         <source>Load Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung laden</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkListView</name>
     <message>
         <source>Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen</translation>
     </message>
     <message>
         <source>No watermarks yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Wasserzeichen</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkPanel</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Add a watermark, a filter, a border or copyright data</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen, Filter, Rand oder Copyright-Angaben hinzufügen</translation>
     </message>
     <message>
         <source>Add Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>zelto::WatermarkWindowController</name>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz:</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Tiling</source>
-        <translation type="unfinished"></translation>
+        <translation>Kachelung</translation>
     </message>
 </context>
 <context>
     <name>zelto::WindowActions</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fotos</translation>
     </message>
     <message>
         <source>&amp;Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wasserzeichen</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hi&amp;lfe</translation>
     </message>
     <message>
         <source>&amp;Save Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung &amp;speichern</translation>
     </message>
     <message>
         <source>Save Setting &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung speichern &amp;unter...</translation>
     </message>
     <message>
         <source>&amp;Load at Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start &amp;laden</translation>
     </message>
     <message>
         <source>Saved Stac&amp;ks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gespeicherte Stapel</translation>
     </message>
     <message>
         <source>Saved Se&amp;ttings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte &amp;Einstellungen...</translation>
     </message>
     <message>
         <source>&amp;Import Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;importieren...</translation>
     </message>
     <message>
         <source>&amp;Export Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen e&amp;xportieren...</translation>
     </message>
     <message>
         <source>Start &amp;Watermarking...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wasserzeichen anbringen...</translation>
     </message>
     <message>
         <source>&amp;Pause or Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;halten oder fortsetzen</translation>
     </message>
     <message>
         <source>&amp;Cancel Watermarking</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bbrechen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Been&amp;den</translation>
     </message>
     <message>
         <source>&amp;Add Photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos &amp;hinzufügen...</translation>
     </message>
     <message>
         <source>Add &amp;Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Remove Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto &amp;entfernen</translation>
     </message>
     <message>
         <source>Remove A&amp;ll Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Fotos entfernen</translation>
     </message>
     <message>
         <source>&amp;Check All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle a&amp;nhaken</translation>
     </message>
     <message>
         <source>&amp;Uncheck All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keines anhaken</translation>
     </message>
     <message>
         <source>&amp;Toggle Check Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Häkchen &amp;umkehren</translation>
     </message>
     <message>
         <source>&amp;Next Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Nä&amp;chstes Foto</translation>
     </message>
     <message>
         <source>&amp;Previous Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorheriges Foto</translation>
     </message>
     <message>
         <source>F&amp;ind Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fotos suchen</translation>
     </message>
     <message>
         <source>&amp;Sort by Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Na&amp;men sortieren</translation>
     </message>
     <message>
         <source>Sort by &amp;Date Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Aufnahme&amp;datum sortieren</translation>
     </message>
     <message>
         <source>&amp;Text...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text...</translation>
     </message>
     <message>
         <source>&amp;Image...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bild...</translation>
     </message>
     <message>
         <source>&amp;Shape...</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;orm...</translation>
     </message>
     <message>
         <source>&amp;QR Code...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;QR-Code...</translation>
     </message>
     <message>
         <source>&amp;Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filter...</translation>
     </message>
     <message>
         <source>&amp;Border and Shadow...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rand und Schatten...</translation>
     </message>
     <message>
         <source>&amp;Copyright...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copyright...</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplizieren</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten...</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>&amp;Show or Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ein- oder ausblenden</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach un&amp;ten</translation>
     </message>
     <message>
         <source>&amp;Remove Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen ent&amp;fernen</translation>
     </message>
     <message>
         <source>Remove A&amp;ll Watermarks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Wasserzeichen entfernen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>&amp;Fit to Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einpassen</translation>
     </message>
     <message>
         <source>&amp;Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Originalgröße</translation>
     </message>
     <message>
         <source>&amp;Contact View</source>
-        <translation type="unfinished"></translation>
+        <translation>Kon&amp;taktbogen</translation>
     </message>
     <message>
         <source>Show Without &amp;Marks (Hold F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne &amp;Wasserzeichen zeigen (F8 halten)</translation>
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vollbild</translation>
     </message>
     <message>
         <source>&amp;Tips</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tipps</translation>
     </message>
     <message>
         <source>&amp;Check for a New Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach neuer Version &amp;suchen</translation>
     </message>
     <message>
         <source>&amp;About Zelto</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber Zelto</translation>
     </message>
 </context>
 <context>
     <name>zelto::ZeltoController</name>
     <message>
         <source>Sort by Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Namen sortieren</translation>
     </message>
     <message>
         <source>Sort by Date Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Aufnahmedatum sortieren</translation>
     </message>
     <message>
         <source>Reading dates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsangaben werden gelesen...</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto gelesen</numerusform>
+            <numerusform>%Ln Fotos gelesen</numerusform>
         </translation>
     </message>
 </context>

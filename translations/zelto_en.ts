@@ -5,44 +5,44 @@
     <name>Words</name>
     <message numerus="yes">
         <source>%1 and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 and %Ln more</numerusform>
+            <numerusform>%1 and %Ln more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Be Replaced</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A Photo Would Be Replaced</numerusform>
+            <numerusform>%Ln Photos Would Be Replaced</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln Photo(s) Would Become %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Photo Would Become %1</numerusform>
+            <numerusform>%Ln Photos Would Become %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln File</numerusform>
+            <numerusform>%Ln Files</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln File(s) Exist Already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A File Exists Already</numerusform>
+            <numerusform>%Ln Files Exist Already</numerusform>
         </translation>
     </message>
 </context>
@@ -50,9 +50,9 @@
     <name>zelto::FolderImport</name>
     <message numerus="yes">
         <source>%Ln photo(s) found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln photo found</numerusform>
+            <numerusform>%Ln photos found</numerusform>
         </translation>
     </message>
 </context>
@@ -60,23 +60,23 @@
     <name>zelto::ImageListController</name>
     <message numerus="yes">
         <source>Add %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Add Photo</numerusform>
+            <numerusform>Add %Ln Photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln photo(s) are in the list already</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln photo is in the list already</numerusform>
+            <numerusform>%Ln photos are in the list already</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Remove %Ln Photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Remove Photo</numerusform>
+            <numerusform>Remove %Ln Photos</numerusform>
         </translation>
     </message>
 </context>
@@ -84,9 +84,9 @@
     <name>zelto::ImportExportWindowController</name>
     <message numerus="yes">
         <source>%Ln setting(s) will be copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln setting will be copied.</numerusform>
+            <numerusform>%Ln settings will be copied.</numerusform>
         </translation>
     </message>
 </context>
@@ -94,16 +94,16 @@
     <name>zelto::MainWindow</name>
     <message numerus="yes">
         <source>%Ln photo(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln checked</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln checked</numerusform>
+            <numerusform>%Ln checked</numerusform>
         </translation>
     </message>
 </context>
@@ -111,23 +111,23 @@
     <name>zelto::RunController</name>
     <message numerus="yes">
         <source>%Ln written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln written</numerusform>
+            <numerusform>%Ln written</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln failed</numerusform>
+            <numerusform>%Ln failed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln warned</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln warned</numerusform>
+            <numerusform>%Ln warned</numerusform>
         </translation>
     </message>
 </context>
@@ -135,9 +135,9 @@
     <name>zelto::SpecialCharacterWindowController</name>
     <message numerus="yes">
         <source>%Ln found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln found</numerusform>
+            <numerusform>%Ln found</numerusform>
         </translation>
     </message>
 </context>
@@ -145,9 +145,9 @@
     <name>zelto::WatermarkController</name>
     <message numerus="yes">
         <source>Remove %Ln Row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Remove Row</numerusform>
+            <numerusform>Remove %Ln Rows</numerusform>
         </translation>
     </message>
 </context>
@@ -155,9 +155,9 @@
     <name>zelto::ZeltoController</name>
     <message numerus="yes">
         <source>%Ln photo(s) read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln photo read</numerusform>
+            <numerusform>%Ln photos read</numerusform>
         </translation>
     </message>
 </context>

@@ -25,7 +25,7 @@ struct MessageSheet {
     QMessageBox::Icon icon = QMessageBox::Information;
     QString title;
     QString text;
-    QStringList buttons;  // none stands for "OK"
+    QStringList buttons = {};  // none stands for "OK"
     int onEnter = 0;      // the button that the Enter key presses
     int onEscape = 0;     // and the one for Escape and for closing the message
 };
