@@ -1027,20 +1027,980 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
         <source>Its border and shadow would make this photo too large.</source>
         <translation>Mit Rand und Schatten würde dieses Foto zu groß.</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>Watermarks for batches of photos.</source>
-        <translation>Wasserzeichen für viele Fotos auf einmal.</translation>
+        <source>try &apos;zelto --help&apos;</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Start with a saved setting or a setting file.</source>
-        <translation>Mit einer gespeicherten Einstellung oder einer Einstellungsdatei beginnen.</translation>
+        <source>puts watermarks on batches of photos, in a window</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Photos, or folders of photos, to begin with.</source>
-        <translation>Fotos oder Ordner mit Fotos für den Anfang.</translation>
+        <source>the window, with the stack of last time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with the photos of a folder in the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a saved setting and some photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start with a saved setting, or with the setting file of this path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print this help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0: the window was closed.
+2: the command line cannot be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
+~/.local/share/Zelto/Copyright.xml: your copyright data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the watched folder is gone; waiting for it to come back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (fs.inotify.max_user_watches says how many there may be)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes one of %2, not “%3”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes one of %2, not “%3”; did you mean “%4”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes a whole number from %2 on, not “%3”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes a whole number from %2 to %3, not “%4”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be given together with another way to resize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes WIDTHxHEIGHT in whole numbers from 0 on, such as 800x600, not “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2: this machine has no encoder for it; zelto-batch --doctor tells which formats it can write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and another option that only tells or prints something cannot be given together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a saved setting&apos;s name, or the path of a .zcs file (needed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>output folder, made when missing (needed, unless --options names one)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start from an OutputSettings.xml, as --print-options makes one; the other options override it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what would be written, and write nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>go on until interrupted: photos that arrive in the named folders are written at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format and size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>quality of JPEG, WebP, AVIF, JPEG XL and HEIC (default: 90); at 100 WebP, JPEG XL and, where its encoder can, AVIF are lossless</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JPEG to JPEG: only the blocks that a watermark touches are encoded again, with the photo&apos;s own quality and chroma (on halved chroma colored edges of marks are softer); photos it cannot be done for are encoded as usual, and the report says why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resize each side by its percentage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resize to a width and height in pixels, 0 for one that is not given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resize the longer side to N pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keep proportions when resizing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never make a photo larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all photos into one PDF (with --format pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names and folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, [DD] as DDMMYYYY, and the macros of texts, as in &apos;&lt;&lt;EXIF:DateTimeOriginal[Y-M-D]&gt;&gt;_[###]&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mirror the source folders in the output folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>photos of the run with the same output: replace (with a warning), number, skip or fail (default: replace)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outputs that stand there before the run: replace, number, skip or fail (default: replace)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>allow outputs that replace photos of the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>all, copyright, no-gps (positions go, names of places stay) or none (default: all)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a Copyright.xml to write into the outputs (default: your own, if the setting asks for it)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>scan sub-folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a Kubernetes Job has it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>photos worked on at a time (default: the number of cores)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stop or continue after 3 failures in a row (default: stop, with --watch: continue)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a photo with a warning fails and is not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>report as JSON on standard output; with --watch a line a photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print nothing but errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plain lines instead of a progress bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instead of a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the names of the saved settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the fonts that texts can be set in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a setting holds, layer by layer, in words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an options file that says what the other options on the line say, to be kept for --options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; exit status 1 when something is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arguments are JSON reports of the shards of one list: print one report, and exit as one run would</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no options file “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” names no output folder; name one with --output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--combine-pdf needs --format pdf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a combined PDF is one document, which --shard cannot divide; leave one of them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no copyright file “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no photo or folder “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no photo was found; see --extensions and --recursive for what a folder scan takes, and name GIF files themselves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of the photos would be replaced by their outputs, the first being “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the output folder “%1” cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln written</source>
+        <translation>
+            <numerusform>%Ln geschrieben</numerusform>
+            <numerusform>%Ln geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln failed</source>
+        <translation>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln not run</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln with a warning</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dry run: nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--watch cannot be given together with --%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the reports to merge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” has no meaning here; leave it out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the watermark setting with --setting; --list-settings lists those that are saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the photos or folders to watermark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the output folder with --output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stamps the watermarks of a saved setting onto photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the photos of a folder, with the saved setting “Holiday”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>smaller JPEG copies under new names, with a setting file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a whole tree of folders would become, without writing anything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one PDF, a page a photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every photo that is put into the folder “inbox”, until Ctrl+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the third of eight parts of one batch, each on a machine of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0: all photos were written; warnings do not change it.
+1: some photos failed, or repeated failures stopped the run; with --doctor: something is missing.
+2: the command line or a named file cannot be used, and nothing was written.
+130: interrupted. The photo in hand is finished first, and a second interrupt ends the program at once. This is how --watch ends, too. No file is ever left half-written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar where the second is “dumb” or missing, or where standard error is no terminal.
+ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard auto reads.
+XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.
+TMPDIR: where temporary files go, instead of /tmp.
+ZELTO_EXIFTOOL: another exiftool program than the one that is found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
+~/.local/share/Zelto/Copyright.xml: your copyright data.
+A run changes none of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without libraries for newer formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 photos/s, %2 left</source>
+        <translation>%1 Fotos/s, noch %2</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exiftool</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; photos would be written without their metadata. Install exiftool (Debian: libimage-exiftool-perl)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>previews in raw files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>formats read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>formats written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; this machine has no encoder for %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written to; choose another folder or mend its permissions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: only %2 are free; make room</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fonts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln families</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none is installed (Debian: fonts-dejavu)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln saved</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>temporary files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, of which a run holds at most %2 in photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>jobs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln photos at a time</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no setting is saved yet; settings are kept in “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the result could not be printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>try &apos;zelto-batch --help&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no report of a shard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no report of a shard: “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shard %1 could not be run (“%2”): %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” tells of the photo with the index %2, which shard %3 does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” tells of the photo with the index %2 twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” tells of %2 photos, but shard %3 has %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of one list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shard %1 is there twice: “%2” and “%3”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reports of these shards are missing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The combined PDF was not finished.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: encoded as usual. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the combined PDF could not be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no setting and no file “%1” (none is saved yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no setting and no file “%1” (saved are: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no setting and no file “%1”; did you mean “%2”? (saved are: %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the shorter side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 opaque</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the photo&apos;s height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the photo&apos;s longer side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the photo&apos;s width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>center</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 from the left, %2 from the top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>across, gaps of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, gaps of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>struck through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>Effekt</translation>
+    </message>
+    <message>
+        <source>embossed, faces left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>embossed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept in the setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grayscale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Logo “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QR code “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown kind %1, which draws nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1° clockwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (switched off)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on all sides, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top %1, left %2, right %3, bottom %4, %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; watermarks may cover it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>blur %1, distance %2, direction %3°, %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>your copyright data go into the outputs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>takes I/N with I from 0 to N - 1, such as 0/4, not “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>watching %1; Ctrl+C ends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its output “%1” would replace the photo itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was taken away before its turn; nothing was written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>will be tried again until it can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a combined PDF would never be finished by --watch; leave one of them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the numbers of --rename begin again whenever --watch is started; say with --existing what becomes of outputs that stand there: number, skip, fail or replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--watch takes folders, and “%1” is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outputs in the watched folder “%1” would be marked again and again; choose another --output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with --keep-structure, outputs in “%1” could get into the watched folder “%2” and be marked again; choose another --output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no option “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no option “%1”; did you mean “%2”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -122,7 +122,7 @@ bool isScannedName(const QString& fileName, const QString& extensionList) {
 }
 
 ScanProblem nameIsNoText(const QString& path) {
-    return {path, QStringLiteral("the name is not UTF-8 text, so the photo cannot be opened; rename it")};
+    return {path, Words::tr("the name is not UTF-8 text, so the photo cannot be opened; rename it")};
 }
 
 Result<FolderScan> scanFolder(const QString& folder, bool includeSubFolders, const QString& extensionList,

@@ -122,7 +122,7 @@ class Planner {
     }
 
     QString sharedName(std::size_t row) const {
-        return QStringLiteral("an earlier photo of the run has the output “%1”").arg(path(row));
+        return Words::tr("an earlier photo of the run has the output “%1”").arg(path(row));
     }
 
     void meetExisting(std::size_t row) {

@@ -11,7 +11,6 @@
 #include <array>
 #include <limits>
 
-
 namespace zelto {
 namespace {
 
@@ -194,64 +193,84 @@ const std::vector<BatchOptionGroup>& batchOptions() {
             QT_TRANSLATE_NOOP("Words", "a saved setting's name, or the path of a .zcs file (needed)")},
            text<&CommandLine::setting>},
           {{"o", "output", OptionValue::Folder, "DIR", nullptr,
-            QT_TRANSLATE_NOOP("Words", "output folder, made when missing (needed, unless --options names one)")},
+            QT_TRANSLATE_NOOP("Words",
+                              "output folder, made when missing (needed, unless --options names one)")},
            text<&CommandLine::output>},
           {{nullptr, "options", OptionValue::File, "FILE", "xml",
-            QT_TRANSLATE_NOOP("Words", "start from an OutputSettings.xml, as --print-options makes one; the other options override "
-                 "it")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "start from an OutputSettings.xml, as --print-options makes one; the other options override "
+                "it")},
            text<&CommandLine::optionsFile>},
           {{nullptr, "dry-run", Switch, nullptr, nullptr,
             QT_TRANSLATE_NOOP("Words", "print what would be written, and write nothing")},
            turn<&CommandLine::dryRun>},
           {{nullptr, "watch", Switch, nullptr, nullptr,
-            QT_TRANSLATE_NOOP("Words", "go on until interrupted: photos that arrive in the named folders are written at once")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "go on until interrupted: photos that arrive in the named folders are written at once")},
            turn<&CommandLine::watch>}}},
         {QT_TRANSLATE_NOOP("Words", "Format and size"),
          {{{"f", "format", Word, "FORMAT", "same jpg png tiff bmp gif pdf webp avif jxl heic",
-            QT_TRANSLATE_NOOP("Words", "same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)")},
+            QT_TRANSLATE_NOOP(
+                "Words", "same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)")},
            applyFormat},
           {{"q", "quality", Text, "0..100", nullptr,
-            QT_TRANSLATE_NOOP("Words", "quality of JPEG, WebP, AVIF, JPEG XL and HEIC (default: 90); at 100 WebP, JPEG XL and, "
-                 "where "
-                 "its encoder can, AVIF are lossless")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "quality of JPEG, WebP, AVIF, JPEG XL and HEIC (default: 90); at 100 WebP, JPEG XL and, "
+                "where "
+                "its encoder can, AVIF are lossless")},
            wholeNumber<&CommandLine::quality, 0, 100>},
           {{nullptr, "jpeg-lossless", Switch, nullptr, nullptr,
-            QT_TRANSLATE_NOOP("Words", "JPEG to JPEG: only the blocks that a watermark touches are encoded again, with the photo's "
-                 "own "
-                 "quality and chroma (on halved chroma colored edges of marks are softer); photos it cannot "
-                 "be "
-                 "done for are encoded as usual, and the report says why")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "JPEG to JPEG: only the blocks that a watermark touches are encoded again, with the photo's "
+                "own "
+                "quality and chroma (on halved chroma colored edges of marks are softer); photos it cannot "
+                "be "
+                "done for are encoded as usual, and the report says why")},
            turn<&CommandLine::jpegLossless>},
-          {{nullptr, "resize-percent", Text, "WxH", nullptr, QT_TRANSLATE_NOOP("Words", "resize each side by its percentage")},
+          {{nullptr, "resize-percent", Text, "WxH", nullptr,
+            QT_TRANSLATE_NOOP("Words", "resize each side by its percentage")},
            resizeBoth<resize_type::Percentage>},
           {{nullptr, "resize-pixels", Text, "WxH", nullptr,
-            QT_TRANSLATE_NOOP("Words", "resize to a width and height in pixels, 0 for one that is not given")},
+            QT_TRANSLATE_NOOP("Words",
+                              "resize to a width and height in pixels, 0 for one that is not given")},
            resizeBoth<resize_type::Pixels>},
-          {{nullptr, "longest-side", Text, "N", nullptr, QT_TRANSLATE_NOOP("Words", "resize the longer side to N pixels")},
+          {{nullptr, "longest-side", Text, "N", nullptr,
+            QT_TRANSLATE_NOOP("Words", "resize the longer side to N pixels")},
            applyLongestSide},
-          {{nullptr, "keep-aspect", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "keep proportions when resizing")},
+          {{nullptr, "keep-aspect", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "keep proportions when resizing")},
            turn<&CommandLine::keepAspect>},
-          {{nullptr, "no-enlarge", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "never make a photo larger")},
+          {{nullptr, "no-enlarge", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "never make a photo larger")},
            turn<&CommandLine::noEnlarge>},
           {{nullptr, "combine-pdf", Switch, nullptr, nullptr,
             QT_TRANSLATE_NOOP("Words", "all photos into one PDF (with --format pdf)")},
            turn<&CommandLine::combinePdf>}}},
         {QT_TRANSLATE_NOOP("Words", "Names and folders"),
          {{{nullptr, "rename", Text, "PATTERN", nullptr,
-            QT_TRANSLATE_NOOP("Words", "output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, "
-                 "[DD] "
-                 "as DDMMYYYY, and the macros of texts, as in "
-                 "'<<EXIF:DateTimeOriginal[Y-M-D]>>_[###]'")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, "
+                "[DD] "
+                "as DDMMYYYY, and the macros of texts, as in "
+                "'<<EXIF:DateTimeOriginal[Y-M-D]>>_[###]'")},
            text<&CommandLine::rename>},
           {{nullptr, "keep-structure", Switch, nullptr, nullptr,
             QT_TRANSLATE_NOOP("Words", "mirror the source folders in the output folder")},
            turn<&CommandLine::keepStructure>},
           {{nullptr, "same-name", Word, "WHAT", NameRuleWords,
-            QT_TRANSLATE_NOOP("Words", "photos of the run with the same output: replace (with a warning), number, skip or fail "
-                 "(default: replace)")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "photos of the run with the same output: replace (with a warning), number, skip or fail "
+                "(default: replace)")},
            applyNameRule<&CommandLine::sameName>},
           {{nullptr, "existing", Word, "WHAT", NameRuleWords,
-            QT_TRANSLATE_NOOP("Words", 
+            QT_TRANSLATE_NOOP(
+                "Words",
                 "outputs that stand there before the run: replace, number, skip or fail (default: replace)")},
            applyNameRule<&CommandLine::existing>},
           {{nullptr, "overwrite-originals", Switch, nullptr, nullptr,
@@ -259,29 +278,37 @@ const std::vector<BatchOptionGroup>& batchOptions() {
            turn<&CommandLine::overwriteOriginals>}}},
         {QT_TRANSLATE_NOOP("Words", "Metadata"),
          {{{nullptr, "metadata", Word, "WHAT", "all copyright no-gps none",
-            QT_TRANSLATE_NOOP("Words", "all, copyright, no-gps (positions go, names of places stay) or none (default: all)")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "all, copyright, no-gps (positions go, names of places stay) or none (default: all)")},
            applyMetadata},
           {{nullptr, "copyright", OptionValue::File, "FILE", "xml",
-            QT_TRANSLATE_NOOP("Words", 
+            QT_TRANSLATE_NOOP(
+                "Words",
                 "a Copyright.xml to write into the outputs (default: your own, if the setting asks for it)")},
            text<&CommandLine::copyrightFile>}}},
         {QT_TRANSLATE_NOOP("Words", "Which photos"),
          {{{"r", "recursive", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "scan sub-folders too")},
            turn<&CommandLine::recursive>},
           {{nullptr, "extensions", OptionValue::Words, "LIST", "jpeg png tiff gif bmp heic avif webp jxl",
-            QT_TRANSLATE_NOOP("Words", "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and "
-                 "heic,avif,webp,jxl")},
+            QT_TRANSLATE_NOOP("Words",
+                              "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and "
+                              "heic,avif,webp,jxl")},
            applyExtensions},
           {{nullptr, "shard", Text, "I/N", nullptr,
-            QT_TRANSLATE_NOOP("Words", "only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a "
-                 "Kubernetes Job has it")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a "
+                "Kubernetes Job has it")},
            applyShard}}},
         {QT_TRANSLATE_NOOP("Words", "The run"),
          {{{"j", "jobs", Text, "N", nullptr,
             QT_TRANSLATE_NOOP("Words", "photos worked on at a time (default: the number of cores)")},
            wholeNumber<&CommandLine::jobs, 1, Unbounded>},
           {{nullptr, "on-repeated-failure", Word, "WHAT", "stop continue",
-            QT_TRANSLATE_NOOP("Words", "stop or continue after 3 failures in a row (default: stop, with --watch: continue)")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "stop or continue after 3 failures in a row (default: stop, with --watch: continue)")},
            applyRepeatedFailure},
           {{nullptr, "strict", Switch, nullptr, nullptr,
             QT_TRANSLATE_NOOP("Words", "a photo with a warning fails and is not written")},
@@ -290,41 +317,55 @@ const std::vector<BatchOptionGroup>& batchOptions() {
          {{{nullptr, "json", Switch, nullptr, nullptr,
             QT_TRANSLATE_NOOP("Words", "report as JSON on standard output; with --watch a line a photo")},
            turn<&CommandLine::json>},
-          {{nullptr, "quiet", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "print nothing but errors")},
+          {{nullptr, "quiet", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "print nothing but errors")},
            turn<&CommandLine::quiet>},
           {{nullptr, "no-color", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "no colors")},
            turn<&CommandLine::color, false>},
-          {{nullptr, "no-progress", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "plain lines instead of a progress bar")},
+          {{nullptr, "no-progress", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "plain lines instead of a progress bar")},
            turn<&CommandLine::progress, false>}}},
         {QT_TRANSLATE_NOOP("Words", "Instead of a run"),
-         {{{nullptr, "list-settings", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "the names of the saved settings")},
+         {{{nullptr, "list-settings", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "the names of the saved settings")},
            beginTask<Task::ListSettings>},
-          {{nullptr, "list-fonts", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "the fonts that texts can be set in")},
+          {{nullptr, "list-fonts", Switch, nullptr, nullptr,
+            QT_TRANSLATE_NOOP("Words", "the fonts that texts can be set in")},
            beginTask<Task::ListFonts>},
 
           {{nullptr, "print-setting", OptionValue::Setting, "NAME_OR_FILE", nullptr,
             QT_TRANSLATE_NOOP("Words", "what a setting holds, layer by layer, in words")},
            beginTask<Task::PrintSetting>},
           {{nullptr, "print-options", Switch, nullptr, nullptr,
-            QT_TRANSLATE_NOOP("Words", "an options file that says what the other options on the line say, to be kept for "
-                 "--options")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "an options file that says what the other options on the line say, to be kept for "
+                "--options")},
            beginTask<Task::PrintOptions>},
 
           {{nullptr, "doctor", Switch, nullptr, nullptr,
-            QT_TRANSLATE_NOOP("Words", "whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; "
-                 "exit "
-                 "status 1 when something is missing")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; "
+                "exit "
+                "status 1 when something is missing")},
            beginTask<Task::Doctor>},
           {{nullptr, "merge-reports", Switch, nullptr, nullptr,
-            QT_TRANSLATE_NOOP("Words", "the arguments are JSON reports of the shards of one list: print one report, and exit as "
-                 "one run "
-                 "would")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "the arguments are JSON reports of the shards of one list: print one report, and exit as "
+                "one run "
+                "would")},
            beginTask<Task::MergeReports>},
           {{nullptr, "generate", Word, "WHAT", GeneratedKinds,
-            QT_TRANSLATE_NOOP("Words", "the manual page (man), the completion for bash, zsh or fish, or all options in markdown")},
+            QT_TRANSLATE_NOOP(
+                "Words",
+                "the manual page (man), the completion for bash, zsh or fish, or all options in markdown")},
            applyGenerate},
-          {{"h", "help", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "this help")}, beginTask<Task::Help>},
-          {{nullptr, "version", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "the version")}, beginTask<Task::Version>}}}};
+          {{"h", "help", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "this help")},
+           beginTask<Task::Help>},
+          {{nullptr, "version", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "the version")},
+           beginTask<Task::Version>}}}};
     return groups;
 }
 

@@ -74,19 +74,17 @@ Result<OutputOptions> checkedOptions(const CommandLine& line) {
         outputSettings(line).map([](const OutputSettings& settings) { return settings.options; });
     if (!options) return options;
     if (options->OutputPath.isEmpty()) {
-        return fail(
-            ErrorCode::InvalidValue,
-            QStringLiteral("“%1” names no output folder; name one with --output").arg(line.optionsFile));
+        return fail(ErrorCode::InvalidValue,
+                    Words::tr("“%1” names no output folder; name one with --output").arg(line.optionsFile));
     }
     options->OutputPath = absolutePath(options->OutputPath);
     if (line.combinePdf && !combinesIntoOnePdf(*options)) {
-        return fail(ErrorCode::InvalidValue, QStringLiteral("--combine-pdf needs --format pdf"));
+        return fail(ErrorCode::InvalidValue, Words::tr("--combine-pdf needs --format pdf"));
     }
     if (combinesIntoOnePdf(*options) && !line.shard.isWhole()) {
-        return fail(
-            ErrorCode::InvalidValue,
-            QStringLiteral("a combined PDF is one document, which --shard cannot divide; leave one of "
-                           "them out"));
+        return fail(ErrorCode::InvalidValue,
+                    Words::tr("a combined PDF is one document, which --shard cannot divide; leave one of "
+                              "them out"));
     }
     return options;
 }
@@ -95,8 +93,7 @@ Result<OutputOptions> checkedOptions(const CommandLine& line) {
 Result<std::optional<CopyRightMetaData>> copyrightData(const CommandLine& line, const WatermarkStack& stack) {
     const bool named = !line.copyrightFile.isEmpty();
     if (named && !QFileInfo(line.copyrightFile).isFile()) {
-        return fail(ErrorCode::NotFound,
-                    QStringLiteral("there is no copyright file “%1”").arg(line.copyrightFile),
+        return fail(ErrorCode::NotFound, Words::tr("there is no copyright file “%1”").arg(line.copyrightFile),
                     line.copyrightFile);
     }
     if (!named && !stack.Metadata) return std::nullopt;
@@ -112,8 +109,7 @@ Result<ImageList> photoList(const CommandLine& line, std::vector<ScanProblem>& p
         const QString path = absolutePath(input);
         const QFileInfo info(path);
         if (!info.exists()) {
-            return fail(ErrorCode::NotFound, QStringLiteral("there is no photo or folder “%1”").arg(input),
-                        path);
+            return fail(ErrorCode::NotFound, Words::tr("there is no photo or folder “%1”").arg(input), path);
         }
         if (!info.isDir()) {
             list.AddImage(path);
@@ -125,10 +121,10 @@ Result<ImageList> photoList(const CommandLine& line, std::vector<ScanProblem>& p
         problems.insert(problems.end(), scan->problems.begin(), scan->problems.end());
     }
     if (list.images().empty()) {
-        return fail(ErrorCode::NotFound,
-                    QStringLiteral(
-                        "no photo was found; see --extensions and --recursive for what a folder scan takes, "
-                        "and name GIF files themselves"));
+        return fail(
+            ErrorCode::NotFound,
+            Words::tr("no photo was found; see --extensions and --recursive for what a folder scan takes, "
+                      "and name GIF files themselves"));
     }
     return list;
 }
@@ -138,9 +134,9 @@ Result<void> refuseToReplaceOriginals(const BatchRequest& request) {
     if (replaced.isEmpty()) return {};
     return fail(
         ErrorCode::InvalidValue,
-        QStringLiteral("%1 of the photos would be replaced by their outputs, the first being “%2”; choose "
-                       "another --output or a --rename, or allow it with --overwrite-originals")
-            .arg(replaced.size())
+        Words::tr("%Ln of the photos would be replaced by their outputs, the first being “%1”; choose "
+                  "another --output or a --rename, or allow it with --overwrite-originals",
+                  nullptr, static_cast<int>(replaced.size()))
             .arg(replaced.first()),
         replaced.first());
 }
@@ -197,7 +193,7 @@ Result<BatchPlan> planBatch(const CommandLine& line) {
 Result<void> makeOutputFolder(const BatchPlan& plan) {
     const QString& folder = plan.request.options.OutputPath;
     if (QDir().mkpath(folder)) return {};
-    return fail(ErrorCode::CannotWrite, QStringLiteral("the output folder “%1” cannot be made").arg(folder),
+    return fail(ErrorCode::CannotWrite, Words::tr("the output folder “%1” cannot be made").arg(folder),
                 folder);
 }
 

@@ -3,6 +3,7 @@
 
 #include "batch/output_name.h"
 #include "cli/printable.h"
+#include "platform/words.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -148,15 +149,16 @@ QByteArray toJsonLine(const PhotoReport& photo) {
 }
 
 QString toText(const BatchReport& report) {
-    QStringList counts = {QStringLiteral("%1 written").arg(report.count(PhotoReport::Status::Written))};
+    QStringList counts = {
+        Words::tr("%Ln written", nullptr, static_cast<int>(report.count(PhotoReport::Status::Written)))};
     if (const qint64 failed = report.count(PhotoReport::Status::Failed); failed > 0) {
-        counts.append(QStringLiteral("%1 failed").arg(failed));
+        counts.append(Words::tr("%Ln failed", nullptr, static_cast<int>(failed)));
     }
     if (const qint64 notRun = report.count(PhotoReport::Status::NotRun); notRun > 0) {
-        counts.append(QStringLiteral("%1 not run").arg(notRun));
+        counts.append(Words::tr("%Ln not run", nullptr, static_cast<int>(notRun)));
     }
     if (const qint64 warned = report.warned(); warned > 0) {
-        counts.append(QStringLiteral("%1 with a warning").arg(warned));
+        counts.append(Words::tr("%Ln with a warning", nullptr, static_cast<int>(warned)));
     }
     // The second line of a message speaks of a window.
     QString text = report.message.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n') +

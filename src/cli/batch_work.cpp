@@ -10,13 +10,14 @@
 #include "cli/run_reporter.h"
 #include "pictures/picture_reader.h"
 #include "platform/dates.h"
+#include "platform/words.h"
 
 #include <memory>
 
 namespace zelto {
 namespace {
 
-constexpr QLatin1String DryRunMessage("Dry run: nothing was written.");
+constexpr MarkedText DryRunMessage(QT_TRANSLATE_NOOP("Words", "Dry run: nothing was written."));
 
 }  // namespace
 

@@ -8,7 +8,6 @@
 
 #include <array>
 
-
 namespace zelto {
 namespace {
 
@@ -62,35 +61,44 @@ ProgramManual makeManual() {
                       "'[O]_web' *.tif",
                       QT_TRANSLATE_NOOP("Words", "smaller JPEG copies under new names, with a setting file")},
                      {"zelto-batch -s Holiday -o out -r --keep-structure --dry-run ~/Pictures",
-                      QT_TRANSLATE_NOOP("Words", "what a whole tree of folders would become, without writing anything")},
+                      QT_TRANSLATE_NOOP(
+                          "Words", "what a whole tree of folders would become, without writing anything")},
                      {"zelto-batch -s Proof -o out -f pdf --combine-pdf photos",
                       QT_TRANSLATE_NOOP("Words", "one PDF, a page a photo")},
                      {"zelto-batch -s Holiday -o out --watch inbox",
-                      QT_TRANSLATE_NOOP("Words", "every photo that is put into the folder “inbox”, until Ctrl+C")},
+                      QT_TRANSLATE_NOOP("Words",
+                                        "every photo that is put into the folder “inbox”, until Ctrl+C")},
                      {"zelto-batch -s Holiday -o /shared/out --shard 2/8 --json /shared/photos",
-                      QT_TRANSLATE_NOOP("Words", "the third of eight parts of one batch, each on a machine of its own")}},
+                      QT_TRANSLATE_NOOP(
+                          "Words", "the third of eight parts of one batch, each on a machine of its own")}},
         .groups = {},
         .sections =
             {{QT_TRANSLATE_NOOP("Words", "Exit status"),
-              QT_TRANSLATE_NOOP("Words", "0: all photos were written; warnings do not change it.\n"
-                   "1: some photos failed, or repeated failures stopped the run; with --doctor: something is "
-                   "missing.\n"
-                   "2: the command line or a named file cannot be used, and nothing was written.\n"
-                   "130: interrupted. The photo in hand is finished first, and a second interrupt ends the "
-                   "program "
-                   "at once. This is how --watch ends, too. No file is ever left half-written.")},
+              QT_TRANSLATE_NOOP(
+                  "Words",
+                  "0: all photos were written; warnings do not change it.\n"
+                  "1: some photos failed, or repeated failures stopped the run; with --doctor: something is "
+                  "missing.\n"
+                  "2: the command line or a named file cannot be used, and nothing was written.\n"
+                  "130: interrupted. The photo in hand is finished first, and a second interrupt ends the "
+                  "program "
+                  "at once. This is how --watch ends, too. No file is ever left half-written.")},
              {QT_TRANSLATE_NOOP("Words", "Environment"),
-              QT_TRANSLATE_NOOP("Words", "NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar "
-                   "where "
-                   "the second is “dumb” or missing, or where standard error is no terminal.\n"
-                   "ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard auto "
-                   "reads.\n"
-                   "XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.\n"
-                   "TMPDIR: where temporary files go, instead of /tmp.\n"
-                   "ZELTO_EXIFTOOL: another exiftool program than the one that is found.")},
-             {QT_TRANSLATE_NOOP("Words", "Files"), QT_TRANSLATE_NOOP("Words", "~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.\n"
-                                  "~/.local/share/Zelto/Copyright.xml: your copyright data.\n"
-                                  "A run changes none of them.")}},
+              QT_TRANSLATE_NOOP(
+                  "Words",
+                  "NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar "
+                  "where "
+                  "the second is “dumb” or missing, or where standard error is no terminal.\n"
+                  "ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard auto "
+                  "reads.\n"
+                  "XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.\n"
+                  "TMPDIR: where temporary files go, instead of /tmp.\n"
+                  "ZELTO_EXIFTOOL: another exiftool program than the one that is found.")},
+             {QT_TRANSLATE_NOOP("Words", "Files"),
+              QT_TRANSLATE_NOOP("Words",
+                                "~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.\n"
+                                "~/.local/share/Zelto/Copyright.xml: your copyright data.\n"
+                                "A run changes none of them.")}},
         .seeAlso = "zelto"};
     for (const BatchOptionGroup& group : batchOptions()) {
         OptionGroup& told = manual.groups.emplace_back(OptionGroup{group.title, {}});
@@ -136,8 +144,8 @@ bool asksForJson(const QStringList& arguments) {
 
 QString versionText() {
     const QStringList libraries = pictureLibraries();
-    const QString with = libraries.isEmpty() ? QStringLiteral("Without libraries for newer formats")
-                                             : QStringLiteral("With ") + libraries.join(QStringLiteral(", "));
+    const QString with = libraries.isEmpty() ? Words::tr("Without libraries for newer formats")
+                                             : Words::tr("With %1").arg(libraries.join(QStringLiteral(", ")));
     return QStringLiteral("zelto-batch " ZELTO_VERSION "\n") + with + QLatin1Char('\n');
 }
 

@@ -3,6 +3,7 @@
 
 #include "cli/printable.h"
 #include "platform/process_setup.h"
+#include "platform/words.h"
 
 #include <QByteArray>
 
@@ -85,7 +86,8 @@ void Console::end() {
 QString Console::bar() const {
     QString text = QStringLiteral(" %1/%2").arg(pace_.done()).arg(pace_.total());
     if (const auto figures = pace_.figures()) {
-        text += QStringLiteral("  %1 photos/s  %2 left").arg(figures->rate(), figures->timeLeft());
+        text += QStringLiteral("  ") +
+                Words::tr("%1 photos/s, %2 left").arg(figures->rate(), figures->timeLeft());
     }
     // The last column stays free: filling it would wrap the line on some terminals.
     const qsizetype width = std::min<qsizetype>(LongestBar, columns() - 3 - text.size());

@@ -9,6 +9,7 @@
 #include "platform/languages.h"
 #include "platform/machine_limits.h"
 #include "platform/process_setup.h"
+#include "platform/words.h"
 
 #include <QGuiApplication>
 
@@ -97,7 +98,7 @@ int show(const BatchReport& report, const CommandLine& line, Console& console) {
     } else if (!line.quiet && report.error.isEmpty()) {
         printed = printResult(toText(report).toUtf8());
     }
-    if (!printed) console.problem(QStringLiteral("the result could not be printed"));
+    if (!printed) console.problem(Words::tr("the result could not be printed"));
     return printed ? report.exitStatus() : std::max(report.exitStatus(), exit_status::SomeFailed);
 }
 
@@ -141,7 +142,7 @@ int tell(const CommandLine& line, Console& console) {
 int usageError(const Error& error, bool json) {
     Console console({});
     console.problem(error.message);
-    console.note(QStringLiteral("try 'zelto-batch --help'"));
+    console.note(Words::tr("try 'zelto-batch --help'"));
     if (json) printResult(toJson(unusable(error)));
     return exit_status::CannotBeUsed;
 }
@@ -163,8 +164,8 @@ int usageError(const Error& error, bool json) {
 
 // The last words of a crash, which a library may still come to where memory runs out.
 void sayThatItCrashed(int signal) {
-    constexpr char Words[] = "zelto-batch: crashed; the outputs it has written are whole\n";
-    [[maybe_unused]] const ssize_t ignored = ::write(STDERR_FILENO, Words, sizeof Words - 1);
+    constexpr char Saying[] = "zelto-batch: crashed; the outputs it has written are whole\n";
+    [[maybe_unused]] const ssize_t ignored = ::write(STDERR_FILENO, Saying, sizeof Saying - 1);
     ::raise(signal);  // which by now has its usual effect
 }
 

@@ -5,6 +5,7 @@
 #include "cli/batch_report.h"
 #include "cli/printable.h"
 #include "cli/shard.h"
+#include "platform/words.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -32,15 +33,15 @@ tl::unexpected<Error> wrongReport(const QString& what) {
 Result<ShardReport> readReport(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return wrongReport(QStringLiteral("“%1” cannot be read: %2").arg(path, file.errorString()));
+        return wrongReport(Words::tr("“%1” cannot be read: %2").arg(path, file.errorString()));
     const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
     const QString place = report["shard"_L1].toString();
     if (report["version"_L1].toInt() != 1 || place.isEmpty())
-        return wrongReport(QStringLiteral("“%1” is no report of a shard").arg(path));
+        return wrongReport(Words::tr("“%1” is no report of a shard").arg(path));
     const Result<Shard> shard = parseShard(place, [](const char*) { return QString(); });
-    if (!shard) return wrongReport(QStringLiteral("“%1” is no report of a shard: “%2”").arg(path, place));
+    if (!shard) return wrongReport(Words::tr("“%1” is no report of a shard: “%2”").arg(path, place));
     if (const QString error = report["error"_L1].toString(); !error.isEmpty())
-        return wrongReport(QStringLiteral("shard %1 could not be run (“%2”): %3").arg(place, path, error));
+        return wrongReport(Words::tr("shard %1 could not be run (“%2”): %3").arg(place, path, error));
     return ShardReport{path, *shard, report["total"_L1].toInteger(), report["summary"_L1].toObject(),
                        report["photos"_L1].toArray()};
 }
@@ -53,19 +54,18 @@ Result<void> place(const ShardReport& report, QMap<qint64, QJsonValue>& photos) 
         const qint64 index = photo["index"_L1].toInteger(-1);
         if (index < 0 || index >= report.total || !report.shard.contains(index)) {
             return wrongReport(
-                QStringLiteral("“%1” tells of the photo with the index %2, which shard %3 does not have")
+                Words::tr("“%1” tells of the photo with the index %2, which shard %3 does not have")
                     .arg(report.file)
                     .arg(index)
                     .arg(shardText(report.shard)));
         }
         if (photos.contains(index))
-            return wrongReport(QStringLiteral("“%1” tells of the photo with the index %2 twice")
-                                   .arg(report.file)
-                                   .arg(index));
+            return wrongReport(
+                Words::tr("“%1” tells of the photo with the index %2 twice").arg(report.file).arg(index));
         photos.insert(index, photo);
     }
     if (report.photos.size() == expected) return {};
-    return wrongReport(QStringLiteral("“%1” tells of %2 photos, but shard %3 has %4")
+    return wrongReport(Words::tr("“%1” tells of %2 photos, but shard %3 has %4")
                            .arg(report.file)
                            .arg(report.photos.size())
                            .arg(shardText(report.shard))
@@ -80,15 +80,15 @@ Result<QMap<qint64, QJsonValue>> wholeList(const std::vector<ShardReport>& repor
     for (const ShardReport& report : reports) {
         if (report.shard.count != first.shard.count || report.total != first.total) {
             return wrongReport(
-                QStringLiteral("“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of "
-                               "one list")
+                Words::tr("“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of "
+                          "one list")
                     .arg(report.file, shardText(report.shard))
                     .arg(report.total)
                     .arg(first.file, shardText(first.shard))
                     .arg(first.total));
         }
         if (files.contains(report.shard.index)) {
-            return wrongReport(QStringLiteral("shard %1 is there twice: “%2” and “%3”")
+            return wrongReport(Words::tr("shard %1 is there twice: “%2” and “%3”")
                                    .arg(shardText(report.shard), files[report.shard.index], report.file));
         }
         files.insert(report.shard.index, report.file);
@@ -98,8 +98,8 @@ Result<QMap<qint64, QJsonValue>> wholeList(const std::vector<ShardReport>& repor
     for (qint64 i = 0; i < first.shard.count; ++i)
         if (!files.contains(i)) missing.append(shardText({i, first.shard.count}));
     if (missing.isEmpty()) return photos;
-    return wrongReport(QStringLiteral("the reports of these shards are missing: %1")
-                           .arg(missing.join(QStringLiteral(", "))));
+    return wrongReport(
+        Words::tr("the reports of these shards are missing: %1").arg(missing.join(QStringLiteral(", "))));
 }
 
 }  // namespace

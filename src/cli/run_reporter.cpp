@@ -3,14 +3,15 @@
 
 #include "batch/batch_run.h"
 #include "batch/output_name.h"
+#include "platform/words.h"
 
 namespace zelto {
 namespace {
 
-constexpr QLatin1String StoppedMessage(
-    "Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on.");
-constexpr QLatin1String InterruptedMessage("Interrupted.");
-constexpr QLatin1String UnfinishedPdfMessage("The combined PDF was not finished.");
+constexpr MarkedText StoppedMessage(
+    QT_TRANSLATE_NOOP("Words", "Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on."));
+constexpr MarkedText InterruptedMessage(QT_TRANSLATE_NOOP("Words", "Interrupted."));
+constexpr MarkedText UnfinishedPdfMessage(QT_TRANSLATE_NOOP("Words", "The combined PDF was not finished."));
 
 }  // namespace
 
@@ -31,7 +32,7 @@ void RunReporter::photoFinished(const PhotoOutcome& outcome) {
         photo.size = outcome.size;
         photo.jpeg = outcome.jpeg;
         if (photo.jpeg && !photo.jpeg->isLossless)
-            console_.note(photo.source + QStringLiteral(": encoded as usual. ") + photo.jpeg->reason);
+            console_.note(Words::tr("%1: encoded as usual. %2").arg(photo.source, photo.jpeg->reason));
         if (!outcome.output.isEmpty()) photo.output = outcome.output;
         console_.advance(outcome.output.isEmpty() ? outcome.source : outcome.output);
     } else {
@@ -78,7 +79,7 @@ void RunReporter::successiveFail() {
 
 // Its pages were good, but none of them has reached the disk.
 void RunReporter::combinedPdfFailed(const QString& reason) {
-    console_.problem(QStringLiteral("the combined PDF could not be written: ") + reason);
+    console_.problem(Words::tr("the combined PDF could not be written: %1").arg(reason));
     for (PhotoReport& photo : report_.photos) {
         if (photo.status != PhotoReport::Status::Written) continue;
         photo.status = PhotoReport::Status::Failed;

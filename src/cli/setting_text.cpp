@@ -15,7 +15,6 @@
 #include <array>
 #include <cmath>
 
-
 namespace zelto {
 namespace {
 
@@ -77,8 +76,11 @@ QString sideText(const QString& side) {
 
 QString placeText(const Watermark& record) {
     static constexpr std::array<const char*, 9> cells = {
-        QT_TRANSLATE_NOOP("Words", "top left"), QT_TRANSLATE_NOOP("Words", "top"),         QT_TRANSLATE_NOOP("Words", "top right"), QT_TRANSLATE_NOOP("Words", "left"),        QT_TRANSLATE_NOOP("Words", "center"),
-        QT_TRANSLATE_NOOP("Words", "right"),    QT_TRANSLATE_NOOP("Words", "bottom left"), QT_TRANSLATE_NOOP("Words", "bottom"),    QT_TRANSLATE_NOOP("Words", "bottom right")};
+        QT_TRANSLATE_NOOP("Words", "top left"),    QT_TRANSLATE_NOOP("Words", "top"),
+        QT_TRANSLATE_NOOP("Words", "top right"),   QT_TRANSLATE_NOOP("Words", "left"),
+        QT_TRANSLATE_NOOP("Words", "center"),      QT_TRANSLATE_NOOP("Words", "right"),
+        QT_TRANSLATE_NOOP("Words", "bottom left"), QT_TRANSLATE_NOOP("Words", "bottom"),
+        QT_TRANSLATE_NOOP("Words", "bottom right")};
     if (record.Position == CustomPosition) {
         return Words::tr("%1 from the left, %2 from the top")
             .arg(pixels(static_cast<double>(record.CustomPositionLeft)),
@@ -90,8 +92,9 @@ QString placeText(const Watermark& record) {
 }
 
 QString marginsText(const Watermark& record) {
-    static constexpr std::array<const char*, 4> sides = {QT_TRANSLATE_NOOP("Words", "left %1"), QT_TRANSLATE_NOOP("Words", "top %1"), QT_TRANSLATE_NOOP("Words", "right %1"),
-                                                         QT_TRANSLATE_NOOP("Words", "bottom %1")};
+    static constexpr std::array<const char*, 4> sides = {
+        QT_TRANSLATE_NOOP("Words", "left %1"), QT_TRANSLATE_NOOP("Words", "top %1"),
+        QT_TRANSLATE_NOOP("Words", "right %1"), QT_TRANSLATE_NOOP("Words", "bottom %1")};
     QStringList parts;
     for (std::size_t i = 0; i < sides.size(); ++i) {
         const auto& field = length_field::Paddings[i];
@@ -176,8 +179,9 @@ void addQrCode(Facts& facts, const Watermark& record) {
 }
 
 QString shapeName(std::int32_t shape) {
-    static constexpr std::array<const char*, 4> names = {QT_TRANSLATE_NOOP("Words", "Rectangle"), QT_TRANSLATE_NOOP("Words", "Ellipse"), QT_TRANSLATE_NOOP("Words", "Polygon"),
-                                                         QT_TRANSLATE_NOOP("Words", "Line")};
+    static constexpr std::array<const char*, 4> names = {
+        QT_TRANSLATE_NOOP("Words", "Rectangle"), QT_TRANSLATE_NOOP("Words", "Ellipse"),
+        QT_TRANSLATE_NOOP("Words", "Polygon"), QT_TRANSLATE_NOOP("Words", "Line")};
     return shape >= 1 && shape <= 4 ? Words::tr(names[static_cast<std::size_t>(shape - 1)])
                                     : Words::tr("Shape");
 }

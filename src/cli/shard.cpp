@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/shard.h"
 
+#include "platform/words.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -22,8 +24,7 @@ tl::unexpected<Error> wrongShard(const QString& what) {
 // `given` is what a user finds the numbers in.
 Result<Shard> checkedShard(std::optional<qint64> index, std::optional<qint64> count, const QString& given) {
     if (!index || !count || *index < 0 || *index >= *count) {
-        return wrongShard(
-            QStringLiteral("takes I/N with I from 0 to N - 1, such as 0/4, not “%1”").arg(given));
+        return wrongShard(Words::tr("takes I/N with I from 0 to N - 1, such as 0/4, not “%1”").arg(given));
     }
     return Shard{*index, *count};
 }
@@ -39,7 +40,7 @@ Result<Shard> slurmShard(const Environment& environment) {
     const auto count = wholeNumber(environment("SLURM_ARRAY_TASK_COUNT"));
     if (!id || !smallest || !count) {
         return wrongShard(
-            QStringLiteral("auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N"));
+            Words::tr("auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N"));
     }
     // An array such as 0-30:2 counts in steps.
     const qint64 step = wholeNumber(environment("SLURM_ARRAY_TASK_STEP")).value_or(1);
@@ -63,8 +64,7 @@ Result<Shard> parseShard(const QString& text, const Environment& environment) {
         const QString index = environment("JOB_COMPLETION_INDEX");
         if (index.isEmpty()) {
             return wrongShard(
-                QStringLiteral("%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it")
-                    .arg(text));
+                Words::tr("%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it").arg(text));
         }
         return checkedShard(wholeNumber(index), wholeNumber(text.section(QLatin1Char('/'), 1)),
                             QStringLiteral("JOB_COMPLETION_INDEX %1 for %2").arg(index, text));
