@@ -1053,193 +1053,195 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>try &apos;zelto --help&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>جرّب &apos;zelto --help&apos;</translation>
     </message>
     <message>
         <source>puts watermarks on batches of photos, in a window</source>
-        <translation type="unfinished"></translation>
+        <translation>يضع علامات مائية على دفعات من الصور، في نافذة</translation>
     </message>
     <message>
         <source>the window, with the stack of last time</source>
-        <translation type="unfinished"></translation>
+        <translation>النافذة، مع مجموعة المرة السابقة</translation>
     </message>
     <message>
         <source>with the photos of a folder in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>مع صور مجلد في القائمة</translation>
     </message>
     <message>
         <source>with a saved setting and some photos</source>
-        <translation type="unfinished"></translation>
+        <translation>مع إعداد محفوظ وبعض الصور</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيارات</translation>
     </message>
     <message>
         <source>start with a saved setting, or with the setting file of this path</source>
-        <translation type="unfinished"></translation>
+        <translation>البدء بإعداد محفوظ، أو بملف الإعداد في هذا المسار</translation>
     </message>
     <message>
         <source>print the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة صفحة الدليل (man) أو الإكمال لـ bash أو zsh أو fish أو كل الخيارات بصيغة markdown</translation>
     </message>
     <message>
         <source>print this help</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة هذه المساعدة</translation>
     </message>
     <message>
         <source>print the version</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة الإصدار</translation>
     </message>
     <message>
         <source>Exit status</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة الخروج</translation>
     </message>
     <message>
         <source>0: the window was closed.
 2: the command line cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>0: أُغلقت النافذة.
+2: لا يمكن استخدام سطر الأوامر.</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات</translation>
     </message>
     <message>
         <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
 ~/.local/share/Zelto/Copyright.xml: your copyright data.</source>
-        <translation type="unfinished"></translation>
+        <translation>~/.local/share/Zelto/Settings/*.zcs: الإعدادات المحفوظة، ملف لكل منها.
+~/.local/share/Zelto/Copyright.xml: بيانات حقوق النشر.</translation>
     </message>
     <message>
         <source>the watched folder is gone; waiting for it to come back</source>
-        <translation type="unfinished"></translation>
+        <translation>اختفى المجلد المراقَب؛ بانتظار عودته</translation>
     </message>
     <message>
         <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (fs.inotify.max_user_watches says how many there may be)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُبلغ النظام عن تغييرات في مجلدات أكثر؛ فتُفحص كل 10 ثوانٍ بدلاً من ذلك (يحدد fs.inotify.max_user_watches عددها الأقصى)</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 واحدًا من %2، لا «%3»</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”; did you mean “%4”?</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 واحدًا من %2، لا «%3»؛ هل تقصد «%4»؟</translation>
     </message>
     <message>
         <source>%1 takes a whole number from %2 on, not “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 عددًا صحيحًا من %2 فصاعدًا، لا «%3»</translation>
     </message>
     <message>
         <source>%1 takes a whole number from %2 to %3, not “%4”</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 عددًا صحيحًا من %2 إلى %3، لا «%4»</translation>
     </message>
     <message>
         <source>%1 cannot be given together with another way to resize</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجتمع %1 مع طريقة أخرى لتغيير الحجم</translation>
     </message>
     <message>
         <source>%1 takes WIDTHxHEIGHT in whole numbers from 0 on, such as 800x600, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل %1 العرضxالارتفاع بأعداد صحيحة من 0 فصاعدًا، مثل 800x600، لا «%2»</translation>
     </message>
     <message>
         <source>%1 cannot be %2: this machine has no encoder for it; zelto-batch --doctor tells which formats it can write</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يكون %1 هو %2: ليس على هذا الجهاز مرمّز له؛ يبيّن zelto-batch --doctor الصيغ التي يمكن كتابتها</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى قيمة</translation>
     </message>
     <message>
         <source>%1 and another option that only tells or prints something cannot be given together</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجتمع %1 مع خيار آخر يقتصر على الإبلاغ أو الطباعة</translation>
     </message>
     <message>
         <source>What to do</source>
-        <translation type="unfinished"></translation>
+        <translation>المطلوب</translation>
     </message>
     <message>
         <source>a saved setting&apos;s name, or the path of a .zcs file (needed)</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم إعداد محفوظ، أو مسار ملف .zcs (مطلوب)</translation>
     </message>
     <message>
         <source>output folder, made when missing (needed, unless --options names one)</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الإخراج، ويُنشأ إن لم يوجد (مطلوب ما لم يحدده --options)</translation>
     </message>
     <message>
         <source>start from an OutputSettings.xml, as --print-options makes one; the other options override it</source>
-        <translation type="unfinished"></translation>
+        <translation>الانطلاق من OutputSettings.xml كما ينشئه --print-options؛ وللخيارات الأخرى الأولوية</translation>
     </message>
     <message>
         <source>print what would be written, and write nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة ما كان سيُكتب، دون كتابة شيء</translation>
     </message>
     <message>
         <source>go on until interrupted: photos that arrive in the named folders are written at once</source>
-        <translation type="unfinished"></translation>
+        <translation>الاستمرار حتى المقاطعة: تُكتب الصور التي تصل إلى المجلدات المذكورة فورًا</translation>
     </message>
     <message>
         <source>Format and size</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغة والحجم</translation>
     </message>
     <message>
         <source>same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)</source>
-        <translation type="unfinished"></translation>
+        <translation>same أو jpg أو png أو tiff أو bmp أو gif أو pdf أو webp أو avif أو jxl أو heic (المبدئي: same)</translation>
     </message>
     <message>
         <source>quality of JPEG, WebP, AVIF, JPEG XL and HEIC (default: 90); at 100 WebP, JPEG XL and, where its encoder can, AVIF are lossless</source>
-        <translation type="unfinished"></translation>
+        <translation>جودة JPEG وWebP وAVIF وJPEG XL وHEIC (المبدئي: 90)؛ عند 100 يكون WebP وJPEG XL، وAVIF إن أمكن مرمّزه، بلا فقد</translation>
     </message>
     <message>
         <source>JPEG to JPEG: only the blocks that a watermark touches are encoded again, with the photo&apos;s own quality and chroma (on halved chroma colored edges of marks are softer); photos it cannot be done for are encoded as usual, and the report says why</source>
-        <translation type="unfinished"></translation>
+        <translation>من JPEG إلى JPEG: يُعاد ترميز الكتل التي تلمسها علامة مائية فقط، بجودة الصورة ودقة ألوانها (مع دقة الألوان المنصّفة تكون الحواف الملونة أنعم)؛ وما لا يمكن فيه ذلك يُرمَّز كالمعتاد ويذكر التقرير السبب</translation>
     </message>
     <message>
         <source>resize each side by its percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير كل ضلع بنسبته المئوية</translation>
     </message>
     <message>
         <source>resize to a width and height in pixels, 0 for one that is not given</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الحجم إلى عرض وارتفاع بالبكسل، و0 لما لم يُحدَّد</translation>
     </message>
     <message>
         <source>resize the longer side to N pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الضلع الأطول إلى N بكسل</translation>
     </message>
     <message>
         <source>keep proportions when resizing</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفاظ على التناسب عند تغيير الحجم</translation>
     </message>
     <message>
         <source>never make a photo larger</source>
-        <translation type="unfinished"></translation>
+        <translation>عدم تكبير أي صورة</translation>
     </message>
     <message>
         <source>all photos into one PDF (with --format pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الصور في ملف PDF واحد (مع --format pdf)</translation>
     </message>
     <message>
         <source>Names and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>الأسماء والمجلدات</translation>
     </message>
     <message>
         <source>output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, [DD] as DDMMYYYY, and the macros of texts, as in &apos;&lt;&lt;EXIF:DateTimeOriginal[Y-M-D]&gt;&gt;_[###]&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف الناتج: [O] الاسم الأصلي، ومن [#] إلى [####] الرقم في القائمة، و[D] تاريخ اليوم بصيغة MMDDYYYY، و[DD] بصيغة DDMMYYYY، ووحدات ماكرو النصوص، مثل &apos;&lt;&lt;EXIF:DateTimeOriginal[Y-M-D]&gt;&gt;_[###]&apos;</translation>
     </message>
     <message>
         <source>mirror the source folders in the output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>محاكاة مجلدات المصدر في مجلد الإخراج</translation>
     </message>
     <message>
         <source>photos of the run with the same output: replace (with a warning), number, skip or fail (default: replace)</source>
-        <translation type="unfinished"></translation>
+        <translation>صور التشغيل ذات الملف الناتج نفسه: replace (مع تحذير) أو number أو skip أو fail (المبدئي: replace)</translation>
     </message>
     <message>
         <source>outputs that stand there before the run: replace, number, skip or fail (default: replace)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات موجودة قبل التشغيل: replace أو number أو skip أو fail (المبدئي: replace)</translation>
     </message>
     <message>
         <source>allow outputs that replace photos of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>السماح بملفات ناتجة تحل محل صور القائمة</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -1247,146 +1249,146 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>all, copyright, no-gps (positions go, names of places stay) or none (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>all أو copyright أو no-gps (تُزال المواقع وتبقى أسماء الأماكن) أو none (المبدئي: all)</translation>
     </message>
     <message>
         <source>a Copyright.xml to write into the outputs (default: your own, if the setting asks for it)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف Copyright.xml يُكتب في الملفات الناتجة (المبدئي: ملفك إن طلبه الإعداد)</translation>
     </message>
     <message>
         <source>Which photos</source>
-        <translation type="unfinished"></translation>
+        <translation>أي الصور</translation>
     </message>
     <message>
         <source>scan sub-folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>فحص المجلدات الفرعية أيضًا</translation>
     </message>
     <message>
         <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يأخذه فحص المجلد، من jpeg,png,tiff,gif,bmp (المبدئي: هذه) وheic,avif,webp,jxl</translation>
     </message>
     <message>
         <source>only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a Kubernetes Job has it</source>
-        <translation type="unfinished"></translation>
+        <translation>كل صورة رقم N من القائمة فقط، بدءًا من I (العد من 0)؛ auto وauto/N: كما تحدده مصفوفة Slurm أو مهمة Kubernetes</translation>
     </message>
     <message>
         <source>The run</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل</translation>
     </message>
     <message>
         <source>photos worked on at a time (default: the number of cores)</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد الصور المعالجة معًا (المبدئي: عدد الأنوية)</translation>
     </message>
     <message>
         <source>stop or continue after 3 failures in a row (default: stop, with --watch: continue)</source>
-        <translation type="unfinished"></translation>
+        <translation>stop أو continue بعد 3 إخفاقات متتالية (المبدئي: stop، ومع --watch: continue)</translation>
     </message>
     <message>
         <source>a photo with a warning fails and is not written</source>
-        <translation type="unfinished"></translation>
+        <translation>تُعدّ الصورة ذات التحذير فاشلة ولا تُكتب</translation>
     </message>
     <message>
         <source>What is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يُطبع</translation>
     </message>
     <message>
         <source>report as JSON on standard output; with --watch a line a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير JSON على الخرج القياسي؛ ومع --watch سطر لكل صورة</translation>
     </message>
     <message>
         <source>print nothing but errors</source>
-        <translation type="unfinished"></translation>
+        <translation>عدم طباعة شيء سوى الأخطاء</translation>
     </message>
     <message>
         <source>no colors</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا ألوان</translation>
     </message>
     <message>
         <source>plain lines instead of a progress bar</source>
-        <translation type="unfinished"></translation>
+        <translation>أسطر بسيطة بدلاً من شريط التقدّم</translation>
     </message>
     <message>
         <source>Instead of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>بدلاً من التشغيل</translation>
     </message>
     <message>
         <source>the names of the saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>أسماء الإعدادات المحفوظة</translation>
     </message>
     <message>
         <source>the fonts that texts can be set in</source>
-        <translation type="unfinished"></translation>
+        <translation>الخطوط المتاحة للنصوص</translation>
     </message>
     <message>
         <source>what a setting holds, layer by layer, in words</source>
-        <translation type="unfinished"></translation>
+        <translation>محتوى إعداد، طبقة طبقة، بالكلمات</translation>
     </message>
     <message>
         <source>an options file that says what the other options on the line say, to be kept for --options</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف خيارات يقول ما تقوله الخيارات الأخرى في السطر، يُحفظ من أجل --options</translation>
     </message>
     <message>
         <source>whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; exit status 1 when something is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>هل يتوفر كل ما يحتاجه التشغيل: exiftool والصيغ والخطوط والمجلدات والمساحة والذاكرة؛ حالة الخروج 1 إن نقص شيء</translation>
     </message>
     <message>
         <source>the arguments are JSON reports of the shards of one list: print one report, and exit as one run would</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسائط تقارير JSON لأجزاء قائمة واحدة: طباعة تقرير واحد والخروج كما يخرج تشغيل واحد</translation>
     </message>
     <message>
         <source>the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>صفحة الدليل (man) أو الإكمال لـ bash أو zsh أو fish أو كل الخيارات بصيغة markdown</translation>
     </message>
     <message>
         <source>this help</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه المساعدة</translation>
     </message>
     <message>
         <source>the version</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار</translation>
     </message>
     <message>
         <source>there is no options file “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف خيارات «%1»</translation>
     </message>
     <message>
         <source>“%1” names no output folder; name one with --output</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحدد «%1» مجلد إخراج؛ حدده بالخيار --output</translation>
     </message>
     <message>
         <source>--combine-pdf needs --format pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب --combine-pdf الخيار --format pdf</translation>
     </message>
     <message>
         <source>a combined PDF is one document, which --shard cannot divide; leave one of them out</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف PDF المجمّع مستند واحد لا يقسمه --shard؛ احذف أحدهما</translation>
     </message>
     <message>
         <source>there is no copyright file “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف حقوق نشر «%1»</translation>
     </message>
     <message>
         <source>there is no photo or folder “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صورة ولا مجلد باسم «%1»</translation>
     </message>
     <message>
         <source>no photo was found; see --extensions and --recursive for what a folder scan takes, and name GIF files themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعثر على صور؛ راجع --extensions و--recursive لما يأخذه فحص المجلد، واذكر ملفات GIF بأسمائها</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of the photos would be replaced by their outputs, the first being “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن تُستبدل أي صورة («%1»)؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
+            <numerusform>ستحل ملفات ناتجة محل صورة واحدة هي «%1»؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
+            <numerusform>ستحل الملفات الناتجة محل صورتين أولاهما «%1»؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
+            <numerusform>ستحل الملفات الناتجة محل %Ln صور أولاها «%1»؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
+            <numerusform>ستحل الملفات الناتجة محل %Ln صورة أولاها «%1»؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
+            <numerusform>ستحل الملفات الناتجة محل %Ln صورة أولاها «%1»؛ اختر --output آخر أو --rename أو اسمح بذلك بالخيار --overwrite-originals</numerusform>
         </translation>
     </message>
     <message>
         <source>the output folder “%1” cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر إنشاء مجلد الإخراج «%1»</translation>
     </message>
     <message numerus="yes">
         <source>%Ln written</source>
@@ -1412,92 +1414,95 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message numerus="yes">
         <source>%Ln not run</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُترك أي صورة</numerusform>
+            <numerusform>لم تُعالَج واحدة</numerusform>
+            <numerusform>لم تُعالَج اثنتان</numerusform>
+            <numerusform>لم تُعالَج %Ln</numerusform>
+            <numerusform>لم تُعالَج %Ln</numerusform>
+            <numerusform>لم تُعالَج %Ln</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln with a warning</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>بلا تحذيرات</numerusform>
+            <numerusform>واحدة بتحذير</numerusform>
+            <numerusform>اثنتان بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
+            <numerusform>%Ln بتحذير</numerusform>
         </translation>
     </message>
     <message>
         <source>Dry run: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل تجريبي: لم يُكتب شيء.</translation>
     </message>
     <message>
         <source>--watch cannot be given together with --%1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجتمع --watch مع --%1</translation>
     </message>
     <message>
         <source>name the reports to merge</source>
-        <translation type="unfinished"></translation>
+        <translation>اذكر التقارير المراد دمجها</translation>
     </message>
     <message>
         <source>“%1” has no meaning here; leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>لا معنى لـ«%1» هنا؛ احذفه</translation>
     </message>
     <message>
         <source>name the watermark setting with --setting; --list-settings lists those that are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد إعداد العلامات المائية بالخيار --setting؛ يسرد --list-settings الإعدادات المحفوظة</translation>
     </message>
     <message>
         <source>name the photos or folders to watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>اذكر الصور أو المجلدات المراد وضع علامات مائية عليها</translation>
     </message>
     <message>
         <source>name the output folder with --output</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد مجلد الإخراج بالخيار --output</translation>
     </message>
     <message>
         <source>stamps the watermarks of a saved setting onto photos</source>
-        <translation type="unfinished"></translation>
+        <translation>يضع العلامات المائية لإعداد محفوظ على الصور</translation>
     </message>
     <message>
         <source>the photos of a folder, with the saved setting “Holiday”</source>
-        <translation type="unfinished"></translation>
+        <translation>صور مجلد، بالإعداد المحفوظ «Holiday»</translation>
     </message>
     <message>
         <source>smaller JPEG copies under new names, with a setting file</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ JPEG أصغر بأسماء جديدة، بملف إعداد</translation>
     </message>
     <message>
         <source>what a whole tree of folders would become, without writing anything</source>
-        <translation type="unfinished"></translation>
+        <translation>ما ستصير إليه شجرة مجلدات كاملة، دون كتابة شيء</translation>
     </message>
     <message>
         <source>one PDF, a page a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف PDF واحد، صفحة لكل صورة</translation>
     </message>
     <message>
         <source>every photo that is put into the folder “inbox”, until Ctrl+C</source>
-        <translation type="unfinished"></translation>
+        <translation>كل صورة توضع في المجلد «inbox»، حتى Ctrl+C</translation>
     </message>
     <message>
         <source>the third of eight parts of one batch, each on a machine of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>الجزء الثالث من ثمانية أجزاء لدفعة واحدة، كل منها على جهاز</translation>
     </message>
     <message>
         <source>0: all photos were written; warnings do not change it.
 1: some photos failed, or repeated failures stopped the run; with --doctor: something is missing.
 2: the command line or a named file cannot be used, and nothing was written.
 130: interrupted. The photo in hand is finished first, and a second interrupt ends the program at once. This is how --watch ends, too. No file is ever left half-written.</source>
-        <translation type="unfinished"></translation>
+        <translation>0: كُتبت كل الصور؛ ولا تغيّر التحذيرات ذلك.
+1: فشلت بعض الصور، أو أوقفت إخفاقات متكررة التشغيل؛ ومع --doctor: شيء ما ناقص.
+2: لا يمكن استخدام سطر الأوامر أو أحد الملفات المذكورة، ولم يُكتب شيء.
+130: قوطع. تُستكمل الصورة الجارية أولاً، وتُنهي مقاطعة ثانية البرنامج فورًا. وهكذا ينتهي --watch أيضًا. ولا يبقى أي ملف مكتوبًا نصفه.</translation>
     </message>
     <message>
         <source>Environment</source>
-        <translation type="unfinished"></translation>
+        <translation>متغيرات البيئة</translation>
     </message>
     <message>
         <source>NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar where the second is “dumb” or missing, or where standard error is no terminal.
@@ -1505,21 +1510,27 @@ ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard
 XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.
 TMPDIR: where temporary files go, instead of /tmp.
 ZELTO_EXIFTOOL: another exiftool program than the one that is found.</source>
-        <translation type="unfinished"></translation>
+        <translation>NO_COLOR وTERM: بلا ألوان إن ضُبط الأول، وبلا ألوان ولا شريط تقدّم إن كان الثاني «dumb» أو مفقودًا، أو لم يكن خرج الأخطاء طرفية.
+ZELTO_SHARD وSLURM_ARRAY_TASK_ID وما يتصل به وJOB_COMPLETION_INDEX: ما يقرؤه --shard auto.
+XDG_DATA_HOME: مكان حفظ الإعدادات بدلاً من ~/.local/share.
+TMPDIR: مكان الملفات المؤقتة بدلاً من /tmp.
+ZELTO_EXIFTOOL: برنامج exiftool غير الذي يُعثر عليه.</translation>
     </message>
     <message>
         <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
 ~/.local/share/Zelto/Copyright.xml: your copyright data.
 A run changes none of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>~/.local/share/Zelto/Settings/*.zcs: الإعدادات المحفوظة، ملف لكل منها.
+~/.local/share/Zelto/Copyright.xml: بيانات حقوق النشر.
+لا يغيّر التشغيل أيًا منها.</translation>
     </message>
     <message>
         <source>Without libraries for newer formats</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا مكتبات للصيغ الأحدث</translation>
     </message>
     <message>
         <source>With %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مع %1</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
@@ -1527,192 +1538,192 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>سليم</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>ناقص</translation>
     </message>
     <message>
         <source>exiftool</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool</translation>
     </message>
     <message>
         <source>%1; photos would be written without their metadata. Install exiftool (Debian: libimage-exiftool-perl)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ ستُكتب الصور بلا بياناتها الوصفية. ثبّت exiftool (في دبيان: libimage-exiftool-perl)</translation>
     </message>
     <message>
         <source>previews in raw files</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينات الملفات الخام</translation>
     </message>
     <message>
         <source>formats read</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغ المقروءة</translation>
     </message>
     <message>
         <source>formats written</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغ المكتوبة</translation>
     </message>
     <message>
         <source>%1; this machine has no encoder for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ ليس على هذا الجهاز مرمّز لـ %2</translation>
     </message>
     <message>
         <source>“%1” cannot be written to; choose another folder or mend its permissions</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن الكتابة في «%1»؛ اختر مجلدًا آخر أو أصلح أذوناته</translation>
     </message>
     <message>
         <source>%1: only %2 are free; make room</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: المساحة الحرة %2 فقط؛ أفسح مكانًا</translation>
     </message>
     <message>
         <source>%1, %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2 حرة</translation>
     </message>
     <message>
         <source>fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>الخطوط</translation>
     </message>
     <message numerus="yes">
         <source>%Ln families</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا عائلات</numerusform>
+            <numerusform>عائلة واحدة</numerusform>
+            <numerusform>عائلتان</numerusform>
+            <numerusform>%Ln عائلات</numerusform>
+            <numerusform>%Ln عائلة</numerusform>
+            <numerusform>%Ln عائلة</numerusform>
         </translation>
     </message>
     <message>
         <source>none is installed (Debian: fonts-dejavu)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا خط مثبّت (في دبيان: fonts-dejavu)</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message numerus="yes">
         <source>%Ln saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا محفوظ</numerusform>
+            <numerusform>واحد محفوظ</numerusform>
+            <numerusform>اثنان محفوظان</numerusform>
+            <numerusform>%Ln محفوظة</numerusform>
+            <numerusform>%Ln محفوظًا</numerusform>
+            <numerusform>%Ln محفوظ</numerusform>
         </translation>
     </message>
     <message>
         <source>temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات المؤقتة</translation>
     </message>
     <message>
         <source>output</source>
-        <translation type="unfinished"></translation>
+        <translation>الإخراج</translation>
     </message>
     <message>
         <source>memory</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة</translation>
     </message>
     <message>
         <source>%1, of which a run holds at most %2 in photos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، يشغل التشغيل منها بالصور %2 على الأكثر</translation>
     </message>
     <message>
         <source>jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>المهام</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photos at a time</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صور معًا</numerusform>
+            <numerusform>صورة واحدة في المرة</numerusform>
+            <numerusform>صورتان معًا</numerusform>
+            <numerusform>%Ln صور معًا</numerusform>
+            <numerusform>%Ln صورة معًا</numerusform>
+            <numerusform>%Ln صورة معًا</numerusform>
         </translation>
     </message>
     <message>
         <source>no setting is saved yet; settings are kept in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُحفظ أي إعداد بعد؛ تُحفظ الإعدادات في «%1»</translation>
     </message>
     <message>
         <source>the result could not be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت طباعة النتيجة</translation>
     </message>
     <message>
         <source>try &apos;zelto-batch --help&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>جرّب &apos;zelto-batch --help&apos;</translation>
     </message>
     <message>
         <source>“%1” is no report of a shard</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس «%1» تقرير جزء</translation>
     </message>
     <message>
         <source>“%1” is no report of a shard: “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس «%1» تقرير جزء: «%2»</translation>
     </message>
     <message>
         <source>shard %1 could not be run (“%2”): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تشغيل الجزء %1 («%2»): %3</translation>
     </message>
     <message>
         <source>“%1” tells of the photo with the index %2, which shard %3 does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>يذكر «%1» الصورة ذات الفهرس %2 التي ليست في الجزء %3</translation>
     </message>
     <message>
         <source>“%1” tells of the photo with the index %2 twice</source>
-        <translation type="unfinished"></translation>
+        <translation>يذكر «%1» الصورة ذات الفهرس %2 مرتين</translation>
     </message>
     <message>
         <source>“%1” tells of %2 photos, but shard %3 has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>يذكر «%1» عددًا من الصور قدره %2، لكن في الجزء %3 العدد %4</translation>
     </message>
     <message>
         <source>“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of one list</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» هو الجزء %2 من %3 صور، و«%4» هو الجزء %5 من %6: ليسا من قائمة واحدة</translation>
     </message>
     <message>
         <source>shard %1 is there twice: “%2” and “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>الجزء %1 موجود مرتين: «%2» و«%3»</translation>
     </message>
     <message>
         <source>the reports of these shards are missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تنقص تقارير هذه الأجزاء: %1</translation>
     </message>
     <message>
         <source>Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُوقف: فشلت 3 صور متتالية. للمتابعة استخدم --on-repeated-failure continue.</translation>
     </message>
     <message>
         <source>Interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>قوطع.</translation>
     </message>
     <message>
         <source>The combined PDF was not finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يكتمل ملف PDF المجمّع.</translation>
     </message>
     <message>
         <source>%1: encoded as usual. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: رُمّزت كالمعتاد. %2</translation>
     </message>
     <message>
         <source>the combined PDF could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة ملف PDF المجمّع: %1</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1” (none is saved yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إعداد ولا ملف «%1» (لم يُحفظ أي إعداد بعد)</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1” (saved are: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إعداد ولا ملف «%1» (المحفوظة: %2)</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1”; did you mean “%2”? (saved are: %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إعداد ولا ملف «%1»؛ هل تقصد «%2»؟ (المحفوظة: %3)</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -1720,115 +1731,115 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>%1 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 بكسل</translation>
     </message>
     <message>
         <source>%1 % of the shorter side</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ٪ من الضلع الأقصر</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا</translation>
     </message>
     <message>
         <source>%1, %2 opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، معتم بنسبة %2</translation>
     </message>
     <message>
         <source>of the photo&apos;s height</source>
-        <translation type="unfinished"></translation>
+        <translation>من ارتفاع الصورة</translation>
     </message>
     <message>
         <source>of the photo&apos;s longer side</source>
-        <translation type="unfinished"></translation>
+        <translation>من الضلع الأطول للصورة</translation>
     </message>
     <message>
         <source>of the photo&apos;s width</source>
-        <translation type="unfinished"></translation>
+        <translation>من عرض الصورة</translation>
     </message>
     <message>
         <source>top left</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليسار</translation>
     </message>
     <message>
         <source>top</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى</translation>
     </message>
     <message>
         <source>top right</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليمين</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسط</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين</translation>
     </message>
     <message>
         <source>bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليسار</translation>
     </message>
     <message>
         <source>bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل</translation>
     </message>
     <message>
         <source>bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليمين</translation>
     </message>
     <message>
         <source>%1 from the left, %2 from the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من اليسار، %2 من الأعلى</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>left %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار %1</translation>
     </message>
     <message>
         <source>top %1</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى %1</translation>
     </message>
     <message>
         <source>right %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين %1</translation>
     </message>
     <message>
         <source>bottom %1</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل %1</translation>
     </message>
     <message>
         <source>across, gaps of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>أفقيًا، بمسافات %1</translation>
     </message>
     <message>
         <source>down, gaps of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>رأسيًا، بمسافات %1</translation>
     </message>
     <message>
         <source>bold</source>
-        <translation type="unfinished"></translation>
+        <translation>غامق</translation>
     </message>
     <message>
         <source>italic</source>
-        <translation type="unfinished"></translation>
+        <translation>مائل</translation>
     </message>
     <message>
         <source>underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>تحته خط</translation>
     </message>
     <message>
         <source>struck through</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوسطه خط</translation>
     </message>
     <message>
         <source>Font</source>
@@ -1840,7 +1851,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون</translation>
     </message>
     <message>
         <source>Shadow</source>
@@ -1852,43 +1863,43 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>embossed, faces left out</source>
-        <translation type="unfinished"></translation>
+        <translation>بارز، من دون الأوجه</translation>
     </message>
     <message>
         <source>embossed</source>
-        <translation type="unfinished"></translation>
+        <translation>بارز</translation>
     </message>
     <message>
         <source>its own</source>
-        <translation type="unfinished"></translation>
+        <translation>حجمه الأصلي</translation>
     </message>
     <message>
         <source>%1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 في %2</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف</translation>
     </message>
     <message>
         <source>Kept in the setting</source>
-        <translation type="unfinished"></translation>
+        <translation>محفوظ في الإعداد</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 بايت</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>متروك</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>تدرّج الرمادي</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1900,15 +1911,15 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Sides</source>
-        <translation type="unfinished"></translation>
+        <translation>الأضلاع</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>من %1 إلى %2</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلفية</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -1916,27 +1927,27 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Logo “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>شعار «%1»</translation>
     </message>
     <message>
         <source>Text “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>نص «%1»</translation>
     </message>
     <message>
         <source>QR code “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز QR «%1»</translation>
     </message>
     <message>
         <source>unknown kind %1, which draws nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع غير معروف %1، لا يرسم شيئًا</translation>
     </message>
     <message>
         <source>Own name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم الخاص</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>العتامة</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1944,35 +1955,35 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Margins</source>
-        <translation type="unfinished"></translation>
+        <translation>الهوامش</translation>
     </message>
     <message>
         <source>Turned</source>
-        <translation type="unfinished"></translation>
+        <translation>التدوير</translation>
     </message>
     <message>
         <source>%1° clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>%1° باتجاه عقارب الساعة</translation>
     </message>
     <message>
         <source>Tiled</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار</translation>
     </message>
     <message>
         <source>%1 (switched off)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (متوقف)</translation>
     </message>
     <message>
         <source>%1 on all sides, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 في كل الجهات، %2</translation>
     </message>
     <message>
         <source>top %1, left %2, right %3, bottom %4, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى %1، يسار %2، يمين %3، أسفل %4، %5</translation>
     </message>
     <message>
         <source>%1; watermarks may cover it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ يمكن للعلامات المائية تغطيته</translation>
     </message>
     <message>
         <source>Border</source>
@@ -1980,7 +1991,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>blur %1, distance %2, direction %3°, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>تمويه %1، مسافة %2، اتجاه %3°، %4</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1988,75 +1999,75 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>your copyright data go into the outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>تُكتب بيانات حقوق النشر في الملفات الناتجة</translation>
     </message>
     <message>
         <source>Setting “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعداد «%1»</translation>
     </message>
     <message>
         <source>takes I/N with I from 0 to N - 1, such as 0/4, not “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل I/N حيث I من 0 إلى N - 1، مثل 0/4، لا «%1»</translation>
     </message>
     <message>
         <source>auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يجد auto لا ZELTO_SHARD ولا مصفوفة Slurm؛ اضبط ZELTO_SHARD على I/N</translation>
     </message>
     <message>
         <source>%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج %1 إلى JOB_COMPLETION_INDEX كما تضبطه مهمة Kubernetes مفهرسة</translation>
     </message>
     <message>
         <source>watching %1; Ctrl+C ends it</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ مراقبة %1؛ يُنهيها Ctrl+C</translation>
     </message>
     <message>
         <source>its output “%1” would replace the photo itself</source>
-        <translation type="unfinished"></translation>
+        <translation>سيحل الملف الناتج «%1» محل الصورة نفسها</translation>
     </message>
     <message>
         <source>was taken away before its turn; nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيلت قبل دورها؛ لم يُكتب شيء</translation>
     </message>
     <message>
         <source>will be tried again until it can be written</source>
-        <translation type="unfinished"></translation>
+        <translation>ستُعاد المحاولة حتى تمكن كتابتها</translation>
     </message>
     <message>
         <source>a combined PDF would never be finished by --watch; leave one of them out</source>
-        <translation type="unfinished"></translation>
+        <translation>لن يكتمل ملف PDF مجمّع مع --watch أبدًا؛ احذف أحدهما</translation>
     </message>
     <message>
         <source>the numbers of --rename begin again whenever --watch is started; say with --existing what becomes of outputs that stand there: number, skip, fail or replace</source>
-        <translation type="unfinished"></translation>
+        <translation>تبدأ أرقام --rename من جديد كلما بدأ --watch؛ حدد بالخيار --existing مصير الملفات الموجودة: number أو skip أو fail أو replace</translation>
     </message>
     <message>
         <source>--watch takes folders, and “%1” is none</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل --watch مجلدات، و«%1» ليس مجلدًا</translation>
     </message>
     <message>
         <source>outputs in the watched folder “%1” would be marked again and again; choose another --output</source>
-        <translation type="unfinished"></translation>
+        <translation>ستوضع العلامات على الملفات الناتجة في المجلد المراقَب «%1» مرة بعد مرة؛ اختر --output آخر</translation>
     </message>
     <message>
         <source>with --keep-structure, outputs in “%1” could get into the watched folder “%2” and be marked again; choose another --output</source>
-        <translation type="unfinished"></translation>
+        <translation>مع --keep-structure قد تصل الملفات الناتجة في «%1» إلى المجلد المراقَب «%2» فتوضع عليها العلامات ثانية؛ اختر --output آخر</translation>
     </message>
     <message>
         <source>there is no option “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد خيار «%1»</translation>
     </message>
     <message>
         <source>there is no option “%1”; did you mean “%2”?</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد خيار «%1»؛ هل تقصد «%2»؟</translation>
     </message>
     <message>
         <source>Examples:</source>
-        <translation type="unfinished"></translation>
+        <translation>أمثلة:</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: %1</translation>
     </message>
 </context>
 <context>

@@ -1029,193 +1029,195 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
     </message>
     <message>
         <source>try &apos;zelto --help&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>siehe „zelto --help“</translation>
     </message>
     <message>
         <source>puts watermarks on batches of photos, in a window</source>
-        <translation type="unfinished"></translation>
+        <translation>versieht viele Fotos auf einmal mit Wasserzeichen, in einem Fenster</translation>
     </message>
     <message>
         <source>the window, with the stack of last time</source>
-        <translation type="unfinished"></translation>
+        <translation>das Fenster, mit dem Stapel vom letzten Mal</translation>
     </message>
     <message>
         <source>with the photos of a folder in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>mit den Fotos eines Ordners in der Liste</translation>
     </message>
     <message>
         <source>with a saved setting and some photos</source>
-        <translation type="unfinished"></translation>
+        <translation>mit einer gespeicherten Einstellung und einigen Fotos</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>start with a saved setting, or with the setting file of this path</source>
-        <translation type="unfinished"></translation>
+        <translation>mit einer gespeicherten Einstellung oder der Einstellungsdatei dieses Pfades beginnen</translation>
     </message>
     <message>
         <source>print the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuchseite (man), Vervollständigung für bash, zsh oder fish oder alle Optionen als Markdown ausgeben</translation>
     </message>
     <message>
         <source>print this help</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Hilfe ausgeben</translation>
     </message>
     <message>
         <source>print the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version ausgeben</translation>
     </message>
     <message>
         <source>Exit status</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert</translation>
     </message>
     <message>
         <source>0: the window was closed.
 2: the command line cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>0: Das Fenster wurde geschlossen.
+2: Die Befehlszeile ist nicht verwendbar.</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
 ~/.local/share/Zelto/Copyright.xml: your copyright data.</source>
-        <translation type="unfinished"></translation>
+        <translation>~/.local/share/Zelto/Settings/*.zcs: die gespeicherten Einstellungen, je eine Datei.
+~/.local/share/Zelto/Copyright.xml: die eigenen Copyright-Angaben.</translation>
     </message>
     <message>
         <source>the watched folder is gone; waiting for it to come back</source>
-        <translation type="unfinished"></translation>
+        <translation>der überwachte Ordner ist verschwunden; es wird auf seine Rückkehr gewartet</translation>
     </message>
     <message>
         <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (fs.inotify.max_user_watches says how many there may be)</source>
-        <translation type="unfinished"></translation>
+        <translation>das System meldet keine Änderungen in weiteren Ordnern; sie werden stattdessen alle 10 Sekunden durchgesehen (fs.inotify.max_user_watches sagt, wie viele es sein dürfen)</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt eines von %2, nicht „%3“</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”; did you mean “%4”?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt eines von %2, nicht „%3“; ist „%4“ gemeint?</translation>
     </message>
     <message>
         <source>%1 takes a whole number from %2 on, not “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt eine ganze Zahl ab %2, nicht „%3“</translation>
     </message>
     <message>
         <source>%1 takes a whole number from %2 to %3, not “%4”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt eine ganze Zahl von %2 bis %3, nicht „%4“</translation>
     </message>
     <message>
         <source>%1 cannot be given together with another way to resize</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verträgt sich nicht mit einer anderen Art der Größenänderung</translation>
     </message>
     <message>
         <source>%1 takes WIDTHxHEIGHT in whole numbers from 0 on, such as 800x600, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verlangt BREITExHÖHE in ganzen Zahlen ab 0, etwa 800x600, nicht „%2“</translation>
     </message>
     <message>
         <source>%1 cannot be %2: this machine has no encoder for it; zelto-batch --doctor tells which formats it can write</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht %2 sein: dieser Rechner hat keinen Encoder dafür; zelto-batch --doctor sagt, welche Formate er schreiben kann</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht einen Wert</translation>
     </message>
     <message>
         <source>%1 and another option that only tells or prints something cannot be given together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verträgt sich nicht mit einer anderen Option, die nur etwas mitteilt oder ausgibt</translation>
     </message>
     <message>
         <source>What to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu tun ist</translation>
     </message>
     <message>
         <source>a saved setting&apos;s name, or the path of a .zcs file (needed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Name einer gespeicherten Einstellung oder Pfad einer .zcs-Datei (nötig)</translation>
     </message>
     <message>
         <source>output folder, made when missing (needed, unless --options names one)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeordner, wird bei Bedarf angelegt (nötig, sofern --options keinen nennt)</translation>
     </message>
     <message>
         <source>start from an OutputSettings.xml, as --print-options makes one; the other options override it</source>
-        <translation type="unfinished"></translation>
+        <translation>von einer OutputSettings.xml ausgehen, wie --print-options sie erstellt; die anderen Optionen haben Vorrang</translation>
     </message>
     <message>
         <source>print what would be written, and write nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>ausgeben, was geschrieben würde, und nichts schreiben</translation>
     </message>
     <message>
         <source>go on until interrupted: photos that arrive in the named folders are written at once</source>
-        <translation type="unfinished"></translation>
+        <translation>weiterlaufen bis zur Unterbrechung: Fotos, die in den genannten Ordnern eintreffen, werden sofort geschrieben</translation>
     </message>
     <message>
         <source>Format and size</source>
-        <translation type="unfinished"></translation>
+        <translation>Format und Größe</translation>
     </message>
     <message>
         <source>same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl or heic (default: same)</source>
-        <translation type="unfinished"></translation>
+        <translation>same, jpg, png, tiff, bmp, gif, pdf, webp, avif, jxl oder heic (Vorgabe: same)</translation>
     </message>
     <message>
         <source>quality of JPEG, WebP, AVIF, JPEG XL and HEIC (default: 90); at 100 WebP, JPEG XL and, where its encoder can, AVIF are lossless</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität von JPEG, WebP, AVIF, JPEG XL und HEIC (Vorgabe: 90); bei 100 sind WebP, JPEG XL und, wenn der Encoder es kann, AVIF verlustfrei</translation>
     </message>
     <message>
         <source>JPEG to JPEG: only the blocks that a watermark touches are encoded again, with the photo&apos;s own quality and chroma (on halved chroma colored edges of marks are softer); photos it cannot be done for are encoded as usual, and the report says why</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG zu JPEG: nur die Blöcke, die ein Wasserzeichen berührt, werden neu kodiert, mit Qualität und Farbauflösung des Fotos (bei halber Farbauflösung sind farbige Kanten weicher); Fotos, bei denen das nicht geht, werden wie gewohnt kodiert, und der Bericht sagt, warum</translation>
     </message>
     <message>
         <source>resize each side by its percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>jede Seite um ihren Prozentsatz ändern</translation>
     </message>
     <message>
         <source>resize to a width and height in pixels, 0 for one that is not given</source>
-        <translation type="unfinished"></translation>
+        <translation>auf eine Breite und Höhe in Pixeln bringen, 0 für nicht angegeben</translation>
     </message>
     <message>
         <source>resize the longer side to N pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>die längere Seite auf N Pixel bringen</translation>
     </message>
     <message>
         <source>keep proportions when resizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis bei der Größenänderung beibehalten</translation>
     </message>
     <message>
         <source>never make a photo larger</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Foto vergrößern</translation>
     </message>
     <message>
         <source>all photos into one PDF (with --format pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Fotos in ein PDF (mit --format pdf)</translation>
     </message>
     <message>
         <source>Names and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen und Ordner</translation>
     </message>
     <message>
         <source>output name: [O] original name, [#] to [####] number in the list, [D] today as MMDDYYYY, [DD] as DDMMYYYY, and the macros of texts, as in &apos;&lt;&lt;EXIF:DateTimeOriginal[Y-M-D]&gt;&gt;_[###]&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Ausgabe: [O] ursprünglicher Name, [#] bis [####] Nummer in der Liste, [D] heutiges Datum als MMTTJJJJ, [DD] als TTMMJJJJ, und die Makros der Texte, etwa &apos;&lt;&lt;EXIF:DateTimeOriginal[Y-M-D]&gt;&gt;_[###]&apos;</translation>
     </message>
     <message>
         <source>mirror the source folders in the output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>die Quellordner im Ausgabeordner nachbilden</translation>
     </message>
     <message>
         <source>photos of the run with the same output: replace (with a warning), number, skip or fail (default: replace)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos des Durchlaufs mit derselben Ausgabe: replace (mit Warnung), number, skip oder fail (Vorgabe: replace)</translation>
     </message>
     <message>
         <source>outputs that stand there before the run: replace, number, skip or fail (default: replace)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgaben, die vor dem Durchlauf da sind: replace, number, skip oder fail (Vorgabe: replace)</translation>
     </message>
     <message>
         <source>allow outputs that replace photos of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgaben erlauben, die Fotos der Liste ersetzen</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -1223,142 +1225,142 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
     </message>
     <message>
         <source>all, copyright, no-gps (positions go, names of places stay) or none (default: all)</source>
-        <translation type="unfinished"></translation>
+        <translation>all, copyright, no-gps (Positionen entfallen, Ortsnamen bleiben) oder none (Vorgabe: all)</translation>
     </message>
     <message>
         <source>a Copyright.xml to write into the outputs (default: your own, if the setting asks for it)</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Copyright.xml, die in die Ausgaben geschrieben wird (Vorgabe: die eigene, wenn die Einstellung es verlangt)</translation>
     </message>
     <message>
         <source>Which photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Fotos</translation>
     </message>
     <message>
         <source>scan sub-folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>auch Unterordner durchsuchen</translation>
     </message>
     <message>
         <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl</source>
-        <translation type="unfinished"></translation>
+        <translation>was aus Ordnern genommen wird, von jpeg,png,tiff,gif,bmp (Vorgabe: diese) und heic,avif,webp,jxl</translation>
     </message>
     <message>
         <source>only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a Kubernetes Job has it</source>
-        <translation type="unfinished"></translation>
+        <translation>nur jedes N-te Foto der Liste, ab I (von 0 gezählt); auto, auto/N: wie ein Slurm-Array oder ein Kubernetes-Job es vorgibt</translation>
     </message>
     <message>
         <source>The run</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchlauf</translation>
     </message>
     <message>
         <source>photos worked on at a time (default: the number of cores)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos, an denen gleichzeitig gearbeitet wird (Vorgabe: Anzahl der Kerne)</translation>
     </message>
     <message>
         <source>stop or continue after 3 failures in a row (default: stop, with --watch: continue)</source>
-        <translation type="unfinished"></translation>
+        <translation>stop oder continue nach 3 Fehlern hintereinander (Vorgabe: stop, mit --watch: continue)</translation>
     </message>
     <message>
         <source>a photo with a warning fails and is not written</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Foto mit einer Warnung gilt als fehlgeschlagen und wird nicht geschrieben</translation>
     </message>
     <message>
         <source>What is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ausgegeben wird</translation>
     </message>
     <message>
         <source>report as JSON on standard output; with --watch a line a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht als JSON auf der Standardausgabe; mit --watch eine Zeile je Foto</translation>
     </message>
     <message>
         <source>print nothing but errors</source>
-        <translation type="unfinished"></translation>
+        <translation>nur Fehler ausgeben</translation>
     </message>
     <message>
         <source>no colors</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Farben</translation>
     </message>
     <message>
         <source>plain lines instead of a progress bar</source>
-        <translation type="unfinished"></translation>
+        <translation>einfache Zeilen statt eines Fortschrittsbalkens</translation>
     </message>
     <message>
         <source>Instead of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Statt eines Durchlaufs</translation>
     </message>
     <message>
         <source>the names of the saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>die Namen der gespeicherten Einstellungen</translation>
     </message>
     <message>
         <source>the fonts that texts can be set in</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schriften, die für Texte zur Verfügung stehen</translation>
     </message>
     <message>
         <source>what a setting holds, layer by layer, in words</source>
-        <translation type="unfinished"></translation>
+        <translation>was eine Einstellung enthält, Ebene für Ebene, in Worten</translation>
     </message>
     <message>
         <source>an options file that says what the other options on the line say, to be kept for --options</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Optionsdatei, die sagt, was die anderen Optionen der Zeile sagen, zum Aufheben für --options</translation>
     </message>
     <message>
         <source>whether all is there that a run needs: exiftool, formats, fonts, folders, room, memory; exit status 1 when something is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>ob alles da ist, was ein Durchlauf braucht: exiftool, Formate, Schriften, Ordner, Platz, Arbeitsspeicher; Rückgabewert 1, wenn etwas fehlt</translation>
     </message>
     <message>
         <source>the arguments are JSON reports of the shards of one list: print one report, and exit as one run would</source>
-        <translation type="unfinished"></translation>
+        <translation>die Argumente sind JSON-Berichte der Teile einer Liste: einen Bericht ausgeben und enden, wie ein einziger Durchlauf es täte</translation>
     </message>
     <message>
         <source>the manual page (man), the completion for bash, zsh or fish, or all options in markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>die Handbuchseite (man), die Vervollständigung für bash, zsh oder fish oder alle Optionen als Markdown</translation>
     </message>
     <message>
         <source>this help</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Hilfe</translation>
     </message>
     <message>
         <source>the version</source>
-        <translation type="unfinished"></translation>
+        <translation>die Version</translation>
     </message>
     <message>
         <source>there is no options file “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Optionsdatei „%1“</translation>
     </message>
     <message>
         <source>“%1” names no output folder; name one with --output</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nennt keinen Ausgabeordner; bitte mit --output angeben</translation>
     </message>
     <message>
         <source>--combine-pdf needs --format pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>--combine-pdf verlangt --format pdf</translation>
     </message>
     <message>
         <source>a combined PDF is one document, which --shard cannot divide; leave one of them out</source>
-        <translation type="unfinished"></translation>
+        <translation>ein gemeinsames PDF ist ein einziges Dokument, das --shard nicht teilen kann; bitte eines von beiden weglassen</translation>
     </message>
     <message>
         <source>there is no copyright file “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Copyright-Datei „%1“</translation>
     </message>
     <message>
         <source>there is no photo or folder “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Foto und keinen Ordner „%1“</translation>
     </message>
     <message>
         <source>no photo was found; see --extensions and --recursive for what a folder scan takes, and name GIF files themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>es wurde kein Foto gefunden; --extensions und --recursive bestimmen, was aus Ordnern genommen wird; GIF-Dateien bitte einzeln nennen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of the photos would be replaced by their outputs, the first being “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln der Fotos würde durch seine Ausgabe ersetzt: „%1“; bitte ein anderes --output oder ein --rename wählen oder es mit --overwrite-originals erlauben</numerusform>
+            <numerusform>%Ln der Fotos würden durch ihre Ausgaben ersetzt, als erstes „%1“; bitte ein anderes --output oder ein --rename wählen oder es mit --overwrite-originals erlauben</numerusform>
         </translation>
     </message>
     <message>
         <source>the output folder “%1” cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ausgabeordner „%1“ kann nicht angelegt werden</translation>
     </message>
     <message numerus="yes">
         <source>%Ln written</source>
@@ -1376,84 +1378,87 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
     </message>
     <message numerus="yes">
         <source>%Ln not run</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nicht bearbeitet</numerusform>
+            <numerusform>%Ln nicht bearbeitet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln with a warning</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln mit Warnung</numerusform>
+            <numerusform>%Ln mit Warnung</numerusform>
         </translation>
     </message>
     <message>
         <source>Dry run: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Probelauf: Es wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>--watch cannot be given together with --%1</source>
-        <translation type="unfinished"></translation>
+        <translation>--watch verträgt sich nicht mit --%1</translation>
     </message>
     <message>
         <source>name the reports to merge</source>
-        <translation type="unfinished"></translation>
+        <translation>bitte die Berichte nennen, die zusammengeführt werden sollen</translation>
     </message>
     <message>
         <source>“%1” has no meaning here; leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat hier keine Bedeutung; bitte weglassen</translation>
     </message>
     <message>
         <source>name the watermark setting with --setting; --list-settings lists those that are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>bitte die Einstellung mit --setting nennen; --list-settings zählt die gespeicherten auf</translation>
     </message>
     <message>
         <source>name the photos or folders to watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>bitte die Fotos oder Ordner nennen, die Wasserzeichen bekommen sollen</translation>
     </message>
     <message>
         <source>name the output folder with --output</source>
-        <translation type="unfinished"></translation>
+        <translation>bitte den Ausgabeordner mit --output nennen</translation>
     </message>
     <message>
         <source>stamps the watermarks of a saved setting onto photos</source>
-        <translation type="unfinished"></translation>
+        <translation>versieht Fotos mit den Wasserzeichen einer gespeicherten Einstellung</translation>
     </message>
     <message>
         <source>the photos of a folder, with the saved setting “Holiday”</source>
-        <translation type="unfinished"></translation>
+        <translation>die Fotos eines Ordners, mit der gespeicherten Einstellung „Holiday“</translation>
     </message>
     <message>
         <source>smaller JPEG copies under new names, with a setting file</source>
-        <translation type="unfinished"></translation>
+        <translation>kleinere JPEG-Kopien unter neuen Namen, mit einer Einstellungsdatei</translation>
     </message>
     <message>
         <source>what a whole tree of folders would become, without writing anything</source>
-        <translation type="unfinished"></translation>
+        <translation>was aus einem ganzen Ordnerbaum würde, ohne etwas zu schreiben</translation>
     </message>
     <message>
         <source>one PDF, a page a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>ein PDF, je Foto eine Seite</translation>
     </message>
     <message>
         <source>every photo that is put into the folder “inbox”, until Ctrl+C</source>
-        <translation type="unfinished"></translation>
+        <translation>jedes Foto, das in den Ordner „inbox“ gelegt wird, bis Strg+C</translation>
     </message>
     <message>
         <source>the third of eight parts of one batch, each on a machine of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>der dritte von acht Teilen eines Durchlaufs, jeder auf einem eigenen Rechner</translation>
     </message>
     <message>
         <source>0: all photos were written; warnings do not change it.
 1: some photos failed, or repeated failures stopped the run; with --doctor: something is missing.
 2: the command line or a named file cannot be used, and nothing was written.
 130: interrupted. The photo in hand is finished first, and a second interrupt ends the program at once. This is how --watch ends, too. No file is ever left half-written.</source>
-        <translation type="unfinished"></translation>
+        <translation>0: Alle Fotos wurden geschrieben; Warnungen ändern daran nichts.
+1: Einige Fotos sind fehlgeschlagen, oder wiederholte Fehler haben den Durchlauf beendet; mit --doctor: etwas fehlt.
+2: Die Befehlszeile oder eine genannte Datei ist nicht verwendbar, und nichts wurde geschrieben.
+130: Unterbrochen. Das aktuelle Foto wird noch abgeschlossen, und eine zweite Unterbrechung beendet das Programm sofort. So endet auch --watch. Keine Datei bleibt je halb geschrieben zurück.</translation>
     </message>
     <message>
         <source>Environment</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgebungsvariablen</translation>
     </message>
     <message>
         <source>NO_COLOR, TERM: no colors where the first is set, and neither colors nor a progress bar where the second is “dumb” or missing, or where standard error is no terminal.
@@ -1461,21 +1466,27 @@ ZELTO_SHARD, SLURM_ARRAY_TASK_ID and its kin, JOB_COMPLETION_INDEX: what --shard
 XDG_DATA_HOME: where settings are kept, instead of ~/.local/share.
 TMPDIR: where temporary files go, instead of /tmp.
 ZELTO_EXIFTOOL: another exiftool program than the one that is found.</source>
-        <translation type="unfinished"></translation>
+        <translation>NO_COLOR, TERM: keine Farben, wenn die erste gesetzt ist, und weder Farben noch Fortschrittsbalken, wenn die zweite „dumb“ ist oder fehlt oder die Standardfehlerausgabe kein Terminal ist.
+ZELTO_SHARD, SLURM_ARRAY_TASK_ID und Verwandte, JOB_COMPLETION_INDEX: was --shard auto liest.
+XDG_DATA_HOME: wo Einstellungen liegen, statt in ~/.local/share.
+TMPDIR: wohin temporäre Dateien kommen, statt nach /tmp.
+ZELTO_EXIFTOOL: ein anderes exiftool als das gefundene.</translation>
     </message>
     <message>
         <source>~/.local/share/Zelto/Settings/*.zcs: the saved settings, a file each.
 ~/.local/share/Zelto/Copyright.xml: your copyright data.
 A run changes none of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>~/.local/share/Zelto/Settings/*.zcs: die gespeicherten Einstellungen, je eine Datei.
+~/.local/share/Zelto/Copyright.xml: die eigenen Copyright-Angaben.
+Ein Durchlauf ändert keine davon.</translation>
     </message>
     <message>
         <source>Without libraries for newer formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Bibliotheken für neuere Formate</translation>
     </message>
     <message>
         <source>With %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit %1</translation>
     </message>
     <message>
         <source>%1 photos/s, %2 left</source>
@@ -1483,180 +1494,180 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ok</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt</translation>
     </message>
     <message>
         <source>exiftool</source>
-        <translation type="unfinished"></translation>
+        <translation>exiftool</translation>
     </message>
     <message>
         <source>%1; photos would be written without their metadata. Install exiftool (Debian: libimage-exiftool-perl)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; Fotos würden ohne ihre Metadaten geschrieben. Bitte exiftool installieren (Debian: libimage-exiftool-perl)</translation>
     </message>
     <message>
         <source>previews in raw files</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschauen in Raw-Dateien</translation>
     </message>
     <message>
         <source>formats read</source>
-        <translation type="unfinished"></translation>
+        <translation>lesbare Formate</translation>
     </message>
     <message>
         <source>formats written</source>
-        <translation type="unfinished"></translation>
+        <translation>schreibbare Formate</translation>
     </message>
     <message>
         <source>%1; this machine has no encoder for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; für %2 hat dieser Rechner keinen Encoder</translation>
     </message>
     <message>
         <source>“%1” cannot be written to; choose another folder or mend its permissions</source>
-        <translation type="unfinished"></translation>
+        <translation>in „%1“ kann nicht geschrieben werden; bitte einen anderen Ordner wählen oder die Rechte anpassen</translation>
     </message>
     <message>
         <source>%1: only %2 are free; make room</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nur %2 sind frei; bitte Platz schaffen</translation>
     </message>
     <message>
         <source>%1, %2 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 frei</translation>
     </message>
     <message>
         <source>fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriften</translation>
     </message>
     <message numerus="yes">
         <source>%Ln families</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Familie</numerusform>
+            <numerusform>%Ln Familien</numerusform>
         </translation>
     </message>
     <message>
         <source>none is installed (Debian: fonts-dejavu)</source>
-        <translation type="unfinished"></translation>
+        <translation>keine installiert (Debian: fonts-dejavu)</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln gespeichert</numerusform>
+            <numerusform>%Ln gespeichert</numerusform>
         </translation>
     </message>
     <message>
         <source>temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>temporäre Dateien</translation>
     </message>
     <message>
         <source>output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsspeicher</translation>
     </message>
     <message>
         <source>%1, of which a run holds at most %2 in photos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, davon belegt ein Durchlauf höchstens %2 mit Fotos</translation>
     </message>
     <message>
         <source>jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>gleichzeitig</translation>
     </message>
     <message numerus="yes">
         <source>%Ln photos at a time</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Foto auf einmal</numerusform>
+            <numerusform>%Ln Fotos auf einmal</numerusform>
         </translation>
     </message>
     <message>
         <source>no setting is saved yet; settings are kept in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>noch ist keine Einstellung gespeichert; Einstellungen liegen in „%1“</translation>
     </message>
     <message>
         <source>the result could not be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ergebnis konnte nicht ausgegeben werden</translation>
     </message>
     <message>
         <source>try &apos;zelto-batch --help&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>siehe „zelto-batch --help“</translation>
     </message>
     <message>
         <source>“%1” is no report of a shard</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Bericht eines Teils</translation>
     </message>
     <message>
         <source>“%1” is no report of a shard: “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Bericht eines Teils: „%2“</translation>
     </message>
     <message>
         <source>shard %1 could not be run (“%2”): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil %1 konnte nicht ausgeführt werden („%2“): %3</translation>
     </message>
     <message>
         <source>“%1” tells of the photo with the index %2, which shard %3 does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ berichtet von dem Foto mit dem Index %2, das Teil %3 nicht hat</translation>
     </message>
     <message>
         <source>“%1” tells of the photo with the index %2 twice</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ berichtet zweimal von dem Foto mit dem Index %2</translation>
     </message>
     <message>
         <source>“%1” tells of %2 photos, but shard %3 has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ berichtet von %2 Fotos, aber Teil %3 hat %4</translation>
     </message>
     <message>
         <source>“%1” is shard %2 of %3 photos, and “%4” is shard %5 of %6: they are not of one list</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist Teil %2 von %3 Fotos, und „%4“ ist Teil %5 von %6: sie gehören nicht zu einer Liste</translation>
     </message>
     <message>
         <source>shard %1 is there twice: “%2” and “%3”</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil %1 ist zweimal da: „%2“ und „%3“</translation>
     </message>
     <message>
         <source>the reports of these shards are missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Berichte dieser Teile fehlen: %1</translation>
     </message>
     <message>
         <source>Stopped: 3 photos in a row failed. --on-repeated-failure continue goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet: 3 Fotos hintereinander sind fehlgeschlagen. Mit --on-repeated-failure continue geht es weiter.</translation>
     </message>
     <message>
         <source>Interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterbrochen.</translation>
     </message>
     <message>
         <source>The combined PDF was not finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gemeinsame PDF wurde nicht fertiggestellt.</translation>
     </message>
     <message>
         <source>%1: encoded as usual. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: wie gewohnt kodiert. %2</translation>
     </message>
     <message>
         <source>the combined PDF could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>das gemeinsame PDF konnte nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1” (none is saved yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Einstellung und keine Datei „%1“ (noch ist keine gespeichert)</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1” (saved are: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Einstellung und keine Datei „%1“ (gespeichert sind: %2)</translation>
     </message>
     <message>
         <source>there is no setting and no file “%1”; did you mean “%2”? (saved are: %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Einstellung und keine Datei „%1“; ist „%2“ gemeint? (gespeichert sind: %3)</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -1664,115 +1675,115 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>%1 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pixel</translation>
     </message>
     <message>
         <source>%1 % of the shorter side</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der kürzeren Seite</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>%1, %2 opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 deckend</translation>
     </message>
     <message>
         <source>of the photo&apos;s height</source>
-        <translation type="unfinished"></translation>
+        <translation>der Fotohöhe</translation>
     </message>
     <message>
         <source>of the photo&apos;s longer side</source>
-        <translation type="unfinished"></translation>
+        <translation>der längeren Fotoseite</translation>
     </message>
     <message>
         <source>of the photo&apos;s width</source>
-        <translation type="unfinished"></translation>
+        <translation>der Fotobreite</translation>
     </message>
     <message>
         <source>top left</source>
-        <translation type="unfinished"></translation>
+        <translation>oben links</translation>
     </message>
     <message>
         <source>top</source>
-        <translation type="unfinished"></translation>
+        <translation>oben</translation>
     </message>
     <message>
         <source>top right</source>
-        <translation type="unfinished"></translation>
+        <translation>oben rechts</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>unten links</translation>
     </message>
     <message>
         <source>bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>unten</translation>
     </message>
     <message>
         <source>bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>unten rechts</translation>
     </message>
     <message>
         <source>%1 from the left, %2 from the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von links, %2 von oben</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>left %1</source>
-        <translation type="unfinished"></translation>
+        <translation>links %1</translation>
     </message>
     <message>
         <source>top %1</source>
-        <translation type="unfinished"></translation>
+        <translation>oben %1</translation>
     </message>
     <message>
         <source>right %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts %1</translation>
     </message>
     <message>
         <source>bottom %1</source>
-        <translation type="unfinished"></translation>
+        <translation>unten %1</translation>
     </message>
     <message>
         <source>across, gaps of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>waagerecht, Abstände von %1</translation>
     </message>
     <message>
         <source>down, gaps of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>senkrecht, Abstände von %1</translation>
     </message>
     <message>
         <source>bold</source>
-        <translation type="unfinished"></translation>
+        <translation>fett</translation>
     </message>
     <message>
         <source>italic</source>
-        <translation type="unfinished"></translation>
+        <translation>kursiv</translation>
     </message>
     <message>
         <source>underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>unterstrichen</translation>
     </message>
     <message>
         <source>struck through</source>
-        <translation type="unfinished"></translation>
+        <translation>durchgestrichen</translation>
     </message>
     <message>
         <source>Font</source>
@@ -1784,7 +1795,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Shadow</source>
@@ -1796,43 +1807,43 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>embossed, faces left out</source>
-        <translation type="unfinished"></translation>
+        <translation>geprägt, Flächen ausgelassen</translation>
     </message>
     <message>
         <source>embossed</source>
-        <translation type="unfinished"></translation>
+        <translation>geprägt</translation>
     </message>
     <message>
         <source>its own</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene</translation>
     </message>
     <message>
         <source>%1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mal %2</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Kept in the setting</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Einstellung enthalten</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bytes</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen</translation>
     </message>
     <message>
         <source>grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1844,15 +1855,15 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 nach %2</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -1860,27 +1871,27 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Logo “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo „%1“</translation>
     </message>
     <message>
         <source>Text “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Text „%1“</translation>
     </message>
     <message>
         <source>QR code “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code „%1“</translation>
     </message>
     <message>
         <source>unknown kind %1, which draws nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannte Art %1, die nichts zeichnet</translation>
     </message>
     <message>
         <source>Own name</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Name</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1888,35 +1899,35 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Margins</source>
-        <translation type="unfinished"></translation>
+        <translation>Randabstände</translation>
     </message>
     <message>
         <source>Turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedreht</translation>
     </message>
     <message>
         <source>%1° clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>%1° im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Tiled</source>
-        <translation type="unfinished"></translation>
+        <translation>Gekachelt</translation>
     </message>
     <message>
         <source>%1 (switched off)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ausgeschaltet)</translation>
     </message>
     <message>
         <source>%1 on all sides, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf allen Seiten, %2</translation>
     </message>
     <message>
         <source>top %1, left %2, right %3, bottom %4, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>oben %1, links %2, rechts %3, unten %4, %5</translation>
     </message>
     <message>
         <source>%1; watermarks may cover it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; Wasserzeichen dürfen ihn überdecken</translation>
     </message>
     <message>
         <source>Border</source>
@@ -1924,7 +1935,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>blur %1, distance %2, direction %3°, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnung %1, Abstand %2, Richtung %3°, %4</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1932,75 +1943,75 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>your copyright data go into the outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>die eigenen Copyright-Angaben kommen in die Ausgaben</translation>
     </message>
     <message>
         <source>Setting “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung „%1“</translation>
     </message>
     <message>
         <source>takes I/N with I from 0 to N - 1, such as 0/4, not “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>verlangt I/N mit I von 0 bis N - 1, etwa 0/4, nicht „%1“</translation>
     </message>
     <message>
         <source>auto found neither ZELTO_SHARD nor a Slurm array; set ZELTO_SHARD to I/N</source>
-        <translation type="unfinished"></translation>
+        <translation>auto fand weder ZELTO_SHARD noch ein Slurm-Array; bitte ZELTO_SHARD auf I/N setzen</translation>
     </message>
     <message>
         <source>%1 needs JOB_COMPLETION_INDEX, as an indexed Kubernetes Job sets it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht JOB_COMPLETION_INDEX, wie ein indizierter Kubernetes-Job es setzt</translation>
     </message>
     <message>
         <source>watching %1; Ctrl+C ends it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird überwacht; Strg+C beendet es</translation>
     </message>
     <message>
         <source>its output “%1” would replace the photo itself</source>
-        <translation type="unfinished"></translation>
+        <translation>die Ausgabe „%1“ würde das Foto selbst ersetzen</translation>
     </message>
     <message>
         <source>was taken away before its turn; nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>wurde vor der Bearbeitung weggenommen; es wurde nichts geschrieben</translation>
     </message>
     <message>
         <source>will be tried again until it can be written</source>
-        <translation type="unfinished"></translation>
+        <translation>wird erneut versucht, bis es geschrieben werden kann</translation>
     </message>
     <message>
         <source>a combined PDF would never be finished by --watch; leave one of them out</source>
-        <translation type="unfinished"></translation>
+        <translation>ein gemeinsames PDF würde mit --watch nie fertig; bitte eines von beiden weglassen</translation>
     </message>
     <message>
         <source>the numbers of --rename begin again whenever --watch is started; say with --existing what becomes of outputs that stand there: number, skip, fail or replace</source>
-        <translation type="unfinished"></translation>
+        <translation>die Nummern von --rename beginnen bei jedem Start von --watch neu; bitte mit --existing sagen, was mit vorhandenen Ausgaben geschieht: number, skip, fail oder replace</translation>
     </message>
     <message>
         <source>--watch takes folders, and “%1” is none</source>
-        <translation type="unfinished"></translation>
+        <translation>--watch verlangt Ordner, und „%1“ ist keiner</translation>
     </message>
     <message>
         <source>outputs in the watched folder “%1” would be marked again and again; choose another --output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgaben im überwachten Ordner „%1“ bekämen immer wieder Wasserzeichen; bitte ein anderes --output wählen</translation>
     </message>
     <message>
         <source>with --keep-structure, outputs in “%1” could get into the watched folder “%2” and be marked again; choose another --output</source>
-        <translation type="unfinished"></translation>
+        <translation>mit --keep-structure könnten Ausgaben in „%1“ in den überwachten Ordner „%2“ geraten und erneut Wasserzeichen bekommen; bitte ein anderes --output wählen</translation>
     </message>
     <message>
         <source>there is no option “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Option „%1“</translation>
     </message>
     <message>
         <source>there is no option “%1”; did you mean “%2”?</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Option „%1“; ist „%2“ gemeint?</translation>
     </message>
     <message>
         <source>Examples:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiele:</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: %1</translation>
     </message>
 </context>
 <context>

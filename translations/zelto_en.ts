@@ -47,9 +47,9 @@
     </message>
     <message numerus="yes">
         <source>%Ln of the photos would be replaced by their outputs, the first being “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln of the photos would be replaced by its output, “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</numerusform>
+            <numerusform>%Ln of the photos would be replaced by their outputs, the first being “%1”; choose another --output or a --rename, or allow it with --overwrite-originals</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -68,37 +68,37 @@
     </message>
     <message numerus="yes">
         <source>%Ln not run</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln not run</numerusform>
+            <numerusform>%Ln not run</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln with a warning</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln with a warning</numerusform>
+            <numerusform>%Ln with a warning</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln families</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln family</numerusform>
+            <numerusform>%Ln families</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln saved</numerusform>
+            <numerusform>%Ln saved</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln photos at a time</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln photo at a time</numerusform>
+            <numerusform>%Ln photos at a time</numerusform>
         </translation>
     </message>
 </context>
