@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/run_pace.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace zelto {
@@ -25,7 +27,7 @@ std::optional<RunPace::Figures> RunPace::figures(Clock::time_point now) const {
 }
 
 QString RunPace::Figures::rate() const {
-    return QString::number(photosPerSecond, 'f', photosPerSecond < 10.0 ? 1 : 0);
+    return QLocale().toString(photosPerSecond, 'f', photosPerSecond < 10.0 ? 1 : 0);
 }
 
 QString RunPace::Figures::timeLeft() const {

@@ -6,6 +6,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <QVariant>
 
 // Resources of a static library register themselves only when they are asked to, outside any namespace.
 static void registerTranslations() {
@@ -16,6 +17,7 @@ namespace zelto {
 namespace {
 
 constexpr QLatin1String SourceLanguage("en");
+constexpr const char* LanguageProperty = "spokenLanguage";  // of the application object
 
 QString translationFile(const QString& language) {
     static const bool registered = (registerTranslations(), true);
@@ -39,6 +41,11 @@ bool isPlainLocale() {
 
 }  // namespace
 
+QString spokenLanguage() {
+    const QVariant spoken = qApp->property(LanguageProperty);
+    return spoken.isValid() ? spoken.toString() : QString(SourceLanguage);
+}
+
 QString languageFor(const QStringList& wanted) {
     for (const QString& name : wanted) {
         const QString language = name.section(u'-', 0, 0).section(u'_', 0, 0).toLower();
@@ -55,6 +62,7 @@ void speakLanguage(const QString& language) {
     install(QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
             QStringLiteral("/qtbase_%1.qm").arg(language));
     install(translationFile(language));
+    qApp->setProperty(LanguageProperty, language);
     // A program that only prints has no layout, and none of the object that keeps its direction.
     if (qobject_cast<QGuiApplication*>(qApp) != nullptr)
         QGuiApplication::setLayoutDirection(QLocale(language).textDirection());

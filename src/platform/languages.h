@@ -16,6 +16,9 @@ QString languageFor(const QStringList& wanted);
 // already said or shown stays.
 void speakLanguage(const QString& language);
 
+// The language spoken now, as such a code.
+QString spokenLanguage();
+
 // Speaks the language that the environment asks for, as gettext reads it: LANGUAGE, LC_ALL, LC_MESSAGES, LANG, and
 // English in the locale C.
 void speakUsersLanguage();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/contact_view.h"
 
+#include "app/common/hearing.h"
 #include "app/common/in_background.h"
 #include "app/preview/contact_choice.h"
 #include "app/preview/preview_paint.h"
@@ -32,6 +33,7 @@ ContactView::ContactView(std::function<PhotoRequest(int)> requestFor, QWidget* p
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(100, 80);
     setAccessibleName(tr("Contact view"));
+    setAccessibleRole(*this, QAccessible::Canvas);
     const auto cellOf = [this](int place) -> Cell* {
         const auto index = static_cast<std::size_t>(place);
         return index < cells_.size() ? &cells_[index] : nullptr;

@@ -2,6 +2,7 @@
 #include "app/preview/preview_view.h"
 
 #include "app/common/check_mark.h"
+#include "app/common/hearing.h"
 #include "app/preview/preview_paint.h"
 #include "render/hand_edits.h"
 #include "render/scene_geometry.h"

@@ -3,6 +3,7 @@
 
 #include "app/common/window_resources.h"
 #include "persistence/settings_library.h"
+#include "platform/languages.h"
 #include "platform/preferences.h"
 #include "platform/words.h"
 
@@ -23,9 +24,10 @@ Q_LOGGING_CATEGORY(startUp, "zelto.start")
 constexpr MarkedText LoadErrorTitle(QT_TRANSLATE_NOOP("Words", "Setting Load Error"));
 constexpr int StatusMilliseconds = 15000;  // that a line stays in the status bar
 
-// The tips that ship with the program; none where they are missing.
+// The tips that ship with the program, in the language it speaks; none where they are missing.
 QByteArray tipsDocument() {
-    QFile file(windowResource(QStringLiteral("Tips.xml")));
+    QFile file(windowResource(QStringLiteral("Tips_%1.xml").arg(spokenLanguage())));
+    if (!file.exists()) file.setFileName(windowResource(QStringLiteral("Tips.xml")));
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 

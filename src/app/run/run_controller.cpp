@@ -175,8 +175,9 @@ void RunController::PauseOrResumeProcessingAction() {
     window_.processing().setPaused(pauses);
     if (!pauses) {
         workerStarts();
+        window_.processing().tell(tr("Going on"));
     } else if (!isStopped) {
-        window_.processing().setPace(tr("Pausing"));
+        window_.processing().tell(tr("Pausing"));
     }
 }
 
@@ -190,6 +191,7 @@ void RunController::resumeStopped() {
 }
 
 void RunController::CancelProcessingAction() {
+    window_.processing().tell(tr("Cancelled"));
     window_.HideProcessingControls();
     run_.CancelProcessingAction();
     window_.processing().setPaused(false);
@@ -289,9 +291,9 @@ void RunController::ended(const RunReport& report) {
     if (report.end == RunEnd::Cancelled) return;
     if (report.end != RunEnd::Paused) stopFollowing();
     if (report.end == RunEnd::Paused && run_.state() == BatchRun::State::Paused) {
-        window_.processing().setPace(tr("Paused"));
+        window_.processing().tell(tr("Paused"));
     } else if (report.end == RunEnd::Stopped) {
-        window_.processing().setPace(tr("Stopped"));
+        window_.processing().tell(tr("Stopped"));
         window_.EnableControls();
     } else if (report.end == RunEnd::Finished) {
         const QString reason = std::exchange(pdfFailure_, {});

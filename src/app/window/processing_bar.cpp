@@ -2,6 +2,7 @@
 #include "app/window/processing_bar.h"
 
 #include "app/common/elided_label.h"
+#include "app/common/hearing.h"
 #include "app/common/icons.h"
 
 #include <QHBoxLayout>
@@ -35,6 +36,7 @@ void ProcessingBar::begin(int rows) {
     setProgress(0);
     setPhoto({});
     setPace({});
+    announce(*this, tr("The run has begun: %Ln photo(s)", nullptr, rows));
 }
 
 void ProcessingBar::setProgress(int done) {
@@ -47,6 +49,11 @@ void ProcessingBar::setPhoto(const QString& name) {
 
 void ProcessingBar::setPace(const QString& pace) {
     pace_->setText(pace);
+}
+
+void ProcessingBar::tell(const QString& state) {
+    setPace(state);
+    announce(*this, state);
 }
 
 void ProcessingBar::setPaused(bool paused) {

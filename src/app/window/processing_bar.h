@@ -23,8 +23,10 @@ class ProcessingBar : public QWidget {
     void setProgress(int done);
     // The photo in hand; shortened where there is no room for its name.
     void setPhoto(const QString& name);
-    // How fast it goes, or why it does not.
+    // How fast it goes.
     void setPace(const QString& pace);
+    // Why it does not go on, or that it does again; users who hear the window hear it.
+    void tell(const QString& state);
     // Whether the first button resumes a paused run or pauses a running one.
     void setPaused(bool paused);
 

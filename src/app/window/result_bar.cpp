@@ -2,9 +2,9 @@
 #include "app/window/result_bar.h"
 
 #include "app/common/elided_label.h"
+#include "app/common/hearing.h"
 #include "app/common/icons.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -46,7 +46,6 @@ ResultBar::ResultBar(QWidget* parent)
     connect(open_, &QPushButton::clicked, this, &ResultBar::openResults);
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     connect(escape, &QShortcut::activated, this, &QWidget::hide);
-    setAccessibleName(tr("Result of the run"));
     hide();
 }
 
@@ -63,8 +62,7 @@ void ResultBar::tell(const RunResult& result) {
     open_->setVisible(!result.open.isEmpty());
     setAccessibleDescription(result.message + QStringLiteral("\n\n") + result.counts);
     show();
-    QAccessibleEvent told(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&told);
+    announce(*this, tr("Result of the run: %1").arg(result.counts));
 }
 
 }  // namespace zelto

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/color_panel.h"
 
+#include "app/common/hearing.h"
 #include "app/common/icons.h"
 #include "app/editors/controls/number_field.h"
 #include "platform/preferences.h"
@@ -116,6 +117,7 @@ class ColorField : public QWidget {
     ColorField(std::function<void(double saturation, double value)> choose, QWidget* parent)
         : QWidget(parent), choose_(std::move(choose)) {
         setAccessibleName(ColorPanel::tr("Shade"));
+        setAccessibleRole(*this, QAccessible::ColorChooser);
         setFixedHeight(96);
         setFocusPolicy(Qt::StrongFocus);
         setCursor(Qt::CrossCursor);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/logo_sample.h"
 
+#include "app/common/hearing.h"
 #include "app/common/in_background.h"
 #include "pictures/picture_reader.h"
 #include "render/qt_color.h"
@@ -35,6 +36,7 @@ LogoSample::LogoSample(QWidget* parent) : QWidget(parent) {
     setMinimumSize(160, 110);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Logo"));
+    setAccessibleRole(*this, QAccessible::Graphic);
 }
 
 void LogoSample::load(const Watermark& record) {

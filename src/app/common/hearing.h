@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// For users who hear the window instead of seeing it. Main thread only.
+#pragma once
+
+#include <QAccessible>
+#include <QString>
+
+class QWidget;
+
+namespace zelto {
+
+// What a widget that paints itself is; of its own widgets Qt knows.
+void setAccessibleRole(QWidget& widget, QAccessible::Role role);
+
+// Has `text` told at once, as the new name of `widget`.
+void announce(QWidget& widget, const QString& text);
+
+}  // namespace zelto
