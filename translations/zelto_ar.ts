@@ -2069,6 +2069,10 @@ A run changes none of them.</source>
         <source>Usage: %1</source>
         <translation>الاستخدام: %1</translation>
     </message>
+    <message>
+        <source>open a window of its own; otherwise the window that is open already takes the photos, folders and setting</source>
+        <translation>فتح نافذة مستقلة؛ وإلا تستقبل النافذة المفتوحة مسبقًا الصور والمجلدات والإعداد</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -2641,6 +2645,41 @@ A run changes none of them.</source>
     </message>
 </context>
 <context>
+    <name>zelto::GuideWindow</name>
+    <message>
+        <source>Zelto Guide</source>
+        <translation>دليل Zelto</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>صفحة الدليل</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;رجوع</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;تقدّم</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>ال&amp;محتويات</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>الدليل</translation>
+    </message>
+    <message>
+        <source>The guide is not installed: there is no folder “%1”.</source>
+        <translation>الدليل غير مثبّت: لا يوجد مجلد «%1».</translation>
+    </message>
+</context>
+<context>
     <name>zelto::ImageListController</name>
     <message numerus="yes">
         <source>Add %Ln Photo(s)</source>
@@ -2981,6 +3020,10 @@ A run changes none of them.</source>
     <message>
         <source>%1 %</source>
         <translation>%1 ٪</translation>
+    </message>
+    <message>
+        <source>What was opened from outside comes in as soon as the window is free.</source>
+        <translation>ما فُتح من الخارج يدخل حالما تفرغ النافذة.</translation>
     </message>
 </context>
 <context>
@@ -3420,6 +3463,17 @@ A run changes none of them.</source>
         <source>Pause</source>
         <translation>إيقاف مؤقت</translation>
     </message>
+    <message numerus="yes">
+        <source>The run has begun: %Ln photo(s)</source>
+        <translation>
+            <numerusform>بدأ التشغيل: لا صور</numerusform>
+            <numerusform>بدأ التشغيل: صورة واحدة</numerusform>
+            <numerusform>بدأ التشغيل: صورتان</numerusform>
+            <numerusform>بدأ التشغيل: %Ln صور</numerusform>
+            <numerusform>بدأ التشغيل: %Ln صورة</numerusform>
+            <numerusform>بدأ التشغيل: %Ln صورة</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>zelto::QrCodeEditor</name>
@@ -3611,8 +3665,8 @@ A run changes none of them.</source>
         <translation>إغلاق الملخص</translation>
     </message>
     <message>
-        <source>Result of the run</source>
-        <translation>نتيجة التشغيل</translation>
+        <source>Result of the run: %1</source>
+        <translation>نتيجة التشغيل: %1</translation>
     </message>
 </context>
 <context>
@@ -3756,6 +3810,14 @@ A run changes none of them.</source>
     <message>
         <source>Open Fol&amp;der</source>
         <translation>فتح الم&amp;جلد</translation>
+    </message>
+    <message>
+        <source>Going on</source>
+        <translation>استُؤنف التشغيل</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>أُلغي</translation>
     </message>
 </context>
 <context>
@@ -4676,6 +4738,10 @@ Click for the saved stacks (%2)</source>
     <message>
         <source>&amp;About Zelto</source>
         <translation>&amp;حول Zelto</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>ال&amp;دليل</translation>
     </message>
 </context>
 <context>

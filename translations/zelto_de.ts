@@ -2013,6 +2013,10 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>Usage: %1</source>
         <translation>Aufruf: %1</translation>
     </message>
+    <message>
+        <source>open a window of its own; otherwise the window that is open already takes the photos, folders and setting</source>
+        <translation>ein eigenes Fenster öffnen; sonst übernimmt das schon offene Fenster Fotos, Ordner und Einstellung</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -2581,6 +2585,41 @@ Ein Durchlauf ändert keine davon.</translation>
     </message>
 </context>
 <context>
+    <name>zelto::GuideWindow</name>
+    <message>
+        <source>Zelto Guide</source>
+        <translation>Zelto-Anleitung</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>Seite der Anleitung</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vorwärts</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>The guide is not installed: there is no folder “%1”.</source>
+        <translation>Die Anleitung ist nicht installiert: Es gibt keinen Ordner „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>zelto::ImageListController</name>
     <message numerus="yes">
         <source>Add %Ln Photo(s)</source>
@@ -2897,6 +2936,10 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>What was opened from outside comes in as soon as the window is free.</source>
+        <translation>Was von außen geöffnet wurde, kommt herein, sobald das Fenster frei ist.</translation>
     </message>
 </context>
 <context>
@@ -3336,6 +3379,13 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>Pause</source>
         <translation>Anhalten</translation>
     </message>
+    <message numerus="yes">
+        <source>The run has begun: %Ln photo(s)</source>
+        <translation>
+            <numerusform>Der Durchlauf hat begonnen: %Ln Foto</numerusform>
+            <numerusform>Der Durchlauf hat begonnen: %Ln Fotos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>zelto::QrCodeEditor</name>
@@ -3527,8 +3577,8 @@ Ein Durchlauf ändert keine davon.</translation>
         <translation>Zusammenfassung schließen</translation>
     </message>
     <message>
-        <source>Result of the run</source>
-        <translation>Ergebnis des Durchlaufs</translation>
+        <source>Result of the run: %1</source>
+        <translation>Ergebnis des Durchlaufs: %1</translation>
     </message>
 </context>
 <context>
@@ -3660,6 +3710,14 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>Open Fol&amp;der</source>
         <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Going on</source>
+        <translation>Es geht weiter</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -4572,6 +4630,10 @@ Klick zeigt die gespeicherten Stapel (%2)</translation>
     <message>
         <source>&amp;About Zelto</source>
         <translation>Ü&amp;ber Zelto</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
     </message>
 </context>
 <context>

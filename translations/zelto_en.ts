@@ -164,6 +164,16 @@
     </message>
 </context>
 <context>
+    <name>zelto::ProcessingBar</name>
+    <message numerus="yes">
+        <source>The run has begun: %Ln photo(s)</source>
+        <translation>
+            <numerusform>The run has begun: %Ln photo</numerusform>
+            <numerusform>The run has begun: %Ln photos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>zelto::RunController</name>
     <message numerus="yes">
         <source>%Ln written</source>
