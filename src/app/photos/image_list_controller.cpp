@@ -181,6 +181,7 @@ void ImageListController::findPhotos(const QString& name) {
 }
 
 void ImageListController::showAllPhotos() {
+    if (showsAllPhotos()) return;
     filter_ = PhotoFilter::All;
     soughtName_.clear();
     refilter();

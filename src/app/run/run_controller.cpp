@@ -129,9 +129,10 @@ void RunController::launch(const Plan& plan) {
     plan_ = plan;
     done_ = 0;
     photoInHand_ = 0;
-    std::vector<RowOutcome> begun;
+    std::vector<RowOutcome> begun;  // rows that have an outcome from before
     for (std::size_t row = 0; row < plan_->request.photos.size(); ++row) {
-        if (!plan_->request.photos[row].isElsewhere)
+        const bool isFresh = window_.photos().images()[row].Status == PhotoStatus::NotProcessed;
+        if (!plan_->request.photos[row].isElsewhere && !isFresh)
             begun.push_back({static_cast<int>(row), PhotoStatus::NotProcessed, {}});
     }
     window_.photos().model().setOutcomes(begun);
