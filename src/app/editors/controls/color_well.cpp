@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QPainter>
+#include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -68,6 +70,14 @@ void putBelow(QWidget& anchor, QWidget* panel) {
     }
 }
 
+// Scrolls the page that the widget stands on.
+void bringIntoView(QWidget& widget) {
+    constexpr int Margin = 8;
+    for (QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(&widget, 0, Margin);
+    }
+}
+
 }  // namespace
 
 ColorWell::ColorWell(const QString& title, QWidget* parent) : QToolButton(parent) {
@@ -112,6 +122,8 @@ void ColorWell::openPanel(bool open) {
         panel_->load(color_ ? toQColor(*color_) : QColor(Qt::white));
     }
     if (panel_ != nullptr) panel_->setVisible(open);
+    // Once the page has made room for it.
+    if (open) QTimer::singleShot(0, panel_, [panel = panel_] { bringIntoView(*panel); });
 }
 
 // A colour that counts no longer is not to be chosen.
