@@ -49,10 +49,10 @@ constexpr std::array Formats = {
     FormatEntry{PictureFormat::Bmp, "BMP", AnySide, FourGigabytes, 3, encodeBmp, always},
     FormatEntry{PictureFormat::Gif, "GIF", 65535, NoLimit, 1, encodeGif, always},
     FormatEntry{PictureFormat::Pdf, "PDF", 65500, NoLimit, 3, encodePdf, always},
-    FormatEntry{PictureFormat::Webp, "WebP", 16383, NoLimit, 4, encodeWebp, hasWebp, true, 20},
+    FormatEntry{PictureFormat::Webp, "WebP", 16383, NoLimit, 4, encodeWebp, hasWebp, true, 26},
     FormatEntry{PictureFormat::Avif, "AVIF", 65536, NoLimit, 4, encodeAvif, canEncodeAvif, true, 22},
     FormatEntry{PictureFormat::Heic, "HEIC", 16384, NoLimit, 4, encodeHeic, canEncodeHeic, true, 22},
-    FormatEntry{PictureFormat::Jxl, "JPEG XL", AnySide, NoLimit, 4, encodeJxl, hasJxl, true, 64},
+    FormatEntry{PictureFormat::Jxl, "JPEG XL", AnySide, NoLimit, 4, encodeJxl, hasJxl, true, 66},
 };
 
 struct ExtensionEntry {
