@@ -438,10 +438,6 @@
         <translation>مرشّح - %1</translation>
     </message>
     <message>
-        <source>Paste Error</source>
-        <translation>خطأ في اللصق</translation>
-    </message>
-    <message>
         <source>There are neither watermarks nor photos on the clipboard.</source>
         <translation>لا توجد في الحافظة علامات مائية ولا صور.</translation>
     </message>
@@ -2073,6 +2069,10 @@ A run changes none of them.</source>
         <source>open a window of its own; otherwise the window that is open already takes the photos, folders and setting</source>
         <translation>فتح نافذة مستقلة؛ وإلا تستقبل النافذة المفتوحة مسبقًا الصور والمجلدات والإعداد</translation>
     </message>
+    <message>
+        <source>Paste Error</source>
+        <translation>خطأ في اللصق</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -3046,6 +3046,30 @@ A run changes none of them.</source>
     <message>
         <source>Set &amp;as Default</source>
         <translation>تعيين ا&amp;فتراضيًا</translation>
+    </message>
+    <message>
+        <source>Create the Folder?</source>
+        <translation>هل تريد إنشاء المجلد؟</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1” yet.</source>
+        <translation>لا يوجد مجلد باسم «%1» بعد.</translation>
+    </message>
+    <message>
+        <source>&amp;Create Folder</source>
+        <translation>&amp;إنشاء المجلد</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Folder Not Created</source>
+        <translation>لم يُنشأ المجلد</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be created.</source>
+        <translation>يتعذّر إنشاء «%1».</translation>
     </message>
 </context>
 <context>

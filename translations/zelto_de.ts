@@ -414,10 +414,6 @@
         <translation>Filter – %1</translation>
     </message>
     <message>
-        <source>Paste Error</source>
-        <translation>Einfügen nicht möglich</translation>
-    </message>
-    <message>
         <source>There are neither watermarks nor photos on the clipboard.</source>
         <translation>In der Zwischenablage sind weder Wasserzeichen noch Fotos.</translation>
     </message>
@@ -2017,6 +2013,10 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>open a window of its own; otherwise the window that is open already takes the photos, folders and setting</source>
         <translation>ein eigenes Fenster öffnen; sonst übernimmt das schon offene Fenster Fotos, Ordner und Einstellung</translation>
     </message>
+    <message>
+        <source>Paste Error</source>
+        <translation>Einfügen nicht möglich</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -2962,6 +2962,30 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>Set &amp;as Default</source>
         <translation>&amp;Als Standard festlegen</translation>
+    </message>
+    <message>
+        <source>Create the Folder?</source>
+        <translation>Ordner anlegen?</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1” yet.</source>
+        <translation>Den Ordner „%1“ gibt es noch nicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Create Folder</source>
+        <translation>Ordner &amp;anlegen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Folder Not Created</source>
+        <translation>Ordner nicht angelegt</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be created.</source>
+        <translation>„%1“ kann nicht angelegt werden.</translation>
     </message>
 </context>
 <context>

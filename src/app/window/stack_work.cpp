@@ -26,10 +26,6 @@
 namespace zelto {
 namespace {
 
-QString tr(const char* text) {
-    return WatermarkController::tr(text);
-}
-
 // What watermarks may take of the photo on show; empty without one.
 QSizeF areaOf(const PreviewView& preview) {
     return preview.shown() ? QSizeF(preview.shown()->scene.referenceRect.size()) : QSizeF();
@@ -42,7 +38,7 @@ void paste(const StackParts& parts) {
     if (data == nullptr) return;
     if (holdsWatermarks(*data)) {
         const Result<void> pasted = parts.watermarks.paste(*data, areaOf(parts.preview));
-        if (!pasted) showAlert(&parts.window, tr("Paste Error"), pasted.error().message);
+        if (!pasted) showAlert(&parts.window, Words::tr("Paste Error"), pasted.error().message);
     } else if (!parts.addPhotos(*data)) {
         parts.tell(Words::tr("There are neither watermarks nor photos on the clipboard."));
     }
