@@ -3088,7 +3088,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>JPEG &amp;quality:</source>
-        <translation>&amp;جودة JPEG:</translation>
+        <translation>جو&amp;دة JPEG:</translation>
     </message>
     <message>
         <source>&amp;Combine to a single PDF</source>
@@ -3112,7 +3112,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>Meta&amp;data:</source>
-        <translation>ال&amp;بيانات الوصفية:</translation>
+        <translation>البيانات الوصف&amp;ية:</translation>
     </message>
     <message>
         <source>Same as source image</source>
@@ -3144,7 +3144,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>&amp;Quality:</source>
-        <translation>ال&amp;جودة:</translation>
+        <translation>الجو&amp;دة:</translation>
     </message>
     <message>
         <source>Files of this format have no metadata.</source>
@@ -3643,11 +3643,11 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>&amp;Keep the proportions</source>
-        <translation>الحفاظ على التنا&amp;سب</translation>
+        <translation>الحفا&amp;ظ على التناسب</translation>
     </message>
     <message>
         <source>Do not &amp;enlarge small photos</source>
-        <translation>عدم تكبير الصور الص&amp;غيرة</translation>
+        <translation>عدم تكبير ال&amp;صور الصغيرة</translation>
     </message>
     <message>
         <source>&amp;Percentage</source>
@@ -4565,7 +4565,7 @@ Click for the saved stacks (%2)</source>
     </message>
     <message>
         <source>Save Setting &amp;As...</source>
-        <translation>حفظ الإعداد &amp;باسم...</translation>
+        <translation>حف&amp;ظ الإعداد باسم...</translation>
     </message>
     <message>
         <source>&amp;Load at Start</source>
@@ -4573,7 +4573,7 @@ Click for the saved stacks (%2)</source>
     </message>
     <message>
         <source>Saved Stac&amp;ks</source>
-        <translation>المجموعات الم&amp;حفوظة</translation>
+        <translation>الم&amp;جموعات المحفوظة</translation>
     </message>
     <message>
         <source>Saved Se&amp;ttings...</source>
@@ -4645,7 +4645,7 @@ Click for the saved stacks (%2)</source>
     </message>
     <message>
         <source>&amp;Sort by Name</source>
-        <translation>ترتيب حسب الا&amp;سم</translation>
+        <translation>ت&amp;رتيب حسب الاسم</translation>
     </message>
     <message>
         <source>Sort by &amp;Date Taken</source>

@@ -38,6 +38,7 @@ PreviewView::PreviewView(QWidget* parent) : QAbstractScrollArea(parent) {
     viewport()->grabGesture(Qt::PinchGesture);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Preview"));
+    setAccessibleRole(*this, QAccessible::Canvas);
     setMinimumSize(100, 80);
 }
 
