@@ -120,7 +120,6 @@ void Inspector::layOut() {
     hint->setWordWrap(true);
     hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     hint->setContentsMargins(10, 0, 10, 10);
-    hint->setForegroundRole(QPalette::PlaceholderText);
     stack_->addWidget(hint);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -43,7 +43,6 @@ StackHead::StackHead(StackKeeper& keeper, WindowActions& actions, QWidget* paren
 
     auto* order = new QLabel(tr("Drawn from top to bottom"), this);
     order->setObjectName(QStringLiteral("DrawingOrder"));
-    order->setForegroundRole(QPalette::PlaceholderText);
     QFont small = order->font();
     small.setPointSizeF(small.pointSizeF() * 0.9);
     order->setFont(small);

@@ -16,7 +16,6 @@ LengthBox::LengthBox(const NumberKind& pixels, const QString& name, QWidget* par
     QFont small = note_->font();
     small.setPointSizeF(small.pointSizeF() * 0.9);
     note_->setFont(small);
-    note_->setForegroundRole(QPalette::PlaceholderText);
     note_->setToolTip(tr("On the selected photo"));
     note_->hide();
     setFocusProxy(number_);

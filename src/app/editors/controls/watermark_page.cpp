@@ -82,6 +82,9 @@ void addRow(QFormLayout& form, const QString& label, QWidget* control) {
     if (!control->accessibleName().isEmpty()) return;
     QString name = label;
     control->setAccessibleName(name.remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    // Where the keys go to a part of it, that part is what is told.
+    if (QWidget* part = control->focusProxy(); part != nullptr && part->accessibleName().isEmpty())
+        part->setAccessibleName(control->accessibleName());
 }
 
 }  // namespace zelto
