@@ -115,8 +115,8 @@ void NextPhoto(benchmark::State& state) {
 }
 BENCHMARK(NextPhoto)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
 
-// A photo that is selected while one of 150 megapixels is being loaded; "toHuge" is the time it takes in units of loading
-// that one.
+// A photo that is selected while one of 150 megapixels is being loaded; "toHuge" is the time it takes in units of
+// loading that one.
 void PhotoAfterAHugeOne(benchmark::State& state) {
     constexpr QSize HugeSize(15000, 10000);
     double shown = 0.0;

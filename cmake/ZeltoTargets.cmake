@@ -21,9 +21,9 @@ if(ZELTO_SANITIZE)
 endif()
 
 # What nearly every source file includes, compiled once for all libraries. The preset "tsan" does without precompiled
-# headers, so that a file that relies on another's includes does not go unnoticed. The presets that are built whole rather
-# than again and again ("release", "ci", "bench", "asan") also compile all sources of a room at once (CMAKE_UNITY_BUILD), in
-# a quarter of the time: names in the unnamed namespaces of a room must differ.
+# headers, so that a file that relies on another's includes does not go unnoticed. The presets that are built whole
+# rather than again and again ("release", "ci", "bench", "asan") also compile all sources of a room at once
+# (CMAKE_UNITY_BUILD), in a quarter of the time: names in the unnamed namespaces of a room must differ.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 
 # zelto_unite_folders(TARGET SOURCE...): with CMAKE_UNITY_BUILD, what is compiled at once are the sources of one folder,
@@ -74,9 +74,9 @@ function(zelto_add_tests name)
     PROPERTIES TIMEOUT 300)
 endfunction()
 
-# zelto_add_manual(PROGRAM): the manual page of a program and its completions, made by the program itself at build time, in
-# share/ of the build folder as they are installed below a prefix's share/. What libraries leak is no reason for a build
-# with sanitizers to fail.
+# zelto_add_manual(PROGRAM): the manual page of a program and its completions, made by the program itself at build time,
+# in share/ of the build folder as they are installed below a prefix's share/. What libraries leak is no reason for a
+# build with sanitizers to fail.
 function(zelto_add_manual program)
   set(share "${CMAKE_BINARY_DIR}/share")
   set(outputs)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How far a JPEG photo has come from another one: compare-photos FIRST SECOND WANTED. Prints the PSNR of all three colours
-// in dB and the mean SSIM of luma over windows of 8 x 8 pixels between SECOND and the picture WANTED, and the share of
-// blocks that have the same coefficients in FIRST and SECOND, 0 where size or sampling differ.
+// How far a JPEG photo has come from another one: compare-photos FIRST SECOND WANTED. Prints the PSNR of all three
+// colours in dB and the mean SSIM of luma over windows of 8 x 8 pixels between SECOND and the picture WANTED, and the
+// share of blocks that have the same coefficients in FIRST and SECOND, 0 where size or sampling differ.
 #include "pictures/picture_reader.h"
 #include "support/stored_jpeg.h"
 

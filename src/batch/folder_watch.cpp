@@ -256,7 +256,8 @@ std::vector<FolderWatch::Arrival> FolderWatch::takeReady(std::size_t most, Clock
             ++entry;
             continue;
         }
-        // An empty file is the beginning of one. One that was only opened, or has lost its old name, is none that is new.
+        // An empty file is the beginning of one. One that was only opened, or has lost its old name, is none that is
+        // new.
         const auto done = done_.constFind(path);
         const bool isNew = stamp && stamp->size > 0 && (done == done_.cend() || *done != *stamp);
         if (!isNew) {

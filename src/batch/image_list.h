@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list of photos a run works on, in the order they were added unless the user asks for another, and the folders they came from. Paths are compared as
-// plain text and nothing is looked up on disk, so a path need not be that of a photo. One thread at a time.
+// The list of photos a run works on, in the order they were added unless the user asks for another, and the folders
+// they came from. Paths are compared as plain text and nothing is looked up on disk, so a path need not be that of a
+// photo. One thread at a time.
 #pragma once
 
 #include "batch/destination_map.h"

@@ -50,8 +50,8 @@ QString outputPath(const OutputPlace& place, const OutputOptions& options,
 // Whether something has this path already, be it a folder or a link that leads nowhere. Looks at the disk.
 bool isTaken(const QString& path);
 
-// Looks at the disk: the first of WatermarkedPhotos.pdf, WatermarkedPhotos1.pdf, WatermarkedPhotos2.pdf, ... that `folder` does
-// not hold.
+// Looks at the disk: the first of WatermarkedPhotos.pdf, WatermarkedPhotos1.pdf, WatermarkedPhotos2.pdf, ... that
+// `folder` does not hold.
 QString combinedPdfPath(const QString& folder);
 
 }  // namespace zelto

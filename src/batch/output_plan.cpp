@@ -149,7 +149,8 @@ class Planner {
         output.reason = (skips ? Words::tr("Left out: %1.") : Words::tr("Not written: %1.")).arg(reason);
     }
 
-    // Takes the first number that is free, or that this very photo had before. No number below the last one tried for a name ever becomes free.
+    // Takes the first number that is free, or that this very photo had before. No number below the last one tried for a
+    // name ever becomes free.
     void number(std::size_t row) {
         const bool avoidsFiles = request_.names.existing == NameRule::Number;
         qint64& number = numbers_[name(row)];

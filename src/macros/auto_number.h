@@ -19,8 +19,8 @@ struct AutoNumberFields {
 // What a field holds once `typed` has been typed into it: "1" where its number is below 1.
 QString autoNumberField(const QString& typed);
 
-// The macro of `fields`: digits 4, start 1, increment 1 give "<<AUTO:###1+1>>". A start number with more digits keeps them
-// all. More than MaximumAutoDigits count as that many.
+// The macro of `fields`: digits 4, start 1, increment 1 give "<<AUTO:###1+1>>". A start number with more digits keeps
+// them all. More than MaximumAutoDigits count as that many.
 QString GenerateAutoMacro(const AutoNumberFields& fields);
 inline constexpr qsizetype MaximumAutoDigits = 100;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The date formats users write inside a macro's square brackets. They consist of the letters Y M MM D DD H N S, in either
-// case; a macro keeps its format as typed, and it is translated when the macro is expanded. Also what a dialog for such
-// a format shows and returns. Any thread.
+// The date formats users write inside a macro's square brackets. They consist of the letters Y M MM D DD H N S, in
+// either case; a macro keeps its format as typed, and it is translated when the macro is expanded. Also what a dialog
+// for such a format shows and returns. Any thread.
 #pragma once
 
 #include <QDateTime>

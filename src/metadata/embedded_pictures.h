@@ -13,9 +13,10 @@
 
 namespace zelto {
 
-// Puts a small version of the picture that `picture` gives, which is only asked where it is needed, in the place of each JPEG picture that lies in the parts of `file` that are metadata. It
-// takes no more bytes than the one before and zeros fill the rest, so that nothing around it moves; where not even the
-// smallest fits, there are only zeros. Pictures of other kinds are left alone.
+// Puts a small version of the picture that `picture` gives, which is only asked where it is needed, in the place of
+// each JPEG picture that lies in the parts of `file` that are metadata. It takes no more bytes than the one before and
+// zeros fill the rest, so that nothing around it moves; where not even the smallest fits, there are only zeros.
+// Pictures of other kinds are left alone.
 void replaceEmbeddedPictures(QByteArray& file, const std::vector<ByteRange>& metadata,
                              const std::function<QImage()>& picture);
 

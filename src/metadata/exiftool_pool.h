@@ -18,8 +18,8 @@
 
 namespace zelto {
 
-// The exiftool that the environment variable ZELTO_EXIFTOOL names; without one, that among the resources ("Exif/exiftool"),
-// and where none ships with the program, the system's.
+// The exiftool that the environment variable ZELTO_EXIFTOOL names; without one, that among the resources
+// ("Exif/exiftool"), and where none ships with the program, the system's.
 QString exiftoolProgram();
 
 class ExiftoolPool {

@@ -42,8 +42,8 @@ class MetadataTransfer {
     explicit MetadataTransfer(ExiftoolPool& pool, std::chrono::milliseconds timeout = MetadataTimeout)
         : pool_(pool), timeout_(timeout) {}
 
-    // The bytes of `output`, an encoded JPEG or TIFF file that shows `picture`, with the metadata that `request` asks for
-    // (its own `output` is not looked at). Blocks. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound or
+    // The bytes of `output`, an encoded JPEG or TIFF file that shows `picture`, with the metadata that `request` asks
+    // for (its own `output` is not looked at). Blocks. Error: ErrorCode::ProgramFailed, or ErrorCode::NotFound or
     // ErrorCode::CannotWrite for the source and the stand-in.
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const QImage& picture,
                                       MetadataRequest request);
@@ -51,8 +51,8 @@ class MetadataTransfer {
     Result<QByteArray> CopyExifDataTo(const QByteArray& output, const std::function<QImage()>& picture,
                                       MetadataRequest request);
 
-    // The same for an output of another kind that is yet to be encoded from `picture`: exiftool fills a tiny WebP file, and
-    // the Exif and XMP blocks are taken from that. IPTC has no place in such files.
+    // The same for an output of another kind that is yet to be encoded from `picture`: exiftool fills a tiny WebP file,
+    // and the Exif and XMP blocks are taken from that. IPTC has no place in such files.
     Result<MetadataBlocks> blocksFor(const QImage& picture, MetadataRequest request);
 
   private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The chunks of a WebP file, found without decoding it. Views live as long as the bytes they were taken from. Any thread.
+// The chunks of a WebP file, found without decoding it. Views live as long as the bytes they were taken from. Any
+// thread.
 #pragma once
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bytes of a file for libraries that decode it: piece by piece for callbacks written in C, through which no exception
-// may pass, or all at once for libraries that want them so.
+// The bytes of a file for libraries that decode it: piece by piece for callbacks written in C, through which no
+// exception may pass, or all at once for libraries that want them so.
 #pragma once
 
 #include "pictures/picture_needs.h"
@@ -21,8 +21,8 @@ inline qint64 readBytes(QIODevice& device, void* target, qint64 count) noexcept 
     }
 }
 
-// All of `device`, from its beginning; fewer bytes than its size where reading fails. Throws std::bad_alloc where that is
-// more than may be held.
+// All of `device`, from its beginning; fewer bytes than its size where reading fails. Throws std::bad_alloc where that
+// is more than may be held.
 inline QByteArray allBytes(QIODevice& device) {
     if (device.size() > memoryAllowed(device.size())) throw std::bad_alloc();
     device.seek(0);

@@ -14,7 +14,8 @@ struct ExifFacts {
     bool isDcfAdobeRgb = false;  // a camera's way to say Adobe RGB (1998) without an ICC profile
 };
 
-// `exif` starts with the TIFF header ("II" or "MM"), or with "Exif" and two zeros before it. What cannot be understood keeps its default. Any thread.
+// `exif` starts with the TIFF header ("II" or "MM"), or with "Exif" and two zeros before it. What cannot be understood
+// keeps its default. Any thread.
 ExifFacts readExifFacts(QByteArrayView exif);
 
 }  // namespace zelto

@@ -93,7 +93,8 @@ QByteArray encoded(const QImage& picture, const EncodeOptions& options, const Co
     check(heif_encoder_set_lossless(made, lossless ? 1 : 0));
     // Not every encoder of a format has each of these.
     heif_encoder_set_parameter(made, codec.speedParameter, codec.speed);
-    // x265 hands every row from thread to thread, which costs minutes on a busy machine; photos are worked on side by side.
+    // x265 hands every row from thread to thread, which costs minutes on a busy machine; photos are worked on side by
+    // side.
     heif_encoder_set_parameter_string(made, "x265:pools", "none");
     heif_encoder_set_parameter_integer(made, "threads", std::min(QThread::idealThreadCount(), 4));
     heif_encoder_set_parameter_string(made, "chroma", options.quality >= WholeChromaQuality ? "444" : "420");

@@ -10,8 +10,8 @@
 
 namespace zelto {
 
-// Every call into libjpeg goes through guarded(), whose step may hold nothing that needs a destructor: an error leaves it
-// by a long jump.
+// Every call into libjpeg goes through guarded(), whose step may hold nothing that needs a destructor: an error leaves
+// it by a long jump.
 class JpegCompressor {
   public:
     JpegCompressor();

@@ -13,8 +13,8 @@ namespace {
 
 // A progressive file needs ten or so; thousands are an attempt to keep the program busy.
 constexpr int MaximumScans = 500;
-// Every scan goes through all blocks, even those it says nothing about. So many visits of blocks take some seconds; files
-// that have the bytes to say something new at each visit may have more.
+// Every scan goes through all blocks, even those it says nothing about. So many visits of blocks take some seconds;
+// files that have the bytes to say something new at each visit may have more.
 constexpr qint64 QuickBlockVisits = qint64{1} << 27;
 constexpr qint64 BlockVisitsPerByte = 64;
 

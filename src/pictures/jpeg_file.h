@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A JPEG file in libjpeg's hands, as everything that reads one begins: fed from a device, quiet, strict about lost
-// pixels, bounded in time. Decoding it to pixels (jpeg_decoder.cpp) and taking its coefficients (jpeg_rewriter.cpp) build
-// on it.
+// pixels, bounded in time. Decoding it to pixels (jpeg_decoder.cpp) and taking its coefficients (jpeg_rewriter.cpp)
+// build on it.
 #pragma once
 
 #include "pictures/exif_facts.h"

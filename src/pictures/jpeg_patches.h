@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Parts of a JPEG picture between coefficients and pixels. libjpeg does both ways, so that pixels are those of any other
-// program that decodes the photo. It has no calls for that step alone: each way it works on a small file of several scans,
-// which it keeps all coefficients of, and those are ours (JpegBlocks). So nothing is written in Huffman codes only to be
-// read again.
+// Parts of a JPEG picture between coefficients and pixels. libjpeg does both ways, so that pixels are those of any
+// other program that decodes the photo. It has no calls for that step alone: each way it works on a small file of
+// several scans, which it keeps all coefficients of, and those are ours (JpegBlocks). So nothing is written in Huffman
+// codes only to be read again.
 #pragma once
 
 #include "pictures/jpeg_blocks.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The scan of a baseline JPEG as bits on their way from one file into another. To find where a block ends, its Huffman
-// codes have to be read, but neither its coefficients nor the codes have to be made: what stays as it is is copied bit for
-// bit. Only around rows in which something changes are there coefficients, and only units that have changed, and the one
-// behind each, whose means count from theirs, are encoded. After ITU-T T.81, F.1.2 and F.2.2.
+// codes have to be read, but neither its coefficients nor the codes have to be made: what stays as it is is copied bit
+// for bit. Only around rows in which something changes are there coefficients, and only units that have changed, and
+// the one behind each, whose means count from theirs, are encoded. After ITU-T T.81, F.1.2 and F.2.2.
 //
 //     JpegScan scan(header, geometry, fileBehindTheHeader);
 //     while (rows are left) { scan.readRow(blocks of rows that are wanted, else nullptr); ... scan.writeRow(blocks); }

@@ -63,8 +63,8 @@ class JxlFile {
         return bytes_.size() + pixelCount(size()) * (planes * PlaneBytes + (isWide() ? 12 : 8));
     }
 
-    // The picture with what the file says about it; null for a damaged file. Goes on behind the picture where the Exif block
-    // has not come yet.
+    // The picture with what the file says about it; null for a damaged file. Goes on behind the picture where the Exif
+    // block has not come yet.
     QImage decode(PictureFacts& facts) {
         QImage picture;
         bool complete = false;
@@ -131,8 +131,8 @@ class JxlFile {
         return done ? profile : QByteArray();
     }
 
-    // Room for the Exif box that comes next, if it is one. Boxes may be compressed to nearly nothing: of one that does not
-    // fit, the beginning is enough.
+    // Room for the Exif box that comes next, if it is one. Boxes may be compressed to nearly nothing: of one that does
+    // not fit, the beginning is enough.
     void beginExif() {
         constexpr qsizetype Room = 1 << 16;
         JxlBoxType type{};

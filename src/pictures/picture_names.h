@@ -8,15 +8,16 @@
 
 namespace zelto {
 
-// What file choosers offer, photos and logos alike: "(*.jpg *.JPG *.gif ...)". BMP is not offered; cameras' raw files are.
+// What file choosers offer, photos and logos alike: "(*.jpg *.JPG *.gif ...)". BMP is not offered; cameras' raw files
+// are.
 QString chooserPattern();
 
 // Whether a scan of a folder takes files of this extension, given without its dot and in any letter case. GIF is not
 // taken ("giff" is), nor are raw files.
 bool isScannedExtension(QStringView extension);
 
-// The extension that a copy of the same kind has: this one in lower case, or "jpg" for kinds that are read here and cannot
-// be written, such as raw files.
+// The extension that a copy of the same kind has: this one in lower case, or "jpg" for kinds that are read here and
+// cannot be written, such as raw files.
 QString writtenExtension(QStringView extension);
 
 // Whether the file name is one that some reader of pictures knows: what may be dropped on the window.

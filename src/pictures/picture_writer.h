@@ -30,8 +30,8 @@ struct MetadataBlocks {
 bool hasQuality(PictureFormat format);
 
 struct EncodeOptions {
-    // 0 to 100, of lossy formats. JPEG, AVIF and HEIC keep chroma whole from 90 on and halve it on both axes below. At 100
-    // WebP and JPEG XL are lossless, AVIF where its encoder can.
+    // 0 to 100, of lossy formats. JPEG, AVIF and HEIC keep chroma whole from 90 on and halve it on both axes below. At
+    // 100 WebP and JPEG XL are lossless, AVIF where its encoder can.
     int quality = 90;
     double dpiX = 72.0;  // recorded in formats that can hold a resolution by themselves
     double dpiY = 72.0;

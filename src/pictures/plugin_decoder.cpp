@@ -49,7 +49,8 @@ class WatchedDevice : public QIODevice {
     bool cameUpShort_ = false;
 };
 
-// A format by its plugin's name. Qt is never left to choose: it would take anything that any plugin of the machine reads.
+// A format by its plugin's name. Qt is never left to choose: it would take anything that any plugin of the machine
+// reads.
 struct FormatRow {
     PictureKind kind;
     const char* name;

@@ -30,8 +30,8 @@ struct TiffSamples {
 // Nothing for the layouts that are left to the plugin.
 std::optional<TiffSamples> readTiffSamples(QIODevice& device);
 
-// Whether this TIFF file is a camera's raw file within: it is a DNG, or one of its pictures is sensor data. What its first
-// directory shows is then no more than a thumbnail.
+// Whether this TIFF file is a camera's raw file within: it is a DNG, or one of its pictures is sensor data. What its
+// first directory shows is then no more than a thumbnail.
 bool isCameraRaw(QIODevice& device);
 
 }  // namespace zelto

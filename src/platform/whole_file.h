@@ -25,15 +25,16 @@ namespace zelto {
 // rename. Error: ErrorCode::CannotWrite with the system's reason.
 Result<void> writeWholeFile(const QString& path, const QByteArray& bytes);
 
-// Who may read and write a new file: whoever could the one it replaces, or what the user's umask says; or its owner only.
+// Who may read and write a new file: whoever could the one it replaces, or what the user's umask says; or its owner
+// only.
 enum class FileAccess { AsBefore, OwnerOnly };
 
 // The same, but a link at `path` is replaced itself and what it leads to stays as it is.
 Result<void> replaceFile(const QString& path, const QByteArray& bytes,
                          FileAccess access = FileAccess::AsBefore);
 
-// Gives the file or link at `path` another name: `path` with "~", "~1", "~2" ... at its end, the first that is free. Does
-// nothing where there is none. Error: ErrorCode::CannotWrite; it then still stands at `path`.
+// Gives the file or link at `path` another name: `path` with "~", "~1", "~2" ... at its end, the first that is free.
+// Does nothing where there is none. Error: ErrorCode::CannotWrite; it then still stands at `path`.
 Result<void> keepUnderOtherName(const QString& path);
 
 // Writes all of `bytes`, or leaves the reason in the device's errorString(). (A device on a disk that fills up may first

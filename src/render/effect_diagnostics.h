@@ -14,9 +14,9 @@
 
 namespace zelto {
 
-// Writes both files into `folder`, for their owner's eyes only, replacing those of an earlier call. Another program's file
-// of that name is kept beside it, as keepUnderOtherName() does. `framed` and `result` may be the same picture. Error: as
-// encodePicture and replaceFile; the first that fails ends it.
+// Writes both files into `folder`, for their owner's eyes only, replacing those of an earlier call. Another program's
+// file of that name is kept beside it, as keepUnderOtherName() does. `framed` and `result` may be the same picture.
+// Error: as encodePicture and replaceFile; the first that fails ends it.
 Result<void> writeEffectDiagnostics(const QImage& framed, const QImage& result,
                                     const QString& folder = QDir::homePath());
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The size of a text's letters, which a record keeps as a whole number and a fraction beside it. In points, or in per cent
-// of a side of the photo where the record says so.
+// The size of a text's letters, which a record keeps as a whole number and a fraction beside it. In points, or in per
+// cent of a side of the photo where the record says so.
 #pragma once
 
 #include "records/watermark.h"

@@ -11,8 +11,8 @@
 
 namespace zelto {
 
-// The record as its portrait shows it: without its name, its place, its opacity and its tiling, so that a drag or a click
-// on the eye asks for no other portrait.
+// The record as its portrait shows it: without its name, its place, its opacity and its tiling, so that a drag or a
+// click on the eye asks for no other portrait.
 Watermark likenessOf(Watermark record);
 
 // `text` is what the record's text or code reads with its macros expanded; of a text only the first letters are drawn.

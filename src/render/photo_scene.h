@@ -76,8 +76,8 @@ Result<PhotoScene> buildPhotoScene(const PhotoRequest& request);
 // the scene's, uncopied.
 Result<PhotoScene> buildPhotoScene(const PhotoRequest& request, Picture photo);
 
-// The scene of a photo of `size` pixels that is left where it is, under a stack without filter and frame: it has layers and
-// no picture. Throws std::bad_alloc.
+// The scene of a photo of `size` pixels that is left where it is, under a stack without filter and frame: it has layers
+// and no picture. Throws std::bad_alloc.
 PhotoScene buildLayersAlone(const PhotoRequest& request, QSize size, double dpiX, double dpiY);
 
 // The same for a photo of `photoSize` pixels of which only a reduced picture is at hand, for a look at it in a small

@@ -48,8 +48,8 @@ void pickColor(const QWidget& window, const char* name, const QColor& color, Qt:
 // Whether the user can read a text that begins so.
 bool says(const QWidget& window, const QString& text);
 
-// Has `drive` work on the next modal window or dialog of class `Dialog` as soon as it is open; to be called before it is opened.
-// The result tells, later, whether it came; a window of another class is closed and fails the test.
+// Has `drive` work on the next modal window or dialog of class `Dialog` as soon as it is open; to be called before it
+// is opened. The result tells, later, whether it came; a window of another class is closed and fails the test.
 std::shared_ptr<bool> whenAnyOpened(const std::function<bool(QWidget&)>& drive);
 template <class Dialog>
 std::shared_ptr<bool> whenOpened(std::function<void(Dialog&)> drive) {

@@ -45,8 +45,8 @@ inline Watermark logoRecord(const QImage& picture, std::int32_t position = 7) {
     return record;
 }
 
-// One record of each way a layer is drawn: turned, tiled, shadowed and embossed; the last one is switched off. All but it
-// leave a mark on photos of 400 x 300 pixels and more.
+// One record of each way a layer is drawn: turned, tiled, shadowed and embossed; the last one is switched off. All but
+// it leave a mark on photos of 400 x 300 pixels and more.
 inline WatermarkStack everyKind() {
     WatermarkStack stack;
     stack.Watermarks = {textRecord(QStringLiteral("<<IMGNAME>> \u05e9\u05dc\u05d5\u05dd"), 30, 5),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What nearly every test uses: googletest and its matchers, Qt's literals, files, and folders that are gone when the test
-// ends. Precompiled for all test programs.
+// What nearly every test uses: googletest and its matchers, Qt's literals, files, and folders that are gone when the
+// test ends. Precompiled for all test programs.
 #pragma once
 
 #include <QDir>

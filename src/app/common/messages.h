@@ -26,8 +26,8 @@ struct MessageSheet {
     QString title;
     QString text;
     QStringList buttons = {};  // none stands for "OK"
-    int onEnter = 0;      // the button that the Enter key presses
-    int onEscape = 0;     // and the one for Escape and for closing the message
+    int onEnter = 0;           // the button that the Enter key presses
+    int onEscape = 0;          // and the one for Escape and for closing the message
 };
 
 // Shows it; `answered` gets the button's place in the list. The message belongs to `window` and deletes itself; one

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looks for photos in folders, or into photos, without keeping the window waiting: on a thread of its own, with a message that counts
-// them and can break it off once it takes longer than a moment. Main thread only.
+// Looks for photos in folders, or into photos, without keeping the window waiting: on a thread of its own, with a
+// message that counts them and can break it off once it takes longer than a moment. Main thread only.
 #pragma once
 
 #include <QObject>
@@ -35,7 +35,8 @@ class FolderImport : public QObject {
     FolderImport(Scan scan, QWidget* window, QObject* parent, Texts texts = textsForFolders());
 
   Q_SIGNALS:
-    // The photos, or what was read of each, in the order of the scan. A scan that is broken off or finds nothing never tells.
+    // The photos, or what was read of each, in the order of the scan. A scan that is broken off or finds nothing never
+    // tells.
     void found(const QStringList& photos);
 
   private:

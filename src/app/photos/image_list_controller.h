@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What can be done to the photo list: adding, removing, checking, sorting and selecting photos, each an undo step, choosing
-// which of them are shown, and telling whoever shows the selected photo that it must be shown anew. The rules of the
-// list itself are the batch folder's, its looks are the view's. Main thread only.
+// What can be done to the photo list: adding, removing, checking, sorting and selecting photos, each an undo step,
+// choosing which of them are shown, and telling whoever shows the selected photo that it must be shown anew. The rules
+// of the list itself are the batch folder's, its looks are the view's. Main thread only.
 #pragma once
 
 #include "app/photos/photo_list_model.h"
@@ -53,8 +53,8 @@ class ImageListController : public QObject {
     // photos first where they reach others. The list goes back to all when none is left that `filter` lets through.
     void showPhotos(PhotoFilter filter);
     PhotoFilter filter() const { return filter_; }
-    // Shows, of those, only photos with this in their file names, capitals or not. Where there is none, the photo on show
-    // stays on show.
+    // Shows, of those, only photos with this in their file names, capitals or not. Where there is none, the photo on
+    // show stays on show.
     void findPhotos(const QString& name);
     const QString& soughtName() const { return soughtName_; }
     void showAllPhotos();

@@ -112,8 +112,8 @@ void PhotoDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     }
 }
 
-// What is special about it, "6000 × 4000", and the folder where that tells photos apart: what matters most comes first, as
-// the list may be too narrow for all of it.
+// What is special about it, "6000 × 4000", and the folder where that tells photos apart: what matters most comes first,
+// as the list may be too narrow for all of it.
 QString PhotoDelegate::details(const QString& path, const QString& folder) const {
     QStringList parts;
     if (thumbnails_.isRawPreview(path)) parts.append(tr("preview of a raw file"));

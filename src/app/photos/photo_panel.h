@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The photo list with what stands above it: its heading, the choice of photos after a run, the orders it can be put into,
-// and the field that finds photos by their names. Main thread only.
+// The photo list with what stands above it: its heading, the choice of photos after a run, the orders it can be put
+// into, and the field that finds photos by their names. Main thread only.
 #pragma once
 
 #include "app/photos/photo_filter_box.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Builds what the preview shows on a thread of its own, and sends the main thread pictures that are ready to be put on
 // the screen. The newest request wins: requests that pile up become one, and results for a photo that is no longer
-// wanted are dropped. Photos are loaded on threads of their own, huge ones apart from the others, so that the next photo
-// never waits for one that is no longer wanted. The last scene is kept, so that an edit rebuilds only the layers it changed and composes only the
-// pixels they touch. Call it from the main thread.
+// wanted are dropped. Photos are loaded on threads of their own, huge ones apart from the others, so that the next
+// photo never waits for one that is no longer wanted. The last scene is kept, so that an edit rebuilds only the layers
+// it changed and composes only the pixels they touch. Call it from the main thread.
 #pragma once
 
 #include "app/common/newest_worker.h"

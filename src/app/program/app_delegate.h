@@ -23,8 +23,8 @@ class AppDelegate {
 
     // Shows the window and loads what it is to begin with; a setting asked for comes instead of the autoload. Once.
     void start(const StartRequest& request);
-    // Brings the window to the front, and into it what a later start of the program asks for: at once, or, while a run or
-    // a dialog is in the way, as soon as it is gone.
+    // Brings the window to the front, and into it what a later start of the program asks for: at once, or, while a run
+    // or a dialog is in the way, as soon as it is gone.
     void open(const StartRequest& request);
 
     MyGlobalInstance& CurrentInstance() { return shared_; }

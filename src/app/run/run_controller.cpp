@@ -112,7 +112,8 @@ void RunController::planAndAsk(const OutputOptions& options, Photos which) {
                                        planAndAsk(chosen, which);
                                        return;
                                    case RunQuestions::Answer::ChooseAnotherFolder:
-                                       // Not from within the closing of the question: the options are a dialog of their own.
+                                       // Not from within the closing of the question: the options are a dialog of their
+                                       // own.
                                        QMetaObject::invokeMethod(&window_.controller(),
                                                                  &ZeltoController::StartWatermarking,
                                                                  Qt::QueuedConnection);

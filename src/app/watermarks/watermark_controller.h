@@ -99,8 +99,8 @@ class WatermarkController : public QObject {
     void MoveWatermarkDown() { moveSelected(1); }
     // Takes watermarks out of the list and puts them, in their order, before the one that is at `before` now.
     void MoveWatermarks(const std::vector<int>& indices, int before);
-    // Copies the selected watermarks to the place behind the last of them. `area` is what watermarks may take of the photo
-    // on show, in its pixels, empty without one: a copy does not lie on its original there.
+    // Copies the selected watermarks to the place behind the last of them. `area` is what watermarks may take of the
+    // photo on show, in its pixels, empty without one: a copy does not lie on its original there.
     void duplicateSelected(QSizeF area);
     // The user's own name for a watermark; an empty one lets the list name it again.
     void renameWatermark(int index, const QString& name);

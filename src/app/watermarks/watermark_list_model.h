@@ -58,8 +58,8 @@ class WatermarkListModel : public QAbstractListModel {
     // Whether the eye of a row is open.
     bool isOn(int row) const;
 
-    // Why watermarks draw nothing that can be seen on the selected photo: one text for each, empty where there is nothing
-    // to tell. They count as long as the list has that many watermarks; so do the faces.
+    // Why watermarks draw nothing that can be seen on the selected photo: one text for each, empty where there is
+    // nothing to tell. They count as long as the list has that many watermarks; so do the faces.
     void setWarnings(const QStringList& warnings);
     void setFaces(const std::vector<MarkFace>& faces);
 

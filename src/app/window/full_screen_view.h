@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One photo with its watermarks on the whole screen, as it would be written. Page Up, Page Down and the arrow keys step
-// through the photos; any other key or the button closes it. Main thread only; the picture is composed in the background.
+// through the photos; any other key or the button closes it. Main thread only; the picture is composed in the
+// background.
 #pragma once
 
 #include "render/photo_scene.h"

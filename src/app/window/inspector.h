@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The lower half of the right column: the page of whatever is selected, which changes it while the photo is in view.
-// It shows what the WatermarkEditors have as their subject and makes each page when it is first needed. Main thread only.
+// The lower half of the right column: the page of whatever is selected, which changes it while the photo is in view. It
+// shows what the WatermarkEditors have as their subject and makes each page when it is first needed. Main thread only.
 #pragma once
 
 #include "app/watermarks/watermark_editors.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Page Up and Page Down belong to the photos wherever in the window the keyboard is: no field or list may take these keys
-// before the actions that step through the photos. Where those are off, the keys do what they do everywhere. Main thread
-// only.
+// Page Up and Page Down belong to the photos wherever in the window the keyboard is: no field or list may take these
+// keys before the actions that step through the photos. Where those are off, the keys do what they do everywhere. Main
+// thread only.
 #pragma once
 
 #include <QObject>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stack on the screen: its head, the watermark list with its buttons, and what belongs to the photo as a whole. Main thread only.
+// The stack on the screen: its head, the watermark list with its buttons, and what belongs to the photo as a whole.
+// Main thread only.
 #pragma once
 
 #include "app/watermarks/watermark_list_view.h"

@@ -37,8 +37,8 @@ class ZeltoController : public QObject {
     // The same for files and folders in any order; of the folders, the photos that lie directly in them, or everywhere
     // below them.
     void importPaths(const QStringList& paths, bool includeSubFolders = false);
-    // Files and folders that were dropped or pasted, the folders with all that is below them. Setting files are loaded, as
-    // loadSettings() does.
+    // Files and folders that were dropped or pasted, the folders with all that is below them. Setting files are loaded,
+    // as loadSettings() does.
     void bringFiles(const QStringList& paths);
     // Loads the setting files among `paths`, each as a step of the history: the last one stays. Tells the user of those
     // that cannot be loaded. Returns the other paths.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What files from strangers do to the window: each that the readers are tried with is dropped on it as a photo, looked at
-// large and small, used as a logo and opened as a setting.
+// What files from strangers do to the window: each that the readers are tried with is dropped on it as a photo, looked
+// at large and small, used as a logo and opened as a setting.
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/hands.h"

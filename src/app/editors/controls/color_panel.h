@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A colour to be chosen within the inspector, where it covers nothing of the photo: a field of shades with strips for hue
-// and opacity, the colour in hexadecimal, usual and recent colours, and any colour seen in the window. Each colour
+// A colour to be chosen within the inspector, where it covers nothing of the photo: a field of shades with strips for
+// hue and opacity, the colour in hexadecimal, usual and recent colours, and any colour seen in the window. Each colour
 // looked at is told at once. Main thread only.
 #pragma once
 

@@ -83,7 +83,8 @@ TextStyleGroup::TextStyleGroup(RecordBinder<Watermark>& binder, QWidget* parent)
     addRow(*form, tr("Effect:"), makeEffect());
 }
 
-// One number, which is per cent of a side of the photo or pixels; the kind of size changes what it means, not the number.
+// One number, which is per cent of a side of the photo or pixels; the kind of size changes what it means, not the
+// number.
 QWidget* TextStyleGroup::makeSize() {
     auto* widget = new QWidget(this);
     auto* kind = named("FontSizeType", new QComboBox(widget));
