@@ -94,11 +94,14 @@ qint64 hevcUnitPixels(QByteArrayView unit) {
     if (type != HevcSequenceParameters || layer != 0) return 0;
     bits.skip(4);
     const auto subLayers = static_cast<int>(bits.take(3));
-    bits.skip(1 + 88 + 8);  // nesting; general profile and level
-    std::vector<int> more;
-    for (int i = 0; i < subLayers; ++i) more.push_back((bits.flag() ? 88 : 0) + (bits.flag() ? 8 : 0));
+    bits.skip(1 + 88 + 8);      // nesting; general profile and level
+    int profilesAndLevels = 0;  // of the sub-layers, behind the flags that tell which of them are there
+    for (int i = 0; i < subLayers; ++i) {
+        if (bits.flag()) profilesAndLevels += 88;
+        if (bits.flag()) profilesAndLevels += 8;
+    }
     if (subLayers > 0) bits.skip(2 * (8 - subLayers));
-    for (const int size : more) bits.skip(size);
+    bits.skip(profilesAndLevels);
     bits.takeExpGolomb();
     constexpr quint64 ThreeColors = 3;
     if (bits.takeExpGolomb() == ThreeColors) bits.skip(1);

@@ -6,6 +6,7 @@
 #include "app/editors/text/logo_rules.h"
 #include "app/editors/text/logo_sample.h"
 
+#include <QPushButton>
 #include <QWidget>
 
 namespace zelto {
