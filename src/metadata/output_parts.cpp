@@ -72,6 +72,8 @@ bool isSameTiffPicture(QByteArrayView one, QByteArrayView other) {
     const auto stripsOfOne = strips(one);
     const auto stripsOfOther = strips(other);
     if (!stripsOfOne || !stripsOfOther) return false;
+    // What is stepped over here may be a reason for a reader to give up the file.
+    if (!isFirstDirectoryWhole(one) || !isFirstDirectoryWhole(other)) return false;
     const auto bytesOf = [](QByteArrayView file, const ByteRange& range) {
         return file.sliced(range.first, range.second - range.first);
     };

@@ -67,6 +67,14 @@ std::vector<TiffEntry> tiffEntries(QByteArrayView tiff) {
     return entries;
 }
 
+bool isFirstDirectoryWhole(QByteArrayView tiff) {
+    const std::vector<TiffEntry> entries = tiffEntries(tiff);
+    const Reader reader(tiff);
+    const auto count = reader.number<quint16>(reader.number<quint32>(4).value_or(0));
+    return count && *count == std::count_if(entries.begin(), entries.end(),
+                                            [](const TiffEntry& entry) { return entry.directory == 0; });
+}
+
 std::vector<quint32> TiffEntry::numbers() const {
     std::vector<quint32> numbers;
     const auto append = [&]<class Number>(Number) {

@@ -30,6 +30,9 @@ struct TiffEntry {
 // left out, so that every view lies within them. `tiff` starts with the header ("II" or "MM").
 std::vector<TiffEntry> tiffEntries(QByteArrayView tiff);
 
+// Whether nothing of the picture's own directory has been left out.
+bool isFirstDirectoryWhole(QByteArrayView tiff);
+
 // The numbers of the entry with `tag` in the picture's own directory.
 std::vector<quint32> tiffNumbers(const std::vector<TiffEntry>& entries, quint16 tag);
 
