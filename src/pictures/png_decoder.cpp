@@ -47,6 +47,10 @@ void readFrom(png_structp png, png_bytep target, std::size_t count) {
 constexpr std::array<png_byte, 50> SkippedChunks = {
     "tEXt\0zTXt\0iTXt\0sPLT\0hIST\0pCAL\0sCAL\0oFFs\0tIME\0bKGD"};
 
+// Of any chunk but those of the pixels: what it holds, and what it unpacks to. libpng would believe any length that a
+// file states.
+constexpr png_alloc_size_t LargestChunk = 64 << 20;
+
 // Owns libpng's reading state. What can fail goes through guarded(), so that libpng's way out of an error, a long jump,
 // never passes over an object with a destructor.
 class PngFile {
@@ -58,6 +62,7 @@ class PngFile {
         if (info_ == nullptr) throw std::bad_alloc();
         png_set_read_fn(png_, &device, readFrom);
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
+        png_set_chunk_malloc_max(png_, LargestChunk);
         png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, SkippedChunks.data(),
                                     SkippedChunks.size() / 5);
     }
