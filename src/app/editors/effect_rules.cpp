@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/effect_rules.h"
 
+#include "render/lengths.h"
+
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace zelto {
 namespace {
@@ -46,6 +50,18 @@ ShadowSides shadowSides(std::int64_t direction) {
 void setShadowSides(PhotoEffects& effects, const ShadowSides& sides) {
     effects.Direction = shadowDirection(sides);
     effects.EnableShadow = sides.any();
+}
+
+PhotoEffects startingEffects(QSizeF photo) {
+    constexpr float BorderShare = 0.02F;
+    PhotoEffects effects;
+    for (const length_field::EffectLength& side : length_field::Thicknesses) {
+        effects.*side.Share = BorderShare;
+        if (!photo.isEmpty())
+            effects.*side.Pixels =
+                std::llround(relativeLength(BorderShare, std::min(photo.width(), photo.height())));
+    }
+    return effects;
 }
 
 void setSameBorder(PhotoEffects& effects, bool same) {

@@ -4,6 +4,8 @@
 
 #include "records/length_field.h"
 
+#include <QSizeF>
+
 #include <cstdint>
 
 namespace zelto {
@@ -27,6 +29,9 @@ ShadowSides shadowSides(std::int64_t direction);
 
 // Chooses the sides; a shadow on no side is switched off.
 void setShadowSides(PhotoEffects& effects, const ShadowSides& sides);
+
+// A border that can be seen on every photo; `photo` is the one it is begun on, in pixels, and may be empty.
+PhotoEffects startingEffects(QSizeF photo);
 
 // Whether one width holds for all sides. Switched on, that is the width of the top.
 void setSameBorder(PhotoEffects& effects, bool same);

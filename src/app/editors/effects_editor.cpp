@@ -251,7 +251,9 @@ void EffectsEditor::load() {
 Editor effectsEditor() {
     return {[](WatermarkController& controller) { return new EffectsEditor(controller); },
             [](const EditorCall& call) {
-                if (!call.controller.GetEffect()) call.controller.AddEffects(PhotoEffects(), visitStep());
+                if (call.controller.GetEffect()) return;
+                const QSizeF photo = readPictureSize(call.photo.path).value_or(QSize());
+                call.controller.AddEffects(startingEffects(photo), visitStep());
             }};
 }
 

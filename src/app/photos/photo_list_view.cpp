@@ -41,6 +41,8 @@ PhotoListView::PhotoListView(ImageListController& photos, QWidget* parent)
     settled_.setSingleShot(true);
     settled_.setInterval(SettleMilliseconds);
     connect(&settled_, &QTimer::timeout, this, &PhotoListView::wantVisible);
+    // A file may have been changed, or mended, by another program meanwhile.
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, &settled_, qOverload<>(&QTimer::start));
     connect(&thumbnails_, &ThumbnailLoader::made, viewport(), qOverload<>(&QWidget::update));
     connect(model(), &QAbstractItemModel::rowsInserted, &settled_, qOverload<>(&QTimer::start));
     connect(model(), &QAbstractItemModel::rowsRemoved, &settled_, qOverload<>(&QTimer::start));
@@ -138,6 +140,11 @@ void PhotoListView::scrollContentsBy(int dx, int dy) {
 void PhotoListView::showEvent(QShowEvent* event) {
     QListView::showEvent(event);
     settled_.start();
+}
+
+void PhotoListView::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) settled_.start();
 }
 
 void PhotoListView::wantVisible() {

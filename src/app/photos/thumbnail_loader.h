@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Small pictures of photos and the sizes of the photos, made in the background for those that are seen and kept as long
-// as there is room. Asking for others drops what has not been begun, so that scrolling through a long list never leaves
+// as there is room; a file that has been changed since is looked at again. Asking for others drops what has not been begun, so that scrolling through a long list never leaves
 // work behind. Huge photos are worked on apart, so that the others do not wait for them. Main thread only.
 #pragma once
 
@@ -11,6 +11,8 @@
 #include <QObject>
 #include <QSize>
 #include <QStringList>
+
+#include <vector>
 
 namespace zelto {
 
@@ -38,8 +40,13 @@ class ThumbnailLoader : public QObject {
     void made(const QString& path);
 
   private:
+    struct Wanted {
+        QString path;
+        qint64 knownTime = 0;  // of the change that is known
+    };
+
     struct Job {
-        QStringList paths;
+        std::vector<Wanted> photos;
         QSize size;
     };
 
@@ -48,9 +55,10 @@ class ThumbnailLoader : public QObject {
         QImage picture;
         bool isRawPreview = false;
         bool isMade = true;  // else the picture is still to come
+        qint64 time = 0;     // when the file was last changed, in milliseconds
     };
 
-    static Entry entryOf(const QString& path, QSize size, QSize photo);
+    static Entry entryOf(const QString& path, QSize size, QSize photo, qint64 time);
     void make(const Job& job);
     void makeHuge(const Job& job);
     void hand(const QString& path, QSize bound, const Entry& entry);

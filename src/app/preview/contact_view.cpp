@@ -240,6 +240,7 @@ void ContactView::paintCell(QPainter& painter, int place) const {
     }
     const QRect area = pictureRect(place);
     painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(font());
     if (cell.picture.isNull()) {
         painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap,
                          cell.message.isEmpty() ? tr("Loading...") : cell.message);

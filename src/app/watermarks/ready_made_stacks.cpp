@@ -74,7 +74,7 @@ WatermarkStack cornerLogo() {
     logo.ImageData = placeholderLogo();
     logo.Resize = true;
     logo.ResizeFormat = logo_resize::Proportional;
-    logo.ImageProportionalResize = photo_side::LongerSide;
+    logo.ImageProportionalResize = photo_side::Width;  // the longer side is the logo's height on a tall photo
     logo.ResizeWidth = 0.2F;
     logo.Transparency = 0.85F;
     logo.Position = BottomRight;

@@ -7,12 +7,15 @@
 #include "app/window/watermark_panel.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDial>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSlider>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -33,7 +36,13 @@ bool hasOwnHistory(const QObject& field, bool redo) {
     return line != nullptr && (redo ? line->isRedoAvailable() : line->isUndoAvailable());
 }
 
-// Scrolls up and down only, since it is never narrower than its page; but in a small window it may be.
+bool turnsWithWheel(const QObject& field) {
+    return qobject_cast<const QComboBox*>(&field) != nullptr ||
+           qobject_cast<const QSlider*>(&field) != nullptr || qobject_cast<const QDial*>(&field) != nullptr;
+}
+
+// Scrolls up and down only, since it is never narrower than its page; but in a small window it may be. The wheel scrolls
+// it across what stands in the way, and changes only what has the focus.
 class PageArea : public QScrollArea {
   public:
     PageArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
@@ -41,6 +50,11 @@ class PageArea : public QScrollArea {
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus);
         setWidget(page);
+        for (auto* field : page->findChildren<QWidget*>()) {
+            if (!turnsWithWheel(*field)) continue;
+            if (field->focusPolicy() == Qt::WheelFocus) field->setFocusPolicy(Qt::StrongFocus);
+            field->installEventFilter(this);
+        }
     }
 
     QSize minimumSizeHint() const override {
@@ -59,6 +73,11 @@ class PageArea : public QScrollArea {
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+        if (event->type() == QEvent::Wheel && turnsWithWheel(*watched) &&
+            !static_cast<QWidget*>(watched)->hasFocus()) {
+            event->ignore();
+            return true;
+        }
         return QScrollArea::eventFilter(watched, event);
     }
 

@@ -268,7 +268,8 @@ void MainWindow::makeToolBar() {
     const QAction* start = (*actions_)[Act::Start];
     start_->setObjectName(QStringLiteral("StartWatermark"));
     start_->setText(tr("Start"));
-    start_->setIcon(accentIcon(QLatin1String("start")));
+    // Styles tear words and icon of a button apart from right to left.
+    if (!isRightToLeft()) start_->setIcon(accentIcon(QLatin1String("start")));
     takeAccent(*start_);
     start_->setToolTip(start->toolTip());
     start_->setAccessibleName(tr("Start Watermarking"));
@@ -424,7 +425,6 @@ void MainWindow::keepPlaces() const {
     setPreference(preference::WindowStackColumn, stackColumn_->saveState());
 }
 
-// Files that were copied elsewhere.
 // ---- events
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -439,12 +439,14 @@ void MainWindow::dropEvent(QDropEvent* event) {
     if (mainView_->performDragOperation(*event->mimeData())) event->acceptProposedAction();
 }
 
-// What no control has taken: Escape goes one step out, from something new to nothing selected.
+// What no control has taken: Escape goes one step out, from something new by the summary of a run to nothing selected.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape || isRunning_) {
         QMainWindow::keyPressEvent(event);
     } else if (editors_.isNew()) {
         editors_.takeAway();
+    } else if (result_->isVisible()) {
+        result_->hide();
     } else {
         editors_.close();
     }

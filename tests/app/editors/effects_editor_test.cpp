@@ -109,17 +109,25 @@ TEST_F(EffectsEditorTest, EveryControlSetsItsFieldsAndNoOthers) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
+        const int before = history().index();
+        window.watermarks().AddEffects(PhotoEffects());
         edit(Act::AddEffects, row.drive);
         PhotoEffects expected;
         row.expected(expected);
         EXPECT_TRUE(effects() == expected);
         EXPECT_TRUE(waitForPreview());
-        history().undo();
-        EXPECT_FALSE(effects().has_value()) << "one step";
+        history().setIndex(before);
     }
 }
 
 TEST_F(EffectsEditorTest, ThePhotoFollowsAndTheBorderCanBeTakenAway) {
+    edit(Act::AddEffects, [this](QWidget& editor) {
+        type(editor, "TopThickness", u"10"_s);
+        EXPECT_EQ(*effects()->LeftThicknessShare, 0.02F);
+    });
+    history().undo();
+    EXPECT_FALSE(effects().has_value()) << "one step";
+    window.watermarks().AddEffects(PhotoEffects());
     edit(Act::AddEffects, [this](QWidget& editor) {
         click(editor, "SameBorder");
         type(editor, "TopThickness", u"30"_s);

@@ -4,6 +4,7 @@
 #include "support/test_pictures.h"
 #include "support/testing.h"
 
+#include <QDateTime>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -23,6 +24,13 @@ TEST(ThumbnailLoader, KeepsWhatItHasMadeUntilAnotherSizeIsWanted) {
         EXPECT_EQ(loader.thumbnail(paths[0]).size(), QSize(bound, bound * 3 / 4));
         EXPECT_TRUE(!loader.isBroken(paths[0]) && loader.isBroken(paths[1]));
     }
+    ASSERT_TRUE(drawnScene({90, 120}).save(paths[1]));
+    QFile mended(paths[1]);
+    ASSERT_TRUE(mended.open(QFile::ReadWrite));
+    mended.setFileTime(QDateTime::currentDateTime().addSecs(10), QFile::FileModificationTime);
+    loader.want(paths, {80, 80});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return made.count() == 5; }));
+    EXPECT_EQ(loader.thumbnail(paths[1]).size(), QSize(60, 80));
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 #include "app/editor_fixture.h"
 #include "app/editors/controls/fold_group.h"
 
+#include <QApplication>
 #include <QPlainTextEdit>
+#include <QWheelEvent>
 
 namespace zelto {
 namespace {
@@ -39,6 +41,19 @@ TEST_F(InspectorTest, EscapeGoesOneStepOut) {
     pressHere(Qt::Key_Escape);
     EXPECT_TRUE(title().isEmpty());
     EXPECT_EQ(records().size(), 1U) << "what is not new stays";
+}
+
+TEST_F(InspectorTest, TheWheelScrollsAcrossFieldsThatHaveNoFocus) {
+    window.actions()[Act::AddText]->trigger();
+    const Watermark before = record();
+    for (QWidget* field : window.inspector().page()->findChildren<QWidget*>()) {
+        if (!field->inherits("QComboBox") && !field->inherits("QSlider") && !field->inherits("QDial"))
+            continue;
+        QWheelEvent wheel({2, 2}, field->mapToGlobal(QPointF(2, 2)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(field, &wheel);
+    }
+    EXPECT_TRUE(record() == before);
 }
 
 TEST_F(InspectorTest, AVisitIsOneStepUntilSomethingElseIsUsed) {

@@ -1,12 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/fold_group.h"
 
+#include "app/common/icons.h"
 #include "platform/preferences.h"
 
+#include <QImage>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPolygonF>
 #include <QVBoxLayout>
 
 namespace zelto {
+namespace {
+
+// A tool button's own arrow stays on the left where the words begin on the right.
+QIcon arrow(bool folded, Qt::LayoutDirection direction) {
+    constexpr int Side = 32;
+    QImage drawing(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    drawing.fill(Qt::transparent);
+    QPainter painter(&drawing);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.translate(Side / 2, Side / 2);
+    if (folded) painter.rotate(direction == Qt::RightToLeft ? 90.0 : -90.0);
+    painter.drawPolygon(QPolygonF({{-13.0, -6.0}, {13.0, -6.0}, {0.0, 8.0}}));
+    painter.end();
+    return lineIcon(drawing);
+}
+
+}  // namespace
 
 FoldGroup::FoldGroup(const QString& name, const QString& title, AtFirst atFirst, QWidget* parent)
     : QWidget(parent), name_(name), atFirst_(atFirst), title_(new QToolButton(this)) {
@@ -21,6 +44,7 @@ FoldGroup::FoldGroup(const QString& name, const QString& title, AtFirst atFirst,
     QFont bold = title_->font();
     bold.setBold(true);
     title_->setFont(bold);
+    title_->setIconSize({10, 10});
     title_->installEventFilter(this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -48,7 +72,7 @@ void FoldGroup::setFolded(bool folded) {
 
 void FoldGroup::show(bool folded) {
     isFolded_ = folded;
-    title_->setArrowType(folded ? Qt::RightArrow : Qt::DownArrow);
+    title_->setIcon(arrow(folded, layoutDirection()));
     title_->setAccessibleDescription(folded ? tr("Folded") : tr("Unfolded"));
     if (content_ != nullptr) content_->setVisible(!folded);
 }
@@ -60,12 +84,12 @@ void FoldGroup::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
 }
 
-// As in trees: the left arrow key folds, the right one unfolds.
+// As in trees: the arrow key against the direction of reading folds, the one along it unfolds.
 bool FoldGroup::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Left || key == Qt::Key_Right) {
-            setFolded(key == Qt::Key_Left);
+            setFolded(key == (isRightToLeft() ? Qt::Key_Right : Qt::Key_Left));
             return true;
         }
     }

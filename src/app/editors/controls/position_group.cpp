@@ -2,6 +2,7 @@
 #include "app/editors/controls/position_group.h"
 
 #include "app/editors/controls/length_box.h"
+#include "app/editors/controls/value_page.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -18,10 +19,10 @@ namespace {
 enum PositionType { Preset = 1, Custom = 2 };
 
 // A label beside its field, at two columns of a grid.
-void addRow(QGridLayout& grid, int row, int column, QWidget* field) {
-    auto* label = new QLabel(field->accessibleName(), field->parentWidget());
+void addRow(QGridLayout& grid, int row, int column, const QString& text, QWidget* field) {
+    auto* label = new QLabel(text, field->parentWidget());
     label->setBuddy(field);
-    field->setAccessibleName(label->text().remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    nameAfterLabel(text, *field);
     grid.addWidget(label, row, column, Qt::AlignRight | Qt::AlignVCenter);
     grid.addWidget(field, row, column + 1);
 }
@@ -40,10 +41,9 @@ PositionGroup::PositionGroup(RecordBinder<Watermark>& binder, QWidget* parent)
     column->addWidget(makePadding());
 }
 
-NumberField* PositionGroup::makeNumber(const char* name, const NumberKind& kind, const QString& label) {
+NumberField* PositionGroup::makeNumber(const char* name, const NumberKind& kind) {
     auto* field = new NumberField(kind, this);
     field->setObjectName(QLatin1String(name));
-    field->setAccessibleName(label);
     return field;
 }
 
@@ -54,8 +54,8 @@ QWidget* PositionGroup::makePosition() {
     grid_ = new PositionGrid(box);
     auto* custom = new QRadioButton(tr("Custom"), box);
     custom->setObjectName(QStringLiteral("CustomPosition"));
-    NumberField* left = makeNumber("CustomPositionLeft", number_kind::Length, tr("From left:"));
-    NumberField* top = makeNumber("CustomPositionTop", number_kind::Length, tr("From top:"));
+    NumberField* left = makeNumber("CustomPositionLeft", number_kind::Length);
+    NumberField* top = makeNumber("CustomPositionTop", number_kind::Length);
     auto* types = new QButtonGroup(box);
     types->addButton(preset, Preset);
     types->addButton(custom, Custom);
@@ -64,8 +64,8 @@ QWidget* PositionGroup::makePosition() {
     layout->addWidget(preset, 0, 0);
     layout->addWidget(grid_, 1, 0, 3, 1);
     layout->addWidget(custom, 0, 1, 1, 2);
-    addRow(*layout, 1, 1, left);
-    addRow(*layout, 2, 1, top);
+    addRow(*layout, 1, 1, tr("From left:"), left);
+    addRow(*layout, 2, 1, tr("From top:"), top);
     layout->setRowStretch(3, 1);
     layout->setColumnStretch(0, 1);
 
@@ -114,9 +114,9 @@ QWidget* PositionGroup::makePadding() {
     };
     int place = 0;
     for (const SideRow& side : sides) {
-        auto* field = new LengthBox(number_kind::Offset, side.label, box);
+        auto* field = new LengthBox(number_kind::Offset, {}, box);
         field->setObjectName(QLatin1String(side.name));
-        addRow(*layout, 1 + place / 2, place % 2 * 2, field);
+        addRow(*layout, 1 + place / 2, place % 2 * 2, side.label, field);
         ++place;
         bindLength(binder_, field, side.padding);
         binder_.follow([field, isUsed = side.isUsed](const Watermark& record) {

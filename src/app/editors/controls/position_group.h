@@ -25,7 +25,7 @@ class PositionGroup : public QWidget {
   private:
     QWidget* makePosition();
     QWidget* makePadding();
-    NumberField* makeNumber(const char* name, const NumberKind& kind, const QString& label);
+    NumberField* makeNumber(const char* name, const NumberKind& kind);
 
     RecordBinder<Watermark>& binder_;
     PositionGrid* grid_ = nullptr;

@@ -43,6 +43,9 @@ class ValuePage : public EditorPage {
     std::optional<Value> start_;
 };
 
+// Gives a control that has no accessible name yet that of its label, and the part of it that takes the keys likewise.
+void nameAfterLabel(const QString& label, QWidget& control);
+
 // Adds a row whose label is the buddy and the accessible name of its control.
 void addRow(QFormLayout& form, const QString& label, QWidget* control);
 

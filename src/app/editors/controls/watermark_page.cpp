@@ -74,17 +74,20 @@ void WatermarkPage::edit(const std::function<void(Watermark&)>& edit) {
     if (!(after == before)) put(after);
 }
 
+void nameAfterLabel(const QString& label, QWidget& control) {
+    if (!control.accessibleName().isEmpty()) return;
+    QString name = label;
+    control.setAccessibleName(name.remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    if (QWidget* part = control.focusProxy(); part != nullptr && part->accessibleName().isEmpty())
+        part->setAccessibleName(control.accessibleName());
+}
+
 void addRow(QFormLayout& form, const QString& label, QWidget* control) {
     auto* shown = new QLabel(label, control->parentWidget());
     shown->setBuddy(control);
     shown->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);  // in the middle of tall rows
     form.addRow(shown, control);
-    if (!control->accessibleName().isEmpty()) return;
-    QString name = label;
-    control->setAccessibleName(name.remove(QLatin1Char('&')).remove(QLatin1Char(':')));
-    // Where the keys go to a part of it, that part is what is told.
-    if (QWidget* part = control->focusProxy(); part != nullptr && part->accessibleName().isEmpty())
-        part->setAccessibleName(control->accessibleName());
+    nameAfterLabel(label, *control);
 }
 
 }  // namespace zelto
