@@ -121,7 +121,8 @@ void WatermarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
         painter->setPen(color);
         painter->setFont(small);
         // What a record holds, such as a path, reads from left to right everywhere.
-        painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextForceLeftToRight,
+        const Qt::Alignment side = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
+        painter->drawText(line, side | Qt::AlignVCenter | Qt::TextForceLeftToRight,
                           smallMetrics.elidedText(label, Qt::ElideMiddle, line.width()));
     }
     painter->restore();
