@@ -2073,6 +2073,14 @@ A run changes none of them.</source>
         <source>Paste Error</source>
         <translation>خطأ في اللصق</translation>
     </message>
+    <message>
+        <source>Longer Side</source>
+        <translation>الضلع الأطول</translation>
+    </message>
+    <message>
+        <source>Side of the photo the size follows</source>
+        <translation>ضلع الصورة الذي يتبعه الحجم</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -2883,10 +2891,6 @@ A run changes none of them.</source>
         <translation>الحجم بالمئة</translation>
     </message>
     <message>
-        <source>Side of the photo the size follows</source>
-        <translation>ضلع الصورة الذي يتبعه الحجم</translation>
-    </message>
-    <message>
         <source>Absolute</source>
         <translation>مطلق</translation>
     </message>
@@ -3153,6 +3157,10 @@ A run changes none of them.</source>
     <message>
         <source>You have set no copyright data (Add &gt; Copyright).</source>
         <translation>لم تُضبط بيانات حقوق النشر (إضافة &gt; حقوق النشر).</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
     </message>
 </context>
 <context>
@@ -3544,6 +3552,14 @@ A run changes none of them.</source>
     <message>
         <source>Background of the code</source>
         <translation>خلفية الرمز</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
     </message>
 </context>
 <context>
@@ -4234,10 +4250,6 @@ Click for the saved stacks (%2)</source>
     <message>
         <source>Size</source>
         <translation>الحجم</translation>
-    </message>
-    <message>
-        <source>Side of the photo the size follows</source>
-        <translation>ضلع الصورة الذي يتبعه الحجم</translation>
     </message>
     <message>
         <source>Usual sizes</source>

@@ -2017,6 +2017,14 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>Paste Error</source>
         <translation>Einfügen nicht möglich</translation>
     </message>
+    <message>
+        <source>Longer Side</source>
+        <translation>Längere Seite</translation>
+    </message>
+    <message>
+        <source>Side of the photo the size follows</source>
+        <translation>Seite des Fotos, nach der sich die Größe richtet</translation>
+    </message>
 </context>
 <context>
     <name>zelto::AutoNumberWindowController</name>
@@ -2807,10 +2815,6 @@ Ein Durchlauf ändert keine davon.</translation>
         <translation>Größe in Prozent</translation>
     </message>
     <message>
-        <source>Side of the photo the size follows</source>
-        <translation>Seite des Fotos, nach der sich die Größe richtet</translation>
-    </message>
-    <message>
         <source>Absolute</source>
         <translation>Absolut</translation>
     </message>
@@ -3069,6 +3073,10 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>You have set no copyright data (Add &gt; Copyright).</source>
         <translation>Es sind keine Copyright-Angaben gesetzt (Hinzufügen &gt; Copyright).</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
 </context>
 <context>
@@ -3456,6 +3464,14 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>Background of the code</source>
         <translation>Hintergrund des Codes</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
 </context>
 <context>
@@ -4130,10 +4146,6 @@ Klick zeigt die gespeicherten Stapel (%2)</translation>
     <message>
         <source>Size</source>
         <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Side of the photo the size follows</source>
-        <translation>Seite des Fotos, nach der sich die Größe richtet</translation>
     </message>
     <message>
         <source>Usual sizes</source>

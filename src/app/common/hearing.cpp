@@ -27,6 +27,11 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
     static const bool isInstalled = (QAccessible::installFactory(makeHeardWidget), true);
     Q_UNUSED(isInstalled)
     widget.setProperty(RoleProperty, static_cast<int>(role));
+    // Naming a widget has Qt make its own interface of it, which it keeps.
+    QAccessibleInterface* made = QAccessible::queryAccessibleInterface(&widget);
+    if (made != nullptr && made->role() != role) {
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
+    }
 }
 
 void announce(QWidget& widget, const QString& text) {

@@ -71,10 +71,10 @@ FolderWindowController::FolderWindowController(QWidget* parent)
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->addButton(tr("&Add Photos"), QDialogButtonBox::AcceptRole)->setDefault(true);
     auto* column = new QVBoxLayout(this);
+    column->addStrut(480);
     column->addLayout(form);
     column->addStretch(1);
     column->addWidget(buttons);
-    setMinimumWidth(480);
     connect(buttons, &QDialogButtonBox::accepted, this, &FolderWindowController::GetinputandCloseWindow);
     connect(buttons, &QDialogButtonBox::rejected, this, &FolderWindowController::reject);
 

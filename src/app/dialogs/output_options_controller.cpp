@@ -61,7 +61,6 @@ OutputOptionsController::OutputOptionsController(ImageListController& photos, Wa
       resize_(new ResizePanel(this)),
       example_(new ExampleView(this)) {
     setWindowTitle(tr("Output Options"));
-    setMinimumWidth(fontMetrics().averageCharWidth() * 92);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     QPushButton* start = buttons->addButton(tr("&Start"), QDialogButtonBox::AcceptRole);
     start->setDefault(true);
@@ -69,6 +68,7 @@ OutputOptionsController::OutputOptionsController(ImageListController& photos, Wa
     keep->setAutoDefault(false);
 
     auto* column = new QVBoxLayout(this);
+    column->addStrut(fontMetrics().averageCharWidth() * 92);
     for (QWidget* part : std::initializer_list<QWidget*>{output_, rename_, resize_, example_}) {
         column->addWidget(part);
     }

@@ -120,6 +120,7 @@ QLayout* OutputPanel::makeMetadataColumn() {
     metadata_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     noteIcon_->setPixmap(colorIcon(QLatin1String("warning")).pixmap(QSize(side, side), devicePixelRatioF()));
+    noteIcon_->setAccessibleName(tr("Warning"));
     // The line of the note keeps its place while there is none.
     note_->setMinimumHeight(side);
     auto* note = new QHBoxLayout;

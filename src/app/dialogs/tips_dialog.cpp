@@ -34,6 +34,7 @@ TipsDialog::TipsDialog(MyGlobalInstance& shared, QWidget* parent)
 QLayout* TipsDialog::makeTip() {
     auto* icon = new QLabel(this);
     icon->setPixmap(lineIcon(QLatin1String("tips")).pixmap(QSize(IconSide, IconSide), devicePixelRatioF()));
+    icon->setAccessibleName(tr("Tip"));
     icon->setAlignment(Qt::AlignTop);
     auto* heading = new QLabel(tr("Did you know?"), this);
     QFont large = heading->font();

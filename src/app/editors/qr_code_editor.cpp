@@ -124,6 +124,7 @@ QWidget* QrCodeEditor::makeContent() {
 
 QLayout* QrCodeEditor::makeJudgement(QWidget* box) {
     judgementIcon_ = new QLabel(box);
+    judgementIcon_->setAccessibleName(tr("Note"));
     judgement_ = new QLabel(box);
     judgement_->setObjectName(QStringLiteral("Judgement"));
     judgement_->setWordWrap(true);
@@ -173,6 +174,7 @@ QWidget* QrCodeEditor::makeLook() {
 
 void QrCodeEditor::say(const QrJudgement& judgement) {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    judgementIcon_->setAccessibleName(judgement.isProblem() ? tr("Warning") : tr("Note"));
     judgementIcon_->setPixmap(style()
                                   ->standardIcon(judgement.isProblem() ? QStyle::SP_MessageBoxWarning
                                                                        : QStyle::SP_MessageBoxInformation)

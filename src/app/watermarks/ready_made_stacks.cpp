@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/watermarks/ready_made_stacks.h"
 
-#include "platform/words.h"
-
 #include <QBuffer>
 #include <QFontInfo>
 #include <QPainter>
@@ -119,11 +117,16 @@ WatermarkStack proof() {
 
 const std::vector<ReadyMadeStack>& readyMadeStacks() {
     static const std::vector<ReadyMadeStack> stacks = {
-        {Words::tr("Corner logo"), Words::tr("A place for your logo in the lower right corner"), cornerLogo},
-        {Words::tr("Diagonal text"), Words::tr("A text all over the photo"), tiledText},
-        {Words::tr("Caption bar"), Words::tr("The photo's name and date on a bar along the lower edge"),
+        {MarkedText(QT_TRANSLATE_NOOP("Words", "Corner logo")),
+         MarkedText(QT_TRANSLATE_NOOP("Words", "A place for your logo in the lower right corner")),
+         cornerLogo},
+        {MarkedText(QT_TRANSLATE_NOOP("Words", "Diagonal text")),
+         MarkedText(QT_TRANSLATE_NOOP("Words", "A text all over the photo")), tiledText},
+        {MarkedText(QT_TRANSLATE_NOOP("Words", "Caption bar")),
+         MarkedText(QT_TRANSLATE_NOOP("Words", "The photo's name and date on a bar along the lower edge")),
          captionBar},
-        {Words::tr("Proof with QR code"), Words::tr("PROOF all over the photo, and its name as a QR code"),
+        {MarkedText(QT_TRANSLATE_NOOP("Words", "Proof with QR code")),
+         MarkedText(QT_TRANSLATE_NOOP("Words", "PROOF all over the photo, and its name as a QR code")),
          proof},
     };
     return stacks;

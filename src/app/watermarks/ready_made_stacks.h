@@ -2,17 +2,16 @@
 // Stacks to begin with, made for photos of any size. Main thread only.
 #pragma once
 
+#include "platform/words.h"
 #include "records/watermark_stack.h"
-
-#include <QString>
 
 #include <vector>
 
 namespace zelto {
 
 struct ReadyMadeStack {
-    QString name;
-    QString tip;  // what it holds, in one line
+    MarkedText name;
+    MarkedText tip;  // what it holds, in one line
     WatermarkStack (*make)();
 };
 

@@ -139,7 +139,7 @@ void Inspector::layOut() {
     hint->setWordWrap(true);
     hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     hint->setContentsMargins(10, 0, 10, 10);
-    stack_->addWidget(hint);
+    stack_->addWidget(new PageArea(hint, stack_));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

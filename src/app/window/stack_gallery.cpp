@@ -64,7 +64,12 @@ class ReadyMadeBlock : public QWidget {
         const int room = size_.height() - (heightWith(size_.height()) - height() + rows() - 1) / rows();
         const int pictureHeight = std::clamp(room, 1, size_.height());
         const QSize fitted(size_.width() * pictureHeight / size_.height(), pictureHeight);
-        for (QToolButton* button : buttons_) button->setIconSize(fitted);
+        for (QToolButton* button : buttons_) {
+            constexpr int Margins = 12;
+            button->setIconSize(fitted);
+            button->setText(fontMetrics().elidedText(button->accessibleName(), Qt::ElideRight,
+                                                     button->width() - Margins));
+        }
     }
 
   private:

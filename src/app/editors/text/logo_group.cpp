@@ -4,6 +4,7 @@
 #include "app/common/in_background.h"
 #include "app/common/messages.h"
 #include "app/editors/controls/color_well.h"
+#include "app/editors/controls/photo_side_box.h"
 #include "app/editors/controls/value_page.h"
 #include "pictures/picture_names.h"
 #include "pictures/picture_reader.h"
@@ -142,9 +143,7 @@ QWidget* LogoGroup::makeResize() {
     auto* proportional = named("Proportional", new QRadioButton(tr("Proportional"), box));
     percent_ = makeSize(number_kind::PercentOfSide, "PropSize", tr("Size in per cent"));
     percent_->load(LogoStartPercent);
-    auto* side = named("ImageProportionalResize", new QComboBox(box));
-    side->setAccessibleName(tr("Side of the photo the size follows"));
-    for (const QLatin1String title : photo_side::All) side->addItem(title, QString(title));
+    auto* side = named("ImageProportionalResize", makePhotoSideBox(box));
     auto* absolute = named("Absolute", new QRadioButton(tr("Absolute"), box));
     width_ = makeSize(number_kind::Length, "AbsWidth", tr("Width"));
     width_->setPrefix(tr("W "));

@@ -3,6 +3,7 @@
 
 #include "app/common/icons.h"
 #include "app/editors/controls/color_well.h"
+#include "app/editors/controls/photo_side_box.h"
 #include "app/editors/controls/value_page.h"
 #include "app/editors/text/font_family_list.h"
 #include "render/font_size.h"
@@ -93,9 +94,7 @@ QWidget* TextStyleGroup::makeSize() {
     kind->addItem(tr("Fixed"), false);
     auto* size = named("FontSize", new NumberField(Pixels, widget));
     size->setAccessibleName(tr("Size"));
-    auto* side = named("FontRelativeSize", new QComboBox(widget));
-    side->setAccessibleName(tr("Side of the photo the size follows"));
-    for (const QLatin1String title : photo_side::All) side->addItem(title, QString(title));
+    auto* side = named("FontRelativeSize", makePhotoSideBox(widget));
     auto* usual = named("UsualSizes", new QComboBox(widget));
     usual->setAccessibleName(tr("Usual sizes"));
     usual->setPlaceholderText(tr("Custom"));
