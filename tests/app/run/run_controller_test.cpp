@@ -3,6 +3,7 @@
 
 #include "app/hands.h"
 #include "app/run/run_window.h"
+#include "app/window/result_bar.h"
 #include "persistence/setting_file.h"
 #include "pictures/picture_reader.h"
 #include "platform/preferences.h"
@@ -323,6 +324,16 @@ TEST_F(RunWindow, WhatACancelledRunStillTellsIsNotTakenForTheNextOnes) {
     EXPECT_EQ(statuses(), u".."_s);
     letThrough(2);
     EXPECT_EQ(summary(), Succeeded + u"2 written"_s);
+}
+
+// A screen reader is told these names when they change.
+TEST_F(RunWindow, TellsThoseWhoHearItThatARunBeginsAndHowItEnds) {
+    addPhotos(u"gb"_s);
+    start();
+    summary();
+    const QString begun = window->processing().accessibleName();
+    EXPECT_TRUE(begun.startsWith(u"The run has begun: 2 photo"_s)) << qPrintable(begun);
+    EXPECT_EQ(window->findChild<ResultBar*>()->accessibleName(), u"Result of the run: 1 written, 1 failed"_s);
 }
 
 TEST_F(RunWindow, KeepsTheStackAndTheLastNumber) {
