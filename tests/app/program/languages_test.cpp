@@ -165,7 +165,8 @@ void checkMnemonics(QStringList texts, const QList<QAction*>& actions, const std
 void Languages::look(QWidget& top, const std::string& where) {
     QCoreApplication::processEvents();
     const QImage seen = top.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);  // a photo may just have told its size
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::LayoutRequest);  // a photo may just have told its size
     QStringList mnemonics;
     for (QWidget* widget : top.findChildren<QWidget*>()) {
         if (!widget->isVisible() || widget->window() != &top ||
