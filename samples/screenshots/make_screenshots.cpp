@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // make-screenshots                       lists the pictures there are, by name
 // make-screenshots NAME SAMPLES FILE     takes one, with the sample photos and settings of a folder
+#include "platform/languages.h"
 #include "samples/screenshots/screenshot_scenes.h"
 
 #include <QApplication>
@@ -53,6 +54,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setQuitOnLastWindowClosed(false);
+    zelto::speakLanguage(QStringLiteral("en"));
     scene->look == ScreenshotScene::Look::Dark ? useDarkPalette() : useLightPalette();
     Stage stage(QString::fromLocal8Bit(argv[2]));
     QTimer::singleShot(0, &application, [&] {

@@ -22,7 +22,7 @@ QIcon arrow(bool folded, Qt::LayoutDirection direction) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
-    painter.translate(Side / 2, Side / 2);
+    painter.translate(Side / 2.0, Side / 2.0);
     if (folded) painter.rotate(direction == Qt::RightToLeft ? 90.0 : -90.0);
     painter.drawPolygon(QPolygonF({{-13.0, -6.0}, {13.0, -6.0}, {0.0, 8.0}}));
     painter.end();
