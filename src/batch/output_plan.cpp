@@ -84,19 +84,12 @@ class Planner {
         PlannedOutput& output = plan_.outputs[row];
         if (!toldAsShared_.contains(name(row))) plan_.sharedNames.append(path(row));
         toldAsShared_.insert(name(row));
-        switch (request_.names.sameName) {
-            case NameRule::Replace:
-                // Whatever became of the first one's name holds for this one.
-                output = {plan_.outputs[first].fate, plan_.outputs[first].reason, output.name,
-                          plan_.outputs[first].number, first};
-                break;
-            case NameRule::Number:
-                number(row);
-                break;
-            case NameRule::Skip:
-            case NameRule::Fail:
-                refuse(output, request_.names.sameName, sharedName(row));
-                break;
+        if (request_.names.sameName == NameRule::Replace) {
+            // Whatever became of the first one's name holds for this one.
+            output = {plan_.outputs[first].fate, plan_.outputs[first].reason, output.name,
+                      plan_.outputs[first].number, first};
+        } else {
+            resolve(row, request_.names.sameName, sharedName(row));
         }
     }
 
@@ -106,19 +99,9 @@ class Planner {
 
     // What stands there is the run's own, so the rule for names it shares holds.
     void shareWithEarlier(std::size_t row) {
-        PlannedOutput& output = plan_.outputs[row];
-        switch (request_.names.sameName) {
-            case NameRule::Replace:
-                output.replacesEarlier = true;
-                break;
-            case NameRule::Number:
-                number(row);
-                break;
-            case NameRule::Skip:
-            case NameRule::Fail:
-                refuse(output, request_.names.sameName, sharedName(row));
-                break;
-        }
+        const NameRule rule = request_.names.sameName;
+        plan_.outputs[row].replacesEarlier = rule == NameRule::Replace;
+        resolve(row, rule, sharedName(row));
     }
 
     QString sharedName(std::size_t row) const {
@@ -129,24 +112,27 @@ class Planner {
         const QString wanted = path(row);
         if (!isTaken(wanted)) return;
         if (request_.photos[row].checked) plan_.existing.append(wanted);
-        switch (request_.names.existing) {
+        resolve(row, request_.names.existing, Words::tr("“%1” exists already").arg(wanted));
+    }
+
+    // What the rule makes of an output whose name is taken. `reason` says by what, for those that are not written.
+    void resolve(std::size_t row, NameRule rule, const QString& reason) {
+        PlannedOutput& output = plan_.outputs[row];
+        switch (rule) {
             case NameRule::Replace:
                 break;
             case NameRule::Number:
                 number(row);
                 break;
             case NameRule::Skip:
+                output.fate = PlannedOutput::Fate::Skip;
+                output.reason = Words::tr("Left out: %1.").arg(reason);
+                break;
             case NameRule::Fail:
-                refuse(plan_.outputs[row], request_.names.existing,
-                       Words::tr("“%1” exists already").arg(wanted));
+                output.fate = PlannedOutput::Fate::Fail;
+                output.reason = Words::tr("Not written: %1.").arg(reason);
                 break;
         }
-    }
-
-    static void refuse(PlannedOutput& output, NameRule rule, const QString& reason) {
-        const bool skips = rule == NameRule::Skip;
-        output.fate = skips ? PlannedOutput::Fate::Skip : PlannedOutput::Fate::Fail;
-        output.reason = (skips ? Words::tr("Left out: %1.") : Words::tr("Not written: %1.")).arg(reason);
     }
 
     // Takes the first number that is free, or that this very photo had before. No number below the last one tried for a
