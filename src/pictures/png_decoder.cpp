@@ -26,11 +26,21 @@ namespace {
 
 void stayQuiet(png_structp, png_const_charp) {}
 
-// libpng's memory: what it cannot get is noted, since its message is one of many.
+// Of any chunk but those of the pixels: what it holds, and what it unpacks to.
+constexpr png_alloc_size_t LargestChunk = 64 << 20;
+
+// What libpng may have at a time. It would ask for any length that a chunk states.
+struct Memory {
+    png_alloc_size_t largest = LargestChunk;
+    bool ranOut = false;  // what cannot be had is noted here, since libpng's message is one of many
+};
+
 png_voidp allocate(png_structp png, png_alloc_size_t bytes) {
-    void* const memory = std::malloc(bytes);
-    if (memory == nullptr) *static_cast<bool*>(png_get_mem_ptr(png)) = true;
-    return memory;
+    auto& memory = *static_cast<Memory*>(png_get_mem_ptr(png));
+    if (bytes > memory.largest) return nullptr;
+    void* const block = std::malloc(bytes);
+    memory.ranOut |= block == nullptr;
+    return block;
 }
 
 void release(png_structp, png_voidp memory) {
@@ -47,16 +57,12 @@ void readFrom(png_structp png, png_bytep target, std::size_t count) {
 constexpr std::array<png_byte, 50> SkippedChunks = {
     "tEXt\0zTXt\0iTXt\0sPLT\0hIST\0pCAL\0sCAL\0oFFs\0tIME\0bKGD"};
 
-// Of any chunk but those of the pixels: what it holds, and what it unpacks to. libpng would believe any length that a
-// file states.
-constexpr png_alloc_size_t LargestChunk = 64 << 20;
-
 // Owns libpng's reading state. What can fail goes through guarded(), so that libpng's way out of an error, a long jump,
 // never passes over an object with a destructor.
 class PngFile {
   public:
     explicit PngFile(QIODevice& device)
-        : png_(png_create_read_struct_2(PNG_LIBPNG_VER_STRING, &escape_, leave, stayQuiet, &ranOut_, allocate,
+        : png_(png_create_read_struct_2(PNG_LIBPNG_VER_STRING, &escape_, leave, stayQuiet, &memory_, allocate,
                                         release)),
           info_(png_ == nullptr ? nullptr : png_create_info_struct(png_)) {
         if (info_ == nullptr) throw std::bad_alloc();
@@ -112,7 +118,9 @@ class PngFile {
         const bool done = guarded([&] {
             chooseForm(greyOnly);
             const int passes = png_set_interlace_handling(png_);
+            memory_.largest = PNG_SIZE_MAX;  // for rows
             png_read_update_info(png_, info_);
+            memory_.largest = LargestChunk;
             for (int pass = 0; pass < passes; ++pass) {
                 for (int y = 0; y < rows; ++y) png_read_row(png_, bits + stride * y, nullptr);
             }
@@ -126,7 +134,7 @@ class PngFile {
     bool guarded(Step step) {
         // NOLINTNEXTLINE(cert-err52-cpp): libpng's only way out of an error
         if (setjmp(escape_) != 0) {
-            if (ranOut_) throw std::bad_alloc();
+            if (memory_.ranOut) throw std::bad_alloc();
             return false;
         }
         step();
@@ -227,7 +235,7 @@ class PngFile {
     }
 
     std::jmp_buf escape_{};
-    bool ranOut_ = false;
+    Memory memory_;
     png_structp png_;
     png_infop info_;
 };
