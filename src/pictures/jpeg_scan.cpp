@@ -40,6 +40,11 @@ constexpr std::array<std::uint8_t, DCTSIZE2> Zigzag = [] {
     return places;
 }();
 
+// The table of a number that the file may have made up; null where there is none.
+const JHUFF_TBL* tableAt(JHUFF_TBL* const (&tables)[NUM_HUFF_TBLS], int number) {
+    return number >= 0 && number < NUM_HUFF_TBLS ? tables[number] : nullptr;
+}
+
 bool isSame(const JHUFF_TBL& one, const JHUFF_TBL& other) {
     return std::ranges::equal(one.bits, other.bits) && std::ranges::equal(one.huffval, other.huffval);
 }
@@ -151,8 +156,8 @@ bool JpegScan::suits(const jpeg_decompress_struct& header, const JpegGeometry& g
     if (!isOneBaselineScan || !comesInUnits) return false;
     for (int i = 0; i < header.num_components; ++i) {
         const jpeg_component_info& component = header.comp_info[i];
-        const JHUFF_TBL* means = header.dc_huff_tbl_ptrs[component.dc_tbl_no];
-        const JHUFF_TBL* others = header.ac_huff_tbl_ptrs[component.ac_tbl_no];
+        const JHUFF_TBL* means = tableAt(header.dc_huff_tbl_ptrs, component.dc_tbl_no);
+        const JHUFF_TBL* others = tableAt(header.ac_huff_tbl_ptrs, component.ac_tbl_no);
         if (header.cur_comp_info[i] != &component || means == nullptr || others == nullptr ||
             !isTree(*means) || !isTree(*others) || !isSame(completedDcTable(*means), *means) ||
             !isSame(completedAcTable(*others), *others))
