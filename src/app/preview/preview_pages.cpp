@@ -11,8 +11,9 @@ PreviewPages::PreviewPages(ImageListController& photos, WatermarkDocument& docum
                            PreviewView& canvas, QWidget* parent)
     : QStackedWidget(parent),
       photos_(photos),
+      preview_(preview),
       canvas_(canvas),
-      contacts_(new ContactView([&preview](int row) { return preview.requestFor(row); }, this)) {
+      contacts_(new ContactView([this](int row) { return requestFor(row); }, this)) {
     addWidget(&canvas_);
     addWidget(contacts_);
     connect(contacts_, &ContactView::chosen, this, [this](int row) {
@@ -30,6 +31,22 @@ PreviewPages::PreviewPages(ImageListController& photos, WatermarkDocument& docum
     connect(&photos_, &ImageListController::photoSelected, this, showAnew);
     connect(&photos_.model(), &QAbstractItemModel::rowsInserted, this, showAnew);
     connect(&photos_.model(), &QAbstractItemModel::rowsRemoved, this, showAnew);
+}
+
+PhotoRequest PreviewPages::requestFor(int row) const {
+    PhotoRequest request = preview_.requestFor(row);
+    if (isBare_) {
+        WatermarkStack bare = *request.stack;
+        bare.Watermarks.clear();
+        request.stack = std::make_shared<const WatermarkStack>(std::move(bare));
+    }
+    return request;
+}
+
+void PreviewPages::setBare(bool isBare) {
+    isBare_ = isBare;
+    preview_.setBare(isBare);
+    if (showsContacts()) contacts_->updateStack();
 }
 
 bool PreviewPages::showsContacts() const {

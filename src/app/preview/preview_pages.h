@@ -23,17 +23,22 @@ class PreviewPages : public QStackedWidget {
 
     void showContacts(bool on);
     bool showsContacts() const;
+    // Shows the photo, or the nine, without watermarks, or with them again.
+    void setBare(bool isBare);
     ContactView& contacts() { return *contacts_; }
 
   Q_SIGNALS:
     void contactsShown(bool on);
 
   private:
+    PhotoRequest requestFor(int row) const;
     void showRows();
 
     ImageListController& photos_;
+    PhotoPreview& preview_;
     PreviewView& canvas_;
     ContactView* contacts_;
+    bool isBare_ = false;
 };
 
 }  // namespace zelto

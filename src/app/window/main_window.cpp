@@ -171,10 +171,6 @@ void MainWindow::connectActions() {
     on(Act::FindPhotos, photoPanel_, &PhotoPanel::find);
     actions_->connectTo(Act::NextPhoto, [this] { photos_.step(1); });
     actions_->connectTo(Act::PreviousPhoto, [this] { photos_.step(-1); });
-    on(Act::ZoomIn, previewView_, &PreviewView::ZoomIn);
-    on(Act::ZoomOut, previewView_, &PreviewView::ZoomOut);
-    on(Act::FitToScreen, previewView_, &PreviewView::FittoScreen);
-    on(Act::ActualSize, previewView_, &PreviewView::ActualSize);
     connectViews();
     on(Act::FullScreen, controller_, &ZeltoController::ShowFullScreenImage);
     on(Act::Quit, static_cast<QWidget*>(this), &QWidget::close);
@@ -217,10 +213,21 @@ void MainWindow::connectViews() {
     contacts->setCheckable(true);
     actions_->connectTo(Act::Contacts, [this, contacts] { pages_->showContacts(contacts->isChecked()); });
     connect(pages_, &PreviewPages::contactsShown, contacts, &QAction::setChecked);
+    // What is zoomed is seen.
+    const auto zoom = [this](Act act, auto how) {
+        actions_->connectTo(act, [this, how] {
+            pages_->showContacts(false);
+            (previewView_->*how)();
+        });
+    };
+    zoom(Act::ZoomIn, &PreviewView::ZoomIn);
+    zoom(Act::ZoomOut, &PreviewView::ZoomOut);
+    zoom(Act::FitToScreen, &PreviewView::FittoScreen);
+    zoom(Act::ActualSize, &PreviewView::ActualSize);
     QAction* before = (*actions_)[Act::Before];
     before->setCheckable(true);
     auto* key = new HoldKey(Qt::Key_F8, this);
-    const auto show = [this, before, key] { preview_->setBare(before->isChecked() || key->isHeld()); };
+    const auto show = [this, before, key] { pages_->setBare(before->isChecked() || key->isHeld()); };
     actions_->connectTo(Act::Before, show);
     connect(key, &HoldKey::held, this, show);
 }

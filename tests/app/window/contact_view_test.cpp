@@ -107,6 +107,17 @@ TEST_F(ContactViewTest, FollowsEveryEditAndAClickGoesToThatPhoto) {
     QTest::keyClick(&window, Qt::Key_F9);
     QTest::keyClick(&contacts(), Qt::Key_Escape);
     EXPECT_FALSE(window.pages().showsContacts());
+    QTest::keyClick(&window, Qt::Key_F9);
+    ASSERT_TRUE(settle());
+    const QImage marked = contacts().cells()[2].picture;
+    QTest::keyPress(&window, Qt::Key_F8);
+    ASSERT_TRUE(settle());
+    EXPECT_NE(contacts().cells()[2].picture, marked);
+    QTest::keyRelease(&window, Qt::Key_F8);
+    ASSERT_TRUE(settle());
+    EXPECT_EQ(contacts().cells()[2].picture, marked);
+    window.actions()[Act::ActualSize]->trigger();
+    EXPECT_FALSE(window.pages().showsContacts()) << "what is zoomed is seen";
 }
 
 TEST_F(ContactViewTest, HoldingAKeyShowsThePhotoWithoutItsMarks) {
