@@ -65,27 +65,27 @@ void dressMessage(QMessageBox& box, QMessageBox::Icon icon, const QString& title
 }
 
 int show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
-         QMessageBox::StandardButtons buttons) {
+         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton onEnter) {
     QMessageBox box(parent);
     dressMessage(box, icon, title, text);
     box.setStandardButtons(buttons);
-    box.setDefaultButton(QMessageBox::Ok);
+    box.setDefaultButton(onEnter);
     return box.exec();
 }
 
 }  // namespace
 
 void showAlert(QWidget* parent, const QString& title, const QString& text) {
-    show(parent, QMessageBox::Warning, title, text, QMessageBox::Ok);
+    show(parent, QMessageBox::Warning, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void showMessage(QWidget* parent, const QString& title, const QString& text) {
-    show(parent, QMessageBox::Information, title, text, QMessageBox::Ok);
+    show(parent, QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool confirm(QWidget* parent, const QString& title, const QString& text) {
-    return show(parent, QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel) ==
-           QMessageBox::Ok;
+    return show(parent, QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel,
+                QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
 QMessageBox* openMessageSheet(QWidget* window, const MessageSheet& message,

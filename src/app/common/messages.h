@@ -18,7 +18,7 @@ void showAlert(QWidget* parent, const QString& title, const QString& text);
 // Something is done.
 void showMessage(QWidget* parent, const QString& title, const QString& text);
 
-// A question that "OK" answers with yes and "Cancel" with no.
+// A question about losing something, that "OK" answers with yes and "Cancel", which Enter presses, with no.
 bool confirm(QWidget* parent, const QString& title, const QString& text);
 
 struct MessageSheet {

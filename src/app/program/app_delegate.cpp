@@ -49,10 +49,13 @@ void AppDelegate::start(const StartRequest& request) {
     window_->EnableDisableWatermarkControls();
     showWindow();
     shared_.ReadTips(tipsDocument());
-    if (storedPreference(preference::ShowTips).value_or(false)) showTip();
+    // Whoever opens photos with Zelto is not kept waiting by a tip.
+    const bool isAskedFor = request.setting || !request.photos.isEmpty();
+    if (!isAskedFor) showTip();
     flushPreferences();
     const QStringList photos = loadFirst(request);
     if (!photos.isEmpty()) window_->controller().importPaths(photos);
+    if (isAskedFor) showTip();
     isStarted_ = true;
     openWaiting();
 }
@@ -104,6 +107,7 @@ void AppDelegate::showWindow() {
 
 // At the first start nothing is to lie over the welcome: the tip is a line of it.
 void AppDelegate::showTip() {
+    if (!storedPreference(preference::ShowTips).value_or(false)) return;
     if (shared_.FirstRun) {
         window_->welcome().showTip(shared_.GetCurrentTip(shared_.CurrentTip),
                                    [this] { return shared_.nextTip(); });

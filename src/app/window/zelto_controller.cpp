@@ -9,6 +9,7 @@
 #include "batch/folder_scan.h"
 #include "persistence/settings_library.h"
 #include "platform/preferences.h"
+#include "platform/words.h"
 
 #include <QFileInfo>
 
@@ -53,28 +54,31 @@ void ZeltoController::OpenAddFolderWindow() {
 
 void ZeltoController::ImportImagesFromFolder(const QString& folder, bool includeSubFolders,
                                              const QString& extensionList) {
-    import([folder, includeSubFolders, extensionList](const FolderImport::GoesOn& goesOn) {
+    const auto scan = [folder, includeSubFolders, extensionList](const FolderImport::GoesOn& goesOn) {
         return zelto::ImportImagesFromFolder(folder, includeSubFolders, extensionList, goesOn)
             .value_or(QStringList());
-});
-}  // namespace zelto
+    };
+    import(scan);
+}
 
 void ZeltoController::importPaths(const QStringList& paths, bool includeSubFolders) {
-    import([paths, includeSubFolders, extensions = GetExtensionList(ScanFormats())](const FolderImport::GoesOn& goesOn) {
+    const QString extensions = GetExtensionList(ScanFormats());
+    const auto scan = [paths, includeSubFolders, extensions](const FolderImport::GoesOn& goesOn) {
         QStringList photos;
-    for (const QString& path : paths) {
-        const QFileInfo file(path);
-        if (file.isDir()) {
-            photos +=
-                zelto::ImportImagesFromFolder(file.absoluteFilePath(), includeSubFolders, extensions,
-                                              [&](qsizetype found) { return goesOn(photos.size() + found); })
-                    .value_or(QStringList());
-        } else {
-            photos.append(file.absoluteFilePath());
+        for (const QString& path : paths) {
+            const QFileInfo file(path);
+            if (!file.isDir()) {
+                photos.append(file.absoluteFilePath());
+                continue;
+            }
+            const auto goesOnFromHere = [&](qsizetype found) { return goesOn(photos.size() + found); };
+            photos += zelto::ImportImagesFromFolder(file.absoluteFilePath(), includeSubFolders, extensions,
+                                                    goesOnFromHere)
+                          .value_or(QStringList());
         }
-    }
-    return photos;
-});
+        return photos;
+    };
+    import(scan);
 }
 
 void ZeltoController::import(FolderImport::Scan scan) {
@@ -99,7 +103,7 @@ QStringList ZeltoController::loadSettings(const QStringList& paths) {
         if (!isSettingFileName(path) || QFileInfo(path).isDir()) {
             others.append(path);
         } else if (const Result<void> loaded = watermarks_.LoadWatermarkSetting(path); !loaded) {
-            showAlert(window_, QStringLiteral("Setting Load Error"), loaded.error().message);
+            showAlert(window_, Words::tr("Setting Load Error"), loaded.error().message);
         }
     }
     return others;

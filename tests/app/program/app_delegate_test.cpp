@@ -114,8 +114,11 @@ TEST_F(StartUp, TheCommandLineNamesASettingAndPhotos) {
         QFile photo(folder.filePath(QLatin1String(name)));
         ASSERT_TRUE(photo.open(QFile::WriteOnly));
     }
+    setPreference(preference::FirstRun, false);
+    setPreference(preference::ShowTips, true);
     start({QStringLiteral("Mine"), {}});
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by name")));
+    EXPECT_EQ(rowsThen, 1) << "no tip holds up what was asked for";
     start({.photos = {file}});
     EXPECT_THAT(texts(), ElementsAre(QStringLiteral("by path")));
     EXPECT_FALSE(delegate->window().document().history().canUndo());
