@@ -2414,6 +2414,10 @@ A run changes none of them.</source>
         <source>The preview leaves the shadow out while watermarks may cover the border; the written photos have it.</source>
         <translation>لا تُظهر المعاينة الظل ما دام يمكن للعلامات المائية تغطية الإطار؛ أما الصور المكتوبة ففيها الظل.</translation>
     </message>
+    <message>
+        <source>All sides are as thick as the top</source>
+        <translation>جميع الجوانب بسماكة الجانب العلوي</translation>
+    </message>
 </context>
 <context>
     <name>zelto::EmptyState</name>
@@ -3162,6 +3166,21 @@ A run changes none of them.</source>
         <source>Warning</source>
         <translation>تحذير</translation>
     </message>
+    <message>
+        <source>All photos become the pages of one file</source>
+        <translation>تصبح جميع الصور صفحات ملف واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln photo(s) will have none: PNG, BMP and GIF files carry no metadata.</source>
+        <translation>
+            <numerusform>لن تبقى أي صورة (%Ln) بلا بيانات.</numerusform>
+            <numerusform>ستبقى صورة واحدة بلا بيانات: ملفات PNG وBMP وGIF لا تحملها.</numerusform>
+            <numerusform>ستبقى صورتان بلا بيانات: ملفات PNG وBMP وGIF لا تحملها.</numerusform>
+            <numerusform>ستبقى %Ln صور بلا بيانات: ملفات PNG وBMP وGIF لا تحملها.</numerusform>
+            <numerusform>ستبقى %Ln صورة بلا بيانات: ملفات PNG وBMP وGIF لا تحملها.</numerusform>
+            <numerusform>ستبقى %Ln صورة بلا بيانات: ملفات PNG وBMP وGIF لا تحملها.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>zelto::PhotoDelegate</name>
@@ -3460,6 +3479,14 @@ A run changes none of them.</source>
     <message>
         <source>Unit of the gaps</source>
         <translation>وحدة المسافات</translation>
+    </message>
+    <message>
+        <source>What is repeated has a row or a column, not a place</source>
+        <translation>ما يتكرر له صف أو عمود لا موضع واحد</translation>
+    </message>
+    <message>
+        <source>At this position this padding moves nothing</source>
+        <translation>لا يُحرّك هذا الهامش شيئًا في هذا الموضع</translation>
     </message>
 </context>
 <context>
@@ -4019,6 +4046,10 @@ Save keeps the one you see.</source>
     <message>
         <source>A circle looks the same however it is turned</source>
         <translation>تبدو الدائرة كما هي مهما دُوّرت</translation>
+    </message>
+    <message>
+        <source>Only polygons have a number of sides</source>
+        <translation>للمضلعات وحدها عدد أضلاع</translation>
     </message>
 </context>
 <context>
@@ -4778,6 +4809,38 @@ Click for the saved stacks (%2)</source>
     <message>
         <source>&amp;Guide</source>
         <translation>ال&amp;دليل</translation>
+    </message>
+    <message>
+        <source>Not while photos are being watermarked</source>
+        <translation>ليس أثناء وضع العلامات المائية على الصور</translation>
+    </message>
+    <message>
+        <source>No photos are being watermarked</source>
+        <translation>لا توضع علامات مائية على أي صور الآن</translation>
+    </message>
+    <message>
+        <source>Add photos first</source>
+        <translation>أضف صورًا أولاً</translation>
+    </message>
+    <message>
+        <source>Add photos or a watermark first</source>
+        <translation>أضف صورًا أو علامة مائية أولاً</translation>
+    </message>
+    <message>
+        <source>There are no watermarks yet</source>
+        <translation>لا توجد علامات مائية بعد</translation>
+    </message>
+    <message>
+        <source>Select a watermark first</source>
+        <translation>حدّد علامة مائية أولاً</translation>
+    </message>
+    <message>
+        <source>There is nothing to save yet</source>
+        <translation>لا يوجد ما يُحفظ بعد</translation>
+    </message>
+    <message>
+        <source>Save these watermarks under a name first</source>
+        <translation>احفظ هذه العلامات المائية باسم أولاً</translation>
     </message>
 </context>
 <context>

@@ -2358,6 +2358,10 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>The preview leaves the shadow out while watermarks may cover the border; the written photos have it.</source>
         <translation>Solange Wasserzeichen den Rand überdecken dürfen, zeigt die Vorschau keinen Schatten; die geschriebenen Fotos haben ihn.</translation>
     </message>
+    <message>
+        <source>All sides are as thick as the top</source>
+        <translation>Alle Seiten sind so dick wie die obere</translation>
+    </message>
 </context>
 <context>
     <name>zelto::EmptyState</name>
@@ -3078,6 +3082,17 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
+    <message>
+        <source>All photos become the pages of one file</source>
+        <translation>Alle Fotos werden zu Seiten einer einzigen Datei</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln photo(s) will have none: PNG, BMP and GIF files carry no metadata.</source>
+        <translation>
+            <numerusform>%Ln Foto wird keine haben: PNG-, BMP- und GIF-Dateien tragen keine Metadaten.</numerusform>
+            <numerusform>%Ln Fotos werden keine haben: PNG-, BMP- und GIF-Dateien tragen keine Metadaten.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>zelto::PhotoDelegate</name>
@@ -3376,6 +3391,14 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>Unit of the gaps</source>
         <translation>Einheit der Abstände</translation>
+    </message>
+    <message>
+        <source>What is repeated has a row or a column, not a place</source>
+        <translation>Was wiederholt wird, hat eine Zeile oder Spalte, keine einzelne Stelle</translation>
+    </message>
+    <message>
+        <source>At this position this padding moves nothing</source>
+        <translation>An dieser Position verschiebt dieser Randabstand nichts</translation>
     </message>
 </context>
 <context>
@@ -3919,6 +3942,10 @@ Save keeps the one you see.</source>
     <message>
         <source>A circle looks the same however it is turned</source>
         <translation>Ein Kreis sieht gedreht immer gleich aus</translation>
+    </message>
+    <message>
+        <source>Only polygons have a number of sides</source>
+        <translation>Nur Vielecke haben eine Anzahl von Seiten</translation>
     </message>
 </context>
 <context>
@@ -4670,6 +4697,38 @@ Klick zeigt die gespeicherten Stapel (%2)</translation>
     <message>
         <source>&amp;Guide</source>
         <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>Not while photos are being watermarked</source>
+        <translation>Nicht, solange Fotos mit Wasserzeichen versehen werden</translation>
+    </message>
+    <message>
+        <source>No photos are being watermarked</source>
+        <translation>Gerade werden keine Fotos mit Wasserzeichen versehen</translation>
+    </message>
+    <message>
+        <source>Add photos first</source>
+        <translation>Zuerst Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add photos or a watermark first</source>
+        <translation>Zuerst Fotos oder ein Wasserzeichen hinzufügen</translation>
+    </message>
+    <message>
+        <source>There are no watermarks yet</source>
+        <translation>Es gibt noch keine Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>Select a watermark first</source>
+        <translation>Zuerst ein Wasserzeichen auswählen</translation>
+    </message>
+    <message>
+        <source>There is nothing to save yet</source>
+        <translation>Es gibt noch nichts zu speichern</translation>
+    </message>
+    <message>
+        <source>Save these watermarks under a name first</source>
+        <translation>Diese Wasserzeichen zuerst unter einem Namen speichern</translation>
     </message>
 </context>
 <context>

@@ -164,6 +164,16 @@
     </message>
 </context>
 <context>
+    <name>zelto::OutputPanel</name>
+    <message numerus="yes">
+        <source>%Ln photo(s) will have none: PNG, BMP and GIF files carry no metadata.</source>
+        <translation>
+            <numerusform>%Ln photo will have none: PNG, BMP and GIF files carry no metadata.</numerusform>
+            <numerusform>%Ln photos will have none: PNG, BMP and GIF files carry no metadata.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>zelto::ProcessingBar</name>
     <message numerus="yes">
         <source>The run has begun: %Ln photo(s)</source>

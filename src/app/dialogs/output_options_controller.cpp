@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/output_options_controller.h"
 
+#include "app/common/enabling.h"
 #include "app/common/messages.h"
 #include "app/common/remembered_dialog.h"
 #include "app/dialogs/example_view.h"
@@ -12,11 +13,15 @@
 #include "app/photos/image_list_controller.h"
 #include "app/watermarks/watermark_controller.h"
 #include "batch/output_name.h"
+#include "metadata/metadata_transfer.h"
 #include "persistence/output_options_check.h"
+#include "pictures/picture_names.h"
 #include "pictures/picture_reader.h"
+#include "pictures/picture_writer.h"
 #include "platform/application_folders.h"
 #include "platform/dates.h"
 #include "platform/file_reference.h"
+#include "platform/path_parts.h"
 #include "platform/preferences.h"
 #include "platform/words.h"
 
@@ -28,6 +33,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelto {
@@ -47,6 +53,15 @@ OutputSettings initialSettings() {
     const QByteArray last = storedPreference(preference::LastOutDirectoryData).value_or(QByteArray());
     settings.options.OutputPath = resolveFileReference(last).value_or(QString());
     return settings;
+}
+
+// Those that are to be written, where each keeps its format.
+int photosWithoutMetadata(const std::vector<Image>& photos) {
+    return static_cast<int>(std::count_if(photos.begin(), photos.end(), [](const Image& photo) {
+        const QString extension = pathExtension(lastPathComponent(photo.ImagePath)).toLower();
+        const auto format = pictureFormatForExtension(writtenExtension(extension));
+        return photo.ApplyWatermark && format && metadataWay(*format) == MetadataWay::None;
+    }));
 }
 
 }  // namespace
@@ -177,6 +192,7 @@ void OutputOptionsController::rememberFolder(const QString& folder) const {
 void OutputOptionsController::showEvent(QShowEvent* event) {
     const QString path = photos_.selectedPath();
     photoProperties_.reset();
+    output_->setPhotosWithoutMetadata(photosWithoutMetadata(photos_.images()));
     photoSize_ = path.isEmpty() ? QSize() : readPictureSize(path).value_or(QSize());
     follow();
     QDialog::showEvent(event);
@@ -185,7 +201,7 @@ void OutputOptionsController::showEvent(QShowEvent* event) {
 // Everything that depends on what is chosen.
 void OutputOptionsController::follow() {
     const OutputOptions options = shownSettings().options;
-    rename_->setEnabled(!output_->combines());
+    enableOr(*rename_, !output_->combines(), OutputPanel::tr("All photos become the pages of one file"));
     if (photos_.selectedRow() < 0) {
         example_->setExample({});
         return;

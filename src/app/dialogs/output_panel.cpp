@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/output_panel.h"
 
+#include "app/common/enabling.h"
 #include "app/common/icons.h"
 #include "app/dialogs/folder_field.h"
 #include "metadata/metadata_transfer.h"
@@ -145,7 +146,7 @@ void OutputPanel::SetOutputFormat() {
     quality_->setVisible(hasQuality(format));
     lossless_->setEnabled(format == PictureFormat::Jpeg);
     combine_->setVisible(format == PictureFormat::Pdf);
-    keepStructure_->setEnabled(!combines());
+    enableOr(*keepStructure_, !combines(), tr("All photos become the pages of one file"));
     metadata_->setEnabled(metadataWay(format) != MetadataWay::None);
     showMetadataNote();
 }
@@ -155,13 +156,24 @@ void OutputPanel::setMetadataPresent(bool present) {
     showMetadataNote();
 }
 
+void OutputPanel::setPhotosWithoutMetadata(int count) {
+    photosWithoutMetadata_ = count;
+    showMetadataNote();
+}
+
 void OutputPanel::showMetadataNote() {
-    const bool hasNone = metadataWay(formatOf(format_->currentData().toString())) == MetadataWay::None;
-    const bool lacksCopyright =
-        !hasNone && !isMetadataPresent_ && metadata_->currentData().toLongLong() == exif_data::CopyrightOnly;
-    noteIcon_->setVisible(lacksCopyright);
+    const QString format = format_->currentData().toString();
+    const bool hasNone = metadataWay(formatOf(format)) == MetadataWay::None;
+    const std::int64_t choice = metadata_->currentData().toLongLong();
+    const bool lacksCopyright = !hasNone && !isMetadataPresent_ && choice == exif_data::CopyrightOnly;
+    const bool losesSome = format == SameAsSourceFormat && photosWithoutMetadata_ > 0 &&
+                           choice != exif_data::ExcludeAll && !lacksCopyright;
+    noteIcon_->setVisible(lacksCopyright || losesSome);
     if (hasNone) {
         note_->setText(tr("Files of this format have no metadata."));
+    } else if (losesSome) {
+        note_->setText(tr("%Ln photo(s) will have none: PNG, BMP and GIF files carry no metadata.", nullptr,
+                          photosWithoutMetadata_));
     } else if (lacksCopyright) {
         note_->setText(tr("You have set no copyright data (Add > Copyright)."));
     } else {

@@ -29,6 +29,8 @@ class OutputPanel : public QGroupBox {
 
     // Whether there is copyright data to write: the choice of the metadata warns where it asks for some.
     void setMetadataPresent(bool present);
+    // How many of the photos keep no metadata in a file of their own format.
+    void setPhotosWithoutMetadata(int count);
     // Whether the outputs become the pages of one file.
     bool combines() const;
 
@@ -55,6 +57,7 @@ class OutputPanel : public QGroupBox {
     QLabel* noteIcon_;
     QLabel* note_;
     bool isMetadataPresent_ = true;
+    int photosWithoutMetadata_ = 0;
 };
 
 }  // namespace zelto

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/effects_editor.h"
 
+#include "app/common/enabling.h"
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/fold_group.h"
 #include "app/editors/controls/length_box.h"
@@ -147,7 +148,9 @@ QLayout* EffectsEditor::makeThicknesses(QWidget* box) {
                    });
         // Where all widths are the same the top tells it.
         if (side.thickness.Pixels == &PhotoEffects::TopThickness) continue;
-        binder_.follow([field](const PhotoEffects& effects) { field->setEnabled(!effects.SameBorder); });
+        binder_.follow([field](const PhotoEffects& effects) {
+            enableOr(*field, !effects.SameBorder, tr("All sides are as thick as the top"));
+        });
     }
     return grid;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/shape_editor.h"
 
+#include "app/common/enabling.h"
 #include "app/common/icons.h"
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/position_group.h"
@@ -143,7 +144,7 @@ QWidget* ShapeEditor::makeShape() {
         const bool isLine = record.ShapeType == shape_type::Line;
         widthLabel->setText(isLine ? tr("Length:") : tr("Width:"));
         heightLabel->setText(isLine ? tr("Thickness:") : tr("Height:"));
-        sides->setEnabled(record.ShapeType == shape_type::Polygon);
+        enableOr(*sides, record.ShapeType == shape_type::Polygon, tr("Only polygons have a number of sides"));
     });
     return box;
 }
@@ -271,8 +272,7 @@ QWidget* ShapeEditor::makePlace() {
     binder().bind(rotation, &Watermark::Rotation);
     binder().follow([rotation](const Watermark& record) {
         const bool isCircle = record.ShapeType == shape_type::Ellipse && record.Width == record.Height;
-        rotation->setEnabled(!isCircle);
-        rotation->setToolTip(isCircle ? tr("A circle looks the same however it is turned") : QString());
+        enableOr(*rotation, !isCircle, tr("A circle looks the same however it is turned"));
     });
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);

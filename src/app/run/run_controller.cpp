@@ -34,8 +34,11 @@ RunController::RunController(MainWindow& window, MyGlobalInstance& shared, RunPa
     WindowActions& actions = window_.actions();
     actions.connectTo(Act::PauseRun, [this] { PauseOrResumeProcessingAction(); });
     actions.connectTo(Act::CancelRun, [this] { CancelProcessingAction(); });
-    bar.PauseOrResumeProcessing()->setToolTip(actions[Act::PauseRun]->toolTip());
-    bar.CancelProcessing()->setToolTip(actions[Act::CancelRun]->toolTip());
+    for (const auto& [act, button] : {std::pair(Act::PauseRun, bar.PauseOrResumeProcessing()),
+                                      std::pair(Act::CancelRun, bar.CancelProcessing())}) {
+        connect(actions[act], &QAction::changed, button,
+                [action = actions[act], button = button] { button->setToolTip(action->toolTip()); });
+    }
     const ResultBar& result = window_.result();
     connect(&result, &ResultBar::showTroubles, this,
             [this] { window_.photos().showPhotos(PhotoFilter::FailedOrWarned); });

@@ -278,7 +278,6 @@ void MainWindow::makeToolBar() {
     // Styles tear words and icon of a button apart from right to left.
     if (!isRightToLeft()) start_->setIcon(accentIcon(QLatin1String("start")));
     takeAccent(*start_);
-    start_->setToolTip(start->toolTip());
     start_->setAccessibleName(tr("Start Watermarking"));
     QFont bold = start_->font();
     bold.setBold(true);
@@ -286,7 +285,10 @@ void MainWindow::makeToolBar() {
     start_->setIconSize({18, 18});
     start_->setMinimumSize(110, 34);
     connect(start_, &QPushButton::clicked, start, &QAction::trigger);
-    const auto follow = [this, start] { start_->setEnabled(start->isEnabled()); };
+    const auto follow = [this, start] {
+        start_->setEnabled(start->isEnabled());
+        start_->setToolTip(start->toolTip());
+    };
     connect(start, &QAction::changed, start_, follow);
     follow();
     bar->addWidget(start_);
@@ -353,7 +355,7 @@ void MainWindow::EnableDisableWatermarkControls() {
                       .hasRows = hasRows,
                       .hasSelectedRow = watermarks_.selectedRow() >= 0,
                       .hasSelectedMark = !watermarks_.selectedWatermarks().empty(),
-                      .isRunning = isRunning_,
+                      .isIdle = !isRunning_,
                       .hasRun = processing_->isVisibleTo(mainView_)});
     preview_->showSample(showsSample ? samplePhotoPath() : QString());
     sampleBar_->setVisible(showsSample);

@@ -157,19 +157,37 @@ const std::array Rows_ = {
               Nothing},
 };
 
-bool isAllowed(unsigned needs, const WindowState& state) {
-    const std::pair<unsigned, bool> conditions[] = {{Photos, state.hasPhotos},
-                                                    {Rows, state.hasRows},
-                                                    {SelectedRow, state.hasSelectedRow},
-                                                    {Idle, !state.isRunning},
-                                                    {SelectedMark, state.hasSelectedMark},
-                                                    {Picture, state.hasPicture},
-                                                    {Stack, state.hasStack},
-                                                    {Setting, state.hasSetting},
-                                                    {Run, state.hasRun}};
-    return std::all_of(std::begin(conditions), std::end(conditions), [needs](const auto& condition) {
-        return (needs & condition.first) == 0 || condition.second;
+// What an action may need, and what is said where it is not so; the first of these counts.
+struct Need {
+    Needs need;
+    bool WindowState::*isMet;
+    const char* whyNot;
+};
+
+constexpr Need AllNeeds[] = {
+    {Idle, &WindowState::isIdle,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "Not while photos are being watermarked")},
+    {Run, &WindowState::hasRun, QT_TRANSLATE_NOOP("zelto::WindowActions", "No photos are being watermarked")},
+    {Photos, &WindowState::hasPhotos, QT_TRANSLATE_NOOP("zelto::WindowActions", "Add photos first")},
+    {Picture, &WindowState::hasPicture,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "Add photos or a watermark first")},
+    {Rows, &WindowState::hasRows, QT_TRANSLATE_NOOP("zelto::WindowActions", "There are no watermarks yet")},
+    {SelectedRow, &WindowState::hasSelectedRow,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "Select a watermark first")},
+    {SelectedMark, &WindowState::hasSelectedMark,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "Select a watermark first")},
+    {Stack, &WindowState::hasStack,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "There is nothing to save yet")},
+    {Setting, &WindowState::hasSetting,
+     QT_TRANSLATE_NOOP("zelto::WindowActions", "Save these watermarks under a name first")},
+};
+
+// Why an action with these needs cannot be done; null where it can.
+const char* whyNot(unsigned needs, const WindowState& state) {
+    const auto* unmet = std::find_if(std::begin(AllNeeds), std::end(AllNeeds), [&](const Need& each) {
+        return (needs & each.need) != 0 && !(state.*each.isMet);
     });
+    return unmet == std::end(AllNeeds) ? nullptr : unmet->whyNot;
 }
 
 }  // namespace
@@ -193,6 +211,7 @@ WindowActions::WindowActions(QWidget* window) : QObject(window), addMenu_(new QM
     actions_[Act::LoadAtStart]->setCheckable(true);
     actions_[Act::RemoveAllWatermarks]->setToolTip(
         Words::tr("Remove the watermarks, the filter and the copyright data; border and shadow stay"));
+    for (const auto& [act, action] : actions_) toolTips_[act] = action->toolTip();
     // Keys that mean something else elsewhere belong to the list that has the focus.
     for (const Act act :
          {Act::RemovePhoto, Act::RemoveWatermark, Act::Cut, Act::Copy, Act::ToggleWatermark}) {
@@ -208,8 +227,11 @@ void WindowActions::connectTo(Act act, std::function<void()> perform) {
 void WindowActions::update(const WindowState& state) {
     bool canAdd = false;
     for (const ActionRow& row : Rows_) {
-        const bool enabled = connected_.count(row.act) > 0 && isAllowed(row.needs, state);
+        const char* const reason = whyNot(row.needs, state);
+        const bool enabled = connected_.count(row.act) > 0 && reason == nullptr;
         actions_[row.act]->setEnabled(enabled);
+        const QString& tip = toolTips_[row.act];
+        actions_[row.act]->setToolTip(reason == nullptr ? tip : tip + QLatin1Char('\n') + tr(reason));
         canAdd = canAdd || (row.menu == AddMenu && enabled);
     }
     addMenu_->menuAction()->setEnabled(canAdd);

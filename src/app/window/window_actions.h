@@ -81,8 +81,8 @@ struct WindowState {
     bool hasRows = false;          // of the watermark list
     bool hasSelectedRow = false;   // of the watermark list
     bool hasSelectedMark = false;  // a selected row that is a watermark
-    bool isRunning = false;
-    bool hasRun = false;  // one that can be paused or cancelled, or resumed
+    bool isIdle = false;           // no run is under way
+    bool hasRun = false;           // one that can be paused or cancelled, or resumed
 };
 
 class WindowActions : public QObject {
@@ -95,7 +95,7 @@ class WindowActions : public QObject {
 
     // Connects an action; one that is never connected stays disabled.
     void connectTo(Act act, std::function<void()> perform);
-    // Whether an action is worth offering now.
+    // Whether an action is worth offering now; the tooltip of one that is not says why.
     void update(const WindowState& state);
 
     // Fills the menu bar; `undo` and `redo` are the history's own actions.
@@ -107,6 +107,7 @@ class WindowActions : public QObject {
 
   private:
     std::map<Act, QAction*> actions_;
+    std::map<Act, QString> toolTips_;  // of what can be done
     std::map<Act, bool> connected_;
     QMenu* addMenu_;
 };

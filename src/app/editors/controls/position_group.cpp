@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/controls/position_group.h"
 
+#include "app/common/enabling.h"
 #include "app/editors/controls/length_box.h"
 #include "app/editors/controls/value_page.h"
 
@@ -86,7 +87,8 @@ QWidget* PositionGroup::makePosition() {
     binder_.follow([=, this](const Watermark& record) {
         const PositionControls controls = EnableDisablePositionControls(record);
         if (record.Position >= 1 && record.Position <= 9) lastCell_ = record.Position;
-        for (QWidget* type : {preset, custom}) type->setEnabled(controls.type);
+        for (QWidget* type : {preset, custom})
+            enableOr(*type, controls.type, tr("What is repeated has a row or a column, not a place"));
         for (QWidget* length : {left, top}) length->setEnabled(controls.custom);
         grid_->enableCells(controls);
     });
@@ -120,7 +122,8 @@ QWidget* PositionGroup::makePadding() {
         ++place;
         bindLength(binder_, field, side.padding);
         binder_.follow([field, isUsed = side.isUsed](const Watermark& record) {
-            field->setEnabled(EnableDisablePadding(record).*isUsed);
+            enableOr(*field, EnableDisablePadding(record).*isUsed,
+                     tr("At this position this padding moves nothing"));
         });
     }
     layout->setColumnStretch(1, 1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/editors/text/text_style_group.h"
 
+#include "app/common/enabling.h"
 #include "app/common/icons.h"
 #include "app/editors/controls/color_well.h"
 #include "app/editors/controls/photo_side_box.h"
@@ -189,8 +190,7 @@ QWidget* TextStyleGroup::makeColors() {
     });
     binder_.follow([=](const Watermark& record) {
         const bool isEmbossed = record.TextEffect != text_effect::None;
-        shadow->setEnabled(!isEmbossed);
-        shadow->setToolTip(isEmbossed ? tr("Embossed letters cast no shadow") : QString());
+        enableOr(*shadow, !isEmbossed, tr("Embossed letters cast no shadow"));
         shadowColor->setEnabled(!isEmbossed && record.Shadow);
     });
     return widget;
