@@ -60,6 +60,10 @@
         <translation>JPEG &amp;XL</translation>
     </message>
     <message>
+        <source>&amp;Raw</source>
+        <translation>&amp;خام</translation>
+    </message>
+    <message>
         <source>Input Folder cannot be empty</source>
         <translation>لا يمكن ترك مجلد الإدخال فارغًا</translation>
     </message>
@@ -1260,8 +1264,8 @@ Double Click the Image Entry to know the problem</source>
         <translation>فحص المجلدات الفرعية أيضًا</translation>
     </message>
     <message>
-        <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl</source>
-        <translation>ما يأخذه فحص المجلد، من jpeg,png,tiff,gif,bmp (المبدئي: هذه) وheic,avif,webp,jxl</translation>
+        <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl,raw</source>
+        <translation>ما يأخذه فحص المجلد، من jpeg,png,tiff,gif,bmp (المبدئي: هذه) وheic,avif,webp,jxl,raw</translation>
     </message>
     <message>
         <source>only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a Kubernetes Job has it</source>
@@ -2620,6 +2624,10 @@ A run changes none of them.</source>
     <message>
         <source>&amp;Add Photos</source>
         <translation>&amp;إضافة صور</translation>
+    </message>
+    <message>
+        <source>The previews in cameras&apos; raw files.</source>
+        <translation>المعاينات المضمّنة في ملفات الكاميرا الخام.</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,10 @@
         <translation>JPEG &amp;XL</translation>
     </message>
     <message>
+        <source>&amp;Raw</source>
+        <translation>&amp;Rohdaten</translation>
+    </message>
+    <message>
         <source>Input Folder cannot be empty</source>
         <translation>Kein Quellordner angegeben</translation>
     </message>
@@ -1236,8 +1240,8 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
         <translation>auch Unterordner durchsuchen</translation>
     </message>
     <message>
-        <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl</source>
-        <translation>was aus Ordnern genommen wird, von jpeg,png,tiff,gif,bmp (Vorgabe: diese) und heic,avif,webp,jxl</translation>
+        <source>what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and heic,avif,webp,jxl,raw</source>
+        <translation>was aus Ordnern genommen wird, von jpeg,png,tiff,gif,bmp (Vorgabe: diese) und heic,avif,webp,jxl,raw</translation>
     </message>
     <message>
         <source>only every Nth photo of the list, from I on (0-based); auto, auto/N: as a Slurm array or a Kubernetes Job has it</source>
@@ -2560,6 +2564,10 @@ Ein Durchlauf ändert keine davon.</translation>
     <message>
         <source>&amp;Add Photos</source>
         <translation>Fotos hin&amp;zufügen</translation>
+    </message>
+    <message>
+        <source>The previews in cameras&apos; raw files.</source>
+        <translation>Die Vorschaubilder in den Rohdaten von Kameras.</translation>
     </message>
 </context>
 <context>

@@ -112,6 +112,9 @@ QString GetExtensionList(const ScanFormats& formats) {
     for (const FormatPiece& format : FormatPieces) {
         if (formats.*format.ticked) list += format.piece;
     }
+    if (formats.Raw) {
+        for (const QString& extension : rawExtensions()) list += u'.' + extension + u';';
+    }
     return list;
 }
 

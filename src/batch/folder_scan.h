@@ -24,6 +24,7 @@ struct ScanFormats {
     bool Avif = false;
     bool Webp = false;
     bool Jxl = false;
+    bool Raw = false;  // of cameras: their previews
 };
 
 // The extensions of the ticked formats, each with its dot and a semicolon behind it: ".jpg;.jpeg;.png;".

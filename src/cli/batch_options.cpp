@@ -108,9 +108,9 @@ Complaint applyMetadata(CommandLine& line, const OptionText& option, const QStri
 }
 
 Complaint applyExtensions(CommandLine& line, const OptionText& option, const QString& value) {
-    static constexpr std::array formats = {&ScanFormats::Jpeg, &ScanFormats::Png,  &ScanFormats::Tiff,
-                                           &ScanFormats::Gif,  &ScanFormats::Bmp,  &ScanFormats::Heic,
-                                           &ScanFormats::Avif, &ScanFormats::Webp, &ScanFormats::Jxl};
+    static constexpr std::array formats = {
+        &ScanFormats::Jpeg, &ScanFormats::Png,  &ScanFormats::Tiff, &ScanFormats::Gif, &ScanFormats::Bmp,
+        &ScanFormats::Heic, &ScanFormats::Avif, &ScanFormats::Webp, &ScanFormats::Jxl, &ScanFormats::Raw};
     line.extensions = {false, false, false, false, false};
     for (const QString& word : value.split(QLatin1Char(','))) {
         bool ScanFormats::*ticked = nullptr;
@@ -290,10 +290,10 @@ const std::vector<BatchOptionGroup>& batchOptions() {
         {QT_TRANSLATE_NOOP("Words", "Which photos"),
          {{{"r", "recursive", Switch, nullptr, nullptr, QT_TRANSLATE_NOOP("Words", "scan sub-folders too")},
            turn<&CommandLine::recursive>},
-          {{nullptr, "extensions", OptionValue::Words, "LIST", "jpeg png tiff gif bmp heic avif webp jxl",
+          {{nullptr, "extensions", OptionValue::Words, "LIST", "jpeg png tiff gif bmp heic avif webp jxl raw",
             QT_TRANSLATE_NOOP("Words",
                               "what a folder scan takes, of jpeg,png,tiff,gif,bmp (default: these) and "
-                              "heic,avif,webp,jxl")},
+                              "heic,avif,webp,jxl,raw")},
            applyExtensions},
           {{nullptr, "shard", Text, "I/N", nullptr,
             QT_TRANSLATE_NOOP(

@@ -14,29 +14,56 @@
 namespace zelto {
 namespace {
 
+enum class NameGroup {
+    Plain,
+    Newer,  // becomes a JPEG where it cannot be written, as raw files do
+    Raw
+};
+
 struct NameRow {
     QLatin1String extension;
     bool isOffered;
     bool isScanned;
-    bool falls;  // back on JPEG where it cannot be written
+    NameGroup group;
 };
+
+constexpr NameRow newerRow(const char* extension) {
+    return {QLatin1String(extension), true, true, NameGroup::Newer};
+}
+constexpr NameRow rawRow(const char* extension) {
+    return {QLatin1String(extension), true, true, NameGroup::Raw};
+}
 
 // In the order in which choosers list them.
 constexpr std::array Names = {
-    NameRow{QLatin1String("jpg"), true, true, false},  NameRow{QLatin1String("gif"), true, false, false},
-    NameRow{QLatin1String("jpeg"), true, true, false}, NameRow{QLatin1String("png"), true, true, false},
-    NameRow{QLatin1String("tif"), true, true, false},  NameRow{QLatin1String("tiff"), true, true, false},
-    NameRow{QLatin1String("bmp"), false, true, false}, NameRow{QLatin1String("giff"), false, true, false},
-    NameRow{QLatin1String("heic"), true, true, true},  NameRow{QLatin1String("heif"), true, true, true},
-    NameRow{QLatin1String("avif"), true, true, true},  NameRow{QLatin1String("webp"), true, true, true},
-    NameRow{QLatin1String("jxl"), true, true, true},   NameRow{QLatin1String("dng"), true, false, true},
-    NameRow{QLatin1String("cr2"), true, false, true},  NameRow{QLatin1String("cr3"), true, false, true},
-    NameRow{QLatin1String("crw"), true, false, true},  NameRow{QLatin1String("nef"), true, false, true},
-    NameRow{QLatin1String("nrw"), true, false, true},  NameRow{QLatin1String("arw"), true, false, true},
-    NameRow{QLatin1String("sr2"), true, false, true},  NameRow{QLatin1String("raf"), true, false, true},
-    NameRow{QLatin1String("orf"), true, false, true},  NameRow{QLatin1String("rw2"), true, false, true},
-    NameRow{QLatin1String("pef"), true, false, true},  NameRow{QLatin1String("srw"), true, false, true},
-    NameRow{QLatin1String("mrw"), true, false, true},  NameRow{QLatin1String("x3f"), true, false, true},
+    NameRow{QLatin1String("jpg"), true, true, NameGroup::Plain},
+    NameRow{QLatin1String("gif"), true, false, NameGroup::Plain},
+    NameRow{QLatin1String("jpeg"), true, true, NameGroup::Plain},
+    NameRow{QLatin1String("png"), true, true, NameGroup::Plain},
+    NameRow{QLatin1String("tif"), true, true, NameGroup::Plain},
+    NameRow{QLatin1String("tiff"), true, true, NameGroup::Plain},
+    NameRow{QLatin1String("bmp"), false, true, NameGroup::Plain},
+    NameRow{QLatin1String("giff"), false, true, NameGroup::Plain},
+    newerRow("heic"),
+    newerRow("heif"),
+    newerRow("avif"),
+    newerRow("webp"),
+    newerRow("jxl"),
+    rawRow("dng"),
+    rawRow("cr2"),
+    rawRow("cr3"),
+    rawRow("crw"),
+    rawRow("nef"),
+    rawRow("nrw"),
+    rawRow("arw"),
+    rawRow("sr2"),
+    rawRow("raf"),
+    rawRow("orf"),
+    rawRow("rw2"),
+    rawRow("pef"),
+    rawRow("srw"),
+    rawRow("mrw"),
+    rawRow("x3f"),
 };
 
 const NameRow* rowOf(QStringView extension) {
@@ -63,9 +90,18 @@ bool isScannedExtension(QStringView extension) {
     return row != nullptr && row->isScanned;
 }
 
+QStringList rawExtensions() {
+    QStringList extensions;
+    for (const NameRow& name : Names) {
+        if (name.group == NameGroup::Raw) extensions.append(name.extension);
+    }
+    return extensions;
+}
+
 QString writtenExtension(QStringView extension) {
     const NameRow* row = rowOf(extension);
-    const bool isReplaced = row != nullptr && row->falls && !pictureFormatForExtension(extension);
+    const bool isReplaced =
+        row != nullptr && row->group != NameGroup::Plain && !pictureFormatForExtension(extension);
     return isReplaced ? QStringLiteral("jpg") : extension.toString().toLower();
 }
 

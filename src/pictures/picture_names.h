@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 namespace zelto {
@@ -13,8 +14,11 @@ namespace zelto {
 QString chooserPattern();
 
 // Whether a scan of a folder takes files of this extension, given without its dot and in any letter case. GIF is not
-// taken ("giff" is), nor are raw files.
+// taken ("giff" is).
 bool isScannedExtension(QStringView extension);
+
+// Those of cameras' raw files, without their dots.
+QStringList rawExtensions();
 
 // The extension that a copy of the same kind has: this one in lower case, or "jpg" for kinds that are read here and
 // cannot be written, such as raw files.

@@ -34,9 +34,11 @@ class FolderScan : public ::testing::Test {
 
 TEST_F(FolderScan, TakesNamesByExtensionInOrder) {
     make(
-        u"c.JPG|b.jpeg|a.gif|b.GIF|e.giff|d.tif|D.Tiff|e.bmp|f.png.txt|jpg|g.|.png|.h.png|i.jp|ä b.png|folder.jpg/"_s);
+        u"c.JPG|b.jpeg|a.gif|b.GIF|e.giff|d.tif|D.Tiff|e.bmp|f.png.txt|jpg|g.|.png|.h.png|i.jp|ä b.png|folder.jpg/|k.NEF"_s);
     EXPECT_EQ(scanned(false), u".h.png D.Tiff b.jpeg c.JPG d.tif e.bmp folder.jpg ä b.png"_s);
     EXPECT_EQ(scanned(false, {.Jpeg = false, .Png = false, .Tiff = false, .Bmp = false}), QString());
+    EXPECT_EQ(scanned(false, {.Jpeg = false, .Png = false, .Tiff = false, .Bmp = false, .Raw = true}),
+              u"k.NEF"_s);
     EXPECT_EQ(scanned(false, {.Jpeg = false, .Tiff = false}), u".h.png e.bmp ä b.png"_s);
 }
 

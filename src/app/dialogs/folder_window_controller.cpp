@@ -36,6 +36,7 @@ constexpr std::array FormatBoxes = {
     FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "A&VIF")), &ScanFormats::Avif},
     FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&WebP")), &ScanFormats::Webp},
     FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "JPEG &XL")), &ScanFormats::Jxl},
+    FormatBox{MarkedText(QT_TRANSLATE_NOOP("Words", "&Raw")), &ScanFormats::Raw},
 };
 constexpr std::size_t MainFormats = 5;  // in the first row of boxes
 
@@ -59,6 +60,8 @@ FolderWindowController::FolderWindowController(QWidget* parent)
         box->setChecked(first.*format.ticked);
         if (format.ticked == &ScanFormats::Gif) {
             box->setToolTip(tr("A folder's GIF photos are passed over; add them one by one."));
+        } else if (format.ticked == &ScanFormats::Raw) {
+            box->setToolTip(tr("The previews in cameras' raw files."));
         }
         (formats_.size() < MainFormats ? boxes : more)->addWidget(box);
         formats_.push_back(box);
