@@ -74,20 +74,24 @@ function(zelto_add_tests name)
     PROPERTIES TIMEOUT 300)
 endfunction()
 
-# zelto_add_manual(PROGRAM): the manual page of a program and its completions, made by the program itself at build time,
-# in share/ of the build folder as they are installed below a prefix's share/. What libraries leak is no reason for a
-# build with sanitizers to fail.
+# zelto_add_manual(PROGRAM): the manual pages of a program and its completions, made by the program itself at build time,
+# in share/ of the build folder as they are installed below a prefix's share/. A language need not be installed to be
+# spoken. What libraries leak is no reason for a build with sanitizers to fail.
 function(zelto_add_manual program)
   set(share "${CMAKE_BINARY_DIR}/share")
   set(outputs)
-  foreach(product man:man/man1/${program}.1 bash:bash-completion/completions/${program}
-                  zsh:zsh/site-functions/_${program} fish:fish/vendor_completions.d/${program}.fish)
-    string(REGEX MATCH "^[a-z]+" kind ${product})
-    string(REGEX REPLACE "^[a-z]+:" "" path ${product})
+  foreach(product man:en:man/man1/${program}.1 man:de:man/de/man1/${program}.1
+                  bash:en:bash-completion/completions/${program} zsh:en:zsh/site-functions/_${program}
+                  fish:en:fish/vendor_completions.d/${program}.fish)
+    string(REGEX MATCH "^([a-z]+):([a-z]+):(.+)$" product ${product})
+    set(kind ${CMAKE_MATCH_1})
+    set(language ${CMAKE_MATCH_2})
+    set(path ${CMAKE_MATCH_3})
     get_filename_component(folder "${share}/${path}" DIRECTORY)
     add_custom_command(OUTPUT "${share}/${path}"
       COMMAND ${CMAKE_COMMAND} -E make_directory "${folder}"
-      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:${program}> --generate ${kind} > "${share}/${path}"
+      COMMAND ${CMAKE_COMMAND} -E env LC_ALL= LC_CTYPE=C.UTF-8 LC_MESSAGES=${language} LANGUAGE=${language}
+              ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:${program}> --generate ${kind} > "${share}/${path}"
       DEPENDS ${program} VERBATIM)
     list(APPEND outputs "${share}/${path}")
   endforeach()

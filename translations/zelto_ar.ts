@@ -1116,8 +1116,8 @@ Double Click the Image Entry to know the problem</source>
         <translation>اختفى المجلد المراقَب؛ بانتظار عودته</translation>
     </message>
     <message>
-        <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (fs.inotify.max_user_watches says how many there may be)</source>
-        <translation>لا يُبلغ النظام عن تغييرات في مجلدات أكثر؛ فتُفحص كل 10 ثوانٍ بدلاً من ذلك (يحدد fs.inotify.max_user_watches عددها الأقصى)</translation>
+        <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (%1 says how many there may be)</source>
+        <translation>لا يُبلغ النظام عن تغييرات في مجلدات أكثر؛ فتُفحص كل 10 ثوانٍ بدلاً من ذلك (يحدد %1 عددها الأقصى)</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”</source>
@@ -2062,8 +2062,36 @@ A run changes none of them.</source>
         <translation>لا يوجد خيار «%1»؛ هل تقصد «%2»؟</translation>
     </message>
     <message>
-        <source>Examples:</source>
-        <translation>أمثلة:</translation>
+        <source>Examples</source>
+        <translation>أمثلة</translation>
+    </message>
+    <message>
+        <source>All options of %1</source>
+        <translation>جميع خيارات %1</translation>
+    </message>
+    <message>
+        <source>option</source>
+        <translation>الخيار</translation>
+    </message>
+    <message>
+        <source>meaning</source>
+        <translation>المعنى</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>الصيغة</translation>
+    </message>
+    <message>
+        <source>See also</source>
+        <translation>انظر أيضًا</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>أوامر المستخدم</translation>
     </message>
     <message>
         <source>Usage: %1</source>

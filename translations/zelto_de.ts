@@ -1092,8 +1092,8 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
         <translation>der überwachte Ordner ist verschwunden; es wird auf seine Rückkehr gewartet</translation>
     </message>
     <message>
-        <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (fs.inotify.max_user_watches says how many there may be)</source>
-        <translation>das System meldet keine Änderungen in weiteren Ordnern; sie werden stattdessen alle 10 Sekunden durchgesehen (fs.inotify.max_user_watches sagt, wie viele es sein dürfen)</translation>
+        <source>the system tells of changes in no more folders; they are listed every 10 seconds instead (%1 says how many there may be)</source>
+        <translation>das System meldet keine Änderungen in weiteren Ordnern; sie werden stattdessen alle 10 Sekunden durchgesehen (%1 sagt, wie viele es sein dürfen)</translation>
     </message>
     <message>
         <source>%1 takes one of %2, not “%3”</source>
@@ -2006,8 +2006,36 @@ Ein Durchlauf ändert keine davon.</translation>
         <translation>es gibt keine Option „%1“; ist „%2“ gemeint?</translation>
     </message>
     <message>
-        <source>Examples:</source>
-        <translation>Beispiele:</translation>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>All options of %1</source>
+        <translation>Alle Optionen von %1</translation>
+    </message>
+    <message>
+        <source>option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>meaning</source>
+        <translation>Bedeutung</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>See also</source>
+        <translation>Siehe auch</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Dienstprogramme für Benutzer</translation>
     </message>
     <message>
         <source>Usage: %1</source>

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -54,7 +55,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setQuitOnLastWindowClosed(false);
-    zelto::speakLanguage(QStringLiteral("en"));
+    zelto::speakLanguage(QLatin1String(scene->language));
+    QLocale::setDefault(QLocale(QLatin1String(scene->language)));
     scene->look == ScreenshotScene::Look::Dark ? useDarkPalette() : useLightPalette();
     Stage stage(QString::fromLocal8Bit(argv[2]));
     QTimer::singleShot(0, &application, [&] {

@@ -144,7 +144,8 @@ void setProofs(Stage& stage) {
 
 void addGuide(std::vector<ScreenshotScene>& scenes) {
     const auto add = [&scenes](const char* name, Shot shot, void (*set)(Stage&), bool (*isSet)(Stage&)) {
-        scenes.push_back({std::string("guide/") + name, Look::Light, 1.0, shot, set, isSet});
+        for (const auto& [folder, language] : {std::pair("guide/", "en"), {"guide/de/", "de"}})
+            scenes.push_back({std::string(folder) + name, Look::Light, 1.0, shot, set, isSet, language});
     };
     add("window", Shot::Window, setWindow, isAtRest);
     add("first-text", Shot::Window, setTypedText, isAtRest);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What docs/images shows, a row a picture. A new picture is a new row.
+// What docs/images and the images of the guide show, a row a picture. A new picture is a new row.
 #pragma once
 
 #include "samples/screenshots/stage.h"
@@ -22,6 +22,7 @@ struct ScreenshotScene {
     std::function<void(Stage& stage)> set;
     // Whether the scene is set; asked again and again, within the event loop of a dialog too.
     bool (*isSet)(Stage& stage);
+    const char* language = "en";
 };
 
 const std::vector<ScreenshotScene>& screenshotScenes();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "options/manual_texts.h"
+#include "platform/words.h"
 
 namespace zelto {
 namespace {
@@ -32,6 +33,10 @@ QString roff(const char* text) {
     return roff(QString::fromUtf8(text));
 }
 
+QString translated(const char* text) {
+    return roff(Words::tr(text));
+}
+
 QString bold(const QString& text) {
     return QStringLiteral("\\fB%1\\fR").arg(text);
 }
@@ -46,40 +51,41 @@ QString heading(const OptionText& option) {
     return text;
 }
 
-QString section(const char* title) {
-    return QStringLiteral(".SH \"%1\"\n").arg(roff(QString::fromUtf8(title).toUpper()));
+QString section(const QString& title) {
+    return QStringLiteral(".SH \"%1\"\n").arg(roff(title.toUpper()));
 }
 
 }  // namespace
 
 QByteArray manualPage(const ProgramManual& manual) {
     const QString program = roff(manual.program);
-    QString page = QStringLiteral(".TH %1 1 \"\" \"Zelto " ZELTO_VERSION "\" \"User Commands\"\n")
-                       .arg(program.toUpper());
-    page += section("Name") + program + QStringLiteral(" \\- ") + roff(manual.summary) + QLatin1Char('\n');
-    page += section("Synopsis") + bold(program) +
+    QString page = QStringLiteral(".TH %1 1 \"\" \"Zelto " ZELTO_VERSION "\" \"%2\"\n")
+                       .arg(program.toUpper(), roff(Words::tr("User Commands")));
+    page += section(Words::tr("Name")) + program + QStringLiteral(" \\- ") + translated(manual.summary) +
+            QLatin1Char('\n');
+    page += section(Words::tr("Synopsis")) + bold(program) +
             QStringLiteral(" [\\fIoptions\\fR] [\\-\\-] \\fI%1\\fR\n").arg(roff(manual.arguments));
-    page += section("Examples");
+    page += section(Words::tr("Examples"));
     for (const CommandExample& example : manual.examples) {
         page += QStringLiteral(".TP\n") + bold(roff(example.command)) + QLatin1Char('\n') +
-                roff(example.meaning) + QLatin1Char('\n');
+                translated(example.meaning) + QLatin1Char('\n');
     }
-    page += section("Options");
+    page += section(Words::tr("Options"));
     for (const OptionGroup& group : manual.groups) {
-        page += QStringLiteral(".SS \"%1\"\n").arg(roff(group.title));
+        page += QStringLiteral(".SS \"%1\"\n").arg(translated(group.title));
         for (const OptionText& option : group.options)
-            page += QStringLiteral(".TP\n") + heading(option) + QLatin1Char('\n') + roff(option.help) +
+            page += QStringLiteral(".TP\n") + heading(option) + QLatin1Char('\n') + translated(option.help) +
                     QLatin1Char('\n');
     }
     for (const ManualSection& more : manual.sections) {
-        page += section(more.title);
+        page += section(Words::tr(more.title));
         const char* separator = "";
-        for (const QString& line : QString::fromUtf8(more.text).split(QLatin1Char('\n'))) {
+        for (const QString& line : Words::tr(more.text).split(QLatin1Char('\n'))) {
             page += QLatin1String(separator) + roff(line) + QLatin1Char('\n');
             separator = ".PP\n";
         }
     }
-    page += section("See also") + QStringLiteral(".BR %1 (1)\n").arg(roff(manual.seeAlso));
+    page += section(Words::tr("See also")) + QStringLiteral(".BR %1 (1)\n").arg(roff(manual.seeAlso));
     return page.toUtf8();
 }
 

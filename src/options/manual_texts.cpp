@@ -51,7 +51,7 @@ QString cell(const QString& text) {
 QString helpText(const ProgramManual& manual) {
     const auto program = QLatin1String(manual.program);
     QString text = program + QLatin1Char(' ') + Words::tr(manual.summary) + QStringLiteral(".\n\n") +
-                   Words::tr("Examples:") + QLatin1Char('\n');
+                   Words::tr("Examples") + QStringLiteral(":\n");
     for (const CommandExample& example : manual.examples) {
         text += QStringLiteral("  ") + QString::fromUtf8(example.command) + QStringLiteral("\n      ") +
                 wrapped(Words::tr(example.meaning), 6) + QLatin1Char('\n');
@@ -71,26 +71,26 @@ QString helpText(const ProgramManual& manual) {
 }
 
 QByteArray optionsPage(const ProgramManual& manual) {
-    QString text = QStringLiteral("# All options of %1\n`%1` %2.\n\n```\n%1 [options] [--] %3\n```\n")
-                       .arg(QLatin1String(manual.program), QString::fromUtf8(manual.summary),
-                            QLatin1String(manual.arguments));
-    text += QStringLiteral("\n## Examples\n");
+    const auto program = QLatin1String(manual.program);
+    QString text = QStringLiteral("# ") + Words::tr("All options of %1").arg(program) +
+                   QStringLiteral("\n`%1` %2.\n\n```\n%1 [options] [--] %3\n```\n")
+                       .arg(program, Words::tr(manual.summary), QLatin1String(manual.arguments));
+    text += QStringLiteral("\n## %1\n").arg(Words::tr("Examples"));
     for (const CommandExample& example : manual.examples) {
-        const QString meaning = QString::fromUtf8(example.meaning);
+        const QString meaning = Words::tr(example.meaning);
         text += meaning.left(1).toUpper() + meaning.mid(1) + QStringLiteral(":\n```\n") +
                 QString::fromUtf8(example.command) + QStringLiteral("\n```\n");
     }
     for (const OptionGroup& group : manual.groups) {
-        text +=
-            QStringLiteral("\n## %1\n| option | meaning |\n|---|---|\n").arg(QString::fromUtf8(group.title));
-        for (const OptionText& option : group.options) {
-            text += QStringLiteral("| `%1` | %2 |\n")
-                        .arg(optionHeading(option), cell(QString::fromUtf8(option.help)));
-        }
+        text += QStringLiteral("\n## %1\n| %2 | %3 |\n|---|---|\n")
+                    .arg(Words::tr(group.title), Words::tr("option"), Words::tr("meaning"));
+        for (const OptionText& option : group.options)
+            text +=
+                QStringLiteral("| `%1` | %2 |\n").arg(optionHeading(option), cell(Words::tr(option.help)));
     }
     for (const ManualSection& section : manual.sections) {
-        text += QStringLiteral("\n## %1\n").arg(QString::fromUtf8(section.title));
-        for (const QString& line : QString::fromUtf8(section.text).split(QLatin1Char('\n')))
+        text += QStringLiteral("\n## %1\n").arg(Words::tr(section.title));
+        for (const QString& line : Words::tr(section.text).split(QLatin1Char('\n')))
             text += QStringLiteral("- ") + line + QLatin1Char('\n');
     }
     return text.toUtf8();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Everything that tells of a program's options, made from its table. All but the help are in English and UTF-8. Any
-// thread.
+// Everything that tells of a program's options, made from its table, in UTF-8: help, manual page and the page of all
+// options in the user's language, completions in English. Any thread.
 #pragma once
 
 #include "options/option_table.h"
@@ -11,7 +11,7 @@
 
 namespace zelto {
 
-// What --help prints: examples first, then the options by groups; in the user's language.
+// What --help prints: examples first, then the options by groups.
 QString helpText(const ProgramManual& manual);
 
 // A manual page of section 1, as groff reads it.

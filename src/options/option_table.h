@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a program says of its command line, said once. Reading the arguments, --help, the manual page, the completions
 // of three shells and the page of the guide are all made from such a table, so that they cannot drift apart. Texts are
-// the English source, marked with QT_TRANSLATE_NOOP("Words", "..."); only --help shows them translated.
+// the English source, marked with QT_TRANSLATE_NOOP("Words", "...").
 #pragma once
 
 #include <QString>

@@ -10,8 +10,12 @@
 namespace zelto {
 namespace {
 
-QByteArray generated(const QString& program, const QString& kind) {
-    const ProgramRun run = runProgram(program, {u"--generate"_s, kind}, {{u"QT_QPA_PLATFORM"_s, u"none"_s}});
+QByteArray generated(const QString& program, const QString& kind, const QString& language = u"en"_s) {
+    const ProgramRun run = runProgram(program, {u"--generate"_s, kind},
+                                      {{u"QT_QPA_PLATFORM"_s, u"none"_s},
+                                       {u"LC_ALL"_s, {}},
+                                       {u"LC_MESSAGES"_s, language},
+                                       {u"LANGUAGE"_s, language}});
     EXPECT_EQ(run.exitStatus, 0) << kind.toStdString() << run.errors.toStdString();
     return run.output;
 }
@@ -53,11 +57,14 @@ TEST(Manuals, EveryOptionIsToldEverywhere) {
             EXPECT_EQ(read.errors, QByteArray()) << kind.toStdString();
         }
     }
-    QFile page(QStringLiteral(ZELTO_SOURCE_DIR "/docs/guide/options.md"));
-    ASSERT_TRUE(page.open(QFile::ReadOnly));
-    EXPECT_EQ(page.readAll().toStdString(),
-              generated(QStringLiteral(ZELTO_BATCH_PROGRAM), u"markdown"_s).toStdString())
-        << "make it anew: zelto-batch --generate markdown > docs/guide/options.md";
+    for (const auto& [name, language] : {std::pair("options.md", u"en"_s), {"de/options.md", u"de"_s}}) {
+        QFile page(QStringLiteral(ZELTO_SOURCE_DIR "/docs/guide/") + QLatin1String(name));
+        ASSERT_TRUE(page.open(QFile::ReadOnly));
+        EXPECT_EQ(page.readAll().toStdString(),
+                  generated(QStringLiteral(ZELTO_BATCH_PROGRAM), u"markdown"_s, language).toStdString())
+            << "make it anew: LC_MESSAGES=" << qPrintable(language) << " LANGUAGE=" << qPrintable(language)
+            << " zelto-batch --generate markdown > docs/guide/" << name;
+    }
 }
 
 TEST(Manuals, BashCompletesValuesAndRunsNoName) {

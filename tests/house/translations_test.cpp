@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the programs say is marked, and the translations are complete and keep what a text must keep.
+#include "house/source_text.h"
 #include "support/testing.h"
 
 #include <QDirIterator>
@@ -11,12 +12,6 @@ namespace zelto {
 namespace {
 
 const QString Root = QStringLiteral(ZELTO_SOURCE_DIR "/");
-
-QString contentOf(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QFile::ReadOnly)) << qPrintable(path);
-    return QString::fromUtf8(file.readAll());
-}
 
 struct Entry {
     QString source;

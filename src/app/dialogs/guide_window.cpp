@@ -4,6 +4,7 @@
 #include "app/common/messages.h"
 #include "app/dialogs/guide_page.h"
 #include "platform/application_folders.h"
+#include "platform/languages.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,8 +17,13 @@
 namespace zelto {
 namespace {
 
+const QString FirstPage = QStringLiteral("index.md");
+
+// In the language spoken, or in English where there is no edition in it.
 QString guideFolder() {
-    return resourceFolder() + QStringLiteral("/guide");
+    const QString english = resourceFolder() + QStringLiteral("/guide");
+    const QString own = english + QLatin1Char('/') + spokenLanguage();
+    return QFileInfo(QDir(own).filePath(FirstPage)).isFile() ? own : english;
 }
 
 }  // namespace
@@ -39,7 +45,7 @@ GuideWindow::GuideWindow(QWidget* parent)
     connect(page_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
     connect(back, &QPushButton::clicked, page_, &QTextBrowser::backward);
     connect(forward, &QPushButton::clicked, page_, &QTextBrowser::forward);
-    connect(contents, &QPushButton::clicked, this, [this] { showPage(QStringLiteral("index.md")); });
+    connect(contents, &QPushButton::clicked, this, [this] { showPage(FirstPage); });
     connect(close, &QPushButton::clicked, this, &QDialog::close);
 
     auto* row = new QHBoxLayout;
@@ -62,15 +68,14 @@ void GuideWindow::showPage(const QString& name) {
 void openGuide(QWidget* window) {
     auto* guide = window->findChild<GuideWindow*>(QString(), Qt::FindDirectChildrenOnly);
     if (guide == nullptr) {
-        const QString first = QStringLiteral("index.md");
-        if (!QFileInfo(QDir(guideFolder()).filePath(first)).isFile()) {
+        if (!QFileInfo(QDir(guideFolder()).filePath(FirstPage)).isFile()) {
             showAlert(
                 window, GuideWindow::tr("Guide"),
                 GuideWindow::tr("The guide is not installed: there is no folder “%1”.").arg(guideFolder()));
             return;
         }
         guide = new GuideWindow(window);
-        guide->showPage(first);
+        guide->showPage(FirstPage);
     }
     guide->show();
     guide->raise();

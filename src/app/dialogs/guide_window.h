@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The guide: the Markdown pages that ship beside the program, with their pictures, in a window of their own that stays
-// open beside the work. It needs no network. Main thread only.
+// open beside the work, in the language the program speaks or else in English. It needs no network. Main thread only.
 #pragma once
 
 #include <QDialog>
