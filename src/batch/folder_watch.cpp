@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 // How long nothing must happen to a photo that was closed or moved in.
 constexpr auto Quiet = 500ms;
 // The same for one that was found in a list, where nobody has told that it is closed.
-constexpr auto QuietWhenListed = 2s;
+constexpr std::chrono::milliseconds QuietWhenListed = 2s;
 // For one that is being written. Closing it comes first, unless that happens where the system does not see it.
 constexpr auto QuietWhileOpen = 5min;
 constexpr auto ListInterval = 10s;
@@ -36,10 +36,12 @@ constexpr auto LongestPause = 5min;
 constexpr std::uint32_t FolderEvents = IN_CREATE | IN_MODIFY | IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM |
                                        IN_DELETE | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 
-// File systems on which others may write without this machine's knowing: NFS, SMB (three numbers), 9P, Ceph, AFS,
-// FUSE, and the shared folders of virtual machines.
-constexpr std::array<std::uint32_t, 9> SharedFileSystems = {
-    0x6969, 0x517B, 0xFF534D42, 0xFE534D42, 0x01021997, 0x00C36400, 0x5346414F, 0x65735546, 0x786F4256};
+// File systems on which others may write without this machine's knowing: NFS, SMB (three numbers), 9P, Ceph, AFS (two),
+// FUSE, those of clusters (Lustre, GPFS, BeeGFS, OCFS2, GFS2), and the shared folders of virtual machines (three).
+constexpr std::array<std::uint32_t, 17> SharedFileSystems = {
+    0x6969,     0x517B,     0xFF534D42, 0xFE534D42, 0x01021997, 0x00C36400,
+    0x5346414F, 0x6B414653, 0x65735546, 0x0BD00BD0, 0x47504653, 0x19830326,
+    0x7461636F, 0x01161970, 0x786F4256, 0xBACBACBC, 0x7C7C6673};
 
 bool isShared(const QString& folder) {
     struct statfs system {};
@@ -124,9 +126,16 @@ void FolderWatch::addFolder(const QString& folder, Clock::time_point now) {
         numbers_.insert(folder, number);
     } else if (events_ < 0 || errno == ENOSPC || errno == ENOMEM) {
         listsAgain_ = true;
-        tell({folder,
-              Words::tr("the system tells of changes in no more folders; they are listed every 10 seconds "
-                        "instead (fs.inotify.max_user_watches says how many there may be)")});
+        const auto limit =
+            QLatin1String(events_ < 0 ? "fs.inotify.max_user_instances" : "fs.inotify.max_user_watches");
+        // Once: there may be thousands of folders.
+        if (!std::exchange(hasToldOfLimit_, true)) {
+            tell(
+                {folder,
+                 Words::tr("the system tells of changes in no more folders; they are listed every 10 seconds "
+                           "instead (%1 says how many there may be)")
+                     .arg(limit)});
+        }
     }
     listFolder(folder, now);
 }
@@ -142,9 +151,12 @@ void FolderWatch::listFolder(const QString& folder, Clock::time_point now) {
         if (!isWanted(lastPathComponent(photo))) continue;
         const std::optional<Stamp> stamp = stampOf(photo);
         if (!stamp || done_.value(photo) == *stamp || pending_.contains(photo)) continue;
+        // Where the system tells of every write, an old file is a whole one. Elsewhere its time may be another
+        // clock's, and only waiting shows that nobody writes.
         const auto age =
             std::chrono::system_clock::now().time_since_epoch() - std::chrono::nanoseconds(stamp->modified);
-        expect(photo, age > QuietWhenListed || age < 0s ? now : now + QuietWhenListed);
+        const bool isOld = age > QuietWhenListed || age < 0s;
+        expect(photo, isOld && !listsAgain_ ? now : now + QuietWhenListed);
         pending_[photo].stamp = stamp;
     }
     if (!wanted_.includeSubFolders) return;
@@ -197,6 +209,8 @@ void FolderWatch::take(const char* bytes, Clock::time_point now) {
     const QString folder = folders_.value(event.wd);
     if (folder.isEmpty()) return;
     if ((event.mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT)) != 0) {
+        // What is mounted there next has no events before it is listed.
+        if ((event.mask & IN_UNMOUNT) != 0) listsAgain_ = true;
         forgetFolder(folder);
         if (wanted_.folders.contains(folder)) listAll(now);
         return;
@@ -252,7 +266,7 @@ std::vector<FolderWatch::Arrival> FolderWatch::takeReady(std::size_t most, Clock
         const std::optional<Stamp> stamp = stampOf(path);
         if (stamp && stamp != pending.stamp) {
             pending.stamp = stamp;
-            pending.due = now + Quiet;
+            pending.due = now + (listsAgain_ ? QuietWhenListed : Quiet);
             ++entry;
             continue;
         }

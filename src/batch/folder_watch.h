@@ -97,6 +97,7 @@ class FolderWatch {
     QHash<QString, int> numbers_;
     QStringList missing_;  // of the folders that were named
     bool listsAgain_ = false;
+    bool hasToldOfLimit_ = false;
     Clock::time_point nextList_;
     QHash<QString, Pending> pending_;
     QHash<QString, Stamp> done_;
