@@ -35,8 +35,10 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
 }
 
 void announce(QWidget& widget, const QString& text) {
+    setAccessibleRole(widget, QAccessible::Notification);
     widget.setAccessibleName(text);
-    QAccessibleEvent told(&widget, QAccessible::Alert);
+    if (!widget.isVisible()) return;
+    QAccessibleEvent told(&widget, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&told);
 }
 

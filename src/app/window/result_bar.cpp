@@ -61,8 +61,8 @@ void ResultBar::tell(const RunResult& result) {
     open_->setText(result.open);
     open_->setVisible(!result.open.isEmpty());
     setAccessibleDescription(result.message + QStringLiteral("\n\n") + result.counts);
-    show();
     announce(*this, tr("Result of the run: %1").arg(result.counts));
+    show();
 }
 
 }  // namespace zelto

@@ -70,12 +70,12 @@ TEST(RotationControl, ItsPartsShowWhatTheOthersChoose) {
                      [&told](qint64 degrees) { told.push_back(degrees); });
     const auto shown = [&rotation] {
         return u"%1 %2 %3"_s.arg(rotation.field().value())
-            .arg((rotation.dial().value() + 180) % 360)
+            .arg(rotation.dial().value())
             .arg(rotation.presets().currentText());
     };
     for (const auto& [degrees, expected] : {std::pair(0, "0 0 Straight"),
-                                            {-45, "-45 315 Rising diagonally"},
-                                            {315, "315 315 Rising diagonally"},
+                                            {-45, "-45 -45 Rising diagonally"},
+                                            {315, "315 -45 Rising diagonally"},
                                             {360, "360 0 Straight"},
                                             {33, "33 33 "},
                                             {-3600 + 90, "90 90 Downward"}}) {
@@ -88,7 +88,7 @@ TEST(RotationControl, ItsPartsShowWhatTheOthersChoose) {
     QTest::keyClick(&rotation.dial(), Qt::Key_PageUp);
     EXPECT_EQ(shown(), u"14 14 "_s);
     QTest::keyClick(&rotation.presets(), Qt::Key_End);
-    EXPECT_EQ(shown(), u"180 180 Upside down"_s);
+    EXPECT_EQ(shown(), u"180 -180 Upside down"_s);
     EXPECT_THAT(told, ElementsAre(359, 14, 180));
 }
 

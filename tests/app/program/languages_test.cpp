@@ -5,6 +5,7 @@
 
 #include "app/editor_fixture.h"
 
+#include <QAbstractAnimation>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
@@ -164,6 +165,8 @@ void checkMnemonics(QStringList texts, const QList<QAction*>& actions, const std
 
 void Languages::look(QWidget& top, const std::string& where) {
     QCoreApplication::processEvents();
+    for (const auto* animation : top.findChildren<QAbstractAnimation*>())
+        EXPECT_EQ(animation->duration(), 0) << where << ": something moves by itself";
     const QImage seen = top.grab().toImage().convertToFormat(QImage::Format_RGB32);
     QCoreApplication::sendPostedEvents(nullptr,
                                        QEvent::LayoutRequest);  // a photo may just have told its size

@@ -30,9 +30,9 @@ int withinTurn(qint64 degrees) {
     return static_cast<int>((degrees % 360 + 360) % 360);
 }
 
-// A dial counts from its lowest point on; a turn from the highest.
+// The same turn, -180 to 179 degrees: a dial counts from its lowest point on, and 0 is the highest.
 int dialValue(qint64 degrees) {
-    return withinTurn(degrees + 180);
+    return withinTurn(degrees + 180) - 180;
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ RotationControl::RotationControl(QWidget* parent)
       dial_(new QDial(this)),
       field_(new NumberField(number_kind::Degrees, this)),
       presets_(new QComboBox(this)) {
-    dial_->setRange(0, 360);
+    dial_->setRange(-180, 180);
     dial_->setWrapping(true);
     dial_->setPageStep(15);
     dial_->setFixedSize(48, 48);
@@ -62,7 +62,7 @@ RotationControl::RotationControl(QWidget* parent)
     load(0);
 
     connect(field_, &NumberField::valueChanged, this, [this](double value) { choose(std::llround(value)); });
-    connect(dial_, &QDial::valueChanged, this, [this](int value) { choose(withinTurn(value - 180)); });
+    connect(dial_, &QDial::valueChanged, this, [this](int value) { choose(withinTurn(value)); });
     connect(presets_, &QComboBox::activated, this,
             [this](int chosen) { choose(presets_->itemData(chosen).toInt()); });
 }
@@ -72,7 +72,7 @@ void RotationControl::load(qint64 degrees) {
     const QSignalBlocker quietPresets(presets_);
     const bool isInRange = degrees >= -360 && degrees <= 360;
     field_->load(static_cast<double>(isInRange ? degrees : withinTurn(degrees)));
-    if (dialValue(degrees) != dial_->value() % 360) dial_->setValue(dialValue(degrees));
+    if (dialValue(degrees) != dialValue(dial_->value())) dial_->setValue(dialValue(degrees));
     int row = 0;
     const int rows = presets_->count();
     while (row < rows && withinTurn(presets_->itemData(row).toInt()) != withinTurn(degrees)) ++row;
