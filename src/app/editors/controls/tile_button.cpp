@@ -12,6 +12,7 @@ TileButton::TileButton(const QIcon& icon, const QString& name, QWidget* parent) 
     setAccessibleName(name);
     setToolTip(name);
     setCheckable(true);
+    setAutoExclusive(true);  // told as one choice of several; its group says of which
     setFocusPolicy(Qt::StrongFocus);
 }
 

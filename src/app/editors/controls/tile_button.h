@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A picture to choose among others: the chosen one has a frame in the accent colour, which is seen in every
-// style and theme. Main thread only.
+// A picture to choose among others of its button group: the chosen one has a frame in the accent colour, which is seen
+// in every style and theme. Main thread only.
 #pragma once
 
 #include <QToolButton>

@@ -151,6 +151,7 @@ QWidget* TextStyleGroup::makeStyles() {
     auto* alignments = new QButtonGroup(widget);
     for (const AlignmentRow& alignment : Alignments) {
         QToolButton* button = makeToggle(alignment.icon, tr(alignment.tip), widget);
+        button->setAutoExclusive(true);  // told as one choice of three
         button->setIcon(lineIcon(alignment.icon));
         alignments->addButton(button, static_cast<int>(alignment.code));
         row->addWidget(button);
