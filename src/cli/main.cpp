@@ -99,7 +99,9 @@ int show(const BatchReport& report, const CommandLine& line, Console& console) {
         printed = printResult(toText(report).toUtf8());
     }
     if (!printed) console.problem(Words::tr("the result could not be printed"));
-    return printed ? report.exitStatus() : std::max(report.exitStatus(), exit_status::SomeFailed);
+    // The status tells what became of the photos, even where the report cannot be; a dry run is nothing but its report.
+    const int status = report.exitStatus();
+    return printed || !line.dryRun ? status : std::max(status, exit_status::SomeFailed);
 }
 
 int merge(const CommandLine& line, Console& console) {

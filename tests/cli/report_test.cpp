@@ -190,6 +190,10 @@ TEST_F(Report, ResultsGoToStandardOutputAndTheRestToStandardError) {
     EXPECT_EQ(quiet.output, QByteArray());
     EXPECT_EQ(quiet.errors.count('\n'), 1) << quiet.errors.toStdString();
     EXPECT_EQ(run({u"--quiet"_s, photo}).errors, QByteArray());
+    for (const auto& torn : {u">&-"_s, u">/dev/full"_s, u"2>/dev/full"_s, u">&- 2>&- <&-"_s}) {
+        const QStringList line = {u"-c"_s, u"exec \"$0\" \"$@\" "_s + torn, program()};
+        EXPECT_EQ(runProgram(u"/bin/sh"_s, line + withSetting({photo})).exitStatus, 0) << torn.toStdString();
+    }
 }
 
 TEST_F(Report, TellsWhyAMarkDidNotArriveAndStrictLeavesThatPhotoUnwritten) {
