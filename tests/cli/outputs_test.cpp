@@ -146,9 +146,14 @@ TEST_F(Outputs, TheEffectsPicturesOfTheLastPhotoStandInTheHomeFolder) {
     stack.Effects.emplace();  // a border of 10 on every side
     stack.Effects->BlurRadius = stack.Effects->Distance = 4;
     useSetting(stack);
+    makeFile(u"home/file.png"_s, "the user's own");
     const QString damaged = makeFile(u"in/b.png"_s, "no photo");
     EXPECT_EQ(run({makePhoto(u"0.png"_s), photo, damaged}, environment).exitStatus, 1);
-    EXPECT_EQ(home.entryList(QDir::Files | QDir::Hidden), words("effect.png file.png"));
+    EXPECT_EQ(home.entryList(QDir::Files | QDir::Hidden), words("effect.png file.png file.png~"));
+    EXPECT_EQ(filesBelow(u"home"_s).value(u"file.png~"_s), "the user's own");
+    constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    for (const auto& name : {u"file.png"_s, u"effect.png"_s})
+        EXPECT_FALSE(QFile::permissions(home.filePath(name)) & Others) << name.toStdString();
     EXPECT_EQ(QImage(home.filePath(u"file.png"_s)).size(), QSize(120, 100));
     EXPECT_EQ(largestDifference(QImage(home.filePath(u"effect.png"_s)), output(u"a.png"_s)), 0);
 
