@@ -20,10 +20,10 @@ if(ZELTO_SANITIZE)
   target_link_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE})
 endif()
 
-# What nearly every source file includes, compiled once for all libraries. The preset "tsan" does without precompiled
-# headers, so that a file that relies on another's includes does not go unnoticed. The presets that are built whole
-# rather than again and again ("release", "ci", "bench", "asan") also compile all sources of a room at once
-# (CMAKE_UNITY_BUILD), in a quarter of the time: names in the unnamed namespaces of a room must differ.
+# What nearly every source file includes, compiled once for all libraries. The preset "check" does without precompiled
+# headers, so that a folder that relies on another's includes does not go unnoticed. The presets that are built whole
+# rather than again and again (all but "dev" and "fuzz") also compile all sources of a room at once (CMAKE_UNITY_BUILD),
+# in a quarter of the time: names in the unnamed namespaces of a room must differ.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 
 # zelto_unite_folders(TARGET SOURCE...): with CMAKE_UNITY_BUILD, what is compiled at once are the sources of one folder,
