@@ -505,7 +505,7 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>The folder “%1” cannot be read.</source>
-        <translation>تتعذّر قراءة المجلد «%1».</translation>
+        <translation>تتعذّر قراءة المجلد «⁨%1⁩».</translation>
     </message>
     <message>
         <source>A filter changes the whole photo.</source>
@@ -777,11 +777,11 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>There is no file “%1”.</source>
-        <translation>لا يوجد ملف باسم «%1».</translation>
+        <translation>لا يوجد ملف باسم «⁨%1⁩».</translation>
     </message>
     <message>
         <source>“%1” cannot be read: %2</source>
-        <translation>تتعذّر قراءة «%1»: %2</translation>
+        <translation>تتعذّر قراءة «⁨%1⁩»: %2</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
@@ -905,11 +905,11 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation>يتعذّر إنشاء المجلد «%1».</translation>
+        <translation>يتعذّر إنشاء المجلد «⁨%1⁩».</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation>تتعذّر قراءة «%1».</translation>
+        <translation>تتعذّر قراءة «⁨%1⁩».</translation>
     </message>
     <message>
         <source>there is not enough memory to start</source>
@@ -917,7 +917,7 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>No folder can be made in “%1”: %2</source>
-        <translation>يتعذّر إنشاء مجلد في «%1»: %2</translation>
+        <translation>يتعذّر إنشاء مجلد في «⁨%1⁩»: %2</translation>
     </message>
     <message>
         <source>no thread can be started</source>
@@ -925,7 +925,7 @@ Double Click the Image Entry to know the problem</source>
     </message>
     <message>
         <source>“%1” cannot be written: %2</source>
-        <translation>تتعذّر كتابة «%1»: %2</translation>
+        <translation>تتعذّر كتابة «⁨%1⁩»: %2</translation>
     </message>
     <message>
         <source>The font has the size 0.</source>
@@ -2510,7 +2510,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation>%1، في %2</translation>
+        <translation>⁨%1⁩، في ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -3097,7 +3097,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>There is no folder “%1” yet.</source>
-        <translation>لا يوجد مجلد باسم «%1» بعد.</translation>
+        <translation>لا يوجد مجلد باسم «⁨%1⁩» بعد.</translation>
     </message>
     <message>
         <source>&amp;Create Folder</source>
@@ -3113,7 +3113,7 @@ A run changes none of them.</source>
     </message>
     <message>
         <source>“%1” cannot be created.</source>
-        <translation>يتعذّر إنشاء «%1».</translation>
+        <translation>يتعذّر إنشاء «⁨%1⁩».</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window program: zelto [options] [PHOTO_OR_FOLDER...]
 #include "app/common/icons.h"
+#include "app/common/right_to_left.h"
 #include "app/dialogs/standard_dialogs.h"
 #include "app/editors/standard_editors.h"
 #include "app/program/app_delegate.h"
@@ -93,6 +94,7 @@ int run(int argc, char** argv) {
     // Takes what is Qt's own out of the arguments.
     QApplication application(argc, argv);
     speakUsersLanguage();
+    keepButtonWordsWhole();
     QApplication::setApplicationName(QStringLiteral("Zelto"));
     QApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
     QApplication::setWindowIcon(applicationIcon());

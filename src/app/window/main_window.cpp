@@ -275,8 +275,7 @@ void MainWindow::makeToolBar() {
     const QAction* start = (*actions_)[Act::Start];
     start_->setObjectName(QStringLiteral("StartWatermark"));
     start_->setText(tr("Start"));
-    // Styles tear words and icon of a button apart from right to left.
-    if (!isRightToLeft()) start_->setIcon(accentIcon(QLatin1String("start")));
+    start_->setIcon(accentIcon(QLatin1String("start")));
     takeAccent(*start_);
     start_->setAccessibleName(tr("Start Watermarking"));
     QFont bold = start_->font();
