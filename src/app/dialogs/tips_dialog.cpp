@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/dialogs/tips_dialog.h"
 
-#include "app/common/icons.h"
+#include "app/common/icon_label.h"
 #include "app/common/my_global_instance.h"
 #include "platform/preferences.h"
 
@@ -32,8 +32,7 @@ TipsDialog::TipsDialog(MyGlobalInstance& shared, QWidget* parent)
 }
 
 QLayout* TipsDialog::makeTip() {
-    auto* icon = new QLabel(this);
-    icon->setPixmap(lineIcon(QLatin1String("tips")).pixmap(QSize(IconSide, IconSide), devicePixelRatioF()));
+    auto* icon = new IconLabel(QLatin1String("tips"), IconSide, this);
     icon->setAccessibleName(tr("Tip"));
     icon->setAlignment(Qt::AlignTop);
     auto* heading = new QLabel(tr("Did you know?"), this);

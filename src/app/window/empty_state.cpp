@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/empty_state.h"
 
-#include "app/common/icons.h"
+#include "app/common/icon_label.h"
 #include "app/window/stack_gallery.h"
 
 #include <QAction>
@@ -46,10 +46,8 @@ QLabel* makeText(const QString& text, QWidget* parent) {
 EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder,
                        const std::function<void(int place)>& addReadyMade, QWidget* parent)
     : QWidget(parent), tipLine_(new QWidget(this)), tip_(new QLabel(this)), nextTip_(new QPushButton(this)) {
-    auto* picture = new QLabel(this);
     constexpr int IconSide = 56;
-    picture->setPixmap(lineIcon(QLatin1String("image"))
-                           .pixmap(QSize(IconSide, IconSide), devicePixelRatioF(), QIcon::Disabled));
+    auto* picture = new IconLabel(QLatin1String("image"), IconSide, this, QIcon::Disabled);
     picture->setAlignment(Qt::AlignCenter);
 
     auto* buttons = new QHBoxLayout;
@@ -68,8 +66,8 @@ EmptyState::EmptyState(QAction* addPhotos, QAction* addFolder,
     readyMade->addStretch();
 
     auto* tipRow = new QHBoxLayout(tipLine_);
-    auto* tipIcon = new QLabel(tipLine_);
-    tipIcon->setPixmap(lineIcon(QLatin1String("tips")).pixmap(QSize(20, 20), devicePixelRatioF()));
+    constexpr int TipSide = 20;
+    auto* tipIcon = new IconLabel(QLatin1String("tips"), TipSide, tipLine_);
     tip_->setObjectName(QStringLiteral("Tip"));
     tip_->setWordWrap(true);
     tip_->setAccessibleName(tr("Tip"));

@@ -46,8 +46,7 @@ QWidget* makeSpacer(QWidget* parent) {
 }
 
 // The one button that stands out.
-void takeAccent(QPushButton& button) {
-    QPalette palette = button.palette();
+void takeAccent(QPushButton& button, QPalette palette) {
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         // Styles lighten a button's colour; darkened, its text stays readable.
         palette.setColor(group, QPalette::Button, palette.color(QPalette::Highlight).darker(120));
@@ -276,7 +275,7 @@ void MainWindow::makeToolBar() {
     start_->setObjectName(QStringLiteral("StartWatermark"));
     start_->setText(tr("Start"));
     start_->setIcon(accentIcon(QLatin1String("start")));
-    takeAccent(*start_);
+    takeAccent(*start_, palette());
     start_->setAccessibleName(tr("Start Watermarking"));
     QFont bold = start_->font();
     bold.setBold(true);
@@ -458,6 +457,11 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     } else {
         editors_.close();
     }
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) takeAccent(*start_, palette());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
