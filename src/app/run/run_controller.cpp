@@ -133,6 +133,7 @@ void RunController::launch(const Plan& plan) {
     plan_ = plan;
     done_ = 0;
     photoInHand_ = 0;
+    failed_ = 0;
     std::vector<RowOutcome> begun;  // rows that have an outcome from before
     for (std::size_t row = 0; row < plan_->request.photos.size(); ++row) {
         const bool isFresh = window_.photos().images()[row].Status == PhotoStatus::NotProcessed;
@@ -236,6 +237,11 @@ bool RunController::mayClose() {
 
 void RunController::follow(const RunNews& news) {
     if (!news.outcomes.empty()) showOutcomes(news.outcomes);
+    if (news.report && news.report->end == RunEnd::Cancelled && !isUnderWay()) {
+        constexpr int Milliseconds = 15000;
+        window_.statusBar()->showMessage(tr("Cancelled") + QStringLiteral(" · ") + counted().counts,
+                                         Milliseconds);
+    }
     if (!isFollowed_) return;
     if (news.photoInHand) showPhotoInHand(*news.photoInHand);
     if (news.glance && holdsPhoto(news.glance->row)) window_.preview().showRunPicture(news.glance->picture);
@@ -257,6 +263,7 @@ void RunController::showOutcomes(const std::vector<PhotoOutcome>& outcomes) {
     std::vector<RowOutcome> rows;
     for (const PhotoOutcome& outcome : outcomes) {
         pace_.advance();
+        failed_ += outcome.succeeded() ? 0 : 1;
         if (!holdsPhoto(outcome.row)) continue;
         QStringList warnings;
         for (const PhotoWarning& warning : outcome.warnings) warnings.append(warning.text);
@@ -279,7 +286,8 @@ void RunController::showPhotoInHand(qint64 row) {
 
 void RunController::showProgress(qint64 done) {
     done_ = done;
-    window_.processing().setProgress(static_cast<int>(done));
+    window_.processing().setProgress(static_cast<int>(done),
+                                     failed_ > 0 ? tr("%Ln failed", nullptr, failed_) : QString());
     if (run_.PauseProcessing()) return;
     if (const auto figures = pace_.figures()) {
         window_.processing().setPace(tr("%1 photos/s, %2 left").arg(figures->rate(), figures->timeLeft()));
@@ -312,7 +320,7 @@ void RunController::ended(const RunReport& report) {
 }
 
 // Counts leave out what there is none of.
-RunResult RunController::resultOf(const RunReport& report) const {
+RunResult RunController::counted() const {
     RunResult result;
     int written = 0;
     for (const Image& photo : window_.photos().images()) {
@@ -324,6 +332,11 @@ RunResult RunController::resultOf(const RunReport& report) const {
     if (result.failed > 0) counts.append(tr("%Ln failed", nullptr, result.failed));
     if (result.warned > 0) counts.append(tr("%Ln warned", nullptr, result.warned));
     result.counts = counts.join(QStringLiteral(", "));
+    return result;
+}
+
+RunResult RunController::resultOf(const RunReport& report) const {
+    RunResult result = counted();
     result.message = report.message();
     if (!report.OutPutImageList.isEmpty())
         result.open = report.opensCombinedPdf() ? tr("Open P&DF") : tr("Open Fol&der");

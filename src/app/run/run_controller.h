@@ -68,6 +68,7 @@ class RunController : public QObject {
     void askWhetherToGoOn();
     void ended(const RunReport& report);
     void ShowResults(const RunReport& report);
+    RunResult counted() const;
     RunResult resultOf(const RunReport& report) const;
     bool holdsPhoto(qint64 row) const;
     bool mayClose();
@@ -79,6 +80,7 @@ class RunController : public QObject {
     Plan plan_;
     qint64 done_ = 0;          // rows that have had their turn
     qint64 photoInHand_ = 0;   // its row
+    int failed_ = 0;           // in this run
     bool isFollowed_ = false;  // the window shows where the run is
     RunPace pace_;
     QString pdfFailure_;

@@ -17,7 +17,6 @@ ProcessingBar::ProcessingBar(QWidget* parent)
       pause_(new QPushButton(this)),
       cancel_(new QPushButton(lineIcon(QLatin1String("stop")), tr("Cancel"), this)) {
     progress_->setAccessibleName(tr("Progress"));
-    progress_->setFormat(tr("%v of %m"));
     // Its words change while it runs; the buttons beside it are not to move.
     pace_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1 photos/s, %2 left").arg(888).arg(88888)));
     auto* row = new QHBoxLayout(this);
@@ -39,7 +38,8 @@ void ProcessingBar::begin(int rows) {
     announce(*this, tr("The run has begun: %Ln photo(s)", nullptr, rows));
 }
 
-void ProcessingBar::setProgress(int done) {
+void ProcessingBar::setProgress(int done, const QString& failed) {
+    progress_->setFormat(failed.isEmpty() ? tr("%v of %m") : tr("%v of %m") + QStringLiteral(" · ") + failed);
     progress_->setValue(done);
 }
 

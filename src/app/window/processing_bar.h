@@ -18,9 +18,9 @@ class ProcessingBar : public QWidget {
   public:
     explicit ProcessingBar(QWidget* parent = nullptr);
 
-    // Progress counts the rows of the list that have had their turn.
+    // Progress counts the rows of the list that have had their turn; `failed` says how many of them failed.
     void begin(int rows);
-    void setProgress(int done);
+    void setProgress(int done, const QString& failed = {});
     // The photo in hand; shortened where there is no room for its name.
     void setPhoto(const QString& name);
     // How fast it goes.

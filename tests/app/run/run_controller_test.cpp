@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -174,6 +175,8 @@ TEST_F(RunWindow, PausingResumingAndCancellingActBetweenPhotos) {
     EXPECT_TRUE(isEnabled(Act::AddPhotos));
     letThrough(2);
     EXPECT_TRUE(waitFor(u"www."_s)) << "the photo in hand is finished";
+    const auto told = [this] { return window->statusBar()->currentMessage(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told() == u"Cancelled · 3 written"_s; })) << qPrintable(told());
 
     for (const QString& left : outputs()) QFile::remove(options.OutputPath + u'/' + left);
     start();
@@ -196,6 +199,7 @@ TEST_F(RunWindow, ThreeFailuresInARowAskWhetherToGoOn) {
                   "Select No to stop watermarking."_s);
         EXPECT_THAT(buttons(*question), ::testing::UnorderedElementsAre(u"OK"_s, u"No"_s));
         EXPECT_EQ(statuses(), u"xxx.."_s);
+        EXPECT_TRUE(window->processing().ProcessingIndicator()->text().endsWith(u"3 failed"_s));
         answer(goesOn ? u"OK"_s : u"No"_s);
         if (goesOn) {
             EXPECT_EQ(summary(), Failed + u"1 written, 4 failed"_s);
