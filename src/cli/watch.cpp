@@ -353,7 +353,8 @@ Result<void> checkWatch(const CommandLine& line, const OutputOptions& options) {
                       "--existing what becomes of outputs that stand there: number, skip, fail or "
                       "replace"));
     }
-    const QString output = QFileInfo(options.OutputPath).canonicalFilePath();
+    const QString output =
+        QFileInfo(options.OutputPath).canonicalFilePath();  // empty where there is none yet
     for (const QString& input : line.inputs) {
         const QFileInfo folder(input);
         if (!folder.isDir()) return refuse(Words::tr("--watch takes folders, and “%1” is none").arg(input));
@@ -364,7 +365,8 @@ Result<void> checkWatch(const CommandLine& line, const OutputOptions& options) {
                           "another --output")
                     .arg(input));
         }
-        if (options.KeepDirectoryStructure && watched.startsWith(output + QLatin1Char('/'))) {
+        if (options.KeepDirectoryStructure && !output.isEmpty() &&
+            watched.startsWith(output + QLatin1Char('/'))) {
             return refuse(
                 Words::tr("with --keep-structure, outputs in “%1” could get into the watched folder “%2” "
                           "and be marked again; choose another --output")

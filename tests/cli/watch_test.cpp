@@ -63,8 +63,7 @@ QByteArray bytesOf(const QString& file) {
 
 TEST_F(Watching, MarksWhatArrivesOnceItIsWhole) {
     makePhoto(u"first.png"_s);
-    QDir().mkpath(path(u"in/marked"_s));
-    start({u"--recursive"_s, u"-o"_s, path(u"in/marked"_s)});
+    start({u"--recursive"_s, u"--keep-structure"_s, u"-o"_s, path(u"in/marked"_s)});
     ASSERT_TRUE(waitFor(1)) << "what is there at the start";
 
     // Slowly, with a pause longer than the one that counts as quiet after a file was closed.
@@ -89,8 +88,8 @@ TEST_F(Watching, MarksWhatArrivesOnceItIsWhole) {
     EXPECT_EQ(status(4), u"failed"_s);
     makeFile(u"in/damaged.png"_s, photo);
     ASSERT_TRUE(waitFor(6)) << "written again";
-    for (const char* name : {"first", "slow", "moved", "lower", "damaged"})
-        EXPECT_TRUE(isMarked(QImage(path(u"in/marked/%1.png"_s.arg(QLatin1String(name)))))) << name;
+    for (const char* name : {"first", "slow", "moved", "new/deep/lower", "damaged"})
+        EXPECT_TRUE(isMarked(QImage(path(u"in/marked/in/%1.png"_s.arg(QLatin1String(name)))))) << name;
     const QJsonObject summary = end();
     EXPECT_EQ(summary[u"written"_s].toInt(), 5);
     EXPECT_EQ(summary[u"failed"_s].toInt(), 1);
