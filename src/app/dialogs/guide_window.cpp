@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -57,7 +58,9 @@ GuideWindow::GuideWindow(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(page_, 1);
     column->addLayout(row);
-    resize(GuidePage::MostPictureWidth + 120, 760);
+    constexpr int FrameAndTitle = 60;
+    const QSize room = screen()->availableSize() - QSize(0, FrameAndTitle);
+    resize(QSize(GuidePage::MostPictureWidth + 120, 760).boundedTo(room));
     page_->setFocus();
 }
 

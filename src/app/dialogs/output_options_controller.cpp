@@ -100,6 +100,8 @@ OutputOptionsController::OutputOptionsController(ImageListController& photos, Wa
     connect(rename_, &RenamePanel::changed, this, &OutputOptionsController::follow);
     connect(resize_, &ResizePanel::changed, this, &OutputOptionsController::follow);
     rememberSize(*this, preference::OutputOptionsSize);
+    // Groups that are checked from the start would have it.
+    output_->folder().setFocus(Qt::TabFocusReason);
 }
 
 void OutputOptionsController::setMetadataPresent(bool present) {

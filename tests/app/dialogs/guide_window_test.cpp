@@ -2,6 +2,7 @@
 #include "app/dialogs/guide_window.h"
 
 #include "app/hands.h"
+#include "platform/languages.h"
 #include "support/testing.h"
 
 #include <QTextBlock>
@@ -48,6 +49,11 @@ TEST(Guide, OpensOnceWithItsPicturesAndItsLinksLeadThereAndBack) {
     EXPECT_TRUE(page.toPlainText().startsWith(u"Zelto"_s));
     QTest::keyClick(&guide, Qt::Key_Escape);
     EXPECT_FALSE(guide.isVisible());
+    speakLanguage(u"de"_s);
+    guide.showPage(u"qr-codes.md"_s);
+    speakLanguage(u"en"_s);
+    EXPECT_TRUE(page.toPlainText().contains(u"Ein Code kann von jedem Foto"_s));
+    EXPECT_NEAR(pictureWidth(page), 760.0, 1.0);
 }
 
 }  // namespace

@@ -171,6 +171,7 @@ TEST_F(OutputOptionsDialog, DefaultsComeBackButForTheHeight) {
     EXPECT_THAT(messages.take(), ElementsAre(u"Output Settings|Settings have been saved|OK"_s));
     open();
     EXPECT_EQ(path().text(), out());
+    EXPECT_EQ(dialog->focusWidget(), &path());
     EXPECT_TRUE(button(*dialog, "Combine to a single PDF").isChecked());
     EXPECT_TRUE(button(*dialog, "Pixels").isChecked());
     EXPECT_EQ(size("Width, per cent").value(), 40);
