@@ -4855,6 +4855,14 @@ Click for the saved stacks (%2)</source>
         <translation>لا توضع علامات مائية على أي صور الآن</translation>
     </message>
     <message>
+        <source>Retr&amp;y Failed</source>
+        <translation>إعادة محاولة ال&amp;فاشلة</translation>
+    </message>
+    <message>
+        <source>No photo has failed</source>
+        <translation>لم تفشل أي صورة</translation>
+    </message>
+    <message>
         <source>Add photos first</source>
         <translation>أضف صورًا أولاً</translation>
     </message>

@@ -4743,6 +4743,14 @@ Klick zeigt die gespeicherten Stapel (%2)</translation>
         <translation>Gerade werden keine Fotos mit Wasserzeichen versehen</translation>
     </message>
     <message>
+        <source>Retr&amp;y Failed</source>
+        <translation>Fehlge&amp;schlagene wiederholen</translation>
+    </message>
+    <message>
+        <source>No photo has failed</source>
+        <translation>Kein Foto ist fehlgeschlagen</translation>
+    </message>
+    <message>
         <source>Add photos first</source>
         <translation>Zuerst Fotos hinzufügen</translation>
     </message>

@@ -34,6 +34,7 @@ RunController::RunController(MainWindow& window, MyGlobalInstance& shared, RunPa
     WindowActions& actions = window_.actions();
     actions.connectTo(Act::PauseRun, [this] { PauseOrResumeProcessingAction(); });
     actions.connectTo(Act::CancelRun, [this] { CancelProcessingAction(); });
+    actions.connectTo(Act::RetryFailed, [this] { retryFailed(); });
     for (const auto& [act, button] : {std::pair(Act::PauseRun, bar.PauseOrResumeProcessing()),
                                       std::pair(Act::CancelRun, bar.CancelProcessing())}) {
         connect(actions[act], &QAction::changed, button,

@@ -58,4 +58,10 @@ void WatermarkListView::paintEvent(QPaintEvent* event) {
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, tr("No watermarks yet"));
 }
 
+// What is edited below stays in sight in a list that has become shorter.
+void WatermarkListView::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
 }  // namespace zelto

@@ -347,6 +347,7 @@ void MainWindow::EnableDisableWatermarkControls() {
     // Watermarks can be made before there are photos to put them on.
     const bool showsSample = !hasPhotos && (hasStack || hasRows);
     actions_->update({.hasPhotos = hasPhotos,
+                      .hasFailed = photos_.hasPhotosFor(PhotoFilter::Failed),
                       .hasPicture = hasPhotos || showsSample,
                       .hasStack = hasStack,
                       .hasSetting = keeper_->mayLoadAtStart(),

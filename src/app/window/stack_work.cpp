@@ -109,8 +109,8 @@ void makeMenus(const StackParts& parts) {
     openMenuOn(parts.preview, onPreview);
     openMenuOn(parts.photos,
                actions.makeMenu({Act::AddPhotos, Act::AddFolder, Act::Paste, Act::Separator, Act::CheckAll,
-                                 Act::UncheckAll, Act::ToggleCheck, Act::Separator, Act::FullScreen,
-                                 Act::Separator, Act::RemovePhoto, Act::RemoveAllPhotos},
+                                 Act::UncheckAll, Act::ToggleCheck, Act::RetryFailed, Act::Separator,
+                                 Act::FullScreen, Act::Separator, Act::RemovePhoto, Act::RemoveAllPhotos},
                                 &parts.photos));
 }
 

@@ -26,7 +26,8 @@ enum Needs : unsigned {
     Picture = 32,       // a photo, or the sample photo, on the preview
     Stack = 64,         // something that could be saved
     Setting = 128,      // the stack has a name and may be loaded at start
-    Run = 256           // one that has not come to its end
+    Run = 256,          // one that has not come to its end
+    Failed = 512        // photos that a run could not write
 };
 
 struct ActionRow {
@@ -93,7 +94,9 @@ const std::array Rows_ = {
     ActionRow{Act::SortByName, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Sort by Name"), "", "",
               Photos | Idle},
     ActionRow{Act::SortByDate, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Sort by &Date Taken"),
-              "", "", Photos | Idle},
+              "", "", Photos | Idle, true},
+    ActionRow{Act::RetryFailed, PhotosMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "Retr&y Failed"), "",
+              "", Failed | Idle},
     ActionRow{Act::AddText, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Text..."), "text", "Ctrl+T",
               Idle},
     ActionRow{Act::AddImage, AddMenu, QT_TRANSLATE_NOOP("zelto::WindowActions", "&Image..."), "image",
@@ -171,6 +174,7 @@ constexpr Need AllNeeds[] = {
     {Photos, &WindowState::hasPhotos, QT_TRANSLATE_NOOP("zelto::WindowActions", "Add photos first")},
     {Picture, &WindowState::hasPicture,
      QT_TRANSLATE_NOOP("zelto::WindowActions", "Add photos or a watermark first")},
+    {Failed, &WindowState::hasFailed, QT_TRANSLATE_NOOP("zelto::WindowActions", "No photo has failed")},
     {Rows, &WindowState::hasRows, QT_TRANSLATE_NOOP("zelto::WindowActions", "There are no watermarks yet")},
     {SelectedRow, &WindowState::hasSelectedRow,
      QT_TRANSLATE_NOOP("zelto::WindowActions", "Select a watermark first")},

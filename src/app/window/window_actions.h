@@ -40,6 +40,7 @@ enum class Act {
     FindPhotos,
     SortByName,
     SortByDate,
+    RetryFailed,
     AddImage,
     AddText,
     AddShape,
@@ -75,6 +76,7 @@ enum class Act {
 // What the state of the window allows.
 struct WindowState {
     bool hasPhotos = false;
+    bool hasFailed = false;        // photos that a run could not write
     bool hasPicture = false;       // on the preview: a photo, or the sample photo
     bool hasStack = false;         // that could be saved
     bool hasSetting = false;       // the stack has a name

@@ -135,9 +135,11 @@ TEST_F(RunWindow, WhatFailedIsTriedAgainAlone) {
     ASSERT_TRUE(QFile::remove(options.OutputPath + u"/photo0.png"_s));
     ASSERT_TRUE(QFile::remove(path(u"in/photo1.png"_s)));
     ASSERT_TRUE(QFile::copy(path(u"in/photo0.png"_s), path(u"in/photo1.png"_s)));
+    EXPECT_TRUE(isEnabled(Act::RetryFailed)) << "from the menu too";
     click(window->result(), "Retry Failed");
     EXPECT_TRUE(waitFor(u"www"_s));
     EXPECT_EQ(summary(), Succeeded + u"3 written"_s);
+    EXPECT_FALSE(isEnabled(Act::RetryFailed));
     EXPECT_THAT(outputs(), ElementsAre(u"photo1.png"_s, u"photo2.png"_s));
 }
 
