@@ -58,7 +58,7 @@ GuideWindow::GuideWindow(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(page_, 1);
     column->addLayout(row);
-    constexpr int FrameAndTitle = 60;
+    constexpr int FrameAndTitle = 100;
     const QSize room = screen()->availableSize() - QSize(0, FrameAndTitle);
     resize(QSize(GuidePage::MostPictureWidth + 120, 760).boundedTo(room));
     page_->setFocus();

@@ -3,6 +3,8 @@
 
 #include "render/qr_code.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace zelto {
@@ -54,8 +56,8 @@ QrJudgement::QrJudgement(const QString& text, double side, QSizeF photo,
     } else if (!background) {
         message_ = tr("Without a background it can be read on bright parts of photos only.");
     } else {
-        message_ =
-            tr("%1 × %1 squares of %2 pixels each.").arg(symbol->width).arg(std::floor(module * 10.0) / 10.0);
+        const QString side = QLocale().toString(std::floor(module * 10.0) / 10.0, 'g', 6);
+        message_ = tr("%1 × %1 squares of %2 pixels each.").arg(symbol->width).arg(side);
     }
 }
 
