@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reading a 24-megapixel JPEG, beside libjpeg-turbo decoding the same file into one row over and over, which
-// is the least that any reader has to do.
+// is the least that any reader has to do; and what it would cost beside that to have another process read it.
 #include "pictures/libjpeg.h"
 #include "pictures/picture_reader.h"
 #include "support/test_pictures.h"
@@ -9,8 +9,11 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 namespace {
@@ -96,10 +99,33 @@ void readSizeOnly(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(readPictureSize(path));
 }
 
+// A picture is put into memory that two processes share, and taken out of it. Both are this one here, which leaves out
+// that the other has to be woken.
+void handOverInSharedMemory(benchmark::State& state) {
+    const QImage decoded = drawnScene({static_cast<int>(state.range(0)), static_cast<int>(state.range(1))});
+    const auto bytes = static_cast<std::size_t>(decoded.sizeInBytes());
+    for (auto _ : state) {
+        const int memory = ::memfd_create("picture", MFD_CLOEXEC);
+        if (::ftruncate(memory, decoded.sizeInBytes()) != 0) std::abort();
+        void* const theirs = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_SHARED, memory, 0);
+        void* const ours = ::mmap(nullptr, bytes, PROT_READ, MAP_SHARED, memory, 0);
+        if (theirs == MAP_FAILED || ours == MAP_FAILED) std::abort();
+        std::memcpy(theirs, decoded.constBits(), bytes);
+        const QImage taken = QImage(static_cast<const uchar*>(ours), decoded.width(), decoded.height(),
+                                    decoded.bytesPerLine(), decoded.format())
+                                 .copy();
+        benchmark::DoNotOptimize(taken.constBits());
+        ::munmap(theirs, bytes);
+        ::munmap(ours, bytes);
+        ::close(memory);
+    }
+}
+
 BENCHMARK(decodeByLibjpegAlone)->Unit(benchmark::kMillisecond);
 BENCHMARK(readUprightPhoto)->Unit(benchmark::kMillisecond);
 BENCHMARK(readPortraitPhoto)->Unit(benchmark::kMillisecond);
 BENCHMARK(readAdobeRgbPhoto)->Unit(benchmark::kMillisecond);
 BENCHMARK(readSizeOnly)->Unit(benchmark::kMicrosecond);
+BENCHMARK(handOverInSharedMemory)->Unit(benchmark::kMillisecond)->Args({6000, 4000})->Args({1500, 1000});
 
 }  // namespace
