@@ -19,6 +19,9 @@
 extern "C" const char* __tsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
     return "called_from_lib:libQt6Core.so\n"
            "called_from_lib:libQt6Gui.so\n"
+           "called_from_lib:libQt6Widgets.so\n"
+           "called_from_lib:libQt6Network.so\n"
+           "called_from_lib:libQt6DBus.so\n"
            "called_from_lib:libglib-2.0.so\n"
            "called_from_lib:libharfbuzz.so\n"
            "race:tzset_internal\n"  // the C library's, behind its own lock
