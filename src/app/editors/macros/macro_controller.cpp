@@ -207,7 +207,8 @@ void MacroController::openBeside(Dialog* dialog, Picked picked) {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, picked] { insert_((dialog->*picked)()); });
     dialog->adjustSize();
-    const QPoint corner = parentWidget()->mapToGlobal(QPoint());
+    const QWidget* column = parentWidget() != nullptr ? parentWidget() : this;
+    const QPoint corner = column->mapToGlobal(QPoint());
     const QRect screen = this->screen()->availableGeometry();
     const QSize size = dialog->sizeHint();
     dialog->move(
