@@ -31,6 +31,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace zelto {
@@ -216,7 +217,7 @@ void MainWindow::connectViews() {
     const auto zoom = [this](Act act, auto how) {
         actions_->connectTo(act, [this, how] {
             pages_->showContacts(false);
-            (previewView_->*how)();
+            std::invoke(how, previewView_);
         });
     };
     zoom(Act::ZoomIn, &PreviewView::ZoomIn);

@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include <functional>
+
 namespace zelto {
 namespace {
 
@@ -94,7 +96,7 @@ PhotoStrip::PhotoStrip(WatermarkController& watermarks, WindowActions& actions, 
         enable();
         connect(cell.eye, &QToolButton::clicked, this, [this, &part] {
             const bool isOn = part.isOn(watermarks_.document().state());
-            (watermarks_.*part.setOn)(!isOn);
+            std::invoke(part.setOn, watermarks_, !isOn);
         });
         connect(cell.remove, &QToolButton::clicked, this, [this, &part] { part.remove(watermarks_); });
         auto* chip = new QHBoxLayout;
