@@ -226,6 +226,9 @@ int main(int argc, char** argv) {
     zelto::sayCrashes();
     try {
         return zelto::run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        ::dprintf(STDERR_FILENO, "zelto-batch: there is not enough memory\n");
+        return zelto::exit_status::CannotBeUsed;
     } catch (const std::exception& exception) {
         zelto::printError(QByteArray("zelto-batch: ") + exception.what() + '\n');
         return zelto::exit_status::CannotBeUsed;
