@@ -3069,6 +3069,14 @@ A run changes none of them.</source>
         <source>What was opened from outside comes in as soon as the window is free.</source>
         <translation>ما فُتح من الخارج يدخل حالما تفرغ النافذة.</translation>
     </message>
+    <message>
+        <source>There is nothing to undo</source>
+        <translation>لا يوجد ما يُتراجع عنه</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo</source>
+        <translation>لا يوجد ما يُعاد</translation>
+    </message>
 </context>
 <context>
     <name>zelto::NumberField</name>

@@ -2985,6 +2985,14 @@ Ein Durchlauf ändert keine davon.</translation>
         <source>What was opened from outside comes in as soon as the window is free.</source>
         <translation>Was von außen geöffnet wurde, kommt herein, sobald das Fenster frei ist.</translation>
     </message>
+    <message>
+        <source>There is nothing to undo</source>
+        <translation>Es gibt nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo</source>
+        <translation>Es gibt nichts zu wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>zelto::NumberField</name>

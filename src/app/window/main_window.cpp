@@ -369,8 +369,16 @@ void MainWindow::EnableDisableWatermarkControls() {
     stackColumn_->setEnabled(!isRunning_);
     if (isRunning_) pages_->showContacts(false);
     previewView_->setEnabled(!isRunning_);
-    undo_->setEnabled(!isRunning_ && document_.history().canUndo());
-    redo_->setEnabled(!isRunning_ && document_.history().canRedo());
+    offer(*undo_, document_.history().canUndo(), tr("There is nothing to undo"));
+    offer(*redo_, document_.history().canRedo(), tr("There is nothing to redo"));
+}
+
+// Without a tooltip of its own an action is told by its text, which names the step.
+void MainWindow::offer(QAction& action, bool hasStep, const QString& whyNot) const {
+    action.setEnabled(hasStep && !isRunning_);
+    action.setToolTip(isRunning_ ? WindowActions::tr("Not while photos are being watermarked")
+                      : hasStep  ? QString()
+                                 : whyNot);
 }
 
 // Whoever has answered the welcome with the keyboard goes on in the list that is no longer empty.

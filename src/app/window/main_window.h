@@ -88,6 +88,7 @@ class MainWindow : public QMainWindow {
     void makeToolBar();
     void connectActions();
     void connectViews();
+    void offer(QAction& action, bool hasStep, const QString& whyNot) const;
     void connectDialogs();
     void showStatus();
     void restorePlaces();
