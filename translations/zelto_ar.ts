@@ -832,6 +832,10 @@ Double Click the Image Entry to know the problem</source>
         <translation>ألوانها مخزّنة بطريقة غير YCbCr أو الرمادي.</translation>
     </message>
     <message>
+        <source>It is stored in arithmetic codes.</source>
+        <translation>إنها مخزّنة بترميز حسابي.</translation>
+    </message>
+    <message>
         <source>Its colours are sampled in broken steps.</source>
         <translation>أُخذت عينات ألوانها بخطوات كسرية.</translation>
     </message>

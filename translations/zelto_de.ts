@@ -808,6 +808,10 @@ Doppelklick auf den Bildeintrag zeigt die Ursache</translation>
         <translation>Die Farben sind weder als YCbCr noch als Graustufen gespeichert.</translation>
     </message>
     <message>
+        <source>It is stored in arithmetic codes.</source>
+        <translation>Es ist in arithmetischen Codes gespeichert.</translation>
+    </message>
+    <message>
         <source>Its colours are sampled in broken steps.</source>
         <translation>Die Farben sind in gebrochenen Schritten abgetastet.</translation>
     </message>

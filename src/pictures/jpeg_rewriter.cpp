@@ -156,6 +156,8 @@ Result<void> JpegRewriter::Work::begin() {
     const jpeg_decompress_struct& info = file_.info();
     if (!hasPlainColors(info))
         return unsuited(Words::tr("Its colours are stored in another way than as YCbCr or grey."));
+    // Hardly any program reads such files, and no code of theirs is checked on its way through libjpeg.
+    if (info.arith_code != 0) return unsuited(Words::tr("It is stored in arithmetic codes."));
     if (!hasPlainSteps(info)) return unreadable();
     if (!hasWholeSampling(info)) return unsuited(Words::tr("Its colours are sampled in broken steps."));
     turn_ = turnOf(file_.exif().orientation);
@@ -195,8 +197,7 @@ void JpegRewriter::Work::setUp(jpeg_compress_struct& codec) {
     setJfifDensity(codec, dpiX_, dpiY_);
     codec.write_Adobe_marker = source.saw_Adobe_marker;
     codec.restart_interval = source.restart_interval;
-    codec.arith_code = source.arith_code;
-    codec.optimize_coding = static_cast<boolean>(isWhole_ && source.arith_code == 0);
+    codec.optimize_coding = static_cast<boolean>(isWhole_);
     if (source.progressive_mode != 0) {
         jpeg_simple_progression(&codec);
     } else if (!isWhole_) {

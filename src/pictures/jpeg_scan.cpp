@@ -148,7 +148,7 @@ inline int JpegScan::Bits::number(const Codes::Symbol& symbol) const {
 }
 
 bool JpegScan::suits(const jpeg_decompress_struct& header, const JpegGeometry& geometry) {
-    const bool isOneBaselineScan = header.progressive_mode == 0 && header.arith_code == 0 &&
+    const bool isOneBaselineScan = header.progressive_mode == 0 &&
                                    header.comps_in_scan == header.num_components &&
                                    header.restart_interval == 0;
     // The blocks of a scan of one component come in rows, whatever its sampling.
