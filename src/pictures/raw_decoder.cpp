@@ -12,6 +12,8 @@
 
 #include <libraw/libraw.h>
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 
@@ -54,9 +56,38 @@ QImage pixelsOf(const libraw_thumbnail_t& thumbnail) {
     return pixels;
 }
 
+// How a directory entry for a pattern of 6 x 6 colours begins, in both byte orders: the tag, two bytes for its type, and
+// the number of values.
+struct PatternEntry {
+    std::array<uchar, 2> tag;
+    std::array<uchar, 4> count;
+};
+constexpr qsizetype CountFrom = 4;
+constexpr PatternEntry PatternsOfSix[] = {{{0x8E, 0x82}, {36, 0, 0, 0}},
+                                          {{0x82, 0x8E}, {0, 0, 0, 36}},
+                                          {{0x09, 0xFD}, {36, 0, 0, 0}},
+                                          {{0xFD, 0x09}, {0, 0, 0, 36}}};
+
+// Whether there may be such an entry (X-Trans in a TIFF or DNG). LibRaw 0.20 goes over the bounds of its array there,
+// of which its compiler has made an endless loop that overwrites memory. Looked for without regard to structure, since
+// LibRaw follows directories to any place; a photo hardly ever holds these six bytes by chance.
+bool mayHavePatternOfSix(QByteArrayView bytes) {
+    return std::ranges::any_of(PatternsOfSix, [bytes](const PatternEntry& entry) {
+        const QByteArrayView count(entry.count);
+        const QByteArrayView tag(entry.tag);
+        for (qsizetype at = bytes.indexOf(tag); at >= 0; at = bytes.indexOf(tag, at + 1)) {
+            if (bytes.size() - at >= CountFrom + count.size() &&
+                bytes.sliced(at + CountFrom, count.size()) == count)
+                return true;
+        }
+        return false;
+    });
+}
+
 // Nothing where LibRaw knows no such camera or file, or it holds no preview.
 std::optional<Preview> previewOf(QIODevice& device) {
     const QByteArray bytes = allBytes(device);
+    if (mayHavePatternOfSix(bytes)) return std::nullopt;
     // Some hundred kilobytes: too many for a thread's stack.
     const auto raw =
         std::make_unique<LibRaw>(LIBRAW_OPIONS_NO_MEMERR_CALLBACK | LIBRAW_OPIONS_NO_DATAERR_CALLBACK);
