@@ -149,7 +149,7 @@ Result<PreparedPhoto> OutputWriter::prepare(const PhotoTask& task) {
                            scene->dpiX, scene->dpiY};
     const double dpi = scene->dpiX;
     QImage picture = MakeWatermarkImage(*std::move(scene), *settings_.stack);
-    if (!picture.isNull() && isGlanceDue()) photo.glance = glanceOf(picture);
+    if (!picture.isNull() && isGlanceDue(task.row)) photo.glance = glanceOf(picture);
     if (options.ResizeImage) picture = resizedImage(picture, size);
     if (picture.isNull()) return tl::unexpected(notEnoughMemory(task.source));
     photo.size = picture.size();
@@ -197,7 +197,7 @@ Result<PreparedPhoto> OutputWriter::prepareLossless(const PhotoTask& task) {
         const auto reduced = [file = photo.file] {
             return decodeReduced(file, LargestGlance).value_or(Picture()).image;
         };
-        if (isGlanceDue()) photo.glance = glanceOf(reduced());
+        if (isGlanceDue(task.row)) photo.glance = glanceOf(reduced());
         addMetadata(photo, reduced, lossless.scene.dpiX, task.source);
         return photo;
     });
@@ -212,13 +212,16 @@ void OutputWriter::addMetadata(PreparedPhoto& photo, const std::function<QImage(
     if (!complete.isEmpty()) photo.file = std::move(complete);
 }
 
-bool OutputWriter::isGlanceDue() {
-    using namespace std::chrono;
-    constexpr std::int64_t IntervalMilliseconds = 500;
+// A photo earlier in the list than the last one with a glance will be written before that one: it gets one too.
+bool OutputWriter::isGlanceDue(qint64 row) {
+    using namespace std::chrono_literals;
     if (!settings_.showGlance) return false;
-    const std::int64_t now = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-    std::int64_t due = nextGlance_;
-    return now >= due && nextGlance_.compare_exchange_strong(due, now + IntervalMilliseconds);
+    const auto now = std::chrono::steady_clock::now();
+    const std::lock_guard lock(glanceMutex_);
+    if (now < nextGlance_ && row > glanceRow_) return false;
+    nextGlance_ = now + 500ms;
+    glanceRow_ = row;
+    return true;
 }
 
 Result<void> OutputWriter::commit(const PhotoTask& task, PreparedPhoto photo) {

@@ -18,7 +18,6 @@
 #include <QLocale>
 #include <QSet>
 
-#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -60,7 +59,7 @@ class OutputWriter : public PhotoProcessor {
   private:
     struct CombinedPdf;
 
-    bool isGlanceDue();
+    bool isGlanceDue(qint64 row);
     Result<void> addPage(const PdfPage& page);
     PhotoRequest requestFor(const PhotoTask& task) const;
     // The photo with its untouched blocks as they are. Error: why that cannot be.
@@ -70,7 +69,9 @@ class OutputWriter : public PhotoProcessor {
     Result<void> writeFile(const PhotoTask& task, const PreparedPhoto& photo);
 
     const Settings settings_;
-    std::atomic<std::int64_t> nextGlance_ = 0;  // not before this moment of the steady clock, milliseconds
+    std::mutex glanceMutex_;                            // guards the next two
+    std::chrono::steady_clock::time_point nextGlance_;  // not before this moment
+    qint64 glanceRow_ = -1;
     const std::shared_ptr<LogoCache> logos_ = std::make_shared<LogoCache>();
     ExiftoolPool exiftool_;
     MetadataTransfer metadata_;  // uses exiftool_

@@ -24,6 +24,8 @@ extern "C" const char* __tsan_default_suppressions() {  // NOLINT(bugprone-reser
            "called_from_lib:libQt6DBus.so\n"
            "called_from_lib:libglib-2.0.so\n"
            "called_from_lib:libharfbuzz.so\n"
+           "called_from_lib:libicuuc.so\n"
+           "called_from_lib:libicui18n.so\n"
            "race:tzset_internal\n"  // the C library's, behind its own lock
            "race_top:closedir\n";   // whether Qt closed the file that had this number before is not seen
 }

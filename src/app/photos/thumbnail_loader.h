@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Small pictures of photos and the sizes of the photos, made in the background for those that are seen and kept as long
-// as there is room; a file that has been changed since is looked at again. Asking for others drops what has not been begun, so that scrolling through a long list never leaves
-// work behind. Huge photos are worked on apart, so that the others do not wait for them. Main thread only.
+// as there is room; a file that has been changed since is looked at again. Asking for others drops what has not been
+// begun, so that scrolling through a long list never leaves work behind. Huge photos are worked on apart, so that the
+// others do not wait for them. Main thread only.
 #pragma once
 
 #include "app/common/newest_worker.h"

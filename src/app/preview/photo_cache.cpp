@@ -12,7 +12,8 @@ namespace {
 
 constexpr qint64 BytesPerPixel = 4;
 
-// The request for a scene without layers.
+}  // namespace
+
 PhotoRequest withoutWatermarks(const PhotoRequest& request) {
     WatermarkStack stack;
     stack.Effects = request.stack->Effects;
@@ -21,8 +22,6 @@ PhotoRequest withoutWatermarks(const PhotoRequest& request) {
     bare.stack = std::make_shared<const WatermarkStack>(std::move(stack));
     return bare;
 }
-
-}  // namespace
 
 PhotoCache::Source::Source(const PhotoRequest& request)
     : path(request.path),

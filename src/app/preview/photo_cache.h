@@ -18,6 +18,9 @@
 
 namespace zelto {
 
+// The request for the same photo, filter and frame without layers. Any thread.
+PhotoRequest withoutWatermarks(const PhotoRequest& request);
+
 class PhotoCache {
   public:
     static constexpr qint64 DefaultBudget = qint64{768} << 20;  // bytes

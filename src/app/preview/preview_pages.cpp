@@ -2,6 +2,7 @@
 #include "app/preview/preview_pages.h"
 
 #include "app/photos/image_list_controller.h"
+#include "app/preview/photo_cache.h"
 #include "app/preview/photo_preview.h"
 #include "app/watermarks/watermark_document.h"
 
@@ -34,13 +35,8 @@ PreviewPages::PreviewPages(ImageListController& photos, WatermarkDocument& docum
 }
 
 PhotoRequest PreviewPages::requestFor(int row) const {
-    PhotoRequest request = preview_.requestFor(row);
-    if (isBare_) {
-        WatermarkStack bare = *request.stack;
-        bare.Watermarks.clear();
-        request.stack = std::make_shared<const WatermarkStack>(std::move(bare));
-    }
-    return request;
+    const PhotoRequest request = preview_.requestFor(row);
+    return isBare_ ? withoutWatermarks(request) : request;
 }
 
 void PreviewPages::setBare(bool isBare) {
