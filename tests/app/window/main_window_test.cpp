@@ -241,6 +241,8 @@ TEST_F(MainWindowTest, FilesAreDroppedAnywhereAndFramedMeanwhile) {
     auto* copied = new QMimeData;
     copied->setUrls({QUrl::fromLocalFile(paths[0])});
     QApplication::clipboard()->setMimeData(copied);
+    // Looking through a folder shows its progress where that takes long.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->isActiveWindow(); }, 10000));
     QTest::keyClick(window.get(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(window->photos().selectedPath(), paths[0]) << "what was there already is shown";
     EXPECT_EQ(window->photos().count(), 4);
