@@ -128,6 +128,7 @@ TEST(LookAhead, BeginsNoPhotoThatAnEarlierOneStillHasToWrite) {
          {.source = QStringLiteral("/nowhere/b"), .output = QStringLiteral("/nowhere/d")}});
     LookAhead ahead(processor, processor.tasks(), {4, 100});
     ASSERT_TRUE(ahead.take());
+    while (processor.begun().size() < 2) std::this_thread::sleep_for(1ms);
     std::this_thread::sleep_for(20ms);  // time for a photo to be begun too early
     EXPECT_THAT(processor.begun(), ::testing::UnorderedElementsAre(0, 1));
     ahead.release();
