@@ -113,17 +113,29 @@ JHUFF_TBL completed(const JHUFF_TBL& table, bool (*isNeeded)(std::size_t symbol)
 }  // namespace
 
 JHUFF_TBL completedDcTable(const JHUFF_TBL& table) {
-    constexpr std::size_t MostBits = 11;
-    return completed(table, [](std::size_t symbol) { return symbol <= MostBits; });
+    return completed(table, [](std::size_t symbol) { return symbol <= MostMeanBits; });
 }
 
 JHUFF_TBL completedAcTable(const JHUFF_TBL& table) {
-    constexpr std::size_t MostBits = 10;
     constexpr std::size_t ZeroRun = 0xF0;  // and 0 for the end of a block
     return completed(table, [](std::size_t symbol) {
         const std::size_t bits = symbol & 15;
         return symbol == 0 || symbol == ZeroRun || (bits >= 1 && bits <= MostBits);
     });
+}
+
+bool CodeRange::takes(const JBLOCK* blocks, int count) {
+    for (const JBLOCK* block = blocks; block < blocks + count; ++block) {
+        for (std::size_t i = 0; i < DCTSIZE2; ++i) {
+            least_[i] = std::min(least_[i], (*block)[i]);
+            largest_[i] = std::max(largest_[i], (*block)[i]);
+        }
+    }
+    constexpr int Limit = 1 << MostBits;
+    return largest_[0] - least_[0] < 1 << MostMeanBits &&
+           *std::max_element(largest_.begin() + 1,
+                             largest_.end())<Limit&& * std::min_element(least_.begin() + 1, least_.end())> -
+               Limit;
 }
 
 }  // namespace zelto

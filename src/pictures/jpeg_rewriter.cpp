@@ -17,6 +17,7 @@
 #include <QPointF>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <exception>
 #include <limits>
@@ -114,6 +115,7 @@ class JpegRewriter::Work {
     bool prepare(int unitRow);
     bool fill(int rows);
     bool mark(const JpegBand& band);
+    bool canBeCoded(int unitRow);
     QRect pixelsIn(const QRect& units) const;
     JBLOCKROW original(std::size_t component, int y) const;
     QImage decoded(const QRect& units);
@@ -137,8 +139,9 @@ class JpegRewriter::Work {
     const DrawMarks* draw_ = nullptr;
     std::vector<JpegBand> bands_;
     std::size_t nextBand_ = 0;
-    int filled_ = 0;                            // rows of units whose coefficients have been read
-    int prepared_ = 0;                          // rows of units that can be written
+    int filled_ = 0;    // rows of units whose coefficients have been read
+    int prepared_ = 0;  // rows of units that can be written
+    std::array<CodeRange, MAX_COMPONENTS> coded_;
     std::unique_ptr<JpegBlocks> storedBlocks_;  // where they have to be turned
     std::unique_ptr<JpegBlocks> blocks_;        // upright
     // The last row of the band before, as it was: what lies beside a pixel takes part in its decoding.
@@ -293,7 +296,9 @@ bool JpegRewriter::Work::prepare(int unitRow) try {
         const int end = isMarked ? bands_[nextBand_].end : prepared_ + 1;
         if (!fill(std::min(end + 1, geometry_.units.height()))) return false;
         if (isMarked && !mark(bands_[nextBand_++])) return false;
-        prepared_ = end;
+        for (; prepared_ < end; ++prepared_) {
+            if (!canBeCoded(prepared_)) return false;
+        }
     }
     return true;
 } catch (...) {
@@ -317,6 +322,18 @@ bool JpegRewriter::Work::fill(int rows) {
                                                                        : static_cast<JDIMENSION>(rows));
     }
     for (; filled_ < rows; ++filled_) blocks_->fillTurned(*storedBlocks_, turn_, filled_);
+    return true;
+}
+
+// Of a file in several scans libjpeg itself tells, and the scan that is copied looks at each number.
+bool JpegRewriter::Work::canBeCoded(int unitRow) {
+    for (std::size_t i = 0; i < geometry_.components.size() && !isWhole_ && !scan_; ++i) {
+        const JpegGeometry::Component& component = geometry_.components[i];
+        const int width = geometry_.units.width() * component.across;
+        for (int y = unitRow * component.down; y < (unitRow + 1) * component.down; ++y) {
+            if (!coded_[i].takes(blocks_->row(i, y), width)) return false;
+        }
+    }
     return true;
 }
 

@@ -15,8 +15,6 @@ namespace zelto {
 namespace {
 
 constexpr int LongestCodeRead = 16;
-constexpr int MostMeanBits = 11;
-constexpr int MostBits = 10;
 constexpr std::size_t ZeroRun = 0xF0;
 // By how many coefficients they lead on: what no block may have, beyond its last one; the end, farther than that can.
 constexpr int NoSymbol = DCTSIZE2 + 1;
