@@ -23,9 +23,12 @@
 #include <QBuffer>
 #include <QFile>
 #include <QPainter>
+#include <QRegion>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -67,7 +70,16 @@ void readPictureOf(QByteArrayView input) {
     promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
 }
 
-// Drawn on in a corner, across a middle and at an edge: what comes out is a JPEG of that size.
+// Whether two pictures are the same but for some areas, and the units around them that the marks there may reach.
+bool isSameBut(const std::vector<QRect>& areas, const QImage& one, const QImage& other) {
+    constexpr int Reach = 2 * 4 * 8;  // pixels: two of the largest units
+    QRegion kept(one.rect());
+    for (const QRect& area : areas) kept -= area.adjusted(-Reach, -Reach, Reach, Reach);
+    return std::all_of(kept.begin(), kept.end(),
+                       [&](const QRect& part) { return one.copy(part) == other.copy(part); });
+}
+
+// Drawn on in a corner, across a middle and at an edge: what comes out is that JPEG, untouched elsewhere.
 void rewriteJpeg(QByteArrayView input) {
     if (pictureKindOf(input) != PictureKind::Jpeg) return;
     auto file = std::make_unique<QBuffer>();
@@ -86,6 +98,11 @@ void rewriteJpeg(QByteArrayView input) {
     if (!written) return;
     const Result<Picture> picture = decodePicture(*written);
     promise(picture && picture->image.size() == size, "what is written is the photo");
+    constexpr std::int64_t MostCompared = 1 << 22;  // pixels
+    if (pixelCount(size) > MostCompared) return;
+    const Result<Picture> before = decodePicture(input.toByteArray());
+    promise(!before || isSameBut(areas, before->image, picture->image),
+            "what is not drawn on stays as it is");
 }
 
 // Raw files that are TIFF files within are told by more than their beginning.
