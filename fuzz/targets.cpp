@@ -70,6 +70,19 @@ void readPictureOf(QByteArrayView input) {
     promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
 }
 
+// In small too, as the list of photos shows it.
+void readJpeg(QByteArrayView input) {
+    readPictureOf<PictureKind::Jpeg>(input);
+    if (pictureKindOf(input) != PictureKind::Jpeg) return;
+    constexpr QSize Bound(90, 60);
+    const Result<Picture> small = decodeReduced(input.toByteArray(), Bound);
+    if (!small) return;
+    const QSize size = small->image.size();
+    const bool covers = size.width() >= Bound.width() || size.height() >= Bound.height();
+    promise(covers || decodePicture(input.toByteArray()).value_or(Picture()).image.size() == size,
+            "it covers what is wanted, or is whole");
+}
+
 // Whether two pictures are the same but for some areas, and the units around them that the marks there may reach.
 bool isSameBut(const std::vector<QRect>& areas, const QImage& one, const QImage& other) {
     constexpr int Reach = 2 * 4 * 8;  // pixels: two of the largest units
@@ -229,7 +242,7 @@ void takeExiftoolsAnswer(QByteArrayView input) {
 }
 
 constexpr FuzzTarget Targets[] = {
-    {"jpeg", readPictureOf<PictureKind::Jpeg>},
+    {"jpeg", readJpeg},
     {"png", readPictureOf<PictureKind::Png>},
     {"tiff", readPictureOf<PictureKind::Tiff>},
     {"gif", readPictureOf<PictureKind::Gif>},
