@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 #include <vector>
@@ -274,6 +275,19 @@ void forEachBox(QByteArrayView bytes, const Visit& visit) {
 
 constexpr int VersionAndFlags = 4;  // bytes that begin some boxes
 
+// What a picture that is put together from others says before its size: how many rows and columns; the background.
+constexpr int TilesBits = 2 * 8;
+constexpr int BackgroundBits = 4 * 16;
+
+qint64 canvasPixels(QByteArrayView description, int bitsBefore) {
+    Bits bits(description);
+    bits.skip(8 + 7);
+    const int fieldBits = bits.flag() ? 32 : 16;
+    bits.skip(bitsBefore);
+    const quint64 width = bits.take(fieldBits);
+    return pixels(width, bits.take(fieldBits));
+}
+
 class CodedItems {
   public:
     explicit CodedItems(QByteArrayView file) : file_(file) {
@@ -288,12 +302,15 @@ class CodedItems {
         constexpr qint64 Sharing = 8;
         qint64 left = Sharing * file_.size();
         for (const auto& [id, item] : items_) {
-            const bool isHevc = item.type == boxType("hvc1");
-            if (!isHevc && item.type != boxType("av01")) continue;
+            constexpr std::array<quint64, 4> Measured = {boxType("hvc1"), boxType("av01"), boxType("grid"),
+                                                         boxType("iovl")};
+            if (std::ranges::find(Measured, item.type) == Measured.end()) continue;
             const std::optional<QByteArray> data = dataOf(item, left);
             if (!data) return std::nullopt;
-            if (isHevc) most_ = std::max(most_, hevcPixels(*data));
-            if (!isHevc) measureAv1(*data);
+            if (item.type == boxType("hvc1")) most_ = std::max(most_, hevcPixels(*data));
+            if (item.type == boxType("av01")) measureAv1(*data);
+            if (item.type == boxType("grid")) most_ = std::max(most_, canvasPixels(*data, TilesBits));
+            if (item.type == boxType("iovl")) most_ = std::max(most_, canvasPixels(*data, BackgroundBits));
         }
         return most_;
     }

@@ -41,10 +41,15 @@ class HeifFile {
     std::optional<qint64> memory() const {
         const std::optional<qint64> coded = largestCodedPicture(bytes_);
         if (!coded) return std::nullopt;
+        const qint64 pixels = std::max(pixelCount(size()), *coded);
+        // The library counts the bytes of a picture in an int, and writes to the wrong place beyond it. Less what the
+        // ends of the rows are filled up with.
+        constexpr qint64 MostBytes = (qint64{1} << 31) - (qint64{1} << 24);
+        if (pixels * (isWide() ? 8 : 4) > MostBytes) return std::nullopt;
         // Bytes a pixel: the codec's planes, the library's, what it makes of them, and the picture.
         constexpr qint64 Narrow = 16;
         constexpr qint64 Wide = 32;
-        return bytes_.size() + std::max(pixelCount(size()), *coded) * (isWide() ? Wide : Narrow);
+        return bytes_.size() + pixels * (isWide() ? Wide : Narrow);
     }
 
     PictureFacts facts() const {

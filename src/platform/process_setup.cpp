@@ -3,6 +3,7 @@
 
 #include "platform/words.h"
 
+#include <QScopeGuard>
 #include <QThreadPool>
 
 #include <fcntl.h>
@@ -55,8 +56,13 @@ Result<void> startDrawingThreads() {
     pool.setMaxThreadCount(threads);
     pool.setExpiryTimeout(-1);
     std::latch all(threads);
-    for (int i = 0; i < threads; ++i) pool.start([&all] { all.arrive_and_wait(); });
-    pool.waitForDone();
+    int started = 0;
+    // Each waits for all, and must not where memory does not suffice for the rest.
+    const auto done = qScopeGuard([&] {
+        all.count_down(threads - started);
+        pool.waitForDone();
+    });
+    for (; started < threads; ++started) pool.start([&all] { all.arrive_and_wait(); });
     return {};
 }
 
