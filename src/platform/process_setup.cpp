@@ -27,13 +27,13 @@ int threadsAllowed(int wanted) {
     std::latch all(1);
     std::vector<std::jthread> threads;
     threads.reserve(static_cast<std::size_t>(wanted));
+    const auto done = qScopeGuard([&] { all.count_down(); });
     try {
         while (threads.size() < static_cast<std::size_t>(wanted))
             threads.emplace_back([&all] { all.wait(); });
     } catch (const std::system_error&) {
         // No more than these.
     }
-    all.count_down();
     return static_cast<int>(threads.size());
 }
 
