@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -63,8 +64,8 @@ tl::unexpected<Error> ExiftoolPool::failed(const QString& why) const {
 void ExiftoolPool::warmUp() {
     if (!QFileInfo(program_).isExecutable()) return;
     auto process = take();
+    const auto back = qScopeGuard([&] { giveBack(std::move(process)); });
     if (!process) process = ExiftoolProcess::start(program_).value_or(nullptr);
-    giveBack(std::move(process));
 }
 
 ExiftoolPool::Clock::time_point ExiftoolPool::deadline(Clock::time_point asked) const {
@@ -94,6 +95,7 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
     if (!command) return tl::unexpected(command.error());
 
     auto process = take();
+    const auto back = qScopeGuard([&] { giveBack(std::move(process)); });
     Result<QString> result = failed(Words::tr("“%1” ended while it was needed."));
     for (int attempt = 0; attempt < 2; ++attempt) {
         if (!process) {
@@ -118,7 +120,6 @@ Result<QString> ExiftoolPool::run(const QStringList& arguments, std::chrono::mil
             break;
         }
     }
-    giveBack(std::move(process));
     return result;
 }
 

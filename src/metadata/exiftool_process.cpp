@@ -201,7 +201,7 @@ bool ExiftoolProcess::receive(QByteArray& answer) {
 }
 
 tl::expected<QByteArray, ExiftoolProcess::Failure> ExiftoolProcess::run(const QByteArray& command, int number,
-                                                                        const Deadline& deadline) {
+                                                                        const Deadline& deadline) try {
     if (group_ == 0) return tl::unexpected(Failure::Died);
     const QByteArray lastLine = "{ready" + QByteArray::number(number) + "}\n";
     QByteArrayView pending(command);
@@ -212,6 +212,10 @@ tl::expected<QByteArray, ExiftoolProcess::Failure> ExiftoolProcess::run(const QB
         if (!receive(received)) return tl::unexpected(Failure::Died);
         if (std::optional<QByteArray> answer = completeAnswer(received, lastLine)) return *std::move(answer);
     }
+} catch (...) {
+    // What it has still to say would be taken for the answer to another command.
+    kill();
+    throw;
 }
 
 }  // namespace zelto
