@@ -16,7 +16,8 @@ target_compile_definitions(zelto_build_options INTERFACE
 target_include_directories(zelto_build_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_link_libraries(zelto_build_options INTERFACE Threads::Threads)
 if(ZELTO_SANITIZE)
-  target_compile_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE} -fno-omit-frame-pointer)
+  target_compile_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE} -fno-omit-frame-pointer
+    -fno-sanitize-recover=undefined)  # what is only printed fails no test
   target_link_options(zelto_build_options INTERFACE -fsanitize=${ZELTO_SANITIZE})
 endif()
 

@@ -68,6 +68,7 @@ void readPictureOf(QByteArrayView input) {
             "one of two formats");
     promise(picture->dpiX >= 1.0 && picture->dpiY >= 1.0, "a resolution makes sense");
     promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
+    promise(readPictureSize(fileOf(input)) == picture->image.size(), "its headers tell its size");
 }
 
 // In small too, as the list of photos shows it.

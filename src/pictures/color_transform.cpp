@@ -15,10 +15,11 @@ namespace zelto {
 namespace {
 
 // The memory format for pixels of a profile's colour space, 0 where the two do not go together.
-cmsUInt32Number inputFormat(SourcePixels pixels, cmsColorSpaceSignature space) {
+// A file may name any number as its colour space.
+cmsUInt32Number inputFormat(SourcePixels pixels, cmsUInt32Number space) {
     struct Row {
         SourcePixels pixels;
-        cmsColorSpaceSignature space;
+        cmsUInt32Number space;
         cmsUInt32Number format;
     };
     static constexpr Row Rows[] = {

@@ -45,7 +45,7 @@ class HeifFile {
         // The library counts the bytes of a picture in an int, and writes to the wrong place beyond it. Less what the
         // ends of the rows are filled up with.
         constexpr qint64 MostBytes = (qint64{1} << 31) - (qint64{1} << 24);
-        if (pixels * (isWide() ? 8 : 4) > MostBytes) return std::nullopt;
+        if (pixels > MostBytes / (isWide() ? 8 : 4)) return std::nullopt;
         // Bytes a pixel: the codec's planes, the library's, what it makes of them, and the picture.
         constexpr qint64 Narrow = 16;
         constexpr qint64 Wide = 32;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a file's headers tell of its picture before anything is decoded: size, resolution, and what reading it will cost.
-// And what it may cost. A
-// file of a few hundred bytes can promise a picture of gigabytes; such a file is refused, while large photos are
-// limited by the machine alone.
+// And what it may cost. A file of a few hundred bytes can promise a picture of gigabytes; such a file is refused, while
+// large photos are limited by the machine alone.
 #pragma once
 
 #include "platform/result.h"
 
 #include <QSize>
+
+#include <algorithm>
 
 namespace zelto {
 
@@ -20,8 +21,9 @@ struct PictureNeeds {
     double dpiY = 72.0;
 };
 
+// No more than can be multiplied by the bytes of a pixel.
 inline qint64 pixelCount(QSize size) {
-    return qint64{size.width()} * size.height();
+    return std::min(qint64{size.width()} * size.height(), qint64{1} << 48);
 }
 
 // The most memory, in bytes, that working on a picture from a file of `fileBytes` bytes may take: 1 GiB for files

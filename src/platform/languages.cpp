@@ -26,7 +26,7 @@ QString translationFile(const QString& language) {
 }
 
 void install(const QString& file) {
-    auto* const translator = new QTranslator(qApp);
+    auto* const translator = new QTranslator(QCoreApplication::instance());
     if (!translator->load(file) || !QCoreApplication::installTranslator(translator)) delete translator;
 }
 
@@ -42,7 +42,7 @@ bool isPlainLocale() {
 }  // namespace
 
 QString spokenLanguage() {
-    const QVariant spoken = qApp->property(LanguageProperty);
+    const QVariant spoken = QCoreApplication::instance()->property(LanguageProperty);
     return spoken.isValid() ? spoken.toString() : QString(SourceLanguage);
 }
 
@@ -55,16 +55,17 @@ QString languageFor(const QStringList& wanted) {
 }
 
 void speakLanguage(const QString& language) {
-    for (QTranslator* const earlier : qApp->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly)) {
+    for (QTranslator* const earlier :
+         QCoreApplication::instance()->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly)) {
         QCoreApplication::removeTranslator(earlier);
         delete earlier;
     }
     install(QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
             QStringLiteral("/qtbase_%1.qm").arg(language));
     install(translationFile(language));
-    qApp->setProperty(LanguageProperty, language);
+    QCoreApplication::instance()->setProperty(LanguageProperty, language);
     // A program that only prints has no layout, and none of the object that keeps its direction.
-    if (qobject_cast<QGuiApplication*>(qApp) != nullptr)
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
         QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }
 
