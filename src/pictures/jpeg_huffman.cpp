@@ -131,11 +131,10 @@ bool CodeRange::takes(const JBLOCK* blocks, int count) {
             largest_[i] = std::max(largest_[i], (*block)[i]);
         }
     }
+    const int leastOther = *std::min_element(least_.begin() + 1, least_.end());
+    const int largestOther = *std::max_element(largest_.begin() + 1, largest_.end());
     constexpr int Limit = 1 << MostBits;
-    return largest_[0] - least_[0] < 1 << MostMeanBits &&
-           *std::max_element(largest_.begin() + 1,
-                             largest_.end())<Limit&& * std::min_element(least_.begin() + 1, least_.end())> -
-               Limit;
+    return largest_[0] - least_[0] < 1 << MostMeanBits && largestOther < Limit && leastOther > -Limit;
 }
 
 }  // namespace zelto

@@ -327,7 +327,8 @@ bool JpegRewriter::Work::fill(int rows) {
 
 // Of a file in several scans libjpeg itself tells, and the scan that is copied looks at each number.
 bool JpegRewriter::Work::canBeCoded(int unitRow) {
-    for (std::size_t i = 0; i < geometry_.components.size() && !isWhole_ && !scan_; ++i) {
+    if (isWhole_ || scan_) return true;
+    for (std::size_t i = 0; i < geometry_.components.size(); ++i) {
         const JpegGeometry::Component& component = geometry_.components[i];
         const int width = geometry_.units.width() * component.across;
         for (int y = unitRow * component.down; y < (unitRow + 1) * component.down; ++y) {
