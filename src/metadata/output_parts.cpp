@@ -4,7 +4,10 @@
 #include "metadata/jpeg_segments.h"
 #include "metadata/tiff_entries.h"
 #include "metadata/webp_chunks.h"
+#include "pictures/tiff_decoder.h"
 #include "platform/words.h"
+
+#include <QBuffer>
 
 #include <algorithm>
 #include <array>
@@ -22,9 +25,9 @@ QByteArray joined(std::initializer_list<QByteArrayView> parts) {
 }
 
 // What says how the strips of a TIFF are to be read: sizes, bits and their order, compression, colours, planes,
-// predictor, palette, and that there are no tiles in their place.
-constexpr std::array<quint16, 17> LayoutTags = {256, 257, 258, 259, 262, 266, 277, 278, 284,
-                                                317, 320, 322, 323, 324, 325, 338, 339};
+// predictor, palette, and that there are no tiles and no depths in their place.
+constexpr std::array<quint16, 21> LayoutTags = {256, 257, 258, 259, 262, 266, 277,   278,   284,   317,  320,
+                                                322, 323, 324, 325, 338, 339, 32995, 32996, 32997, 32998};
 // Pixel scale, tie points, transform, and the three of the GeoTIFF directory.
 constexpr std::array<quint16, 7> PositionEntries = {
     tiff_tag::GpsDirectory, 33550, 33922, 34264, 34735, 34736, 34737};
@@ -57,8 +60,12 @@ QByteArray headWithProfile(const JpegParts& filled, const JpegParts& output) {
 // Where the strips lie; nothing where one lies outside the file.
 std::optional<std::vector<ByteRange>> strips(QByteArrayView tiff) {
     const std::vector<TiffEntry> entries = tiffEntries(tiff);
-    const std::vector<quint32> offsets = tiffNumbers(entries, tiff_tag::StripOffsets);
-    const std::vector<quint32> sizes = tiffNumbers(entries, tiff_tag::StripByteCounts);
+    const auto numbersOf = [&](quint16 tag) {
+        const TiffEntry* entry = tiffEntry(entries, tag);
+        return entry ? entry->numbers() : std::vector<quint32>();
+    };
+    const std::vector<quint32> offsets = numbersOf(tiff_tag::StripOffsets);
+    const std::vector<quint32> sizes = numbersOf(tiff_tag::StripByteCounts);
     if (offsets.empty() || offsets.size() != sizes.size()) return std::nullopt;
     std::vector<ByteRange> ranges;
     for (std::size_t i = 0; i < offsets.size(); ++i) {
@@ -68,24 +75,36 @@ std::optional<std::vector<ByteRange>> strips(QByteArrayView tiff) {
     return ranges;
 }
 
-bool isSameTiffPicture(QByteArrayView one, QByteArrayView other) {
-    const auto stripsOfOne = strips(one);
-    const auto stripsOfOther = strips(other);
-    if (!stripsOfOne || !stripsOfOther) return false;
-    // What is stepped over here may be a reason for a reader to give up the file.
-    if (!isFirstDirectoryWhole(one) || !isFirstDirectoryWhole(other)) return false;
-    const auto bytesOf = [](QByteArrayView file, const ByteRange& range) {
-        return file.sliced(range.first, range.second - range.first);
+// Whether the two have no entry with `tag`, or the same one.
+bool haveSameEntry(const std::vector<TiffEntry>& one, const std::vector<TiffEntry>& other, quint16 tag) {
+    const TiffEntry* entryOfOne = tiffEntry(one, tag);
+    const TiffEntry* entryOfOther = tiffEntry(other, tag);
+    if (!entryOfOne || !entryOfOther) return entryOfOne == entryOfOther;
+    return entryOfOne->type == entryOfOther->type && entryOfOne->value == entryOfOther->value;
+}
+
+bool isSameTiffPicture(const QByteArray& output, QByteArray filled) {
+    // Samples are in the file's order of bytes, which comes first.
+    constexpr qsizetype ByteOrder = 2;
+    if (filled.first(std::min(ByteOrder, filled.size())) != output.first(ByteOrder)) return false;
+    QBuffer file(&filled);
+    if (!file.open(QIODevice::ReadOnly) || !readTiffFacts(file) || isCameraRaw(file)) return false;
+    // An entry that is stepped over here may be one that readers go by.
+    if (!isFirstDirectoryWhole(filled)) return false;
+
+    const auto stripsOfOutput = strips(output);
+    const auto stripsOfFilled = strips(filled);
+    if (!stripsOfOutput || !stripsOfFilled) return false;
+    const std::vector<TiffEntry> entriesOfOutput = tiffEntries(output);
+    const std::vector<TiffEntry> entriesOfFilled = tiffEntries(filled);
+    const auto isSame = [&](quint16 tag) { return haveSameEntry(entriesOfOutput, entriesOfFilled, tag); };
+    const auto bytesOf = [](QByteArrayView bytes, const ByteRange& range) {
+        return bytes.sliced(range.first, range.second - range.first);
     };
-    const std::vector<TiffEntry> entriesOfOne = tiffEntries(one);
-    const std::vector<TiffEntry> entriesOfOther = tiffEntries(other);
-    return std::all_of(LayoutTags.begin(), LayoutTags.end(),
-                       [&](quint16 tag) {
-                           return tiffNumbers(entriesOfOne, tag) == tiffNumbers(entriesOfOther, tag);
-                       }) &&
-           std::equal(
-               stripsOfOne->begin(), stripsOfOne->end(), stripsOfOther->begin(), stripsOfOther->end(),
-               [&](const ByteRange& a, const ByteRange& b) { return bytesOf(one, a) == bytesOf(other, b); });
+    return std::ranges::all_of(LayoutTags, isSame) &&
+           std::ranges::equal(*stripsOfOutput, *stripsOfFilled, [&](const ByteRange& a, const ByteRange& b) {
+               return bytesOf(output, a) == bytesOf(filled, b);
+           });
 }
 
 bool hasPositionTag(QByteArrayView tiff) {

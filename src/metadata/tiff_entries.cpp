@@ -89,11 +89,10 @@ std::vector<quint32> TiffEntry::numbers() const {
     return numbers;
 }
 
-std::vector<quint32> tiffNumbers(const std::vector<TiffEntry>& entries, quint16 tag) {
-    const auto found = std::find_if(entries.begin(), entries.end(), [&](const TiffEntry& entry) {
-        return entry.directory == 0 && entry.tag == tag;
-    });
-    return found == entries.end() ? std::vector<quint32>() : found->numbers();
+const TiffEntry* tiffEntry(const std::vector<TiffEntry>& entries, quint16 tag) {
+    const auto found = std::ranges::find_if(
+        entries, [&](const TiffEntry& entry) { return entry.directory == 0 && entry.tag == tag; });
+    return found == entries.end() ? nullptr : &*found;
 }
 
 }  // namespace zelto

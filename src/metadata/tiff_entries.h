@@ -33,7 +33,7 @@ std::vector<TiffEntry> tiffEntries(QByteArrayView tiff);
 // Whether nothing of the picture's own directory has been left out.
 bool isFirstDirectoryWhole(QByteArrayView tiff);
 
-// The numbers of the entry with `tag` in the picture's own directory.
-std::vector<quint32> tiffNumbers(const std::vector<TiffEntry>& entries, quint16 tag);
+// The first entry with `tag` in the picture's own directory; null where there is none.
+const TiffEntry* tiffEntry(const std::vector<TiffEntry>& entries, quint16 tag);
 
 }  // namespace zelto

@@ -9,8 +9,9 @@
 //
 // What all of src/pictures shares:
 // - Files come from strangers. Only regular files are opened, only JPEG, PNG, TIFF, GIF, BMP, WebP, HEIC, AVIF and
-//   JPEG XL are read, and the previews in cameras' raw files, told by their bytes and never by their names. A file's headers say what reading will cost before anything is decoded
-//   (picture_needs.h); too much is refused. A file that ends early counts as damaged: no half picture is returned.
+//   JPEG XL are read, and the previews in cameras' raw files, told by their bytes and never by their names. A file's
+//   headers say what reading will cost before anything is decoded (picture_needs.h); too much is refused. A file that
+//   ends early counts as damaged: no half picture is returned.
 // - Memory that runs out is an error (ErrorCode::OutOfMemory), never a picture without some part. Inside the folder it
 //   travels as std::bad_alloc, and readers and writers of pictures turn it into the error; no exception passes through
 //   a library written in C.
@@ -36,8 +37,7 @@ struct Picture {
     QImage image;
     double dpiX = 72.0;  // of the upright picture; 72 where the file records none
     double dpiY = 72.0;
-    bool isRawPreview =
-        false;  // the preview in a camera's raw file, not what the camera's data could be made into
+    bool isRawPreview = false;  // the preview in a camera's raw file, not what its data could be made into
 };
 
 // The largest picture that is read, in pixels.
