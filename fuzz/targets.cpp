@@ -68,7 +68,9 @@ void readPictureOf(QByteArrayView input) {
             "one of two formats");
     promise(picture->dpiX >= 1.0 && picture->dpiY >= 1.0, "a resolution makes sense");
     promise(pixelCount(picture->image.size()) * 4 <= memoryAllowed(input.size()), "memory is bounded");
-    promise(readPictureSize(fileOf(input)) == picture->image.size(), "its headers tell its size");
+    const Result<QSize> size = readPictureSize(fileOf(input));
+    // LibRaw goes by memory that it has not set where values are missing, so it may refuse what it took before.
+    promise(size == picture->image.size() || (picture->isRawPreview && !size), "its headers tell its size");
 }
 
 // In small too, as the list of photos shows it.
@@ -119,11 +121,16 @@ void rewriteJpeg(QByteArrayView input) {
             "what is not drawn on stays as it is");
 }
 
-// Raw files that are TIFF files within are told by more than their beginning.
+// Raw files that are TIFF files within are told by more than their beginning. Once more with a tail: in a small file a
+// read that is too long for its buffer ends before it does harm.
 void readRaw(QByteArrayView input) {
-    const PictureKind kind = pictureKindOf(input);
-    if (kind == PictureKind::Raw) readPictureOf<PictureKind::Raw>(input);
-    if (kind == PictureKind::Tiff) readPictureOf<PictureKind::Tiff>(input);
+    constexpr qsizetype Tail = 1 << 16;
+    const QByteArray longer = input.toByteArray() + QByteArray(Tail, '\0');
+    for (const QByteArrayView bytes : {input, QByteArrayView(longer)}) {
+        const PictureKind kind = pictureKindOf(bytes);
+        if (kind == PictureKind::Raw) readPictureOf<PictureKind::Raw>(bytes);
+        if (kind == PictureKind::Tiff) readPictureOf<PictureKind::Tiff>(bytes);
+    }
 }
 
 // Every kind of pixel by the profile.

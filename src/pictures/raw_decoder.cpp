@@ -40,19 +40,42 @@ struct Preview {
     int orientation = 1;
 };
 
+// Tells where a raw file's preview lies. LibRaw's own unpack_thumb() is not called: in version 0.20 it writes beyond its
+// memory for previews whose colours are apart, and has libjpeg print.
+class RawFile : public LibRaw {
+  public:
+    RawFile() : LibRaw(LIBRAW_OPIONS_NO_MEMERR_CALLBACK | LIBRAW_OPIONS_NO_DATAERR_CALLBACK) {}
+
+    bool hasJpegPreview() const { return hasPreviewAs(&RawFile::jpeg_thumb); }
+    // 8 bits each of red, green and blue
+    bool hasPixelPreview() const { return hasPreviewAs(&RawFile::ppm_thumb); }
+    QSize previewSize() const { return {imgdata.thumbnail.twidth, imgdata.thumbnail.theight}; }
+    // Its bytes in the file; empty where they are not all there.
+    QByteArrayView previewIn(QByteArrayView file) const {
+        const qint64 from = libraw_internal_data.internal_data.toffset;
+        const qint64 size = imgdata.thumbnail.tlength;
+        if (from <= 0 || from > file.size() || size > file.size() - from) return {};
+        return file.sliced(from, size);
+    }
+
+  private:
+    bool hasPreviewAs(void (LibRaw::*kind)()) const {
+        return write_thumb == kind && thumb_load_raw == nullptr;
+    }
+};
+
 // JPEG previews with an Exif block of their own say themselves how they are to be turned.
 bool knowsItsOrientation(const QByteArray& jpeg) {
     constexpr qsizetype FirstSegments = 512;
     return jpeg.first(qMin(jpeg.size(), FirstSegments)).contains(QByteArray("Exif\0\0", 6));
 }
 
-QImage pixelsOf(const libraw_thumbnail_t& thumbnail) {
-    const QSize size(thumbnail.twidth, thumbnail.theight);
+QImage pixelsOf(QByteArrayView bytes, QSize size) {
     const qint64 stride = qint64{3} * size.width();
-    if (size.isEmpty() || stride * size.height() > thumbnail.tlength) return {};
+    if (size.isEmpty() || stride * size.height() > bytes.size()) return {};
     QImage pixels = newPicture(size, QImage::Format_RGB888);
     for (int y = 0; y < size.height(); ++y)
-        std::memcpy(pixels.scanLine(y), thumbnail.thumb + stride * y, static_cast<std::size_t>(stride));
+        std::memcpy(pixels.scanLine(y), bytes.data() + stride * y, static_cast<std::size_t>(stride));
     return pixels;
 }
 
@@ -89,23 +112,15 @@ std::optional<Preview> previewOf(QIODevice& device) {
     const QByteArray bytes = allBytes(device);
     if (mayHavePatternOfSix(bytes)) return std::nullopt;
     // Some hundred kilobytes: too many for a thread's stack.
-    const auto raw =
-        std::make_unique<LibRaw>(LIBRAW_OPIONS_NO_MEMERR_CALLBACK | LIBRAW_OPIONS_NO_DATAERR_CALLBACK);
+    const auto raw = std::make_unique<RawFile>();
     // It only reads the buffer; its interface has no const.
     auto* const data = const_cast<char*>(bytes.constData());  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     if (raw->open_buffer(data, static_cast<std::size_t>(bytes.size())) != LIBRAW_SUCCESS) return std::nullopt;
-    const libraw_thumbnail_t& thumbnail = raw->imgdata.thumbnail;
-    constexpr qint64 BytesPerPixel = 6;
-    const qint64 pixels = qint64{thumbnail.twidth} * thumbnail.theight * BytesPerPixel;
-    if (thumbnail.tlength > bytes.size() || pixels > memoryAllowed(bytes.size())) return std::nullopt;
-    if (raw->unpack_thumb() != LIBRAW_SUCCESS) return std::nullopt;
 
     Preview preview;
-    if (thumbnail.tformat == LIBRAW_THUMBNAIL_JPEG) {
-        preview.jpeg = QByteArray(thumbnail.thumb, static_cast<qsizetype>(thumbnail.tlength));
-    } else if (thumbnail.tformat == LIBRAW_THUMBNAIL_BITMAP) {
-        preview.pixels = pixelsOf(thumbnail);
-    }
+    const QByteArrayView found = raw->previewIn(bytes);
+    if (raw->hasJpegPreview()) preview.jpeg = found.toByteArray();
+    if (raw->hasPixelPreview()) preview.pixels = pixelsOf(found, raw->previewSize());
     if (preview.jpeg.isEmpty() && preview.pixels.isNull()) return std::nullopt;
     if (!knowsItsOrientation(preview.jpeg)) preview.orientation = orientationOfFlip(raw->imgdata.sizes.flip);
     return preview;
