@@ -23,8 +23,8 @@ inline qint64 threadTime() {
 
 class DecodingTime {
   public:
-    explicit DecodingTime(qint64 fileBytes)
-        : left_(SecondsForAny * 1'000'000'000 + fileBytes * NanosecondsPerByte) {}
+    explicit DecodingTime(qint64 fileBytes, qint64 secondsForAny = 8)
+        : left_(secondsForAny * 1'000'000'000 + fileBytes * NanosecondsPerByte) {}
 
     // The thread that made this asks, now and then.
     bool isLeft() {
@@ -38,7 +38,6 @@ class DecodingTime {
     bool take(qint64 nanoseconds) { return (left_ -= nanoseconds) > 0; }
 
   private:
-    static constexpr qint64 SecondsForAny = 8;
     static constexpr qint64 NanosecondsPerByte = 4000;  // some 4 s a megabyte
 
     std::atomic<qint64> left_;

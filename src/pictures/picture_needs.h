@@ -13,17 +13,16 @@
 namespace zelto {
 
 struct PictureNeeds {
-    QSize size;         // pixels, upright
-    qint64 memory = 0;  // bytes at the worst moment of reading, the buffers of libraries included
-    qint64 decoded =
-        0;  // bytes that come out of the decompressor where they are not all kept: a measure of time
+    QSize size;          // pixels, upright
+    qint64 memory = 0;   // bytes at the worst moment of reading, the buffers of libraries included
+    qint64 decoded = 0;  // bytes out of the decompressor where they are not all kept: a measure of time
     double dpiX = 72.0;  // of the upright picture; 72 where the file records none
     double dpiY = 72.0;
 };
 
-// No more than can be multiplied by the bytes of a pixel.
+// No more than can be multiplied by the bytes of a pixel; 0 where a header's number was too large for a side.
 inline qint64 pixelCount(QSize size) {
-    return std::min(qint64{size.width()} * size.height(), qint64{1} << 48);
+    return size.isEmpty() ? 0 : std::min(qint64{size.width()} * size.height(), qint64{1} << 48);
 }
 
 // The most memory, in bytes, that working on a picture from a file of `fileBytes` bytes may take: 1 GiB for files

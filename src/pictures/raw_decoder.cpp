@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/raw_decoder.h"
 
+#include "pictures/decoding_time.h"
 #include "pictures/device_bytes.h"
 #include "pictures/jpeg_decoder.h"
 #include "pictures/picture_facts.h"
@@ -16,6 +17,7 @@
 #include <array>
 #include <cstring>
 #include <memory>
+#include <new>
 
 namespace zelto {
 namespace {
@@ -38,6 +40,41 @@ struct Preview {
     QByteArray jpeg;
     QImage pixels;  // where it is no JPEG
     int orientation = 1;
+};
+
+// The file for LibRaw, which believes counts in damaged ones and would go through what is not there for hours.
+class RawBytes : public LibRaw_buffer_datastream {
+  public:
+    // LibRaw only reads the buffer; its interface has no const.
+    explicit RawBytes(const QByteArray& bytes)
+        : LibRaw_buffer_datastream(const_cast<char*>(bytes.constData()),  // NOLINT(*-const-cast)
+                                   static_cast<std::size_t>(bytes.size())),
+          time_(0, MostSeconds) {}
+
+    int read(void* target, std::size_t size, std::size_t count) override {
+        checkTime();
+        return LibRaw_buffer_datastream::read(target, size, count);
+    }
+    int seek(INT64 offset, int whence) override {
+        checkTime();
+        return LibRaw_buffer_datastream::seek(offset, whence);
+    }
+    int get_char() override {
+        checkTime();
+        return LibRaw_buffer_datastream::get_char();
+    }
+
+  private:
+    static constexpr qint64 MostSeconds = 2;  // a hundred times what cameras' files take
+
+    // LibRaw makes an error of every exception.
+    void checkTime() {
+        constexpr int CallsBetween = 1000;
+        if (++calls_ % CallsBetween == 0 && !time_.isLeft()) throw OutOfDecodingTime();
+    }
+
+    DecodingTime time_;
+    unsigned calls_ = 0;
 };
 
 // Tells where a raw file's preview lies. LibRaw's own unpack_thumb() is not called: in version 0.20 it writes beyond its
@@ -111,11 +148,12 @@ bool mayHavePatternOfSix(QByteArrayView bytes) {
 std::optional<Preview> previewOf(QIODevice& device) {
     const QByteArray bytes = allBytes(device);
     if (mayHavePatternOfSix(bytes)) return std::nullopt;
+    RawBytes stream(bytes);
     // Some hundred kilobytes: too many for a thread's stack.
     const auto raw = std::make_unique<RawFile>();
-    // It only reads the buffer; its interface has no const.
-    auto* const data = const_cast<char*>(bytes.constData());  // NOLINT(cppcoreguidelines-pro-type-const-cast)
-    if (raw->open_buffer(data, static_cast<std::size_t>(bytes.size())) != LIBRAW_SUCCESS) return std::nullopt;
+    const int result = raw->open_datastream(&stream);
+    if (result == LIBRAW_UNSUFFICIENT_MEMORY) throw std::bad_alloc();
+    if (result != LIBRAW_SUCCESS) return std::nullopt;
 
     Preview preview;
     const QByteArrayView found = raw->previewIn(bytes);
