@@ -42,7 +42,7 @@ struct Preview {
     int orientation = 1;
 };
 
-// The file for LibRaw, which believes counts in damaged ones and would go through what is not there for hours.
+// A file's bytes for LibRaw, for a limited time: it believes the counts in damaged files and would go on for hours.
 class RawBytes : public LibRaw_buffer_datastream {
   public:
     // LibRaw only reads the buffer; its interface has no const.
