@@ -292,12 +292,15 @@ class CodedItems {
   public:
     explicit CodedItems(QByteArrayView file) : file_(file) {
         forEachBox(file, [this](quint64 type, QByteArrayView content) {
-            if (type == boxType("meta"))
-                readMeta(content.sliced(std::min<qsizetype>(VersionAndFlags, content.size())));
+            if (type != boxType("meta")) return;
+            readMeta(content.sliced(std::min<qsizetype>(VersionAndFlags, content.size())));
+            ++metas_;
         });
     }
 
     std::optional<qint64> largest() {
+        // Which of several describes the pictures is anyone's guess.
+        if (metas_ > 1) return std::nullopt;
         // Each byte belongs to one picture, or to a few that share it.
         constexpr qint64 Sharing = 8;
         qint64 left = Sharing * file_.size();
@@ -394,6 +397,7 @@ class CodedItems {
         }
     }
 
+    int metas_ = 0;
     QByteArrayView file_;
     QByteArrayView inMeta_;
     std::map<quint64, Item> items_;
