@@ -293,14 +293,13 @@ class CodedItems {
     explicit CodedItems(QByteArrayView file) : file_(file) {
         forEachBox(file, [this](quint64 type, QByteArrayView content) {
             if (type != boxType("meta")) return;
+            noteDescription(type);
             readMeta(content.sliced(std::min<qsizetype>(VersionAndFlags, content.size())));
-            ++metas_;
         });
     }
 
     std::optional<qint64> largest() {
-        // Which of several describes the pictures is anyone's guess.
-        if (metas_ > 1) return std::nullopt;
+        if (isAmbiguous_) return std::nullopt;
         // Each byte belongs to one picture, or to a few that share it.
         constexpr qint64 Sharing = 8;
         qint64 left = Sharing * file_.size();
@@ -319,11 +318,20 @@ class CodedItems {
     }
 
   private:
-    // Nothing where that is more than `left` bytes, which it is taken from.
+    // Of two descriptions a decoder may believe the one that was not measured.
+    void noteDescription(quint64 box, std::optional<quint64> item = {}) {
+        if (!described_.insert({box, item}).second) isAmbiguous_ = true;
+    }
+
+    // Nothing where that is more than `left` bytes, which it is taken from, or where it goes on behind "idat", as
+    // libheif does.
     std::optional<QByteArray> dataOf(const Item& item, qint64& left) const {
         const QByteArrayView source = item.isInMeta ? inMeta_ : file_;
         QByteArray data;
         for (const Extent& extent : item.extents) {
+            const auto available = static_cast<quint64>(source.size());
+            if (item.isInMeta && (extent.from > available || extent.size > available - extent.from))
+                return std::nullopt;
             const auto from = static_cast<qsizetype>(std::min<quint64>(extent.from, source.size()));
             const auto size = static_cast<qsizetype>(std::min<quint64>(extent.size, source.size() - from));
             left -= size;
@@ -342,6 +350,9 @@ class CodedItems {
 
     void readMeta(QByteArrayView content) {
         forEachBox(content, [this](quint64 type, QByteArrayView box) {
+            constexpr std::array<quint64, 4> Read = {boxType("iinf"), boxType("iloc"), boxType("idat"),
+                                                     boxType("iprp")};
+            if (std::ranges::find(Read, type) != Read.end()) noteDescription(type);
             if (type == boxType("iinf")) readTypes(box);
             if (type == boxType("iloc")) readPlaces(Bits(box));
             if (type == boxType("idat")) inMeta_ = box;
@@ -352,6 +363,7 @@ class CodedItems {
     void readProperties(QByteArrayView content) {
         forEachBox(content, [this](quint64 type, QByteArrayView properties) {
             if (type != boxType("ipco")) return;
+            noteDescription(type);
             forEachBox(properties, [this](quint64 property, QByteArrayView box) {
                 if (property == boxType("hvcC")) most_ = std::max(most_, hevcConfigurationPixels(box));
                 constexpr qsizetype Fixed = 4;
@@ -372,6 +384,7 @@ class CodedItems {
                        entryBits.skip(24);
                        const auto id = entryBits.take(version >= 3 ? 32 : 16);
                        entryBits.skip(16);
+                       noteDescription(type, id);
                        items_[id].type = entryBits.take(32);
                    });
     }
@@ -383,9 +396,16 @@ class CodedItems {
         const auto lengthBits = static_cast<int>(bits.take(4)) * 8;
         const auto baseBits = static_cast<int>(bits.take(4)) * 8;
         const auto indexBits = static_cast<int>(bits.take(4)) * 8;
+        // libheif takes fields of other sizes for none at all, and reads indices in version 2 only.
+        constexpr auto isUsual = [](int size) { return size == 0 || size == 32 || size == 64; };
+        if (!isUsual(offsetBits) || !isUsual(lengthBits) || !isUsual(baseBits) ||
+            (version > 0 && !isUsual(indexBits)) || (version == 1 && indexBits != 0))
+            isAmbiguous_ = true;
         const int idBits = version < 2 ? 16 : 32;
         for (auto count = bits.take(idBits); count > 0 && !bits.atEnd(); --count) {
-            Item& item = items_[bits.take(idBits)];
+            const quint64 id = bits.take(idBits);
+            noteDescription(boxType("iloc"), id);
+            Item& item = items_[id];
             item.isInMeta = version > 0 && (bits.take(16) & 0xF) == 1;
             bits.skip(16);
             const quint64 base = bits.take(baseBits);
@@ -397,10 +417,11 @@ class CodedItems {
         }
     }
 
-    int metas_ = 0;
     QByteArrayView file_;
     QByteArrayView inMeta_;
     std::map<quint64, Item> items_;
+    std::set<std::pair<quint64, std::optional<quint64>>> described_;  // boxes, and the items in them
+    bool isAmbiguous_ = false;  // a decoder may take it for something else than is measured here
     std::set<QByteArray> av1Beginnings_ = {{}};  // what files keep of a stream outside of the pictures' data
     qint64 most_ = 0;
 };

@@ -12,7 +12,9 @@
 namespace zelto {
 
 // The pixels of the largest picture that `file` has coded or put together, 0 where there is none. Nothing for a file
-// that no program writes: one that gives out the same bytes as the data of many pictures. Any thread.
+// that no program writes: one that gives out the same bytes as the data of many pictures, or whose description a decoder
+// may take for something else than is measured, because it is there twice or by fields that decoders read differently.
+// Any thread.
 std::optional<qint64> largestCodedPicture(QByteArrayView file);
 
 }  // namespace zelto
