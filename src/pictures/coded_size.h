@@ -1,20 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How large the pictures of a HEIC or AVIF file become while they are decoded. The file states a size for its picture,
-// but a codec goes by the headers inside its own data, and one that is put together from others by its description; both
-// may say anything. Written from ISO/IEC 14496-12 (boxes), ISO/IEC 23008-12 (grids and overlays), ISO/IEC 23008-2 (HEVC)
-// and the AV1 bitstream specification.
+// How large and how many the pictures of a HEVC or AV1 stream are, by the headers in the stream itself.
+// Written from ISO/IEC 23008-2 (HEVC) and the AV1 bitstream specification. Any thread.
 #pragma once
 
 #include <QByteArrayView>
 
-#include <optional>
-
 namespace zelto {
 
-// The pixels of the largest picture that `file` has coded or put together, 0 where there is none. Nothing for a file
-// that no program writes: one that gives out the same bytes as the data of many pictures, or whose description a decoder
-// may take for something else than is measured, because it is there twice or by fields that decoders read differently.
-// Any thread.
-std::optional<qint64> largestCodedPicture(QByteArrayView file);
+// Of a picture with these sides, whatever they are.
+qint64 codedPixels(quint64 width, quint64 height);
+
+struct CodedStream {
+    qint64 largest = 0;   // pixels of the largest picture, 0 where none is described
+    qint64 pictures = 0;  // or slices of them, each of which may be as large as its picture
+};
+
+// `data` as they stand in a HEIC file, each unit behind its length in four bytes, with the parameters that the file
+// keeps outside of them ("hvcC").
+CodedStream hevcStream(QByteArrayView configuration, QByteArrayView data);
+// The same for AVIF ("av1C").
+CodedStream av1Stream(QByteArrayView configuration, QByteArrayView data);
 
 }  // namespace zelto

@@ -2,11 +2,10 @@
 #include "pictures/heif_decoder.h"
 
 #include "pictures/coded_colors.h"
-#include "pictures/coded_size.h"
-#include "pictures/decoding_time.h"
 #include "pictures/device_bytes.h"
 #include "pictures/exif_facts.h"
 #include "pictures/heif_library.h"
+#include "pictures/heif_measure.h"
 #include "pictures/picture_facts.h"
 #include "pictures/picture_memory.h"
 
@@ -19,10 +18,11 @@ namespace {
 
 class HeifFile {
   public:
-    explicit HeifFile(QIODevice& device) : bytes_(allBytes(device)) {
+    explicit HeifFile(QIODevice& device) : bytes_(allBytes(device)), measure_(measureHeif(bytes_)) {
+        if (!measure_) return;
         startHeif();
         context_ = heifOwner<HeifContext>(heif_context_alloc());
-        // Photos are worked on side by side; and where tiles are decoded one after the other, their time can be limited.
+        // Photos are worked on side by side.
         heif_context_set_max_decoding_threads(context_.get(), 0);
         heif_image_handle* handle = nullptr;
         if (succeeded(heif_context_read_from_memory_without_copy(
@@ -37,19 +37,19 @@ class HeifFile {
         return {heif_image_handle_get_width(handle_.get()), heif_image_handle_get_height(handle_.get())};
     }
 
-    // Nothing for a file that makes no sense.
+    // Nothing for a picture that is too large.
     std::optional<qint64> memory() const {
-        const std::optional<qint64> coded = largestCodedPicture(bytes_);
-        if (!coded) return std::nullopt;
-        const qint64 pixels = std::max(pixelCount(size()), *coded);
+        const qint64 pixels = std::max(pixelCount(size()), measure_->largest);
         // The library counts the bytes of a picture in an int, and writes to the wrong place beyond it. Less what the
         // ends of the rows are filled up with.
         constexpr qint64 MostBytes = (qint64{1} << 31) - (qint64{1} << 24);
         if (pixels > MostBytes / (isWide() ? 8 : 4)) return std::nullopt;
-        // Bytes a pixel: the codec's planes, the library's, what it makes of them, and the picture.
+        // Bytes a pixel: the codec's planes, the library's, what it makes of them, and the picture; of others the
+        // library's planes.
         constexpr qint64 Narrow = 16;
-        constexpr qint64 Wide = 32;
-        return bytes_.size() + pixels * (isWide() ? Wide : Narrow);
+        constexpr qint64 NarrowBesides = 4;
+        const qint64 bytes = pixels * Narrow + measure_->besides * NarrowBesides;
+        return bytes_.size() + (isWide() ? 2 * bytes : bytes);
     }
 
     PictureFacts facts() const {
@@ -61,23 +61,12 @@ class HeifFile {
     QImage decode(QByteArray& profile) {
         const auto options = heifOwner<HeifDecodingOptions>(heif_decoding_options_alloc());
         options->strict_decoding = 1;
-        // Many tiles may all be one and the same small piece of the file.
-        DecodingTime time(bytes_.size());
-        options->progress_user_data = &time;
-        options->on_progress = [](heif_progress_step, int, void* limit) {
-            if (!static_cast<DecodingTime*>(limit)->isLeft()) throw OutOfDecodingTime();
-        };
         heif_image* decoded = nullptr;
         const heif_chroma form = !isWide()                         ? heif_chroma_interleaved_RGBA
                                  : Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? heif_chroma_interleaved_RRGGBBAA_LE
                                                                    : heif_chroma_interleaved_RRGGBBAA_BE;
-        try {
-            if (!succeeded(
-                    heif_decode_image(handle_.get(), &decoded, heif_colorspace_RGB, form, options.get())))
-                return {};
-        } catch (const OutOfDecodingTime&) {
+        if (!succeeded(heif_decode_image(handle_.get(), &decoded, heif_colorspace_RGB, form, options.get())))
             return {};
-        }
         HeifImage image(decoded);
         if (heif_image_get_decoding_warnings(image.get(), 0, nullptr, 0) > 0) return {};
         profile = profileOf(image.get());
@@ -166,6 +155,7 @@ class HeifFile {
     }
 
     QByteArray bytes_;
+    std::optional<HeifMeasure> measure_;
     HeifContext context_;
     HeifHandle handle_;
 };
