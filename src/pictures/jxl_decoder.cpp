@@ -12,6 +12,7 @@
 
 #include <jxl/decode.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -37,6 +38,11 @@ class JxlFile {
                                      static_cast<std::size_t>(bytes_.size())) == JXL_DEC_SUCCESS;
     }
 
+    // The file's frames one by one, as they are and not as they lie upon each other. Before anything is read.
+    void splitFrames() {
+        opened_ = opened_ && JxlDecoderSetCoalescing(decoder_.get(), JXL_FALSE) == JXL_DEC_SUCCESS;
+    }
+
     // Goes on to the Exif block, over what is coded. False for a damaged file.
     bool readHeader(PictureFacts& facts) {
         bool hasInfo = false;
@@ -48,6 +54,8 @@ class JxlFile {
                           info_.xsize <= LargestSide && info_.ysize <= LargestSide;
             } else if (status == JXL_DEC_BOX) {
                 beginExif();
+            } else if (status == JXL_DEC_FRAME) {
+                countFrame();
             } else if (status != JXL_DEC_BOX_NEED_MORE_OUTPUT || !time_.isLeft()) {
                 return hasInfo;
             }
@@ -60,7 +68,8 @@ class JxlFile {
         // Coefficients or samples of every plane; the library keeps no whole picture in floating point.
         const qint64 planes = 3 + qint64{info_.num_extra_channels};
         constexpr qint64 PlaneBytes = 6;  // of a pixel; measured: 4 at the most, with progressive files
-        return bytes_.size() + pixelCount(size()) * (planes * PlaneBytes + (isWide() ? 12 : 8));
+        return bytes_.size() +
+               std::max(pixelCount(size()), largestFrame_) * (planes * PlaneBytes + (isWide() ? 12 : 8));
     }
 
     // The picture with what the file says about it; null for a damaged file. Goes on behind the picture where the Exif
@@ -91,6 +100,15 @@ class JxlFile {
 
   private:
     static constexpr std::uint32_t LargestSide = 1U << 30;
+
+    // A frame may reach far beyond the picture.
+    void countFrame() {
+        JxlFrameHeader header{};
+        if (JxlDecoderGetFrameHeader(decoder_.get(), &header) != JXL_DEC_SUCCESS) return;
+        const JxlLayerInfo& layer = header.layer_info;
+        constexpr qint64 Most = qint64{1} << 40;  // pixels
+        largestFrame_ = std::max(largestFrame_, std::min(Most, qint64{layer.xsize} * qint64{layer.ysize}));
+    }
 
     bool hasAlpha() const { return info_.alpha_bits > 0; }
     bool isWide() const { return info_.bits_per_sample > 8; }
@@ -160,6 +178,7 @@ class JxlFile {
     DecodingTime time_;
     std::unique_ptr<JxlDecoder, DestroyDecoder> decoder_;
     JxlBasicInfo info_{};
+    qint64 largestFrame_ = 0;  // pixels
     QByteArray exif_;
     bool opened_ = false;
 };
@@ -167,7 +186,8 @@ class JxlFile {
 }  // namespace
 
 std::optional<PictureNeeds> jxlNeeds(QIODevice& device) {
-    JxlFile file(device, JXL_DEC_BASIC_INFO | JXL_DEC_BOX);
+    JxlFile file(device, JXL_DEC_BASIC_INFO | JXL_DEC_FRAME | JXL_DEC_BOX);
+    file.splitFrames();
     PictureFacts facts;
     if (!file.readHeader(facts)) return std::nullopt;
     return needsOf(file.size(), facts, file.memory());
