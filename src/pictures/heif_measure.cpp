@@ -84,7 +84,7 @@ struct Item {
 
 class HeifItems {
   public:
-    explicit HeifItems(QByteArrayView file) : file_(file), bytesLeft_(Sharing * file.size()) {
+    explicit HeifItems(QByteArrayView file) : file_(file), bytesLeft_(ForAny + Sharing * file.size()) {
         forEachBox(file, [this](quint64 type, QByteArrayView content) {
             if (type != boxType("meta")) return;
             note(type);
@@ -105,8 +105,9 @@ class HeifItems {
     }
 
   private:
-    // Each byte belongs to one item, or to a few that share it.
+    // Bytes that are given out: each belongs to one item, or to a few that share it; plain parts may all be the same.
     static constexpr qint64 Sharing = 8;
+    static constexpr qint64 ForAny = 1 << 20;
     // A picture of pictures of pictures, with alpha; libheif calls itself for each.
     static constexpr int MostLevels = 6;
     // libheif looks for an item by going through all; a photo of 200 megapixels has about a thousand, each in three
@@ -119,9 +120,9 @@ class HeifItems {
 
     // A file of 1 MB may take some eight seconds: libde265 decodes 37 to 130 million pixels a second, counted like this.
     qint64 mostWork() const {
-        constexpr qint64 ForAny = 150'000'000;
+        constexpr qint64 Least = 150'000'000;
         constexpr qint64 ForByte = 200;
-        return ForAny + ForByte * file_.size();
+        return Least + ForByte * file_.size();
     }
 
     void refuseIf(bool isWrong) {

@@ -43,10 +43,10 @@ class JxlFile {
         opened_ = opened_ && JxlDecoderSetCoalescing(decoder_.get(), JXL_FALSE) == JXL_DEC_SUCCESS;
     }
 
-    // Goes on to the Exif block, over what is coded. False for a damaged file.
+    // Goes on to the Exif block, over what is coded. False for a damaged file, or one that takes too long.
     bool readHeader(PictureFacts& facts) {
         bool hasInfo = false;
-        for (;;) {
+        while (time_.isLeft()) {
             const JxlDecoderStatus status = opened_ ? JxlDecoderProcessInput(decoder_.get()) : JXL_DEC_ERROR;
             endExif(facts);
             if (status == JXL_DEC_BASIC_INFO) {
@@ -56,10 +56,11 @@ class JxlFile {
                 beginExif();
             } else if (status == JXL_DEC_FRAME) {
                 countFrame();
-            } else if (status != JXL_DEC_BOX_NEED_MORE_OUTPUT || !time_.isLeft()) {
+            } else if (status != JXL_DEC_BOX_NEED_MORE_OUTPUT) {
                 return hasInfo;
             }
         }
+        return false;
     }
 
     QSize size() const { return {static_cast<int>(info_.xsize), static_cast<int>(info_.ysize)}; }
