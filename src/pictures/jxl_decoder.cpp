@@ -4,6 +4,7 @@
 #include "pictures/decoding_time.h"
 #include "pictures/device_bytes.h"
 #include "pictures/exif_facts.h"
+#include "pictures/jxl_frames.h"
 #include "pictures/jxl_threads.h"
 #include "pictures/picture_facts.h"
 #include "pictures/picture_memory.h"
@@ -38,11 +39,6 @@ class JxlFile {
                                      static_cast<std::size_t>(bytes_.size())) == JXL_DEC_SUCCESS;
     }
 
-    // The file's frames one by one, as they are and not as they lie upon each other. Before anything is read.
-    void splitFrames() {
-        opened_ = opened_ && JxlDecoderSetCoalescing(decoder_.get(), JXL_FALSE) == JXL_DEC_SUCCESS;
-    }
-
     // Goes on to the Exif block, over what is coded. False for a damaged file, or one that takes too long.
     bool readHeader(PictureFacts& facts) {
         bool hasInfo = false;
@@ -54,8 +50,6 @@ class JxlFile {
                           info_.xsize <= LargestSide && info_.ysize <= LargestSide;
             } else if (status == JXL_DEC_BOX) {
                 beginExif();
-            } else if (status == JXL_DEC_FRAME) {
-                countFrame();
             } else if (status != JXL_DEC_BOX_NEED_MORE_OUTPUT) {
                 return hasInfo;
             }
@@ -65,12 +59,15 @@ class JxlFile {
 
     QSize size() const { return {static_cast<int>(info_.xsize), static_cast<int>(info_.ysize)}; }
 
-    qint64 memory() const {
+    // Nothing where the sizes of its frames cannot be told, which may be far larger than the picture.
+    std::optional<qint64> memory() const {
+        const std::optional<qint64> largestFrame = largestJxlFrame(bytes_);
+        if (!largestFrame) return std::nullopt;
         // Coefficients or samples of every plane; the library keeps no whole picture in floating point.
         const qint64 planes = 3 + qint64{info_.num_extra_channels};
         constexpr qint64 PlaneBytes = 6;  // of a pixel; measured: 4 at the most, with progressive files
         return bytes_.size() +
-               std::max(pixelCount(size()), largestFrame_) * (planes * PlaneBytes + (isWide() ? 12 : 8));
+               std::max(pixelCount(size()), *largestFrame) * (planes * PlaneBytes + (isWide() ? 12 : 8));
     }
 
     // The picture with what the file says about it; null for a damaged file. Goes on behind the picture where the Exif
@@ -101,15 +98,6 @@ class JxlFile {
 
   private:
     static constexpr std::uint32_t LargestSide = 1U << 30;
-
-    // A frame may reach far beyond the picture.
-    void countFrame() {
-        JxlFrameHeader header{};
-        if (JxlDecoderGetFrameHeader(decoder_.get(), &header) != JXL_DEC_SUCCESS) return;
-        const JxlLayerInfo& layer = header.layer_info;
-        constexpr qint64 Most = qint64{1} << 40;  // pixels
-        largestFrame_ = std::max(largestFrame_, std::min(Most, qint64{layer.xsize} * qint64{layer.ysize}));
-    }
 
     bool hasAlpha() const { return info_.alpha_bits > 0; }
     bool isWide() const { return info_.bits_per_sample > 8; }
@@ -179,7 +167,6 @@ class JxlFile {
     DecodingTime time_;
     std::unique_ptr<JxlDecoder, DestroyDecoder> decoder_;
     JxlBasicInfo info_{};
-    qint64 largestFrame_ = 0;  // pixels
     QByteArray exif_;
     bool opened_ = false;
 };
@@ -187,11 +174,12 @@ class JxlFile {
 }  // namespace
 
 std::optional<PictureNeeds> jxlNeeds(QIODevice& device) {
-    JxlFile file(device, JXL_DEC_BASIC_INFO | JXL_DEC_FRAME | JXL_DEC_BOX);
-    file.splitFrames();
+    JxlFile file(device, JXL_DEC_BASIC_INFO | JXL_DEC_BOX);
     PictureFacts facts;
     if (!file.readHeader(facts)) return std::nullopt;
-    return needsOf(file.size(), facts, file.memory());
+    const std::optional<qint64> memory = file.memory();
+    if (!memory) return std::nullopt;
+    return needsOf(file.size(), facts, *memory);
 }
 
 std::optional<Picture> decodeJxl(QIODevice& device) {
